@@ -1,0 +1,45 @@
+#ifndef ORBDIALOG_H
+#define ORBDIALOG_H
+
+#include "orbglobal.h"
+
+#include <QDialog>
+
+/// Base of every dialog on the unit's screen. It is drawn inside the screen: an overlay lies over the foot of
+/// the window area and leaves the rest usable; a choice stands in the middle, and what is behind it is dimmed
+/// and takes no touches until the dialog is gone.
+class ORB_EXPORT OrbDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    enum Kind {
+        Overlay = 0, ///< informs, in the way of nothing (climate)
+        Choice = 1   ///< wants an answer (selection, firmware update)
+    };
+
+    /// \a kind: one of Kind; anything else counts as Overlay. A dialog without a parent is put on the unit's
+    /// screen when it becomes visible; it stays owned by whoever built it.
+    explicit OrbDialog(QWidget *parent = nullptr, int kind = Overlay);
+    ~OrbDialog() override;
+
+    int kind() const;
+
+public Q_SLOTS:
+    /// Showing brings the dialog to the front. exec(), open() and show() all come through here.
+    void setVisible(bool visible) override;
+
+    void done(int result) override;
+    void accept() override;
+    void reject() override;
+
+    /// What the unit's Back key does to the dialog in front: here reject().
+    virtual void back();
+
+private:
+    Q_DISABLE_COPY(OrbDialog)
+    class Private;
+    Private *d;
+};
+
+#endif // ORBDIALOG_H
