@@ -72,10 +72,24 @@ protected:
     /// Received bytes. Only the indexes that a hook was asked about mean something; hooks do not change it.
     QByteArray recvBuffer;
 
+private Q_SLOTS:
+    void onDeviceAnnouncesData();
+    void onDeviceLost();
+    void onPollTimer();
+    void onPaceTimer();
+    void onReopenTimer();
+
 private:
+    void startPolling();
+    void framePackages();
+    void emitPackage(int start, int size);
+    void deliver(const QByteArray &package);
+    void sendQueued();
+    void writeNow(const QByteArray &bytes);
+
     Q_DISABLE_COPY(ProtocolUtils)
     class Private;
-    Private *d;
+    Private *m_d;
 };
 
 #endif // PROTOCOLUTILS_H

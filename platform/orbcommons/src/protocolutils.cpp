@@ -1,0 +1,431 @@
+#include "protocolutils.h"
+
+#include "orbtrace.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QIODevice>
+#include <QPointer>
+#include <QQueue>
+#include <QTimer>
+
+#include <cstring>
+
+namespace {
+
+// One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
+const int ReadSize = 4096;
+const int LongestPackage = 512;
+const int QueueLimit = 4096;
+// Bytes that a device would not take at once; an acknowledgement past this is dropped.
+const int UnsentLimit = 64 * 1024;
+
+// Boxes want their acknowledgement within 10 ms. A device that announces its data needs the poll only as a
+// net.
+const int BusyPollInterval = 4;
+const int IdlePollInterval = 8;
+const int AnnouncedPollInterval = 100;
+const int BusyTime = 250;
+
+const int CandidateLifetime = 500;
+const int MarkInterval = 20;
+// A GUI thread that was busy for longer than this has not been listening; such time ages no candidate.
+const int LongestPollGap = 50;
+const int ReopenInterval = 1000;
+
+// Everything before this place in the stream was read at that time or earlier.
+struct ReadMark
+{
+    qint64 time;
+    qint64 streamEnd;
+};
+
+} // namespace
+
+class ProtocolUtils::Private
+{
+public:
+    explicit Private(ProtocolUtils *parent)
+        : poll(new QTimer(parent))
+        , reopen(new QTimer(parent))
+        , pace(new QTimer(parent))
+        , openMode(QIODevice::ReadWrite)
+        , announces(false)
+        , received(false)
+        , cursor(0)
+        , needed(0)
+        , streamBase(0)
+        , listenTime(0)
+        , quietTime(0)
+        , emitting(false)
+        , queueFull(false)
+        , interval(0)
+        , debug(false)
+    {}
+
+    bool isOpen() const { return device && device->isOpen(); }
+
+    void setPollInterval(int milliseconds)
+    {
+        if (poll->interval() != milliseconds || !poll->isActive())
+            poll->start(milliseconds);
+    }
+
+    void log(const char *direction, const QByteArray &package) const
+    {
+        qDebug("%s %s %lld %s", qPrintable(tag), direction, static_cast<long long>(clock.elapsed()),
+               package.toHex().constData());
+    }
+
+    // Moves what is not framed yet to the front and makes room for one read behind it.
+    char *makeRoom(QByteArray *buffer)
+    {
+        const int rest = buffer->size() - cursor;
+        if (rest > 0 && cursor > 0)
+            memmove(buffer->data(), buffer->constData() + cursor, static_cast<size_t>(rest));
+        streamBase += cursor;
+        cursor = 0;
+        buffer->resize(rest + ReadSize);
+        return buffer->data() + rest;
+    }
+
+    // Notes what has been read by now; called from the poll, so one mark stands for a whole poll interval.
+    void mark(qint64 streamEnd)
+    {
+        if (marks.isEmpty() || listenTime - marks.last().time >= MarkInterval) {
+            const ReadMark now = {listenTime, streamEnd};
+            marks.enqueue(now);
+        }
+        while (marks.size() > 1 && marks.at(1).time <= listenTime - CandidateLifetime)
+            marks.dequeue();
+    }
+
+    // Whether the byte at the cursor was read longer ago than a package may take to arrive.
+    bool isStale() const
+    {
+        return !marks.isEmpty() && marks.first().time <= listenTime - CandidateLifetime &&
+               streamBase + cursor < marks.first().streamEnd;
+    }
+
+    QTimer *const poll;
+    QTimer *const reopen;
+    QTimer *const pace;
+
+    QPointer<QIODevice> device;
+    QIODevice::OpenMode openMode;
+    bool announces; // the device has emitted readyRead
+    bool received;  // something was read since the last poll
+
+    int cursor;        // index in recvBuffer of the first byte that is not framed yet
+    int needed;        // bytes from the cursor on that the unfinished candidate there needs; 0: none
+    qint64 streamBase; // place of recvBuffer[0] in all that was ever read
+    qint64 listenTime; // ms during which the framer could have read
+    int quietTime;     // ms without data
+    QElapsedTimer sincePoll;
+    QQueue<ReadMark> marks;
+
+    QByteArray emission; // carries each package to the slots, and is used again while nobody keeps it
+    bool emitting;
+
+    QQueue<QByteArray> queue;
+    bool queueFull;
+    QByteArray unsent; // the part of a package that the device did not take
+    int interval;
+    QElapsedTimer sinceWrite;
+
+    QString tag;
+    bool debug;
+    QElapsedTimer clock;
+};
+
+ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
+{
+    m_d->clock.start();
+    m_d->reopen->setInterval(ReopenInterval);
+    m_d->pace->setSingleShot(true);
+    connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
+    connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
+    connect(m_d->pace, SIGNAL(timeout()), this, SLOT(onPaceTimer()));
+}
+
+ProtocolUtils::~ProtocolUtils()
+{
+    delete m_d;
+}
+
+void ProtocolUtils::attachIODevice(QIODevice *device)
+{
+    if (m_d->device)
+        disconnect(m_d->device, nullptr, this, nullptr);
+    m_d->device = device;
+    m_d->announces = false;
+    m_d->cursor = 0;
+    m_d->needed = 0;
+    m_d->marks.clear();
+    m_d->unsent.clear();
+    recvBuffer.resize(0);
+    recvBuffer.reserve(ReadSize + LongestPackage);
+    m_d->poll->stop();
+    m_d->reopen->stop();
+    if (!device)
+        return;
+    connect(device, SIGNAL(readyRead()), this, SLOT(onDeviceAnnouncesData()));
+    connect(device, SIGNAL(readChannelFinished()), this, SLOT(onDeviceLost()));
+    if (device->isOpen()) {
+        m_d->openMode = device->openMode();
+        startPolling();
+    } else {
+        m_d->openMode = QIODevice::ReadWrite;
+        m_d->reopen->start();
+    }
+}
+
+void ProtocolUtils::startPolling()
+{
+    m_d->quietTime = 0;
+    m_d->sincePoll.start();
+    m_d->setPollInterval(BusyPollInterval);
+    sendQueued();
+}
+
+// ---------------------------------------------------------------------------------------------- reading
+
+int ProtocolUtils::getPackageMinSize()
+{
+    return 1;
+}
+
+int ProtocolUtils::findPackageStartSig(int)
+{
+    return -1;
+}
+
+int ProtocolUtils::getPackageSize(int)
+{
+    return 0;
+}
+
+bool ProtocolUtils::isAvaliablePackage(int, int, int)
+{
+    return false;
+}
+
+void ProtocolUtils::onDeviceAnnouncesData()
+{
+    m_d->announces = true;
+    m_d->setPollInterval(BusyPollInterval);
+    onReadDeviceDatas();
+}
+
+void ProtocolUtils::onReadDeviceDatas()
+{
+    while (m_d->isOpen()) {
+        QIODevice *const device = m_d->device;
+        char *const room = m_d->makeRoom(&recvBuffer);
+        const qint64 count = device->read(room, ReadSize);
+        const int held = recvBuffer.size() - ReadSize;
+        recvBuffer.resize(held + static_cast<int>(qMax(count, Q_INT64_C(0))));
+        if (count < 0)
+            onDeviceLost();
+        if (count <= 0)
+            return;
+        m_d->received = true;
+        if (held + count >= m_d->needed)
+            framePackages();
+        // A full read says that there may be more; after a short one the device is asked.
+        if (count < ReadSize && (!m_d->isOpen() || m_d->device->bytesAvailable() <= 0))
+            return;
+    }
+}
+
+// Emits every good package between the cursor and the end of recvBuffer. A slot may run an event loop of its
+// own in which this runs again: the cursor moves past a package before it is emitted, and nothing about the
+// buffer is remembered across an emission.
+void ProtocolUtils::framePackages()
+{
+    const int minimum = qMax(1, getPackageMinSize());
+    m_d->needed = minimum;
+    while (recvBuffer.size() - m_d->cursor >= minimum) {
+        const int start = findPackageStartSig(m_d->cursor);
+        if (start < m_d->cursor) {
+            m_d->cursor = recvBuffer.size();
+            break;
+        }
+        m_d->cursor = start;
+        const int available = recvBuffer.size() - start;
+        if (available < minimum)
+            break;
+        const int size = getPackageSize(start);
+        if (size < minimum || size > LongestPackage) {
+            m_d->cursor = start + 1;
+        } else if (size > available) {
+            m_d->needed = size;
+            break;
+        } else if (!isAvaliablePackage(start, start + size - 1, size)) {
+            m_d->cursor = start + 1;
+        } else {
+            m_d->cursor = start + size;
+            emitPackage(start, size);
+        }
+    }
+}
+
+void ProtocolUtils::emitPackage(int start, int size)
+{
+    const char *const bytes = recvBuffer.constData() + start;
+    if (m_d->emitting) {
+        // A slot further up still reads the shared array.
+        deliver(QByteArray(bytes, size));
+        return;
+    }
+    if (!m_d->emission.isDetached()) {
+        m_d->emission = QByteArray();
+        m_d->emission.reserve(LongestPackage);
+    }
+    if (m_d->emission.size() != size)
+        m_d->emission.resize(size);
+    memcpy(m_d->emission.data(), bytes, static_cast<size_t>(size));
+    m_d->emitting = true;
+    deliver(m_d->emission);
+    m_d->emitting = false;
+}
+
+inline void ProtocolUtils::deliver(const QByteArray &package)
+{
+    if (OrbTrace::listener)
+        OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", QVariantList() << package);
+    if (m_d->debug)
+        m_d->log("recv", package);
+    Q_EMIT recvProtocolData(package);
+}
+
+void ProtocolUtils::onPollTimer()
+{
+    // Read first: what has already arrived is not late, however long the thread was busy.
+    onReadDeviceDatas();
+    if (!m_d->isOpen())
+        return;
+
+    const int elapsed = static_cast<int>(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
+    m_d->listenTime += elapsed;
+    m_d->quietTime = m_d->received ? 0 : qMin(m_d->quietTime + elapsed, BusyTime);
+    m_d->received = false;
+    m_d->mark(m_d->streamBase + recvBuffer.size());
+    while (recvBuffer.size() > m_d->cursor && m_d->isStale()) {
+        ++m_d->cursor;
+        framePackages();
+    }
+    if (m_d->quietTime < BusyTime || recvBuffer.size() > m_d->cursor)
+        m_d->setPollInterval(BusyPollInterval);
+    else
+        m_d->setPollInterval(m_d->announces ? AnnouncedPollInterval : IdlePollInterval);
+}
+
+// ---------------------------------------------------------------------------------------------- writing
+
+void ProtocolUtils::setWritePackageIntval(int milliseconds)
+{
+    m_d->interval = qMax(0, milliseconds);
+}
+
+void ProtocolUtils::writeDatas(const QByteArray &package)
+{
+    if (OrbTrace::listener)
+        OrbTrace::listener->called("ProtocolUtils", "writeDatas", QVariantList() << package);
+    if (m_d->queue.size() >= QueueLimit) {
+        if (!m_d->queueFull)
+            qWarning("ProtocolUtils: %d packages wait to be written, further ones are refused", QueueLimit);
+        m_d->queueFull = true;
+        return;
+    }
+    m_d->queueFull = false;
+    m_d->queue.enqueue(package);
+    sendQueued();
+}
+
+void ProtocolUtils::writeDatas_direct(const QByteArray &bytes)
+{
+    if (OrbTrace::listener)
+        OrbTrace::listener->called("ProtocolUtils", "writeDatas_direct", QVariantList() << bytes);
+    if (m_d->isOpen() && m_d->unsent.size() < UnsentLimit)
+        writeNow(bytes);
+}
+
+// Sends what may leave by now and arms the timer for the rest.
+void ProtocolUtils::sendQueued()
+{
+    while (m_d->isOpen() && !m_d->queue.isEmpty()) {
+        const qint64 wait = m_d->sinceWrite.isValid() ? m_d->interval - m_d->sinceWrite.elapsed() : 0;
+        if (wait > 0 || !m_d->unsent.isEmpty()) {
+            if (!m_d->pace->isActive())
+                m_d->pace->start(static_cast<int>(qMax<qint64>(wait, 1)));
+            return;
+        }
+        // It leaves the queue first: a write that fails half-way must not send it a second time.
+        const QByteArray package = m_d->queue.dequeue();
+        m_d->sinceWrite.start();
+        if (m_d->debug)
+            m_d->log("send", package);
+        writeNow(package);
+    }
+}
+
+void ProtocolUtils::onPaceTimer()
+{
+    if (m_d->isOpen() && !m_d->unsent.isEmpty()) {
+        const QByteArray rest = m_d->unsent;
+        m_d->unsent.clear();
+        writeNow(rest);
+    }
+    sendQueued();
+}
+
+// Writes \a bytes behind whatever the device has not taken yet, so that packages never interleave.
+void ProtocolUtils::writeNow(const QByteArray &bytes)
+{
+    if (!m_d->unsent.isEmpty()) {
+        m_d->unsent += bytes;
+        return;
+    }
+    const qint64 written = m_d->device->write(bytes);
+    if (written < 0) {
+        onDeviceLost();
+    } else if (written < bytes.size()) {
+        m_d->unsent = bytes.mid(static_cast<int>(written));
+        m_d->pace->start(BusyPollInterval);
+    }
+}
+
+// ---------------------------------------------------------------------------------------- device states
+
+void ProtocolUtils::onDeviceLost()
+{
+    if (m_d->reopen->isActive() || !m_d->device)
+        return;
+    qWarning("ProtocolUtils: lost the device (%s), trying again every second",
+             qPrintable(m_d->device->errorString()));
+    m_d->poll->stop();
+    m_d->pace->stop();
+    m_d->unsent.clear();
+    m_d->reopen->start();
+    m_d->device->close();
+}
+
+void ProtocolUtils::onReopenTimer()
+{
+    if (!m_d->device) {
+        m_d->reopen->stop();
+        return;
+    }
+    if (!m_d->device->isOpen() && !m_d->device->open(m_d->openMode))
+        return;
+    m_d->reopen->stop();
+    qWarning("ProtocolUtils: the device is there again");
+    startPolling();
+}
+
+void ProtocolUtils::setDebugMode(const QString &tag, bool on)
+{
+    m_d->tag = tag;
+    m_d->debug = on;
+}

@@ -1,0 +1,32 @@
+#include "carkeys.h"
+
+#include "unitlink.h"
+
+#include "orbapplication.h"
+
+void CarKeys::simulate(unsigned int key, int state, int last)
+{
+    OrbApplication::simulateKey(static_cast<int>(key), state != Released, state == Held, last);
+}
+
+void CarKeys::tap(unsigned int key, int last)
+{
+    simulate(key, Pressed, last);
+    simulate(key, Released, last);
+}
+
+void CarKeys::turn(unsigned int key, int count)
+{
+    for (int i = 0; i < count; ++i)
+        tap(key);
+}
+
+bool CarKeys::isCallPresent()
+{
+    return UnitLink::statusWord() & UnitLink::CallPresent;
+}
+
+unsigned int CarKeys::phoneKey()
+{
+    return isCallPresent() ? Call : VoiceDial;
+}

@@ -1,0 +1,89 @@
+#include "unitlink.h"
+
+#include "orbapplication.h"
+#include "orbevent.h"
+
+#include <QDebug>
+
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+enum Source { CarSource = 400, AppSource = 401 };
+enum Subject { CarDataSubject = 12, AppRequestSubject = 25 };
+
+void dispatch(OrbEvent *event)
+{
+    OrbApplication::instance()->dispatchOrbEvent(event);
+}
+
+} // namespace
+
+void UnitLink::sendCarData(CarData what, unsigned int value)
+{
+    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    event.setParams(what, value);
+    dispatch(&event);
+}
+
+void UnitLink::sendRadarLevels(CarData what, const QByteArray &levels)
+{
+    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    event.setParams(what, 0);
+    event.setByteArrayParams(levels);
+    dispatch(&event);
+}
+
+void UnitLink::sendSteeringAngle(float degrees)
+{
+    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    event.setParams(SteeringAngle, 0);
+    event.setVariantParam(static_cast<int>(static_cast<qint16>(truncated(degrees))));
+    dispatch(&event);
+}
+
+void UnitLink::requestApp(int type, unsigned int param, unsigned int param2)
+{
+    OrbEvent event(AppSource, AppRequestSubject, type);
+    event.setParams(param, param2);
+    QCoreApplication::sendEvent(OrbApplication::instance(), &event);
+}
+
+quint64 UnitLink::statusWord()
+{
+    return OrbApplication::instance()->getTag(StatusWordTag, QVariant(0)).toULongLong();
+}
+
+QByteArray UnitLink::versionCommand(const QByteArray &version)
+{
+    QByteArray text;
+    for (int i = 0; i < version.size() && version.at(i) != '\0'; ++i) {
+        const uchar byte = static_cast<uchar>(version.at(i));
+        const bool control = byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
+        if (byte == '\'')
+            text += "'\\''";
+        else if (!control)
+            text += QString(QLatin1Char(static_cast<char>(byte))).toUtf8();
+    }
+    return "echo '" + text + "' > /tmp/can_version";
+}
+
+void UnitLink::publishVersion(const QByteArray &version)
+{
+    const QByteArray command = versionCommand(version);
+    if (system(command.constData()) != 0)
+        qWarning("The decoder's version could not be written to /tmp/can_version");
+}
+
+int UnitLink::truncated(float value)
+{
+    if (value != value)
+        return 0;
+    // 2147483648 is the nearest float above the largest int.
+    if (value >= 2147483648.0f)
+        return std::numeric_limits<int>::max();
+    if (value <= -2147483648.0f)
+        return std::numeric_limits<int>::min();
+    return static_cast<int>(value);
+}

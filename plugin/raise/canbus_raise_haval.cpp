@@ -1,0 +1,14 @@
+#include "canbus_raise_haval.h"
+
+#include <QTimer>
+
+CanBus_Raise_Haval::CanBus_Raise_Haval()
+{
+    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
+}
+
+void CanBus_Raise_Haval::onInited()
+{
+    sendReady(3);
+    periodicTimer()->stop();
+}
