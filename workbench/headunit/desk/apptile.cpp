@@ -1,0 +1,83 @@
+#include "apptile.h"
+
+#include "deskcolours.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+namespace {
+
+const QSize tileSize(132, 168);
+const int pictureSize = 96;
+const int topMargin = 12;
+const int titleMargin = 4;
+
+QFont titleFont()
+{
+    QFont font;
+    font.setPixelSize(18);
+    return font;
+}
+
+} // namespace
+
+AppTile::AppTile(const QString &title, const QString &normal, const QString &highlighted, QWidget *parent)
+    : QAbstractButton(parent), m_normal(normal), m_highlighted(highlighted)
+{
+    if (m_normal.isNull()) {
+        m_normal =
+            m_highlighted.isNull() ? QPixmap(QStringLiteral(":/desk/launcher/app.png")) : m_highlighted;
+    }
+    if (m_highlighted.isNull()) {
+        m_highlighted = m_normal;
+    }
+    setText(title);
+    setFixedSize(tileSize);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize AppTile::sizeHint() const
+{
+    return tileSize;
+}
+
+QStringList AppTile::titleLines() const
+{
+    const QFontMetrics metrics(titleFont());
+    const int width = tileSize.width() - 2 * titleMargin;
+    QTextLayout layout(text(), titleFont());
+    layout.beginLayout();
+    QTextLine first = layout.createLine();
+    if (!first.isValid()) {
+        return QStringList();
+    }
+    first.setLineWidth(width);
+    layout.endLayout();
+    QStringList lines(metrics.elidedText(text().left(first.textLength()).trimmed(), Qt::ElideRight, width));
+    const QString rest = text().mid(first.textLength()).trimmed();
+    if (!rest.isEmpty()) {
+        lines << metrics.elidedText(rest, Qt::ElideRight, width);
+    }
+    return lines;
+}
+
+void AppTile::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const bool isLit = isDown() || isChecked();
+    if (isLit || hasFocus()) {
+        painter.setPen(hasFocus() ? QPen(DeskColours::accent, 2) : QPen(Qt::NoPen));
+        painter.setBrush(isLit ? DeskColours::edge : DeskColours::panel);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+    }
+    const QRect place((width() - pictureSize) / 2, topMargin, pictureSize, pictureSize);
+    painter.drawPixmap(place, isLit ? m_highlighted : m_normal);
+
+    painter.setFont(titleFont());
+    painter.setPen(isLit ? DeskColours::text : QColor(0xD5, 0xDB, 0xE2));
+    const int top = place.bottom() + 6;
+    const QRect title(titleMargin, top, width() - 2 * titleMargin, height() - top);
+    painter.drawText(title, Qt::AlignHCenter | Qt::AlignTop, titleLines().join(QLatin1Char('\n')));
+}

@@ -1,0 +1,103 @@
+#include "carstate.h"
+
+#include "orbevent.h"
+
+#include <algorithm>
+
+namespace {
+
+enum CarData {
+    LightsOn = 0x5004,
+    LightsOff = 0x5005,
+    RadarAll = 0x5018,   // eight levels: front, then rear
+    RadarFront = 0x5019, // the side on which some cars have corner sensors only
+    RadarRear = 0x501A,
+    Doors = 0x501B,
+    Steering = 0x501C,
+    RadarSwitch = 0x501D,
+    TrackSwitch = 0x501E
+};
+
+const int doorBits = CarState::FrontLeft | CarState::FrontRight | CarState::RearLeft | CarState::RearRight;
+
+// One decoder counts its steering sensor in twelve bits and hands the right half of the circle over without a
+// sign: the full circle is 4096 / 380 locks of 40 degrees.
+const int unsignedCircle = 431;
+
+void takeLevels(quint8 (&levels)[CarState::sensors], const QByteArray &bytes, int from)
+{
+    for (int i = 0; i < CarState::sensors; ++i) {
+        const int level = from + i < bytes.size() ? quint8(bytes.at(from + i)) : 0;
+        levels[i] = quint8(std::min(level, CarState::farthestLevel));
+    }
+}
+
+int steeringFrom(int angle)
+{
+    const int folded = angle < -unsignedCircle / 2 ? angle + unsignedCircle : angle;
+    return qBound(-CarState::steeringLock, folded, CarState::steeringLock);
+}
+
+} // namespace
+
+int CarState::nearest() const
+{
+    int result = 0;
+    for (const auto *side : {&front, &rear}) {
+        for (const int level : *side) {
+            if (level != 0 && (result == 0 || level < result)) {
+                result = level;
+            }
+        }
+    }
+    return result;
+}
+
+bool CarState::take(const OrbEvent &event)
+{
+    if (int(event.type()) != OrbEvent::NotifyType) {
+        return false;
+    }
+    const CarState before = *this;
+    const QByteArray bytes = event.getByteArrayParam();
+    switch (event.getParam()) {
+    case LightsOn:
+        areLightsOn = true;
+        break;
+    case LightsOff:
+        areLightsOn = false;
+        break;
+    case RadarAll:
+        takeLevels(front, bytes, 0);
+        takeLevels(rear, bytes, sensors);
+        break;
+    case RadarFront:
+        takeLevels(front, bytes, 0);
+        break;
+    case RadarRear:
+        takeLevels(rear, bytes, 0);
+        break;
+    case Doors:
+        doors = int(event.getParam2()) & doorBits;
+        break;
+    case Steering:
+        steering = steeringFrom(event.getVariantParam().toInt());
+        break;
+    case RadarSwitch:
+        isRadarOn = event.getParam2() != 0;
+        break;
+    case TrackSwitch:
+        isTrackOn = event.getParam2() != 0;
+        break;
+    default:
+        break;
+    }
+    return *this != before;
+}
+
+bool CarState::operator==(const CarState &other) const
+{
+    return doors == other.doors && std::equal(front, front + sensors, other.front) &&
+           std::equal(rear, rear + sensors, other.rear) && steering == other.steering &&
+           isRadarOn == other.isRadarOn && isTrackOn == other.isTrackOn && areLightsOn == other.areLightsOn;
+}

@@ -1,0 +1,199 @@
+#include "carview.h"
+
+#include "deskcolours.h"
+#include "radararcs.h"
+#include "steeringtrack.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+const int headingHeight = 64;
+const int margin = 16;
+// The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
+const QSizeF picture(200, 420);
+const QRectF paintWork(24, 8, 152, 406);
+
+const qreal doorOpening = 64; // degrees
+const qreal doorThickness = 9;
+
+struct DoorLeaf
+{
+    CarState::Door door;
+    QPointF hinge; // in the picture's units
+    qreal length;
+};
+
+const DoorLeaf doorLeaves[] = {{CarState::FrontLeft, QPointF(27, 162), 74},
+                               {CarState::FrontRight, QPointF(173, 162), 74},
+                               {CarState::RearLeft, QPointF(25, 238), 68},
+                               {CarState::RearRight, QPointF(175, 238), 68}};
+
+const QPointF wheels[] = {QPointF(25, 86), QPointF(175, 86), QPointF(25, 330), QPointF(175, 330)};
+
+} // namespace
+
+CarView::CarView(QWidget *parent) : QWidget(parent), m_body(QStringLiteral(":/desk/car/body.png"))
+{
+    setMinimumSize(240, 320);
+}
+
+void CarView::setState(const CarState &state)
+{
+    if (state != m_state) {
+        m_state = state;
+        update();
+    }
+}
+
+QString CarView::doorMessage() const
+{
+    switch (m_state.doors) {
+    case 0:
+        return QString();
+    case CarState::FrontLeft:
+        return tr("Front left door open");
+    case CarState::FrontRight:
+        return tr("Front right door open");
+    case CarState::RearLeft:
+        return tr("Rear left door open");
+    case CarState::RearRight:
+        return tr("Rear right door open");
+    default:
+        return tr("Doors open");
+    }
+}
+
+QString CarView::message() const
+{
+    if (m_state.isRadarOn && m_state.nearest() == 1) {
+        return tr("Stop");
+    }
+    const QString doors = doorMessage();
+    return doors.isEmpty() ? tr("All doors closed") : doors;
+}
+
+qreal CarView::radarReach() const
+{
+    return (height() - headingHeight) * 0.185;
+}
+
+QRectF CarView::carRect() const
+{
+    const QRectF area(margin, headingHeight, width() - 2 * margin, height() - headingHeight - margin);
+    const qreal length = area.height() - 2 * radarReach();
+    const qreal scale = length / paintWork.height();
+    QRectF car(0, 0, paintWork.width() * scale, length);
+    car.moveCenter(area.center());
+    return car;
+}
+
+void CarView::paintHeading(QPainter *painter) const
+{
+    QFont font = painter->font();
+    font.setPixelSize(20);
+    font.setBold(true);
+    painter->setFont(font);
+    QColor colour = DeskColours::dim;
+    if (m_state.doors != 0) {
+        colour = DeskColours::warning;
+    }
+    if (m_state.isRadarOn && m_state.nearest() == 1) {
+        colour = DeskColours::error;
+    }
+    painter->setPen(colour);
+    const QRectF line(margin, 0, width() - 2 * margin, headingHeight);
+    painter->drawText(line, Qt::AlignCenter,
+                      painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
+}
+
+void CarView::paintLights(QPainter *painter, const QRectF &car) const
+{
+    for (const qreal side : {-1.0, 1.0}) {
+        const QPointF lamp(car.center().x() + side * car.width() * 0.36, car.top() + car.height() * 0.06);
+        const qreal reach = radarReach() * 1.25;
+        QPainterPath beam(lamp);
+        beam.lineTo(lamp + QPointF(-reach * 0.34 + side * 8, -reach));
+        beam.lineTo(lamp + QPointF(reach * 0.34 + side * 8, -reach));
+        beam.closeSubpath();
+        QLinearGradient light(lamp, lamp - QPointF(0, reach));
+        light.setColorAt(0, QColor(255, 246, 214, 190));
+        light.setColorAt(1, QColor(255, 246, 214, 0));
+        painter->fillPath(beam, light);
+    }
+}
+
+void CarView::paintWheels(QPainter *painter, const QRectF &car) const
+{
+    const qreal scale = car.height() / paintWork.height();
+    for (const QPointF &wheel : wheels) {
+        const bool isFront = wheel.y() < picture.height() / 2;
+        painter->save();
+        painter->translate(car.topLeft() + (wheel - paintWork.topLeft()) * scale);
+        painter->scale(scale, scale);
+        painter->rotate(isFront ? m_state.steering : 0);
+        painter->setPen(QPen(QColor(0x5A, 0x66, 0x75), 2));
+        painter->setBrush(QColor(0x20, 0x27, 0x30));
+        painter->drawRoundedRect(QRectF(-10, -28, 20, 56), 6, 6);
+        painter->restore();
+    }
+}
+
+void CarView::paintDoors(QPainter *painter, const QRectF &car) const
+{
+    const qreal scale = car.height() / paintWork.height();
+    for (const DoorLeaf &leaf : doorLeaves) {
+        if (!m_state.isDoorOpen(leaf.door)) {
+            continue;
+        }
+        const bool isLeft = leaf.hinge.x() < picture.width() / 2;
+        painter->save();
+        painter->translate(car.topLeft() + (leaf.hinge - paintWork.topLeft()) * scale);
+        painter->scale(isLeft ? scale : -scale, scale);
+        // The way that the leaf swung, the dark sill that it left, and the leaf.
+        QPainterPath swing;
+        const QRectF circle(-leaf.length, -leaf.length, 2 * leaf.length, 2 * leaf.length);
+        swing.arcTo(circle, 270, -doorOpening);
+        swing.closeSubpath();
+        QColor shade = DeskColours::warning;
+        shade.setAlphaF(0.22);
+        painter->fillPath(swing, shade);
+        painter->setPen(QPen(QColor(0x0B, 0x0F, 0x14), 7, Qt::SolidLine, Qt::RoundCap));
+        painter->drawLine(QPointF(2, 4), QPointF(2, leaf.length - 4));
+        painter->rotate(doorOpening);
+        painter->setPen(QPen(QColor(0x5A, 0x3D, 0x08), 1.2));
+        painter->setBrush(DeskColours::warning);
+        painter->drawRoundedRect(QRectF(-doorThickness / 2, 0, doorThickness, leaf.length), 4, 4);
+        painter->fillRect(QRectF(-1.5, leaf.length * 0.2, 3, leaf.length * 0.6), QColor(0x20, 0x28, 0x32));
+        painter->restore();
+    }
+}
+
+void CarView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(DeskColours::panel);
+    painter.drawRoundedRect(rect(), 10, 10);
+    paintHeading(&painter);
+
+    const QRectF car = carRect();
+    const qreal scale = car.height() / paintWork.height();
+    if (m_state.isRadarOn) {
+        RadarArcs(RadarArcs::Front, car, radarReach()).paint(&painter, m_state.front);
+        RadarArcs(RadarArcs::Rear, car, radarReach()).paint(&painter, m_state.rear);
+    }
+    if (m_state.isTrackOn) {
+        SteeringTrack(car, m_state.steering, radarReach() * 0.85).paint(&painter);
+    }
+    if (m_state.areLightsOn) {
+        paintLights(&painter, car);
+    }
+    paintWheels(&painter, car);
+    painter.drawPixmap(QRectF(car.topLeft() - paintWork.topLeft() * scale, picture * scale), m_body,
+                       QRectF(m_body.rect()));
+    paintDoors(&painter, car);
+}

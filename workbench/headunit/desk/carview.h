@@ -1,0 +1,42 @@
+#ifndef CARVIEW_H
+#define CARVIEW_H
+
+#include "carstate.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+/// The car from above: its open doors, what its radar sees and where its wheels are turned. Shows the state
+/// that it is given and nothing of its own.
+class CarView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CarView(QWidget *parent = nullptr);
+
+    const CarState &state() const { return m_state; }
+    void setState(const CarState &state);
+
+    /// One sentence on the doors and the distance, or that all is well.
+    QString message() const;
+
+    /// Where the car is drawn, in the widget's pixels.
+    QRectF carRect() const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    qreal radarReach() const;
+    QString doorMessage() const;
+    void paintHeading(QPainter *painter) const;
+    void paintLights(QPainter *painter, const QRectF &car) const;
+    void paintWheels(QPainter *painter, const QRectF &car) const;
+    void paintDoors(QPainter *painter, const QRectF &car) const;
+
+    CarState m_state;
+    QPixmap m_body;
+};
+
+#endif

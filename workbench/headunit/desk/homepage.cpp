@@ -1,0 +1,31 @@
+#include "homepage.h"
+
+#include "carview.h"
+#include "deskcolours.h"
+#include "launcher.h"
+#include "mediacard.h"
+
+#include <QGridLayout>
+#include <QPainter>
+
+namespace {
+const int gap = 16;
+} // namespace
+
+HomePage::HomePage(QWidget *parent)
+    : QWidget(parent), m_launcher(new Launcher), m_mediaCard(new MediaCard), m_carView(new CarView)
+{
+    QGridLayout *layout = new QGridLayout(this);
+    layout->setContentsMargins(gap, gap / 2, gap, gap);
+    layout->setSpacing(gap);
+    layout->addWidget(m_launcher, 0, 0);
+    layout->addWidget(m_mediaCard, 1, 0);
+    layout->addWidget(m_carView, 0, 1, 2, 1);
+    layout->setColumnStretch(0, 58);
+    layout->setColumnStretch(1, 42);
+}
+
+void HomePage::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(rect(), DeskColours::ground);
+}

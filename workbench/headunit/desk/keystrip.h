@@ -1,0 +1,59 @@
+#ifndef KEYSTRIP_H
+#define KEYSTRIP_H
+
+#include <QTimer>
+#include <QVector>
+#include <QWidget>
+
+class QBoxLayout;
+class QToolButton;
+
+/// The unit's own keys below its screen. A key that is held repeats every 200 ms until it is let go; one key
+/// is held at a time. Units with a key set of their own have a second row with those raw codes.
+class KeyStrip : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum Phase { Release = 0, Press = 1, Repeat = 2 };
+    static constexpr int repeatInterval = 200; ///< milliseconds
+
+    struct Key
+    {
+        const char *name; ///< untranslated
+        const char *icon; ///< null for a key with its raw code on it
+        int code;
+    };
+
+    /// \a keySet: number of the unit's key set, 1 or 2; any other has no raw keys.
+    explicit KeyStrip(int keySet, QWidget *parent = nullptr);
+
+    static const QVector<Key> &standardKeys();
+    /// The raw keys of a set, empty for a number without one.
+    static QVector<Key> rawKeys(int keySet);
+
+signals:
+    /// \a phase: one of Phase.
+    void keyUsed(int code, int phase);
+
+protected:
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void addKeys(const QVector<Key> &keys, QBoxLayout *row);
+    void setTexts();
+    void hold(int code);
+    void letGo();
+
+    struct Button
+    {
+        QToolButton *widget;
+        Key key;
+    };
+    QVector<Button> m_buttons;
+    QTimer m_repeatTimer;
+    int m_heldCode = 0;
+};
+
+#endif

@@ -1,0 +1,94 @@
+#include "mediacard.h"
+
+#include "deskcolours.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QToolButton>
+
+namespace {
+
+const int margin = 16;
+const int pictureSize = 88;
+const int buttonSize = 64;
+
+} // namespace
+
+MediaCard::MediaCard(QWidget *parent) : QWidget(parent)
+{
+    QHBoxLayout *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(8);
+    layout->addStretch();
+    m_previous = addButton(QStringLiteral("previous"), Qt::Key_MediaPrevious);
+    m_pause = addButton(QStringLiteral("pause"), Qt::Key_MediaTogglePlayPause);
+    m_next = addButton(QStringLiteral("next"), Qt::Key_MediaNext);
+    setFixedHeight(pictureSize + 2 * margin);
+}
+
+QToolButton *MediaCard::addButton(const QString &icon, int code)
+{
+    QToolButton *button = new QToolButton;
+    button->setObjectName(QStringLiteral("mediaButton"));
+    button->setIcon(QIcon(QStringLiteral(":/desk/keys/%1.png").arg(icon)));
+    button->setIconSize(QSize(36, 36));
+    button->setFixedSize(buttonSize, buttonSize);
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, code] { emit keyTapped(code); });
+    layout()->addWidget(button);
+    return button;
+}
+
+void MediaCard::setTrack(const QString &source, const QPixmap &icon, const QString &title,
+                         const QString &subtitle)
+{
+    m_source = source;
+    m_icon = icon;
+    m_title = title;
+    m_subtitle = subtitle;
+    for (QToolButton *button : {m_previous, m_pause, m_next}) {
+        button->setVisible(!title.isEmpty());
+    }
+    update();
+}
+
+void MediaCard::setPlaying(bool isPlaying)
+{
+    m_pause->setIcon(
+        QIcon(isPlaying ? QStringLiteral(":/desk/keys/pause.png") : QStringLiteral(":/desk/keys/play.png")));
+}
+
+void MediaCard::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(DeskColours::panel);
+    painter.drawRoundedRect(rect(), 10, 10);
+    painter.drawPixmap(QRect(margin, margin, pictureSize, pictureSize), m_icon);
+
+    const int left = 2 * margin + pictureSize;
+    const int right = m_title.isEmpty() ? width() - margin : width() - 2 * margin - 3 * buttonSize - 16;
+    struct Line
+    {
+        const QString &text;
+        int pixels;
+        QColor colour;
+    };
+    const Line lines[] = {{m_source, 16, DeskColours::accent},
+                          {m_title.isEmpty() ? m_source : m_title, 24, DeskColours::text},
+                          {m_subtitle, 18, DeskColours::dim}};
+    int top = margin + 2;
+    for (const Line &line : lines) {
+        QFont font = painter.font();
+        font.setPixelSize(line.pixels);
+        font.setBold(line.pixels == 24);
+        painter.setFont(font);
+        painter.setPen(line.colour);
+        const int height = painter.fontMetrics().height();
+        painter.drawText(QRect(left, top, right - left, height), Qt::AlignLeft | Qt::AlignVCenter,
+                         painter.fontMetrics().elidedText(line.text, Qt::ElideRight, right - left));
+        top += height + 1;
+    }
+}

@@ -1,0 +1,75 @@
+#include "radararcs.h"
+
+#include "deskcolours.h"
+
+#include <QPainter>
+
+namespace {
+
+// Degrees, counterclockwise from the right as QPainterPath counts them.
+const qreal sectorSpan = 31.0;
+const qreal sectorGap = 2.0;
+const qreal bandGap = 2.5; // pixels
+
+} // namespace
+
+RadarArcs::RadarArcs(Side side, const QRectF &car, qreal reach) : m_side(side)
+{
+    // The fan's centre lies inside the car, so that the bands follow the round of its end.
+    const qreal inside = car.width() * 0.5;
+    m_innerRadius = car.width() * 0.64;
+    m_centre = QPointF(car.center().x(), side == Front ? car.top() + inside : car.bottom() - inside);
+    m_bandWidth = (inside + reach - m_innerRadius) / CarState::farthestLevel;
+}
+
+QPainterPath RadarArcs::band(int sensor, int level) const
+{
+    const qreal inner = m_innerRadius + (level - 1) * m_bandWidth;
+    const qreal outer = inner + m_bandWidth - bandGap;
+    // Sensor 0 is on the left of both sides: at the greater angle in front, at the smaller one behind.
+    const qreal leftmost = m_side == Front ? 90.0 + 2 * sectorSpan : 270.0 - 2 * sectorSpan;
+    const qreal turn = m_side == Front ? -1.0 : 1.0;
+    const qreal from = leftmost + turn * (sensor * sectorSpan + sectorGap / 2);
+    const qreal span = turn * (sectorSpan - sectorGap);
+    const QRectF innerBox(m_centre.x() - inner, m_centre.y() - inner, 2 * inner, 2 * inner);
+    const QRectF outerBox(m_centre.x() - outer, m_centre.y() - outer, 2 * outer, 2 * outer);
+
+    QPainterPath path;
+    path.arcMoveTo(innerBox, from);
+    path.arcTo(innerBox, from, span);
+    path.arcTo(outerBox, from + span, -span);
+    path.closeSubpath();
+    return path;
+}
+
+QRectF RadarArcs::bounds() const
+{
+    QRectF result;
+    for (int sensor = 0; sensor < CarState::sensors; ++sensor) {
+        result |= band(sensor, 1).boundingRect() | band(sensor, CarState::farthestLevel).boundingRect();
+    }
+    return result;
+}
+
+QColor RadarArcs::colour(int level)
+{
+    if (level <= 2) {
+        return DeskColours::error;
+    }
+    return level <= 4 ? DeskColours::warning : DeskColours::good;
+}
+
+void RadarArcs::paint(QPainter *painter, const quint8 (&levels)[CarState::sensors]) const
+{
+    painter->setPen(Qt::NoPen);
+    for (int sensor = 0; sensor < CarState::sensors; ++sensor) {
+        for (int level = 1; level <= CarState::farthestLevel; ++level) {
+            QColor fill = DeskColours::edge;
+            if (levels[sensor] != 0 && level >= levels[sensor]) {
+                fill = colour(levels[sensor]);
+                fill.setAlphaF(level == levels[sensor] ? 1.0 : 0.32);
+            }
+            painter->fillPath(band(sensor, level), fill);
+        }
+    }
+}

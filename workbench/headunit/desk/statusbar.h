@@ -1,0 +1,56 @@
+#ifndef STATUSBAR_H
+#define STATUSBAR_H
+
+#include <QBasicTimer>
+#include <QPixmap>
+#include <QTime>
+#include <QWidget>
+
+/// The strip at the top of the unit's screen: clock, application in front, telephone, mode, volume.
+class StatusBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int barHeight = 48;
+
+    explicit StatusBar(QWidget *parent = nullptr);
+
+    void setTwelveHourClock(bool isTwelveHour);
+    /// Holds the clock at \a time, for pictures; an invalid time lets it run again.
+    void holdClock(const QTime &time);
+    QString clockText() const;
+
+    void setApplication(const QString &name);
+    void setMode(const QString &name);
+    /// A line on the telephone ("01:12"), empty for none; \a isInCall: a call, else the unit listens.
+    void setCall(const QString &text, bool isInCall);
+    /// \a volume of \a loudest.
+    void setVolume(int volume, int loudest, bool isMuted);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    int paintVolume(QPainter *painter, int right) const;
+    int paintMode(QPainter *painter, int right) const;
+    int paintCall(QPainter *painter, int right) const;
+
+    QBasicTimer m_clockTimer;
+    bool m_isTwelveHour = false;
+    QTime m_heldTime;
+    QString m_application;
+    QString m_mode;
+    QString m_callText;
+    bool m_isInCall = false;
+    int m_volume = 0;
+    int m_loudest = 1;
+    bool m_isMuted = false;
+    QPixmap m_volumeIcon;
+    QPixmap m_muteIcon;
+    QPixmap m_callIcon;
+    QPixmap m_voiceIcon;
+};
+
+#endif
