@@ -1,0 +1,97 @@
+#include "simulatedunit.h"
+
+#include "boxcatalog.h"
+#include "decoderbox.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+SimulatedUnit::SimulatedUnit(const DecoderBox &box, int acknowledgements)
+    : m_isXinHang(!box.speaker()->usesAcknowledgement())
+    , m_device(::open(box.portPath().toLocal8Bit().constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+    , m_acknowledgements(acknowledgements)
+    , m_notifier(new QSocketNotifier(m_device, QSocketNotifier::Read))
+{
+    m_clock.start();
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SimulatedUnit::read);
+}
+
+SimulatedUnit::~SimulatedUnit()
+{
+    m_notifier.reset();
+    ::close(m_device);
+}
+
+void SimulatedUnit::write(const QByteArray &bytes)
+{
+    if (::write(m_device, bytes.constData(), size_t(bytes.size())) != bytes.size()) {
+        qFatal("the box does not read");
+    }
+}
+
+QVector<QByteArray> SimulatedUnit::frames() const
+{
+    QVector<QByteArray> result;
+    for (const Arrival &package : m_packages) {
+        result << package.bytes;
+    }
+    return result;
+}
+
+void SimulatedUnit::forget()
+{
+    m_packages.clear();
+    m_singleBytes.clear();
+}
+
+void SimulatedUnit::read()
+{
+    char bytes[4096];
+    const ssize_t count = ::read(m_device, bytes, sizeof bytes);
+    if (count <= 0) {
+        return;
+    }
+    m_buffer.append(bytes, int(count));
+    while (!m_buffer.isEmpty()) {
+        const quint8 first = quint8(m_buffer.front());
+        const bool isXinHang = m_isXinHang && first == 0xF0;
+        if (first != 0x2E && !isXinHang) {
+            m_singleBytes += m_buffer.left(1);
+            m_buffer.remove(0, 1);
+            continue;
+        }
+        const int lengthAt = isXinHang ? 1 : 2;
+        const int rest = isXinHang ? 3 : 4;
+        const int size = m_buffer.size() > lengthAt ? quint8(m_buffer.at(lengthAt)) + rest : -1;
+        if (size < 0 || m_buffer.size() < size) {
+            break;
+        }
+        m_packages << Arrival{m_clock.elapsed(), m_buffer.left(size)};
+        m_buffer.remove(0, size);
+        if (!isXinHang && m_acknowledgements != 0) {
+            m_acknowledgements = qMax(-1, m_acknowledgements - 1);
+            write(QByteArray(1, '\xFF'));
+        }
+    }
+}
+
+std::unique_ptr<DecoderBox> openBox(int type)
+{
+    QString error;
+    std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
+    if (!box || !box->open(QString(), &error)) {
+        qFatal("%s", qPrintable(error));
+    }
+    return box;
+}
+
+QByteArray raiseFrame(const char *commandAndDataHex)
+{
+    QByteArray body = QByteArray::fromHex(commandAndDataHex);
+    body.insert(1, char(body.size() - 1));
+    quint8 sum = 0;
+    for (const char byte : body) {
+        sum = quint8(sum + quint8(byte));
+    }
+    return '\x2E' + body + char(0xFF - sum);
+}

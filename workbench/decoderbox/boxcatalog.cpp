@@ -1,0 +1,75 @@
+#include "boxcatalog.h"
+
+#include "decoderbox.h"
+#include "speakers/toyotaspeaker.h"
+
+namespace {
+
+template <typename Speaker>
+BoxSpeaker *make(SimulatedCar *car)
+{
+    return new Speaker(car);
+}
+
+// A box of which only the handshake is known.
+BoxSpeaker *makePlain(SimulatedCar *car)
+{
+    return new RaiseSpeaker(car);
+}
+
+} // namespace
+
+const QVector<BoxCatalog::Row> &BoxCatalog::rows()
+{
+    static const QVector<Row> rows = {
+        {1, "CanBus_LiHang_JMCE200N", nullptr},
+        {2, "CanBus_Huida_ZD", nullptr},
+        {3, "CanBus_Raise_Volkswagen", makePlain},
+        {4, "CanBus_XinHang", nullptr},
+        {5, "CanBus_XBS_Mazda", makePlain},
+        {6, "CanBus_XinRi", makePlain},
+        {7, "CanBus_Raise_Honda", makePlain},
+        {8, "CanBus_Raise_Nissan", makePlain},
+        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>},
+        {10, "CanBus_Raise_GM", makePlain},
+        {11, "CanBus_Raise_Haval", makePlain},
+        {12, "CanBus_Raise_GAC", makePlain},
+        {13, "CanBus_Raise_Venucia", makePlain},
+        {14, "CanBus_Raise_Renault", makePlain},
+        {15, "CanBus_Raise_Jeep", makePlain},
+    };
+    return rows;
+}
+
+int BoxCatalog::typeFromText(const QString &text)
+{
+    const bool isHexadecimal = text.startsWith("0x", Qt::CaseInsensitive);
+    bool isNumber = false;
+    const int number = text.mid(isHexadecimal ? 2 : 0).toInt(&isNumber, isHexadecimal ? 16 : 10);
+    for (const Row &row : rows()) {
+        if (isNumber ? row.type == number : text == QLatin1String(row.className)) {
+            return row.type;
+        }
+    }
+    return 0;
+}
+
+DecoderBox *BoxCatalog::createBox(int type, QObject *parent, QString *error)
+{
+    for (const Row &row : rows()) {
+        if (row.type != type) {
+            continue;
+        }
+        if (!row.makeSpeaker) {
+            *error =
+                QString("the protocol of the box for %1 (type %2) is not known, so there is no virtual one")
+                    .arg(row.className)
+                    .arg(type);
+            return nullptr;
+        }
+        SimulatedCar *car = new SimulatedCar;
+        return new DecoderBox(car, row.makeSpeaker(car), parent);
+    }
+    *error = QString("there is no CAN-bus type %1").arg(type);
+    return nullptr;
+}

@@ -1,0 +1,34 @@
+#ifndef BOXCATALOG_H
+#define BOXCATALOG_H
+
+#include <QString>
+#include <QVector>
+
+class BoxSpeaker;
+class DecoderBox;
+class QObject;
+class SimulatedCar;
+
+/// Which box goes with which CAN-bus type of the head unit.
+class BoxCatalog
+{
+public:
+    struct Row
+    {
+        int type;
+        const char *className;                         ///< of the plug-in's adapter
+        BoxSpeaker *(*makeSpeaker)(SimulatedCar *car); ///< null where nobody knows the box's protocol
+    };
+
+    /// All types, in order of their numbers.
+    static const QVector<Row> &rows();
+
+    /// The type that \a text names, by number (decimal or 0x-hexadecimal) or by class name; 0 for none.
+    static int typeFromText(const QString &text);
+
+    /// A box for \a type with its own car, owned by \a parent or else by the caller. Null, with one sentence
+    /// in \a error, for a type that does not exist or whose box nobody knows.
+    static DecoderBox *createBox(int type, QObject *parent, QString *error);
+};
+
+#endif

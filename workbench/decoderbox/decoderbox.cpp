@@ -1,0 +1,347 @@
+#include "decoderbox.h"
+
+#include <utility>
+
+namespace {
+
+const int acknowledgementMs = 100;
+const int mostResends = 3;
+const int heldKeyMs = 200;
+const int mostQueued = 256;
+const int mostNoise = 65536;
+const quint32 noiseSeed = 20;
+
+const quint8 goodAnswer = 0xFF;
+const quint8 badChecksumAnswer = 0xF0;
+const quint8 unknownCommandAnswer = 0xF3;
+
+} // namespace
+
+DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
+    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format()), m_noise(noiseSeed)
+{
+    m_car->setParent(this);
+    m_speaker->setParent(this);
+    m_acknowledgementTimer.setSingleShot(true);
+    m_acknowledgementTimer.setTimerType(Qt::PreciseTimer);
+    m_heldKeyTimer.setInterval(heldKeyMs);
+    m_heldKeyTimer.setTimerType(Qt::PreciseTimer);
+    m_tongueTimer.setSingleShot(true);
+    m_clock.start();
+
+    connect(&m_terminal, &PseudoTerminal::received, &m_receiver, &FrameReceiver::feed);
+    connect(&m_terminal, &PseudoTerminal::unitCame, this, &DecoderBox::unitCame);
+    connect(&m_terminal, &PseudoTerminal::unitLeft, this, &DecoderBox::onUnitLeft);
+    connect(&m_receiver, &FrameReceiver::packageReceived, this, &DecoderBox::onPackage);
+    connect(&m_receiver, &FrameReceiver::badChecksum, this, &DecoderBox::onBadChecksum);
+    connect(&m_receiver, &FrameReceiver::acknowledged, this, &DecoderBox::onAcknowledged);
+    connect(m_speaker, &BoxSpeaker::readyReceived, this, &DecoderBox::onReady);
+    connect(m_speaker, &BoxSpeaker::endReceived, this, &DecoderBox::onEnd);
+    connect(m_speaker, &BoxSpeaker::reportDue, this, &DecoderBox::enqueueReport);
+    connect(m_speaker, &BoxSpeaker::packageDue, this, &DecoderBox::enqueue);
+    connect(m_speaker, &BoxSpeaker::observed, this, &DecoderBox::onObserved);
+    connect(m_car, &SimulatedCar::changed, this, &DecoderBox::onCarChanged);
+    connect(&m_acknowledgementTimer, &QTimer::timeout, this, &DecoderBox::onAcknowledgementMissing);
+    connect(&m_heldKeyTimer, &QTimer::timeout, this, &DecoderBox::repeatHeldKeys);
+    connect(&m_tongueTimer, &QTimer::timeout, this, &DecoderBox::sendNext);
+}
+
+bool DecoderBox::open(const QString &link, QString *error)
+{
+    return m_terminal.open(link, error);
+}
+
+void DecoderBox::start()
+{
+    stopTalking();
+    setState(Talks);
+    sendState();
+}
+
+bool DecoderBox::pressKey(const QString &name)
+{
+    const BoxKey *key = m_speaker->findKey(name);
+    if (!key || key->source == BoxKey::Knob) {
+        return false;
+    }
+    if (!m_heldKeys.contains(name)) {
+        m_heldKeys << name;
+        m_heldKeyTimer.start();
+        sendKey(*key, BoxSpeaker::Pressed);
+    }
+    return true;
+}
+
+bool DecoderBox::releaseKey(const QString &name)
+{
+    const BoxKey *key = m_speaker->findKey(name);
+    if (!key || key->source == BoxKey::Knob) {
+        return false;
+    }
+    m_heldKeys.removeAll(name);
+    if (m_heldKeys.isEmpty()) {
+        m_heldKeyTimer.stop();
+    }
+    sendKey(*key, BoxSpeaker::Released);
+    return true;
+}
+
+bool DecoderBox::turnKnob(const QString &name, int count)
+{
+    const BoxKey *key = m_speaker->findKey(name);
+    if (!key || key->source != BoxKey::Knob || count < 0 || count > 255) {
+        return false;
+    }
+    enqueue(m_speaker->knobPackage(*key, count), QString("knob %1 %2").arg(name).arg(count));
+    return true;
+}
+
+bool DecoderBox::touch(BoxSpeaker::Touch touch, int x, int y)
+{
+    if (!m_speaker->hasTouch()) {
+        return false;
+    }
+    enqueue(m_speaker->touchPackage(touch, x, y),
+            QString("touch %1 at %2, %3").arg(int(touch)).arg(x).arg(y));
+    return true;
+}
+
+void DecoderBox::sendRaw(const QByteArray &bytes)
+{
+    log("box>unit", bytes,
+        m_terminal.write(bytes) ? "raw bytes" : "raw bytes, dropped: the unit does not read");
+}
+
+void DecoderBox::sendNoise(int count)
+{
+    QByteArray bytes;
+    for (int i = 0; i < qMin(count, mostNoise); ++i) {
+        bytes += char(m_noise.bounded(256));
+    }
+    sendRaw(bytes);
+}
+
+void DecoderBox::spoilNext(Fault fault, int size)
+{
+    m_fault = fault;
+    m_faultSize = size;
+}
+
+void DecoderBox::holdTongue(int ms)
+{
+    m_tongueTimer.start(ms);
+}
+
+void DecoderBox::onUnitLeft()
+{
+    m_receiver.clear();
+    stopTalking();
+    setState(WaitsForReady);
+    emit unitLeft();
+}
+
+void DecoderBox::onReady()
+{
+    if (m_state != Talks) {
+        start();
+    }
+}
+
+void DecoderBox::onEnd()
+{
+    stopTalking();
+    setState(WaitsForReady);
+}
+
+void DecoderBox::onCarChanged(const QString &property)
+{
+    for (int i = 0; i < m_speaker->reports().size(); ++i) {
+        if (m_speaker->reports().at(i).isAbout(property)) {
+            enqueueReport(i);
+        }
+    }
+}
+
+void DecoderBox::onPackage(const BoxPackage &package, const QByteArray &frame)
+{
+    QString meaning;
+    m_isListening = true;
+    const BoxSpeaker::Understanding understanding = m_speaker->receive(package, &meaning);
+    m_isListening = false;
+    log("unit>box", frame, meaning);
+    // The answer leaves before what the package has brought about.
+    answer(understanding == BoxSpeaker::UnknownCommand ? unknownCommandAnswer : goodAnswer);
+    sendNext();
+}
+
+void DecoderBox::onBadChecksum(const QByteArray &frame)
+{
+    log("unit>box", frame, "bad checksum");
+    answer(badChecksumAnswer);
+}
+
+void DecoderBox::onAcknowledged()
+{
+    if (!m_frame.isEmpty() && m_speaker->usesAcknowledgement()) {
+        m_frame.clear();
+        m_acknowledgementTimer.stop();
+        sendNext();
+    }
+}
+
+void DecoderBox::onAcknowledgementMissing()
+{
+    if (m_tongueTimer.isActive()) {
+        m_acknowledgementTimer.start(acknowledgementMs);
+        return;
+    }
+    if (m_resends < mostResends) {
+        ++m_resends;
+        transmit();
+        return;
+    }
+    log("box", m_frame, QString("no acknowledgement of %1: silent until started again").arg(m_frameMeaning));
+    stopTalking();
+    setState(Silent);
+}
+
+void DecoderBox::onObserved(const QString &topic, const QString &value)
+{
+    m_observations.insert(topic, value);
+    emit observed(topic, value);
+}
+
+void DecoderBox::repeatHeldKeys()
+{
+    for (const QString &name : std::as_const(m_heldKeys)) {
+        sendKey(*m_speaker->findKey(name), BoxSpeaker::Held);
+    }
+}
+
+void DecoderBox::setState(State state)
+{
+    if (m_state != state) {
+        m_state = state;
+        emit stateChanged(state);
+    }
+}
+
+void DecoderBox::stopTalking()
+{
+    m_queue.clear();
+    m_frame.clear();
+    m_acknowledgementTimer.stop();
+    m_heldKeys.clear();
+    m_heldKeyTimer.stop();
+}
+
+void DecoderBox::sendState()
+{
+    for (int i = 0; i < m_speaker->reports().size(); ++i) {
+        if (m_speaker->reports().at(i).atStart) {
+            enqueueReport(i);
+        }
+    }
+}
+
+// A report that waits already will tell the newest state when its turn comes.
+void DecoderBox::enqueueReport(int index)
+{
+    if (m_state != Talks) {
+        return;
+    }
+    for (const Entry &entry : std::as_const(m_queue)) {
+        if (entry.report == index) {
+            return;
+        }
+    }
+    m_queue.enqueue({index, {}, m_speaker->reports().at(index).meaning});
+    sendNext();
+}
+
+void DecoderBox::enqueue(const BoxPackage &package, const QString &meaning)
+{
+    if (m_state != Talks) {
+        return;
+    }
+    if (m_queue.size() >= mostQueued) {
+        log("box", {}, "too much to send, dropped: " + meaning);
+        return;
+    }
+    m_queue.enqueue({-1, package, meaning});
+    sendNext();
+}
+
+void DecoderBox::sendKey(const BoxKey &key, BoxSpeaker::KeyState state)
+{
+    static const char *const names[] = {"released", "pressed", "held"};
+    const QVector<BoxPackage> packages = m_speaker->keyPackages(key, state);
+    for (const BoxPackage &package : packages) {
+        enqueue(package, QString("key %1 %2").arg(key.name, QString::fromLatin1(names[state])));
+    }
+}
+
+void DecoderBox::sendNext()
+{
+    while (m_frame.isEmpty() && !m_queue.isEmpty() && !m_isListening && !m_tongueTimer.isActive()) {
+        const Entry entry = m_queue.dequeue();
+        const BoxPackage package = entry.report < 0 ? entry.package : m_speaker->reportPackage(entry.report);
+        m_frame = m_speaker->format().frame(package);
+        m_frameMeaning = entry.meaning;
+        m_resends = 0;
+        transmit();
+        if (!m_speaker->usesAcknowledgement()) {
+            m_frame.clear();
+        }
+    }
+}
+
+void DecoderBox::transmit()
+{
+    if (m_speaker->usesAcknowledgement()) {
+        m_acknowledgementTimer.start(acknowledgementMs);
+    }
+    QString meaning = m_frameMeaning;
+    if (m_resends > 0) {
+        meaning += QString(", resend %1").arg(m_resends);
+    }
+    const QByteArray bytes = spoiled(m_frame, &meaning);
+    if (!m_terminal.write(bytes)) {
+        meaning += ", dropped: the unit does not read";
+    }
+    log("box>unit", bytes, meaning);
+}
+
+QByteArray DecoderBox::spoiled(QByteArray frame, QString *meaning)
+{
+    const Fault fault = std::exchange(m_fault, NoFault);
+    if (fault == CutNext && m_faultSize < frame.size()) {
+        frame.truncate(m_faultSize);
+        *meaning += QString(", cut after %1 bytes").arg(m_faultSize);
+    } else if (fault == CorruptNext) {
+        const int place = 1 + int(m_noise.bounded(quint32(frame.size() - 1)));
+        frame[place] = char(frame.at(place) ^ 0x10);
+        *meaning += QString(", byte %1 corrupt").arg(place);
+    }
+    return frame;
+}
+
+void DecoderBox::answer(quint8 byte)
+{
+    if (m_speaker->usesAcknowledgement() && !m_tongueTimer.isActive()) {
+        m_terminal.write(QByteArray(1, char(byte)));
+    }
+    if (byte != goodAnswer && m_speaker->usesAcknowledgement()) {
+        log("box>unit", QByteArray(1, char(byte)), "refused");
+    }
+}
+
+void DecoderBox::log(const QString &direction, const QByteArray &bytes, const QString &meaning)
+{
+    QStringList parts = {QString::number(double(m_clock.elapsed()) / 1000, 'f', 3).rightJustified(8),
+                         direction};
+    if (!bytes.isEmpty()) {
+        parts << QString::fromLatin1(bytes.toHex());
+    }
+    emit logLine((parts << meaning).join(' '));
+}

@@ -1,0 +1,147 @@
+#ifndef DECODERBOX_H
+#define DECODERBOX_H
+
+#include "boxspeaker.h"
+#include "framereceiver.h"
+#include "pseudoterminal.h"
+
+#include <QElapsedTimer>
+#include <QQueue>
+#include <QRandomGenerator>
+
+/// A virtual decoder box: a simulated car, a speaker for the box's protocol, a pseudo-terminal that the unit
+/// opens as its serial port, and the manners of real boxes:
+///
+/// - It says nothing before the unit's ready. Then it sends the car's state, and afterwards what changes. A
+/// second
+///   ready is ignored while it talks; one after an end or after it fell silent starts it again.
+/// - It sends one package at a time and waits for the unit's acknowledgement. 100 ms without one and it sends
+/// the
+///   package again; after the third resend it falls silent until it is started again.
+/// - It answers 0xFF to a good package, 0xF0 to a bad checksum, 0xF3 to a command that it does not know.
+/// - A held key is reported every 200 ms.
+///
+/// Boxes whose protocol knows no acknowledgement neither wait nor answer. A unit that closes the port takes
+/// the box back to where it waits for ready. Everything runs on the thread of the box and nothing blocks it.
+class DecoderBox : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum State {
+        WaitsForReady,
+        Talks,
+        Silent ///< the unit did not acknowledge
+    };
+    enum Fault {
+        NoFault,
+        CutNext,    ///< the next package ends early
+        CorruptNext ///< the next package has a wrong byte
+    };
+
+    /// Takes \a car and \a speaker, which is of that car, as its own.
+    DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent = nullptr);
+
+    /// See PseudoTerminal::open().
+    bool open(const QString &link, QString *error);
+    /// The device for the unit; empty before open().
+    QString portPath() const { return m_terminal.devicePath(); }
+
+    SimulatedCar *car() const { return m_car; }
+    BoxSpeaker *speaker() const { return m_speaker; }
+    State state() const { return m_state; }
+    bool isUnitThere() const { return m_terminal.isUnitThere(); }
+
+    /// What the unit last told about \a topic; empty when nothing.
+    QString observation(const QString &topic) const { return m_observations.value(topic); }
+    /// All that the unit has told so far, by topic.
+    const QMap<QString, QString> &observations() const { return m_observations; }
+
+    /// Starts the box as the unit's ready does, also when none came: it sends its state and talks.
+    void start();
+
+    /// Keys and knobs by their names in speaker()->keys(). False when there is no such key, or when a knob is
+    /// pressed or a key turned. Before ready and in silence nothing is sent. A key that is pressed already is
+    /// not pressed again; one that is not pressed is released all the same, as a bouncing contact does.
+    bool pressKey(const QString &name);
+    bool releaseKey(const QString &name);
+    /// \a count: clicks, 0 to 255.
+    bool turnKnob(const QString &name, int count);
+    /// Reports a touch on the car's screen; false when the box has none.
+    bool touch(BoxSpeaker::Touch touch, int x, int y);
+
+    /// Sends \a bytes at once, whatever the state.
+    void sendRaw(const QByteArray &bytes);
+    /// Sends \a count (at most 65536) bytes of noise: the same ones in each run.
+    void sendNoise(int count);
+    /// Spoils the next package, once: CutNext after \a size bytes, CorruptNext at one byte of it.
+    void spoilNext(Fault fault, int size = 0);
+    /// Says nothing at all for \a ms; what is to be sent waits.
+    void holdTongue(int ms);
+
+signals:
+    void unitCame();
+    void unitLeft();
+    void stateChanged(DecoderBox::State state);
+    /// One line per package and event: "  12.345 unit>box 2e8101017c ready".
+    void logLine(const QString &line);
+    /// See BoxSpeaker::observed().
+    void observed(const QString &topic, const QString &value);
+
+private:
+    // Either a report, which is put into bytes when its turn comes, or a package that stands.
+    struct Entry
+    {
+        int report = -1;
+        BoxPackage package;
+        QString meaning;
+    };
+
+    void onUnitLeft();
+    void onReady();
+    void onEnd();
+    void onCarChanged(const QString &property);
+    void onPackage(const BoxPackage &package, const QByteArray &frame);
+    void onBadChecksum(const QByteArray &frame);
+    void onAcknowledged();
+    void onAcknowledgementMissing();
+    void onObserved(const QString &topic, const QString &value);
+    void repeatHeldKeys();
+
+    void setState(State state);
+    void stopTalking();
+    void sendState();
+    void enqueueReport(int index);
+    void enqueue(const BoxPackage &package, const QString &meaning);
+    void sendKey(const BoxKey &key, BoxSpeaker::KeyState state);
+    void sendNext();
+    void transmit();
+    QByteArray spoiled(QByteArray frame, QString *meaning);
+    void answer(quint8 byte);
+    void log(const QString &direction, const QByteArray &bytes, const QString &meaning);
+
+    SimulatedCar *m_car;
+    BoxSpeaker *m_speaker;
+    PseudoTerminal m_terminal;
+    FrameReceiver m_receiver;
+    State m_state = WaitsForReady;
+    QMap<QString, QString> m_observations;
+
+    QQueue<Entry> m_queue;
+    QByteArray m_frame; // on its way and not acknowledged; empty for none
+    QString m_frameMeaning;
+    int m_resends = 0;
+    bool m_isListening = false; // a package is being taken in: what it brings about is sent after its answer
+    QTimer m_acknowledgementTimer;
+
+    QStringList m_heldKeys;
+    QTimer m_heldKeyTimer;
+
+    Fault m_fault = NoFault;
+    int m_faultSize = 0;
+    QTimer m_tongueTimer;
+    QRandomGenerator m_noise;
+    QElapsedTimer m_clock;
+};
+
+#endif

@@ -1,0 +1,45 @@
+#ifndef FRAMERECEIVER_H
+#define FRAMERECEIVER_H
+
+#include "frameformat.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+/// The box's ear: finds packages and acknowledgement bytes in what the unit sends.
+///
+/// A bad candidate costs its start byte only, so that a good package inside or behind it is found. One that
+/// is not whole 100 ms after its first byte is given up when the next byte arrives.
+class FrameReceiver : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FrameReceiver(const FrameFormat &format, QObject *parent = nullptr);
+
+    /// Takes what was read from the line.
+    void feed(const QByteArray &bytes);
+    /// Forgets what is not yet whole.
+    void clear();
+
+signals:
+    void packageReceived(const BoxPackage &package, const QByteArray &frame);
+    /// Once per bad package, with the bytes that should have been one.
+    void badChecksum(const QByteArray &frame);
+    /// A byte 0xFF between two packages.
+    void acknowledged();
+
+private:
+    void takeByteBetweenPackages();
+    bool takeCandidate();
+    void reject();
+
+    const FrameFormat &m_format;
+    QByteArray m_buffer;
+    int m_rejected = 0; // bytes left of a candidate that turned out bad: no news in them but a whole package
+    int m_stale = 0;    // bytes left that came too long ago to begin a package that is not whole by now
+    bool m_isWaiting = false; // for the rest of the candidate at the front
+    QElapsedTimer m_candidateAge;
+};
+
+#endif

@@ -1,0 +1,39 @@
+#ifndef RAISESPEAKER_H
+#define RAISESPEAKER_H
+
+#include "boxspeaker.h"
+
+/// What the boxes in the Raise frame have in common: acknowledgements, ready and end, the version text, and
+/// layouts that several cars use. By itself it is a box that knows nothing of its car but answers the
+/// handshake.
+class RaiseSpeaker : public BoxSpeaker
+{
+    Q_OBJECT
+
+public:
+    explicit RaiseSpeaker(SimulatedCar *car, quint8 versionCommand = 0x30, QObject *parent = nullptr);
+
+    bool usesAcknowledgement() const override { return true; }
+
+protected:
+    /// A key row: pressed, held and released go out as data (code, state).
+    void addKeys(BoxKey::Source source, quint8 command, const QVector<QPair<quint8, const char *>> &rows);
+
+    static quint8 bit(bool on, int place) { return on ? quint8(1 << place) : quint8(0); }
+    static QByteArray bytes(std::initializer_list<int> values);
+
+    /// The doors in the upper half of a byte: bit 6 front left, 7 front right, 4 rear left, 5 rear right.
+    static QByteArray doors(const SimulatedCar &car);
+    /// Window, face and feet in bits 7, 6 and 5, the fan in bits 2..0.
+    static quint8 airFlow(const SimulatedCar &car);
+    /// The four sensors of "front" or "rear" by \a levels, which has the box's level for the car's levels 0
+    /// to 6.
+    static QByteArray radar(const SimulatedCar &car, const QString &side, const quint8 (&levels)[7]);
+    /// The nearer of what the sensors \a one and \a other of \a side see, in the car's levels.
+    static int nearerOf(const SimulatedCar &car, const QString &side, int one, int other);
+    /// The steering angle in units of which \a lock make the way from the middle to the right lock.
+    static int steering(const SimulatedCar &car, int lock);
+    static QByteArray littleEndian16(int value);
+};
+
+#endif
