@@ -1,0 +1,75 @@
+#include "inifile.h"
+
+#include "safefile.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QHash>
+#include <QWeakPointer>
+
+namespace {
+
+/// Settings are a few hundred bytes; anything as large as this is none of our files.
+const int maxFileBytes = 1024 * 1024;
+
+} // namespace
+
+IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
+{
+    if (!QFile::exists(path))
+        return;
+    const QByteArray content = SafeFile::read(path, maxFileBytes);
+    if (IniText::read(content, &m_sections)) {
+        m_content = content;
+        return;
+    }
+    const bool found = IniText::read(SafeFile::read(predecessor(), maxFileBytes), &m_sections);
+    qDebug("Settings: %s is damaged, %s", qPrintable(path),
+           found ? "its predecessor is used" : "it counts as empty");
+}
+
+QSharedPointer<IniFile> IniFile::open(const QString &path)
+{
+    static QHash<QString, QWeakPointer<IniFile>> openFiles;
+    QSharedPointer<IniFile> file = openFiles.value(path).toStrongRef();
+    if (!file) {
+        file = QSharedPointer<IniFile>(new IniFile(path));
+        openFiles.insert(path, file.toWeakRef());
+    }
+    return file;
+}
+
+bool IniFile::contains(const QString &section, const QString &key) const
+{
+    return m_sections.value(section).contains(key);
+}
+
+QString IniFile::value(const QString &section, const QString &key) const
+{
+    return m_sections.value(section).value(key);
+}
+
+bool IniFile::setValue(const QString &section, const QString &key, const QString &text)
+{
+    if (contains(section, key) && value(section, key) == text && !m_unsaved)
+        return true;
+    m_sections[section].insert(key, text);
+    m_unsaved = !save();
+    return !m_unsaved;
+}
+
+bool IniFile::save()
+{
+    const QByteArray content = IniText::write(m_sections);
+    if (content.size() > maxFileBytes) {
+        qDebug("Settings: %s would grow past %d bytes", qPrintable(m_path), maxFileBytes);
+        return false;
+    }
+    // The predecessor is renewed first: from here on one of the two files is good at any moment.
+    if (!m_content.isNull() && !SafeFile::replace(predecessor(), m_content))
+        return false;
+    if (!SafeFile::replace(m_path, content))
+        return false;
+    m_content = content;
+    return true;
+}

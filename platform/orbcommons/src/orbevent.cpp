@@ -1,0 +1,31 @@
+#include "orbevent.h"
+
+OrbEvent::OrbEvent(unsigned int source, unsigned int id, int type)
+    : QEvent(static_cast<QEvent::Type>(type)), m_source(source), m_id(id), m_param(0), m_param2(0)
+{}
+
+bool OrbEvent::isOrbEvent(const QEvent *event)
+{
+    return event && int(event->type()) >= FirstType && int(event->type()) <= LastType;
+}
+
+void OrbEvent::setParams(unsigned int param, unsigned int param2)
+{
+    m_param = param;
+    m_param2 = param2;
+}
+
+void OrbEvent::setByteArrayParams(const QByteArray &bytes)
+{
+    m_bytes = bytes;
+}
+
+void OrbEvent::setStringParam(const QString &text)
+{
+    m_string = text;
+}
+
+void OrbEvent::setVariantParam(const QVariant &value)
+{
+    m_variant = value;
+}

@@ -1,0 +1,5 @@
+#include "orbplugin.h"
+
+OrbPlugin::OrbPlugin() {}
+
+OrbPlugin::~OrbPlugin() {}
