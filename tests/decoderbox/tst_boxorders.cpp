@@ -114,7 +114,11 @@ void TestBoxOrders::missingScenario()
 void TestBoxOrders::shippedScenarios_data()
 {
     QTest::addColumn<int>("type");
+    QTest::newRow("mazda") << 5;
+    QTest::newRow("honda") << 7;
     QTest::newRow("toyota") << 9;
+    QTest::newRow("gm") << 10;
+    QTest::newRow("jeep") << 15;
 }
 
 // Every drive that is shipped reads without error, lasts as long as a demonstration should, and leaves the

@@ -1,6 +1,10 @@
 #include "boxcatalog.h"
 
 #include "decoderbox.h"
+#include "speakers/gmspeaker.h"
+#include "speakers/hondaspeaker.h"
+#include "speakers/jeepspeaker.h"
+#include "speakers/mazdaspeaker.h"
 #include "speakers/toyotaspeaker.h"
 
 namespace {
@@ -22,21 +26,14 @@ BoxSpeaker *makePlain(SimulatedCar *car)
 const QVector<BoxCatalog::Row> &BoxCatalog::rows()
 {
     static const QVector<Row> rows = {
-        {1, "CanBus_LiHang_JMCE200N", nullptr},
-        {2, "CanBus_Huida_ZD", nullptr},
-        {3, "CanBus_Raise_Volkswagen", makePlain},
-        {4, "CanBus_XinHang", nullptr},
-        {5, "CanBus_XBS_Mazda", makePlain},
-        {6, "CanBus_XinRi", makePlain},
-        {7, "CanBus_Raise_Honda", makePlain},
-        {8, "CanBus_Raise_Nissan", makePlain},
-        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>},
-        {10, "CanBus_Raise_GM", makePlain},
-        {11, "CanBus_Raise_Haval", makePlain},
-        {12, "CanBus_Raise_GAC", makePlain},
-        {13, "CanBus_Raise_Venucia", makePlain},
-        {14, "CanBus_Raise_Renault", makePlain},
-        {15, "CanBus_Raise_Jeep", makePlain},
+        {1, "CanBus_LiHang_JMCE200N", nullptr},          {2, "CanBus_Huida_ZD", nullptr},
+        {3, "CanBus_Raise_Volkswagen", makePlain},       {4, "CanBus_XinHang", nullptr},
+        {5, "CanBus_XBS_Mazda", make<MazdaSpeaker>},     {6, "CanBus_XinRi", makePlain},
+        {7, "CanBus_Raise_Honda", make<HondaSpeaker>},   {8, "CanBus_Raise_Nissan", makePlain},
+        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>}, {10, "CanBus_Raise_GM", make<GmSpeaker>},
+        {11, "CanBus_Raise_Haval", makePlain},           {12, "CanBus_Raise_GAC", makePlain},
+        {13, "CanBus_Raise_Venucia", makePlain},         {14, "CanBus_Raise_Renault", makePlain},
+        {15, "CanBus_Raise_Jeep", make<JeepSpeaker>},
     };
     return rows;
 }

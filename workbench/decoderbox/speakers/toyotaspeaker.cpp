@@ -2,8 +2,8 @@
 
 namespace {
 
-// This box tells five distances apart; index: the car's level.
-const quint8 radarLevels[7] = {0, 1, 2, 3, 3, 4, 5};
+// This box tells five distances apart; index: the car's level, rounded to the nearer one.
+const quint8 radarLevels[7] = {0, 1, 2, 2, 3, 4, 5};
 
 } // namespace
 
