@@ -1,0 +1,125 @@
+#include "adapterfixture.h"
+
+#include "orbhost.h"
+
+namespace {
+
+const int InitTime = 70; // ms, a little more than an adapter waits before onInited
+
+QtMessageHandler nextHandler = nullptr;
+int broken = 0;
+
+void watchMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (text.startsWith("Object::connect:") || text.startsWith("QObject::connect:"))
+        ++broken;
+    nextHandler(type, context, text);
+}
+
+void setPort(const QVariant &path)
+{
+    OrbHost::instance()->setProductValue("CANPortName", path);
+}
+
+} // namespace
+
+AdapterFixture::AdapterFixture()
+{
+    TestSupport::watchConnects();
+}
+
+AdapterFixture::~AdapterFixture()
+{
+    if (!m_adapter)
+        return;
+    // Without a port name the adapter lets go of the line.
+    setPort(QString());
+    m_adapter->initAdapter();
+    delete m_adapter;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    setPort(QVariant());
+}
+
+void AdapterFixture::open()
+{
+    setPort(box.path());
+    m_adapter->initAdapter();
+}
+
+void AdapterFixture::settle()
+{
+    QTest::qWait(InitTime);
+    box.takeUntilQuiet();
+    trace.take();
+}
+
+QStringList AdapterFixture::exchange(const QByteArrayList &packages)
+{
+    const int wanted = int(packages.size());
+    box.take();
+    trace.take();
+    QStringList faults;
+    if (!box.send(packages.join()))
+        faults << "the line is full";
+    RaiseWire::Traffic traffic;
+    PtyBox::waitUntil([&] { return RaiseWire::parse(box.received()).acknowledgements >= wanted; });
+    traffic = RaiseWire::parse(box.take());
+    if (traffic.acknowledgements != wanted || !traffic.faults.isEmpty())
+        faults << QString("%1 acknowledgements, faults: ").arg(traffic.acknowledgements) +
+                      traffic.faults.join(", ");
+
+    QStringList lines = trace.take();
+    for (const QByteArray &package : packages) {
+        const int at = int(lines.indexOf("ProtocolUtils.recvProtocolData(" + package.toHex() + ')'));
+        if (at < 0 || lines.value(at + 1) != "ProtocolUtils.writeDatas_direct(ff)")
+            faults << "not acknowledged first: " + package.toHex(' ');
+        else
+            lines.erase(lines.begin() + at, lines.begin() + at + 2);
+    }
+    return lines + faults;
+}
+
+QStringList AdapterFixture::exchange(const char *packages)
+{
+    QByteArrayList frames;
+    for (const QByteArray &package : QByteArray(packages).split('|'))
+        frames << RaiseWire::frame(package);
+    return exchange(frames);
+}
+
+void TestSupport::watchConnects()
+{
+    // Qt Test installs a handler of its own for each program; stay in front of it.
+    const QtMessageHandler before = qInstallMessageHandler(watchMessage);
+    if (before != watchMessage)
+        nextHandler = before;
+}
+
+int TestSupport::brokenConnects()
+{
+    return broken;
+}
+
+QStringList TestSupport::words(const QString &prefix, const QString &text)
+{
+    QStringList lines;
+    for (const QString &word : text.split(' ', Qt::SkipEmptyParts))
+        lines << prefix + word;
+    return lines;
+}
+
+QString TestSupport::key(int code, bool press, bool autoRepeat, int last)
+{
+    return QString("OrbApplication.simulateKey(%1,%2,%3,%4)")
+        .arg(code)
+        .arg(press ? "true" : "false", autoRepeat ? "true" : "false")
+        .arg(last);
+}
+
+QStringList TestSupport::taps(int code, int count, int last)
+{
+    QStringList lines;
+    for (int i = 0; i < count; ++i)
+        lines << key(code, true, false, last) << key(code, false, false, last);
+    return lines;
+}

@@ -1,0 +1,87 @@
+#ifndef ADAPTERFIXTURE_H
+#define ADAPTERFIXTURE_H
+
+#include "ptybox.h"
+#include "raisewire.h"
+#include "tracerecorder.h"
+
+#include "canbusadapter.h"
+#include "orbapplication.h"
+
+#include <QTest>
+
+/// One decoder adapter on a pseudo-terminal, its calls on the framework recorded. Built inside a test
+/// function or initTestCase (then shared by the rows of a table); needs an OrbApplication, see
+/// CANBUS_TEST_MAIN.
+class AdapterFixture
+{
+public:
+    AdapterFixture();
+    ~AdapterFixture();
+
+    PtyBox box;
+    TraceRecorder trace;
+
+    /// Builds an adapter and starts it on the pseudo-terminal: construct() alone does not open the line yet,
+    /// so that product values read later than the constructor can still be set. The fixture owns it.
+    template <class Adapter>
+    Adapter *construct()
+    {
+        Adapter *const adapter = new Adapter;
+        m_adapter = adapter;
+        return adapter;
+    }
+    void open();
+
+    /// construct(), open(), and what the unit says at start-up awaited and forgotten.
+    template <class Adapter>
+    Adapter *start()
+    {
+        Adapter *const adapter = construct<Adapter>();
+        open();
+        settle();
+        return adapter;
+    }
+
+    /// Waits until onInited has run and the line is quiet, then forgets what was recorded and received.
+    void settle();
+
+    /// Sends Raise packages in one go and returns what the unit then called, in order. Every package must be
+    /// acknowledged with one 0xFF before anything else happens, on the line as well; a breach is reported as
+    /// a line of its own. The acknowledgements are left out of the result.
+    QStringList exchange(const QByteArrayList &packages);
+
+    /// exchange() of "20 01 01 | 20 01 00": commands and data in hexadecimal, packages apart by bars.
+    QStringList exchange(const char *packages);
+
+private:
+    CanBusAdapter *m_adapter = nullptr;
+};
+
+namespace TestSupport {
+
+/// Counts Qt's complaints about string-based connects from now on; Qt reports them as log lines only.
+void watchConnects();
+int brokenConnects();
+
+/// "a b c" becomes {"PREFIXa", "PREFIXb", "PREFIXc"}.
+QStringList words(const QString &prefix, const QString &text);
+
+/// Trace line of one simulated key.
+QString key(int code, bool press, bool autoRepeat, int last);
+/// Trace lines of \a count presses and releases of a key.
+QStringList taps(int code, int count = 1, int last = 0);
+
+} // namespace TestSupport
+
+/// main() of a test program whose class is \a TestClass: one OrbApplication; fails on a broken connect.
+#define CANBUS_TEST_MAIN(TestClass)                                                                          \
+    int main(int argc, char **argv)                                                                          \
+    {                                                                                                        \
+        OrbApplication application(argc, argv);                                                              \
+        TestClass test;                                                                                      \
+        const int result = QTest::qExec(&test, argc, argv);                                                  \
+        return result != 0 ? result : TestSupport::brokenConnects();                                         \
+    }
+
+#endif // ADAPTERFIXTURE_H
