@@ -1,0 +1,89 @@
+#include "headunit.h"
+
+#include "orbapplication.h"
+#include "orbevent.h"
+#include "orbhost.h"
+
+HeadUnit::HeadUnit(QObject *parent) : QObject(parent) {}
+
+HeadUnit::~HeadUnit()
+{
+    unloadPlugin();
+}
+
+bool HeadUnit::loadPlugin(const QString &path, QString *error)
+{
+    if (m_plugin) {
+        *error = "a plug-in is loaded already";
+        return false;
+    }
+    if (!m_library.load(path, error)) {
+        return false;
+    }
+    m_plugin = m_library.create();
+    if (!m_plugin) {
+        *error = path + ": its entry point 'create' built no plug-in";
+    }
+    return m_plugin != nullptr;
+}
+
+void HeadUnit::unloadPlugin()
+{
+    if (OrbPlugin *plugin = m_plugin) {
+        m_plugin = nullptr;
+        m_library.destroy(plugin);
+    }
+}
+
+void HeadUnit::post(OrbEvent *event)
+{
+    if (m_plugin) {
+        QCoreApplication::postEvent(m_plugin, event);
+    } else {
+        delete event;
+    }
+}
+
+void HeadUnit::showApp(uint appId)
+{
+    postNumbers(OrbEvent::ShowAppType, appId, 0);
+}
+
+void HeadUnit::notify(uint param, uint param2)
+{
+    postNumbers(OrbEvent::NotifyType, param, param2);
+}
+
+void HeadUnit::changeState(uint state, uint mask)
+{
+    postNumbers(OrbEvent::AppStateType, state, mask);
+}
+
+bool HeadUnit::key(uint code, KeyPhase phase)
+{
+    if (OrbHost::instance()->filterKey(code, phase != KeyReleased, phase == KeyRepeated)) {
+        return true;
+    }
+    postNumbers(OrbEvent::KeyType, code, phase);
+    return false;
+}
+
+void HeadUnit::setMode(uint mode, uint other)
+{
+    m_mode = mode;
+    emit modeChanged(mode);
+    emit OrbApplication::instance()->modeAppChanged(mode, other);
+}
+
+void HeadUnit::setDisk(int disk, int status, const QStringList &partitions)
+{
+    OrbHost::instance()->setDiskPartitions(disk, partitions);
+    emit OrbApplication::instance()->diskDeviceStatusChange(disk, status);
+}
+
+void HeadUnit::postNumbers(int type, uint param, uint param2)
+{
+    OrbEvent *event = new OrbEvent(0, 0, type);
+    event->setParams(param, param2);
+    post(event);
+}

@@ -1,0 +1,37 @@
+#include "unitscreen.h"
+
+#include "orbhost.h"
+
+#include <QImageWriter>
+#include <QPixmap>
+
+UnitScreen::UnitScreen(const QSize &size, QWidget *parent)
+    : QWidget(parent), m_statusArea(new QWidget(this)), m_windowArea(new QWidget(this))
+{
+    setObjectName("unitScreen");
+    setFixedSize(size);
+    m_statusArea->setGeometry(0, 0, size.width(), statusHeight);
+    m_windowArea->setGeometry(0, statusHeight, size.width(), size.height() - statusHeight);
+    QPalette dark = palette();
+    dark.setColor(QPalette::Window, QColor("#0E1116"));
+    setPalette(dark);
+    setAutoFillBackground(true);
+    OrbHost::instance()->setScreen(this, m_windowArea);
+}
+
+UnitScreen::~UnitScreen()
+{
+    if (OrbHost::instance()->screen() == this) {
+        OrbHost::instance()->setScreen(nullptr, nullptr);
+    }
+}
+
+bool UnitScreen::saveScreenshot(const QString &path, QString *error)
+{
+    QImageWriter writer(path, "png");
+    const bool ok = writer.write(grab().toImage());
+    if (!ok) {
+        *error = path + ": " + writer.errorString();
+    }
+    return ok;
+}
