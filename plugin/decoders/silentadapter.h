@@ -9,6 +9,11 @@ class SilentAdapter : public CanBusAdapter
     Q_OBJECT
 
 public:
+    int getPackageMinSize() override;
+    int findPackageStartSig(int from) override;
+    int getPackageSize(int start) override;
+    bool isAvaliablePackage(int start, int last, int size) override;
+
     bool getPortSettings(PortSettings &settings) override;
 
 public Q_SLOTS:

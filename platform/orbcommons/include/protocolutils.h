@@ -46,17 +46,18 @@ public:
     /// `TAG send TIME HEX`.
     void setDebugMode(const QString &tag, bool on);
 
-    /// Hooks that describe a protocol, asked with indexes into recvBuffer. The defaults frame nothing.
+    /// Hooks that describe a protocol, asked with indexes into recvBuffer.
     ///
-    /// Fewest bytes from which the size of a package can be read; at least 1.
-    virtual int getPackageMinSize();
+    /// Fewest bytes from which the size of a package can be read; at least 1. Asked when a device is
+    /// attached.
+    virtual int getPackageMinSize() = 0;
     /// Index of the next start of a package at or after \a from, or -1.
-    virtual int findPackageStartSig(int from);
+    virtual int findPackageStartSig(int from) = 0;
     /// Length in bytes of the whole package that starts at \a start; getPackageMinSize() bytes are there.
     /// At most 512; a larger answer, or one below getPackageMinSize(), counts as a bad candidate.
-    virtual int getPackageSize(int start);
+    virtual int getPackageSize(int start) = 0;
     /// Whether the \a size bytes from \a start to \a last are a good package; all of them are there.
-    virtual bool isAvaliablePackage(int start, int last, int size);
+    virtual bool isAvaliablePackage(int start, int last, int size) = 0;
 
 public Q_SLOTS:
     /// One read-and-frame step: drains the device and emits every good package. Subclasses that override it
@@ -75,6 +76,7 @@ protected:
 private Q_SLOTS:
     void onDeviceAnnouncesData();
     void onDeviceLost();
+    void onDeviceDestroyed();
     void onPollTimer();
     void onPaceTimer();
     void onReopenTimer();
@@ -82,8 +84,8 @@ private Q_SLOTS:
 private:
     void startPolling();
     void framePackages();
-    void emitPackage(int start, int size);
-    void deliver(const QByteArray &package);
+    void emitPackage(const char *bytes, int size);
+    void emitPackageWatched(const char *bytes, int size);
     void sendQueued();
     void writeNow(const QByteArray &bytes);
 

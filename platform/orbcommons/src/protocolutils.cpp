@@ -5,7 +5,6 @@
 #include <QDebug>
 #include <QElapsedTimer>
 #include <QIODevice>
-#include <QPointer>
 #include <QQueue>
 #include <QTimer>
 
@@ -49,10 +48,14 @@ public:
         : poll(new QTimer(parent))
         , reopen(new QTimer(parent))
         , pace(new QTimer(parent))
+        , device(nullptr)
+        , isOpen(false)
         , openMode(QIODevice::ReadWrite)
         , announces(false)
         , received(false)
+        , minimum(1)
         , cursor(0)
+        , candidateSize(0)
         , needed(0)
         , streamBase(0)
         , listenTime(0)
@@ -62,8 +65,6 @@ public:
         , interval(0)
         , debug(false)
     {}
-
-    bool isOpen() const { return device && device->isOpen(); }
 
     void setPollInterval(int milliseconds)
     {
@@ -77,16 +78,23 @@ public:
                package.toHex().constData());
     }
 
-    // Moves what is not framed yet to the front and makes room for one read behind it.
-    char *makeRoom(QByteArray *buffer)
+    // Moves what is not framed yet to the front of \a buffer and returns the place behind it, with room for
+    // one read.
+    char *compact(QByteArray *buffer)
     {
-        const int rest = buffer->size() - cursor;
-        if (rest > 0 && cursor > 0)
-            memmove(buffer->data(), buffer->constData() + cursor, static_cast<size_t>(rest));
-        streamBase += cursor;
-        cursor = 0;
-        buffer->resize(rest + ReadSize);
-        return buffer->data() + rest;
+        const int rest = static_cast<int>(buffer->size()) - cursor;
+        char *bytes = buffer->data();
+        if (buffer->capacity() < rest + ReadSize) {
+            buffer->reserve(LongestPackage + ReadSize);
+            bytes = buffer->data();
+        }
+        if (cursor > 0) {
+            if (rest > 0)
+                memmove(bytes, bytes + cursor, static_cast<size_t>(rest));
+            streamBase += cursor;
+            cursor = 0;
+        }
+        return bytes + rest;
     }
 
     // Notes what has been read by now; called from the poll, so one mark stands for a whole poll interval.
@@ -111,13 +119,16 @@ public:
     QTimer *const reopen;
     QTimer *const pace;
 
-    QPointer<QIODevice> device;
+    QIODevice *device;
+    bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
     QIODevice::OpenMode openMode;
     bool announces; // the device has emitted readyRead
     bool received;  // something was read since the last poll
 
+    int minimum;       // bytes from which the size of a package can be read
     int cursor;        // index in recvBuffer of the first byte that is not framed yet
-    int needed;        // bytes from the cursor on that the unfinished candidate there needs; 0: none
+    int candidateSize; // length of the unfinished package at the cursor, 0 while it is not known
+    int needed;        // bytes from the cursor on without which there is nothing to frame
     qint64 streamBase; // place of recvBuffer[0] in all that was ever read
     qint64 listenTime; // ms during which the framer could have read
     int quietTime;     // ms without data
@@ -158,8 +169,10 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     if (m_d->device)
         disconnect(m_d->device, nullptr, this, nullptr);
     m_d->device = device;
+    m_d->isOpen = device && device->isOpen();
     m_d->announces = false;
     m_d->cursor = 0;
+    m_d->candidateSize = 0;
     m_d->needed = 0;
     m_d->marks.clear();
     m_d->unsent.clear();
@@ -169,9 +182,11 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     m_d->reopen->stop();
     if (!device)
         return;
+    m_d->minimum = qMax(1, getPackageMinSize());
     connect(device, SIGNAL(readyRead()), this, SLOT(onDeviceAnnouncesData()));
     connect(device, SIGNAL(readChannelFinished()), this, SLOT(onDeviceLost()));
-    if (device->isOpen()) {
+    connect(device, SIGNAL(destroyed()), this, SLOT(onDeviceDestroyed()));
+    if (m_d->isOpen) {
         m_d->openMode = device->openMode();
         startPolling();
     } else {
@@ -190,26 +205,6 @@ void ProtocolUtils::startPolling()
 
 // ---------------------------------------------------------------------------------------------- reading
 
-int ProtocolUtils::getPackageMinSize()
-{
-    return 1;
-}
-
-int ProtocolUtils::findPackageStartSig(int)
-{
-    return -1;
-}
-
-int ProtocolUtils::getPackageSize(int)
-{
-    return 0;
-}
-
-bool ProtocolUtils::isAvaliablePackage(int, int, int)
-{
-    return false;
-}
-
 void ProtocolUtils::onDeviceAnnouncesData()
 {
     m_d->announces = true;
@@ -219,21 +214,22 @@ void ProtocolUtils::onDeviceAnnouncesData()
 
 void ProtocolUtils::onReadDeviceDatas()
 {
-    while (m_d->isOpen()) {
-        QIODevice *const device = m_d->device;
-        char *const room = m_d->makeRoom(&recvBuffer);
-        const qint64 count = device->read(room, ReadSize);
-        const int held = recvBuffer.size() - ReadSize;
-        recvBuffer.resize(held + static_cast<int>(qMax(count, Q_INT64_C(0))));
-        if (count < 0)
-            onDeviceLost();
-        if (count <= 0)
+    while (m_d->isOpen) {
+        // The device writes behind the bytes that are held, into reserved room; the size follows what came.
+        char *const room = m_d->compact(&recvBuffer);
+        const int held = static_cast<int>(room - recvBuffer.constData());
+        const int count = static_cast<int>(m_d->device->read(room, ReadSize));
+        recvBuffer.resize(held + qMax(count, 0));
+        if (count <= 0) {
+            if (count < 0)
+                onDeviceLost();
             return;
+        }
         m_d->received = true;
         if (held + count >= m_d->needed)
             framePackages();
         // A full read says that there may be more; after a short one the device is asked.
-        if (count < ReadSize && (!m_d->isOpen() || m_d->device->bytesAvailable() <= 0))
+        if (count < ReadSize && (!m_d->isOpen || m_d->device->bytesAvailable() <= 0))
             return;
     }
 }
@@ -243,55 +239,68 @@ void ProtocolUtils::onReadDeviceDatas()
 // buffer is remembered across an emission.
 void ProtocolUtils::framePackages()
 {
-    const int minimum = qMax(1, getPackageMinSize());
-    m_d->needed = minimum;
-    while (recvBuffer.size() - m_d->cursor >= minimum) {
-        const int start = findPackageStartSig(m_d->cursor);
-        if (start < m_d->cursor) {
-            m_d->cursor = recvBuffer.size();
-            break;
+    Private *const p = m_d;
+    const int minimum = p->minimum;
+    int cursor = p->cursor;
+    int size = p->candidateSize;
+    p->candidateSize = 0;
+    p->needed = minimum;
+    forever
+    {
+        if (size == 0) {
+            if (recvBuffer.size() - cursor < minimum)
+                break;
+            const int start = findPackageStartSig(cursor);
+            if (start != cursor) {
+                cursor = start < cursor ? static_cast<int>(recvBuffer.size()) : start;
+                continue;
+            }
+            size = getPackageSize(cursor);
         }
-        m_d->cursor = start;
-        const int available = recvBuffer.size() - start;
-        if (available < minimum)
+        if (size > LongestPackage || size < minimum) {
+            ++cursor;
+        } else if (recvBuffer.size() - cursor < size) {
+            p->candidateSize = size;
+            p->needed = size;
             break;
-        const int size = getPackageSize(start);
-        if (size < minimum || size > LongestPackage) {
-            m_d->cursor = start + 1;
-        } else if (size > available) {
-            m_d->needed = size;
-            break;
-        } else if (!isAvaliablePackage(start, start + size - 1, size)) {
-            m_d->cursor = start + 1;
+        } else if (!isAvaliablePackage(cursor, cursor + size - 1, size)) {
+            // A bad candidate costs its start byte only: a good package may lie inside it.
+            ++cursor;
         } else {
-            m_d->cursor = start + size;
-            emitPackage(start, size);
+            p->cursor = cursor + size;
+            emitPackage(recvBuffer.constData() + cursor, size);
+            cursor = p->cursor;
         }
+        size = 0;
     }
+    p->cursor = cursor;
 }
 
-void ProtocolUtils::emitPackage(int start, int size)
+inline void ProtocolUtils::emitPackage(const char *bytes, int size)
 {
-    const char *const bytes = recvBuffer.constData() + start;
-    if (m_d->emitting) {
-        // A slot further up still reads the shared array.
-        deliver(QByteArray(bytes, size));
+    if (m_d->emitting || m_d->debug || OrbTrace::listener) {
+        emitPackageWatched(bytes, size);
         return;
     }
-    if (!m_d->emission.isDetached()) {
-        m_d->emission = QByteArray();
-        m_d->emission.reserve(LongestPackage);
+    // One array carries every package while no receiver keeps it; it has room for the longest.
+    QByteArray &emission = m_d->emission;
+    if (!emission.isDetached()) {
+        emission = QByteArray();
+        emission.reserve(LongestPackage);
     }
-    if (m_d->emission.size() != size)
-        m_d->emission.resize(size);
-    memcpy(m_d->emission.data(), bytes, static_cast<size_t>(size));
+    if (emission.size() != size)
+        emission.resize(size);
+    memcpy(const_cast<char *>(emission.constData()), bytes, static_cast<size_t>(size));
     m_d->emitting = true;
-    deliver(m_d->emission);
+    Q_EMIT recvProtocolData(emission);
     m_d->emitting = false;
 }
 
-inline void ProtocolUtils::deliver(const QByteArray &package)
+// Somebody watches, or a slot further up still reads the emission array: this package gets an array of its
+// own.
+void ProtocolUtils::emitPackageWatched(const char *bytes, int size)
 {
+    const QByteArray package(bytes, size);
     if (OrbTrace::listener)
         OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", QVariantList() << package);
     if (m_d->debug)
@@ -303,7 +312,7 @@ void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
     onReadDeviceDatas();
-    if (!m_d->isOpen())
+    if (!m_d->isOpen)
         return;
 
     const int elapsed = static_cast<int>(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
@@ -313,6 +322,7 @@ void ProtocolUtils::onPollTimer()
     m_d->mark(m_d->streamBase + recvBuffer.size());
     while (recvBuffer.size() > m_d->cursor && m_d->isStale()) {
         ++m_d->cursor;
+        m_d->candidateSize = 0;
         framePackages();
     }
     if (m_d->quietTime < BusyTime || recvBuffer.size() > m_d->cursor)
@@ -347,14 +357,14 @@ void ProtocolUtils::writeDatas_direct(const QByteArray &bytes)
 {
     if (OrbTrace::listener)
         OrbTrace::listener->called("ProtocolUtils", "writeDatas_direct", QVariantList() << bytes);
-    if (m_d->isOpen() && m_d->unsent.size() < UnsentLimit)
+    if (m_d->isOpen && m_d->unsent.size() < UnsentLimit)
         writeNow(bytes);
 }
 
 // Sends what may leave by now and arms the timer for the rest.
 void ProtocolUtils::sendQueued()
 {
-    while (m_d->isOpen() && !m_d->queue.isEmpty()) {
+    while (m_d->isOpen && !m_d->queue.isEmpty()) {
         const qint64 wait = m_d->sinceWrite.isValid() ? m_d->interval - m_d->sinceWrite.elapsed() : 0;
         if (wait > 0 || !m_d->unsent.isEmpty()) {
             if (!m_d->pace->isActive())
@@ -372,7 +382,7 @@ void ProtocolUtils::sendQueued()
 
 void ProtocolUtils::onPaceTimer()
 {
-    if (m_d->isOpen() && !m_d->unsent.isEmpty()) {
+    if (m_d->isOpen && !m_d->unsent.isEmpty()) {
         const QByteArray rest = m_d->unsent;
         m_d->unsent.clear();
         writeNow(rest);
@@ -400,7 +410,7 @@ void ProtocolUtils::writeNow(const QByteArray &bytes)
 
 void ProtocolUtils::onDeviceLost()
 {
-    if (m_d->reopen->isActive() || !m_d->device)
+    if (!m_d->isOpen)
         return;
     qWarning("ProtocolUtils: lost the device (%s), trying again every second",
              qPrintable(m_d->device->errorString()));
@@ -408,17 +418,21 @@ void ProtocolUtils::onDeviceLost()
     m_d->pace->stop();
     m_d->unsent.clear();
     m_d->reopen->start();
+    m_d->isOpen = false;
     m_d->device->close();
+}
+
+void ProtocolUtils::onDeviceDestroyed()
+{
+    m_d->device = nullptr; // nothing to disconnect from
+    attachIODevice(nullptr);
 }
 
 void ProtocolUtils::onReopenTimer()
 {
-    if (!m_d->device) {
-        m_d->reopen->stop();
-        return;
-    }
     if (!m_d->device->isOpen() && !m_d->device->open(m_d->openMode))
         return;
+    m_d->isOpen = true;
     m_d->reopen->stop();
     qWarning("ProtocolUtils: the device is there again");
     startPolling();

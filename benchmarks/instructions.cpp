@@ -1,0 +1,105 @@
+// One stretch of work for callgrind to count: benchmarks/instructions.sh runs it and divides.
+//
+//     instructions WORK READ_SIZE COUNT
+//
+// WORK: emit (the signal alone, COUNT times), device (the device's own share of reading COUNT packages),
+// clean, corrupted (COUNT packages), startbytes, longlengths (COUNT bytes).
+
+#include "memorydevice.h"
+#include "streams.h"
+
+#include "raise/raiseadapter.h"
+
+#include "orbapplication.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// Receives as an adapter does: the framer's signal goes to a slot of the same object.
+class Receiver : public RaiseAdapter
+{
+public:
+    Receiver() : received(0) {}
+
+    void onRecvMcuProtocol(const QByteArray &package) override { received += package.size(); }
+
+    qint64 received;
+};
+
+void receiveAll(Receiver *receiver, MemoryDevice *device)
+{
+    receiver->attachIODevice(device);
+    while (device->arm())
+        receiver->onReadDeviceDatas();
+}
+
+QByteArray streamOf(const QByteArray &work, int count)
+{
+    if (work == "corrupted")
+        return Streams::corrupted(count, 20);
+    if (work == "startbytes")
+        return Streams::startBytes(count);
+    if (work == "longlengths")
+        return Streams::longLengths(count);
+    return Streams::clean(count);
+}
+
+} // namespace
+
+// callgrind counts inside these functions only.
+
+extern "C" __attribute__((noinline)) void measuredReceive(Receiver *receiver, MemoryDevice *device)
+{
+    receiveAll(receiver, device);
+}
+
+extern "C" __attribute__((noinline)) qint64 measuredDevice(MemoryDevice *device, char *buffer, qint64 size)
+{
+    qint64 total = 0;
+    while (device->arm()) {
+        do
+            total += device->read(buffer, size);
+        while (device->bytesAvailable() > 0);
+    }
+    return total;
+}
+
+extern "C" __attribute__((noinline)) void measuredEmit(Receiver *receiver, const QByteArray *package,
+                                                       int count)
+{
+    for (int i = 0; i < count; ++i)
+        Q_EMIT receiver->recvProtocolData(*package);
+}
+
+int main(int argc, char **argv)
+{
+    if (argc != 4) {
+        fprintf(stderr, "usage: instructions WORK READ_SIZE COUNT\n");
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    OrbApplication app(argc, argv);
+    const QByteArray work = argv[1];
+    const int readSize = atoi(argv[2]);
+    const int count = atoi(argv[3]);
+
+    Receiver receiver;
+    // Once unmeasured, so that only the steady state counts.
+    MemoryDevice warmUp(Streams::clean(100), readSize);
+    receiveAll(&receiver, &warmUp);
+    if (work == "emit") {
+        const QByteArray package = Streams::clean(1);
+        measuredEmit(&receiver, &package, count);
+    } else if (work == "device") {
+        QByteArray buffer(4096, '\0');
+        MemoryDevice device(Streams::clean(count), readSize);
+        receiver.received = measuredDevice(&device, buffer.data(), buffer.size());
+    } else {
+        MemoryDevice device(streamOf(work, count), readSize);
+        measuredReceive(&receiver, &device);
+    }
+    printf("%lld\n", static_cast<long long>(receiver.received));
+    return 0;
+}

@@ -1,0 +1,54 @@
+#ifndef MEMORYDEVICE_H
+#define MEMORYDEVICE_H
+
+#include <QByteArray>
+#include <QIODevice>
+
+#include <cstring>
+
+/// A line that delivers a recorded stream in reads of a given size: each time that it is armed, one read's
+/// worth has arrived. What is written to it is dropped.
+class MemoryDevice : public QIODevice
+{
+public:
+    MemoryDevice(const QByteArray &stream, int readSize)
+        : m_stream(stream), m_readSize(readSize), m_at(0), m_arrived(0)
+    {
+        open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    }
+
+    /// The next bytes arrive; false at the end of the stream.
+    bool arm()
+    {
+        m_arrived = qMin(m_at + m_readSize, m_stream.size());
+        return m_arrived > m_at;
+    }
+
+    void rewind()
+    {
+        m_at = 0;
+        m_arrived = 0;
+    }
+
+    bool isSequential() const override { return true; }
+    qint64 bytesAvailable() const override { return m_arrived - m_at; }
+
+protected:
+    qint64 readData(char *data, qint64 maxSize) override
+    {
+        const int count = static_cast<int>(qMin<qint64>(maxSize, m_arrived - m_at));
+        memcpy(data, m_stream.constData() + m_at, static_cast<size_t>(count));
+        m_at += count;
+        return count;
+    }
+
+    qint64 writeData(const char *, qint64 size) override { return size; }
+
+private:
+    const QByteArray m_stream;
+    const int m_readSize;
+    int m_at;
+    int m_arrived;
+};
+
+#endif // MEMORYDEVICE_H

@@ -1,0 +1,83 @@
+#include "streams.h"
+
+#include <random>
+
+namespace {
+
+QByteArray frame(const QByteArray &data, char command)
+{
+    QByteArray frame;
+    frame += '\x2E';
+    frame += command;
+    frame += static_cast<char>(data.size());
+    frame += data;
+    unsigned int sum = 0;
+    for (int i = 1; i < frame.size(); ++i)
+        sum += static_cast<unsigned char>(frame.at(i));
+    frame += static_cast<char>(~sum);
+    return frame;
+}
+
+QByteArray joined(const QList<QByteArray> &packages)
+{
+    QByteArray stream;
+    for (const QByteArray &package : packages)
+        stream += package;
+    return stream;
+}
+
+} // namespace
+
+QList<QByteArray> Streams::packages(int count, int dataBytes)
+{
+    std::mt19937 random(1);
+    QList<QByteArray> packages;
+    for (int i = 0; i < count; ++i) {
+        QByteArray data(dataBytes, '\0');
+        for (int j = 0; j < dataBytes; ++j)
+            data[j] = static_cast<char>(random());
+        packages.append(frame(data, static_cast<char>(random() % 0x60 + 0x30)));
+    }
+    return packages;
+}
+
+QByteArray Streams::clean(int count, int dataBytes)
+{
+    return joined(packages(count, dataBytes));
+}
+
+QByteArray Streams::corrupted(int count, int distance)
+{
+    std::mt19937 random(2);
+    QList<QByteArray> all = packages(count);
+    for (int i = 0; i < all.size(); i += distance) {
+        QByteArray &package = all[i];
+        const int at = static_cast<int>(random() % static_cast<unsigned int>(package.size()));
+        package[at] = static_cast<char>(package.at(at) ^ static_cast<char>(random() % 255 + 1));
+    }
+    return joined(all);
+}
+
+QByteArray Streams::noisy(int count)
+{
+    std::mt19937 random(3);
+    static const char answers[] = {'\xFF', '\xF0', '\xF3', '\xFC'};
+    QByteArray stream;
+    for (const QByteArray &package : packages(count)) {
+        stream += package;
+        stream += answers[random() % 4];
+        for (unsigned int i = random() % 8; i > 0; --i)
+            stream += static_cast<char>(random());
+    }
+    return stream;
+}
+
+QByteArray Streams::startBytes(int bytes)
+{
+    return QByteArray(bytes, '\x2E');
+}
+
+QByteArray Streams::longLengths(int bytes)
+{
+    return QByteArray("\x2E\x20\xFF").repeated(bytes / 3);
+}

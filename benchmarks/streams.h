@@ -1,0 +1,30 @@
+#ifndef STREAMS_H
+#define STREAMS_H
+
+#include <QByteArray>
+#include <QList>
+
+/// Byte streams to frame, the same in every run.
+namespace Streams {
+
+/// The good packages of clean(), one by one.
+QList<QByteArray> packages(int count, int dataBytes = 8);
+
+/// \a count good packages with \a dataBytes data bytes each and changing contents.
+QByteArray clean(int count, int dataBytes = 8);
+
+/// clean() with one byte changed in every \a distance-th package.
+QByteArray corrupted(int count, int distance);
+
+/// Good packages with single answer bytes and line noise between them.
+QByteArray noisy(int count);
+
+/// \a bytes start bytes and nothing else.
+QByteArray startBytes(int bytes);
+
+/// Start bytes that announce the longest package, over and over.
+QByteArray longLengths(int bytes);
+
+} // namespace Streams
+
+#endif // STREAMS_H
