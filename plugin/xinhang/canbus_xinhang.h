@@ -8,6 +8,12 @@ class CanBus_XinHang : public CanBusAdapter
 {
     Q_OBJECT
 
+public:
+    int getPackageMinSize() override { return 4; }
+    int findPackageStartSig(int) override { return -1; }
+    int getPackageSize(int) override { return 0; }
+    bool isAvaliablePackage(int, int, int) override { return false; }
+
 public Q_SLOTS:
     void onRecvMcuProtocol(const QByteArray &) override {}
     void onRecvAppProtocol(const QByteArray &) override {}
