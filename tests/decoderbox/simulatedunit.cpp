@@ -72,6 +72,7 @@ void SimulatedUnit::read()
             m_acknowledgements = qMax(-1, m_acknowledgements - 1);
             write(QByteArray(1, '\xFF'));
         }
+        emit arrived(m_packages.last().bytes);
     }
 }
 
@@ -94,4 +95,13 @@ QByteArray raiseFrame(const char *commandAndDataHex)
         sum = quint8(sum + quint8(byte));
     }
     return '\x2E' + body + char(0xFF - sum);
+}
+
+QByteArray xinHangFrame(const QByteArray &commandAndData)
+{
+    quint8 sum = 0;
+    for (const char byte : commandAndData) {
+        sum = quint8(sum + quint8(byte));
+    }
+    return '\xF0' + QByteArray(1, char(commandAndData.size())) + commandAndData + char(0xFF - sum);
 }

@@ -42,6 +42,9 @@ public:
     const QByteArray &singleBytes() const { return m_singleBytes; }
     void forget();
 
+signals:
+    void arrived(const QByteArray &frame);
+
 private:
     void read();
 
@@ -58,8 +61,12 @@ private:
 /// The box of the CAN-bus type \a type on a terminal of its own; fails the program when there is none.
 std::unique_ptr<DecoderBox> openBox(int type);
 
-/// The Raise frame of a command and data in hex, put together by hand arithmetic's rule: one's complement of
-/// the sum.
+/// The frame around a command and data in hex, put together by the checksum's own rule.
 QByteArray raiseFrame(const char *commandAndDataHex);
+QByteArray xinHangFrame(const QByteArray &commandAndData);
+inline QByteArray xinHangFrame(const char *commandAndDataHex)
+{
+    return xinHangFrame(QByteArray::fromHex(commandAndDataHex));
+}
 
 #endif

@@ -48,6 +48,9 @@ private slots:
     void knobTurns();
     void observations_data();
     void observations();
+    void xinHangAnswersEveryReady();
+    void xinHangUnitSwitchesTheScreen();
+    void xinHangTouch();
     void everyReportIsAboutSomething_data();
     void everyReportIsAboutSomething();
 
@@ -57,6 +60,7 @@ private:
     void hondaReports();
     void gmReports();
     void mazdaReports();
+    void xinHangReports();
 };
 
 void TestBoxPackages::reports_data()
@@ -69,6 +73,7 @@ void TestBoxPackages::reports_data()
     hondaReports();
     gmReports();
     mazdaReports();
+    xinHangReports();
 }
 
 void TestBoxPackages::row(int type, const char *name, const char *changes, const char *report,
@@ -160,6 +165,30 @@ void TestBoxPackages::mazdaReports()
         "08 00 00 00 00 00 02 04");
 }
 
+void TestBoxPackages::xinHangReports()
+{
+    row(4, "car type", "box.car_type 261", "car type", "0a 01 05");
+    row(4, "version ends in NULs", "box.version V2", "version",
+        "05 56 32 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
+    row(4, "radar maxima", "box.radar_maxima 1,2,3,4,5,6,255,0", "radar maxima",
+        "09 01 02 03 04 05 06 ff 00");
+    row(4, "fewer radar sensors", "box.radar_maxima 9,9", "radar maxima", "09 09 09 00 00 00 00 00 00");
+    row(4, "factory screen", "screen.factory on", "status", "01 10 00 00 00");
+    row(4, "reverse gear", "gear.reverse on", "status", "01 20 00 00 00");
+    row(4, "right indicator", "indicator.right on", "status", "01 40 00 00 00");
+    row(4, "left doors", "doors.front_left on; doors.rear_left on", "status", "01 00 05 00 00");
+    row(4, "right doors and lights", "doors.front_right on; doors.rear_right on; light.illumination on",
+        "status", "01 00 0a 01 00");
+    row(4, "left lock", "steering.angle -540", "radar and steering", "02 28 00 00 00 00 00 00 00 00");
+    row(4, "68 degrees to the right", "steering.angle 68", "radar and steering",
+        "02 85 00 00 00 00 00 00 00 00");
+    row(4, "front radar of seven steps", "radar.front.1 1; radar.front.2 3; radar.front.3 5; radar.front.4 6",
+        "radar and steering", "02 00 01 03 05 07 00 00 00 00");
+    row(4, "rear radar of other steps",
+        "box.radar_maxima 0,0,0,0,3,60,255,0; radar.rear.1 1; radar.rear.2 2; radar.rear.3 6",
+        "radar and steering", "02 00 00 00 00 00 01 14 ff 00");
+}
+
 void TestBoxPackages::reports()
 {
     QFETCH(int, type);
@@ -186,6 +215,11 @@ void TestBoxPackages::keys_data()
     QTest::newRow("jeep: wheel") << 15 << "next" << 0 << QByteArray("01 1c 00");
     QTest::newRow("jeep: panel") << 15 << "panel_power_2" << 1 << QByteArray("04 0a 01");
     QTest::newRow("mazda: panel") << 5 << "panel_back" << 1 << QByteArray("01 2a 01");
+    QTest::newRow("xinhang: wheel") << 4 << "hangup" << 1 << QByteArray("03 01 10");
+    QTest::newRow("xinhang: panel") << 4 << "panel_digit_6" << 2 << QByteArray("0b 02 22");
+    QTest::newRow("xinhang: cursor pressed") << 4 << "cursor_right" << 1 << QByteArray("87 03");
+    QTest::newRow("xinhang: cursor released") << 4 << "cursor_right" << 0 << QByteArray();
+    QTest::newRow("xinhang: application wanted") << 4 << "application_2" << 1 << QByteArray("0c 02");
 }
 
 void TestBoxPackages::keys()
@@ -242,6 +276,46 @@ void TestBoxPackages::observations()
     SimulatedUnit unit(*box);
     unit.write(package);
     QTRY_COMPARE(box->observation(topic), value);
+}
+
+void TestBoxPackages::xinHangAnswersEveryReady()
+{
+    const auto box = openBox(4);
+    SimulatedUnit unit(*box);
+    const QByteArray ready = QByteArray::fromHex("f0038101017c");
+    unit.write(ready);
+    QTRY_COMPARE(unit.packages().size(), box->speaker()->reports().size());
+    unit.write(ready);
+    QTRY_COMPARE(unit.packages().size(), box->speaker()->reports().size() + 1);
+    QCOMPARE(unit.frames().last(), QByteArray::fromHex("f0030a0001f4"));
+    unit.write(xinHangFrame("55 00") + QByteArray::fromHex("f00281017e f000ff"));
+    QTest::qWait(20);
+    QVERIFY2(unit.singleBytes().isEmpty(), "this box answers nothing");
+}
+
+void TestBoxPackages::xinHangUnitSwitchesTheScreen()
+{
+    const auto box = openBox(4);
+    SimulatedUnit unit(*box);
+    box->start();
+    QTRY_COMPARE(unit.packages().size(), box->speaker()->reports().size());
+    unit.forget();
+    unit.write(xinHangFrame("83 01"));
+    QTRY_COMPARE(unit.frames(), QVector<QByteArray>(1, xinHangFrame("01 10 00 00 00")));
+    QVERIFY(box->car()->flag("screen.factory"));
+    unit.write(xinHangFrame("83 02"));
+    QTRY_VERIFY(!box->car()->flag("screen.factory"));
+}
+
+void TestBoxPackages::xinHangTouch()
+{
+    const auto box = openBox(4);
+    SimulatedUnit unit(*box);
+    box->start();
+    QTRY_COMPARE(unit.packages().size(), box->speaker()->reports().size());
+    unit.forget();
+    QVERIFY(box->touch(BoxSpeaker::TouchPressed, 1023, 258));
+    QTRY_COMPARE(unit.frames(), QVector<QByteArray>(1, xinHangFrame("04 01 03 ff 01 02")));
 }
 
 void TestBoxPackages::everyReportIsAboutSomething_data()

@@ -11,6 +11,7 @@ const CarProperty::Kind Integer = CarProperty::Integer;
 const CarProperty::Kind Choice = CarProperty::Choice;
 const CarProperty::Kind Temperature = CarProperty::Temperature;
 const CarProperty::Kind Text = CarProperty::Text;
+const CarProperty::Kind NumberList = CarProperty::NumberList;
 
 } // namespace
 
@@ -52,9 +53,27 @@ const QVector<CarProperty> &CarProperty::all()
         {"radar.rear.4", Integer, 0, 6, 1, "", {}, "0"},
 
         {"steering.angle", Integer, -540, 540, 10, "°", {}, "0"},
+        {"gear.reverse", Switch, none, none, none, "", {}, "off"},
+        {"indicator.right", Switch, none, none, none, "", {}, "off"},
+        {"light.illumination", Switch, none, none, none, "", {}, "off"},
+        // Which picture the car's display shows: the factory's or the unit's.
+        {"screen.factory", Switch, none, none, none, "", {}, "off"},
         {"camera.view360", Switch, none, none, none, "", {}, "off"},
 
         {"box.version", Text, none, 32, none, "", {}, "VB 1.00.00"},
+        {"box.car_type", Integer, 0, 65535, 1, "", {}, "1"},
+        // The greatest distance that each radar sensor knows, front left to front right, rear left to rear
+        // right.
+        {"box.radar_maxima", NumberList, 0, 255, 8, "", {}, "7,7,7,7,7,7,7,7"},
+        // How the box misbehaves in a firmware update.
+        {"firmware.fault",
+         Choice,
+         none,
+         none,
+         none,
+         "",
+         {"none", "twice", "backwards", "beyond", "stop"},
+         "none"},
     };
     return properties;
 }
