@@ -9,27 +9,30 @@
 
 namespace {
 
-/// Writes \a text to \a path as the kernel's GPIO files want it: one unbuffered write to a file that is
-/// there.
-void writeGpioFile(const QString &path, const QByteArray &text)
+QString lineFolder(int line)
 {
-    QFile file(path);
-    if (!file.exists() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-        file.write(text) != text.size())
-        qDebug("GPIO: cannot write \"%s\" to %s", text.constData(), qPrintable(path));
+    return OrbHostPrivate::get()->gpioRoot + "/gpio" + QString::number(line);
 }
 
-/// Path of \a file of \a line below the GPIO root; the line is exported first when it is not there yet. Empty
-/// without a root.
-QString gpioFile(int line, const char *file)
+/// Writes as the kernel's GPIO files want it: at once, to a file that is there.
+bool writeExisting(const QString &path, const QByteArray &text)
 {
-    const QString &root = OrbHostPrivate::get()->gpioRoot;
+    QFile file(path);
+    if (file.exists() && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+        file.write(text) == text.size())
+        return true;
+    qDebug("GPIO: cannot write \"%s\" to %s", text.constData(), qPrintable(path));
+    return false;
+}
+
+/// Writes to a file of \a line, if there is a GPIO root; the line is exported first when it is not there yet.
+void writeLineFile(int line, const char *name, const QByteArray &text)
+{
+    const QString root = OrbHostPrivate::get()->gpioRoot;
     if (root.isEmpty())
-        return QString();
-    const QString folder = root + "/gpio" + QString::number(line);
-    if (!QDir(folder).exists())
-        writeGpioFile(root + "/export", QByteArray::number(line));
-    return folder + '/' + file;
+        return;
+    if (QDir(lineFolder(line)).exists() || writeExisting(root + "/export", QByteArray::number(line)))
+        writeExisting(lineFolder(line) + '/' + name, text);
 }
 
 } // namespace
@@ -42,9 +45,7 @@ void GPIOOperater::setDirection(const QString &direction)
         OrbTrace::listener->called("GPIOOperater", "setDirection", QVariantList() << m_line << direction);
     if (m_line < 0 || (direction != "in" && direction != "out"))
         return;
-    const QString path = gpioFile(m_line, "direction");
-    if (!path.isEmpty())
-        writeGpioFile(path, direction.toLatin1());
+    writeLineFile(m_line, "direction", direction.toLatin1());
     OrbHostPrivate::GpioLine state = OrbHostPrivate::get()->gpioLines.value(m_line);
     state.direction = direction;
     OrbHostPrivate::get()->setGpioLine(m_line, state);
@@ -61,9 +62,7 @@ void GPIOOperater::setValue(int value)
         OrbTrace::listener->called("GPIOOperater", "setValue", QVariantList() << m_line << value);
     if (m_line < 0)
         return;
-    const QString path = gpioFile(m_line, "value");
-    if (!path.isEmpty())
-        writeGpioFile(path, value ? "1" : "0");
+    writeLineFile(m_line, "value", value ? "1" : "0");
     OrbHostPrivate::GpioLine state = OrbHostPrivate::get()->gpioLines.value(m_line);
     state.value = value ? 1 : 0;
     OrbHostPrivate::get()->setGpioLine(m_line, state);
@@ -71,5 +70,9 @@ void GPIOOperater::setValue(int value)
 
 int GPIOOperater::value() const
 {
+    // What an input is at, only its file knows.
+    QFile file(lineFolder(m_line) + "/value");
+    if (!OrbHostPrivate::get()->gpioRoot.isEmpty() && direction() == "in" && file.open(QIODevice::ReadOnly))
+        return file.read(1) == "1" ? 1 : 0;
     return OrbHostPrivate::get()->gpioLines.value(m_line).value;
 }

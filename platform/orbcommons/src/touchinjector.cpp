@@ -2,6 +2,7 @@
 
 #include "orbhost.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QMetaObject>
 #include <QMouseEvent>
@@ -21,6 +22,9 @@ void TouchInjector::deliver(int type, int x, int y)
     QWidget *screen = OrbHost::instance()->screen();
     if (!screen)
         return;
+    // Should this touch run an event loop, that loop has to be told that the next touch is already waiting.
+    if (QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance())
+        dispatcher->wakeUp();
     const QPoint pos(x, y);
     if (type == QEvent::MouseButtonPress) {
         press(screen, pos);

@@ -1,0 +1,335 @@
+#include "debuglog.h"
+#include "orbhost.h"
+#include "orbiniconfig.h"
+#include "orbtestmain.h"
+
+#include <csignal>
+#include <memory>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+/// A text that tells from which round it is, large enough for a write to be cut in the middle.
+QString payloadOf(int round)
+{
+    return QString("%1-").arg(round).repeated(8000);
+}
+
+} // namespace
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void missingFileIsEmpty();
+    void valuesComeBack_data();
+    void valuesComeBack();
+    void valueThatIsThereTouchesNoFile();
+    void groupsKeepApart();
+    void objectsOnOneFileSeeEachOther();
+    void fileByHand_data();
+    void fileByHand();
+    void truncatedAnywhereThePredecessorIsUsed();
+    void oneWrongBitAnywhereThePredecessorIsUsed();
+    void damagedWithoutPredecessorIsEmpty_data();
+    void damagedWithoutPredecessorIsEmpty();
+    void writingAfterDamageKeepsTheGoodPredecessor();
+    void fileThatCannotBeWritten();
+    void hugeValueIsRefused();
+    void killedWhileWriting();
+
+private:
+    QString path() const { return m_dir->filePath("set/car.ini"); }
+    QString read(const QString &key) const
+    {
+        return OrbIniConfig("car.ini", "Car").value(key, "(default)").toString();
+    }
+    void writeTwoVersions()
+    {
+        OrbIniConfig config("car.ini", "Car");
+        QVERIFY(config.setValue("SetItem1", "old"));
+        QVERIFY(config.setValue("SetItem1", "new"));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestSettings::init()
+{
+    m_dir.reset(new QTemporaryDir);
+    OrbHost::instance()->setSettingsDir(m_dir->filePath("set"));
+}
+
+void TestSettings::cleanup()
+{
+    m_dir.reset();
+}
+
+void TestSettings::missingFileIsEmpty()
+{
+    OrbIniConfig config("car.ini", "Car");
+    QCOMPARE(config.filePath(), path());
+    QVERIFY(!config.contains("SetItem1"));
+    QVERIFY(!config.value("SetItem1").isValid());
+    QCOMPARE(config.value("SetItem1", 3).toInt(), 3);
+    QVERIFY2(!QFileInfo::exists(m_dir->filePath("set")), "reading must not write");
+}
+
+void TestSettings::valuesComeBack_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("number") << "SetItem128" << QVariant(-12);
+    QTest::newRow("empty text") << "a" << QVariant("");
+    QTest::newRow("umlauts and signs outside the first plane")
+        << QString::fromUtf8("größe") << QVariant(QString::fromUtf8("21.5°C 车 😀"));
+    QTest::newRow("blanks at the ends") << " a " << QVariant("  a b  ");
+    QTest::newRow("wide blank at the start") << "a" << QVariant(QString(QChar(0x3000)) + "a");
+    QTest::newRow("quotes") << "a" << QVariant("\"quoted\"");
+    QTest::newRow("commas and semicolons") << "a" << QVariant("1,2;3");
+    QTest::newRow("line ends and control characters")
+        << "a" << QVariant(QString("1\n[x]\r\ny=2\t") + QChar(0));
+    QTest::newRow("backslashes") << "a\\" << QVariant("C:\\u0041\\\\n");
+    QTest::newRow("key that looks like a section") << "[a]=;#" << QVariant("b");
+    QTest::newRow("key that looks like a comment") << ";a" << QVariant("b");
+    QTest::newRow("value that looks like a checksum") << "a" << QVariant("\n; sha1=0\n");
+}
+
+void TestSettings::valuesComeBack()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    for (const char *group : {"Car", "", "[x] =;"}) {
+        QVERIFY(OrbIniConfig("car.ini", group).setValue(key, value));
+        QVERIFY(OrbIniConfig("car.ini", group).setValue("other", group));
+    }
+    DebugLog log;
+    for (const char *group : {"Car", "", "[x] =;"}) {
+        QCOMPARE(OrbIniConfig("car.ini", group).value(key).toString(), value.toString());
+        QCOMPARE(OrbIniConfig("car.ini", group).value("other").toString(), QString(group));
+    }
+    QCOMPARE(log.lines(), QStringList());
+    QVERIFY(!OrbIniConfig("car.ini", "Car").setValue("", 1));
+}
+
+void TestSettings::valueThatIsThereTouchesNoFile()
+{
+    OrbIniConfig config("car.ini", "Car");
+    QVERIFY(config.setValue("SetItem1", 1));
+    QVERIFY(QFile::remove(path()));
+    QVERIFY(config.setValue("SetItem1", "1"));
+    QVERIFY(!QFile::exists(path()));
+    QVERIFY(config.setValue("SetItem1", 2));
+    QVERIFY(QFile::exists(path()));
+}
+
+void TestSettings::groupsKeepApart()
+{
+    OrbIniConfig car("car.ini", "Car"), none("car.ini", ""), other("other.ini", "Car");
+    QVERIFY(car.setValue("a", 1));
+    QVERIFY(none.setValue("a", 2));
+    QVERIFY(!other.contains("a"));
+    QCOMPARE(car.value("a").toInt(), 1);
+    QCOMPARE(none.value("a").toInt(), 2);
+}
+
+void TestSettings::objectsOnOneFileSeeEachOther()
+{
+    {
+        OrbIniConfig first("car.ini", "Car");
+        OrbIniConfig second(path(), "Car");
+        QVERIFY(first.setValue("a", 1));
+        QVERIFY(second.setValue("b", 2));
+        QCOMPARE(second.value("a").toInt(), 1);
+        QVERIFY(first.setValue("a", 3));
+    }
+    QCOMPARE(read("a"), QString("3"));
+    QCOMPARE(read("b"), QString("2"));
+}
+
+void TestSettings::fileByHand_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("plain") << QByteArray("[Car]\nSetItem1=5\n") << "5";
+    QTest::newRow("without a last line end") << QByteArray("[Car]\nSetItem1=5") << "5";
+    QTest::newRow("blanks, comments, DOS line ends")
+        << QByteArray("# mine\r\n\r\n [ Car ] \r\n ; note\r\n\tSetItem1 = 5 \r\n") << "5";
+    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf[Car]\nSetItem1=5\n") << "5";
+    QTest::newRow("quotes") << QByteArray("[Car]\nSetItem1=\" 5 \"\n") << " 5 ";
+    QTest::newRow("a quote alone") << QByteArray("[Car]\nSetItem1=\"\n") << "\"";
+    QTest::newRow("escape that is none")
+        << QByteArray("[Car]\nSetItem1=C:\\new\\u00g\\") << "C:\\new\\u00g\\";
+    QTest::newRow("the last of two counts") << QByteArray("[Car]\nSetItem1=4\nSetItem1=5\n") << "5";
+    QTest::newRow("other section") << QByteArray("SetItem1=4\n[Bus]\nSetItem1=5\n") << "(default)";
+    QTest::newRow("line that means nothing") << QByteArray("[Car]\nSetItem1=5\nrubbish\n") << "(default)";
+    QTest::newRow("no key") << QByteArray("[Car]\nSetItem1=5\n=6\n") << "(default)";
+    QTest::newRow("open bracket") << QByteArray("[Car]\nSetItem1=5\n[Bus\n") << "(default)";
+    QTest::newRow("no UTF-8") << QByteArray("[Car]\nSetItem1=5\nx=\xff\n") << "(default)";
+    QTest::newRow("NULs behind the text")
+        << QByteArray("[Car]\nSetItem1=5\n") + QByteArray(512, '\0') << "(default)";
+}
+
+void TestSettings::fileByHand()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(QDir().mkpath(m_dir->filePath("set")));
+    writeFile(path(), content);
+    QTEST(read("SetItem1"), "value");
+    QVERIFY(OrbIniConfig("car.ini", "Car").setValue("SetItem2", 6));
+    QTEST(read("SetItem1"), "value");
+    QCOMPARE(read("SetItem2"), QString("6"));
+}
+
+void TestSettings::truncatedAnywhereThePredecessorIsUsed()
+{
+    writeTwoVersions();
+    QCOMPARE(read("SetItem1"), QString("new"));
+    const QByteArray whole = contentOf(path());
+    DebugLog log;
+    for (int size = 0; size < whole.size(); ++size) {
+        writeFile(path(), whole.left(size));
+        QVERIFY2(read("SetItem1") == "old", qPrintable(QString("cut to %1 bytes").arg(size)));
+    }
+    QCOMPARE(log.lines().size(), whole.size());
+    writeFile(path(), whole + "SetItem1=later\n");
+    QCOMPARE(read("SetItem1"), QString("old"));
+}
+
+void TestSettings::oneWrongBitAnywhereThePredecessorIsUsed()
+{
+    writeTwoVersions();
+    const QByteArray whole = contentOf(path());
+    DebugLog log;
+    for (int i = 0; i < whole.size(); ++i) {
+        QByteArray damaged = whole;
+        damaged[i] = char(damaged.at(i) ^ (1 << (i % 8)));
+        writeFile(path(), damaged);
+        QVERIFY2(read("SetItem1") == "old", qPrintable(QString("byte %1").arg(i)));
+    }
+}
+
+void TestSettings::damagedWithoutPredecessorIsEmpty_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty file") << QByteArray();
+    QTest::newRow("NULs") << QByteArray(4096, '\0');
+    QTest::newRow("noise") << QByteArray("\x7f"
+                                         "ELF\x02\x01=\xfe\n[Car]\nSetItem1=5",
+                                         28);
+    QTest::newRow("larger than any settings file") << "[Car]\nSetItem1=5\n;" + QByteArray(1 << 20, 'x');
+}
+
+void TestSettings::damagedWithoutPredecessorIsEmpty()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(QDir().mkpath(m_dir->filePath("set")));
+    writeFile(path(), content);
+    DebugLog log;
+    QCOMPARE(read("SetItem1"), QString("(default)"));
+    QCOMPARE(log.lines().size(), 1);
+    QVERIFY(OrbIniConfig("car.ini", "Car").setValue("SetItem1", 6));
+    QCOMPARE(read("SetItem1"), QString("6"));
+}
+
+void TestSettings::writingAfterDamageKeepsTheGoodPredecessor()
+{
+    writeTwoVersions();
+    const QByteArray predecessor = contentOf(path() + ".bak");
+    writeFile(path(), "\1");
+    QVERIFY(OrbIniConfig("car.ini", "Car").setValue("SetItem2", 1));
+    QCOMPARE(contentOf(path() + ".bak"), predecessor);
+    QCOMPARE(read("SetItem1"), QString("old"));
+    QCOMPARE(QDir(m_dir->filePath("set")).entryList(QDir::Files), QStringList({"car.ini", "car.ini.bak"}));
+}
+
+void TestSettings::fileThatCannotBeWritten()
+{
+    writeFile(m_dir->filePath("set"), "a file where the folder should be");
+    OrbIniConfig config("car.ini", "Car");
+    DebugLog log;
+    QVERIFY(!config.setValue("a", 1));
+    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(config.value("a").toInt(), 1);
+    QVERIFY(!config.setValue("a", 1));
+    QVERIFY(QFile::remove(m_dir->filePath("set")));
+    QVERIFY2(config.setValue("a", 1), "a value that did not reach the disk is written when it is set again");
+    QVERIFY(contentOf(path()).contains("a=1\n"));
+}
+
+void TestSettings::hugeValueIsRefused()
+{
+    OrbIniConfig config("car.ini", "Car");
+    QVERIFY(config.setValue("a", 1));
+    const QByteArray before = contentOf(path());
+    DebugLog log;
+    QVERIFY(!config.setValue("b", QString(1 << 20, 'x')));
+    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(contentOf(path()), before);
+}
+
+/// A process that writes without a pause is killed at arbitrary moments. Whatever stands there then was
+/// written whole, is from the round that was last finished or the one after, and its predecessor is whole
+/// too.
+void TestSettings::killedWhileWriting()
+{
+    int lastRound = 0;
+    for (int kill = 0; kill < 60; ++kill) {
+        int finished[2];
+        QCOMPARE(::pipe(finished), 0);
+        const pid_t child = ::fork();
+        QVERIFY(child >= 0);
+        if (child == 0) {
+            OrbIniConfig config("car.ini", "Car");
+            for (int round = lastRound + 1;; ++round) {
+                if (!config.setValue("payload", payloadOf(round)) ||
+                    ::write(finished[1], &round, sizeof round) != sizeof round)
+                    ::_exit(1);
+            }
+        }
+        ::close(finished[1]);
+        // The first round is waited for, so that every child is killed while it writes.
+        int round = 0;
+        QCOMPARE(::read(finished[0], &round, sizeof round), ssize_t(sizeof round));
+        ::usleep(useconds_t(97 * kill));
+        QCOMPARE(::kill(child, SIGKILL), 0);
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status));
+        while (::read(finished[0], &round, sizeof round) == ssize_t(sizeof round)) {
+        }
+        ::close(finished[0]);
+
+        DebugLog log;
+        const QString payload = read("payload");
+        QCOMPARE(log.lines(), QStringList());
+        lastRound = payload.section('-', 0, 0).toInt();
+        QVERIFY(lastRound == round || lastRound == round + 1);
+        QVERIFY(payload == payloadOf(lastRound));
+        if (QFile::exists(path() + ".bak")) {
+            const QString before = OrbIniConfig("car.ini.bak", "Car").value("payload").toString();
+            QCOMPARE(log.lines(), QStringList());
+            QVERIFY(before == payloadOf(before.section('-', 0, 0).toInt()));
+        }
+    }
+}
+
+ORB_TEST_MAIN(TestSettings)
+#include "tst_settings.moc"
