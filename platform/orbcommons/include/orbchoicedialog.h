@@ -24,9 +24,6 @@ public:
     /// its own, in which packages and keys go on.
     static int choose(const QString &title, const QStringList &texts, int current);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     QButtonGroup *m_group;
 };

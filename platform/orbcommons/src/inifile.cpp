@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QHash>
+#include <QWeakPointer>
 
 namespace {
 
@@ -27,13 +28,13 @@ IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
            found ? "its predecessor is used" : "it counts as empty");
 }
 
-std::shared_ptr<IniFile> IniFile::open(const QString &path)
+QSharedPointer<IniFile> IniFile::open(const QString &path)
 {
-    static QHash<QString, std::weak_ptr<IniFile>> openFiles;
-    std::shared_ptr<IniFile> file = openFiles.value(path).lock();
+    static QHash<QString, QWeakPointer<IniFile>> openFiles;
+    QSharedPointer<IniFile> file = openFiles.value(path).toStrongRef();
     if (!file) {
-        file.reset(new IniFile(path));
-        openFiles[path] = file;
+        file = QSharedPointer<IniFile>(new IniFile(path));
+        openFiles.insert(path, file.toWeakRef());
     }
     return file;
 }

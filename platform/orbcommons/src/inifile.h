@@ -3,8 +3,7 @@
 
 #include "initext.h"
 
-#include <QString>
-#include <memory>
+#include <QSharedPointer>
 
 /// A settings file in memory. All OrbIniConfig objects on one path share it, so that none writes back what
 /// another one has changed meanwhile.
@@ -12,7 +11,7 @@ class IniFile
 {
 public:
     /// The file at \a path, read from the disk unless somebody has it open.
-    static std::shared_ptr<IniFile> open(const QString &path);
+    static QSharedPointer<IniFile> open(const QString &path);
 
     QString path() const { return m_path; }
 

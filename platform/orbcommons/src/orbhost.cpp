@@ -54,8 +54,6 @@ OrbHostPrivate::~OrbHostPrivate()
 
 void OrbHostPrivate::destroy()
 {
-    if (theHost)
-        theHost->d->windowStack->leaveArea();
     OrbHost *host = theHost;
     theHost = nullptr;
     delete host;

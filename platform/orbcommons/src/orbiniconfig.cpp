@@ -8,7 +8,7 @@
 class OrbIniConfigPrivate
 {
 public:
-    std::shared_ptr<IniFile> file;
+    QSharedPointer<IniFile> file;
     QString group;
 };
 

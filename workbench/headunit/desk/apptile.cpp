@@ -48,7 +48,7 @@ QStringList AppTile::titleLines() const
     QTextLayout layout(text(), titleFont());
     layout.beginLayout();
     QTextLine first = layout.createLine();
-    if (!first.isValid()) {
+    if (text().isEmpty() || !first.isValid()) {
         return QStringList();
     }
     first.setLineWidth(width);

@@ -79,6 +79,11 @@ qreal CarView::radarReach() const
     return (height() - headingHeight) * 0.185;
 }
 
+qreal CarView::trackLength() const
+{
+    return radarReach() * 0.8;
+}
+
 QRectF CarView::carRect() const
 {
     const QRectF area(margin, headingHeight, width() - 2 * margin, height() - headingHeight - margin);
@@ -187,7 +192,7 @@ void CarView::paintEvent(QPaintEvent *)
         RadarArcs(RadarArcs::Rear, car, radarReach()).paint(&painter, m_state.rear);
     }
     if (m_state.isTrackOn) {
-        SteeringTrack(car, m_state.steering, radarReach() * 0.85).paint(&painter);
+        SteeringTrack(car, m_state.steering, trackLength()).paint(&painter);
     }
     if (m_state.areLightsOn) {
         paintLights(&painter, car);

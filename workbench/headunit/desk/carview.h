@@ -23,12 +23,14 @@ public:
 
     /// Where the car is drawn, in the widget's pixels.
     QRectF carRect() const;
+    /// Pixels from either end of the car that the radar's fan and the track behind it take.
+    qreal radarReach() const;
+    qreal trackLength() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    qreal radarReach() const;
     QString doorMessage() const;
     void paintHeading(QPainter *painter) const;
     void paintLights(QPainter *painter, const QRectF &car) const;

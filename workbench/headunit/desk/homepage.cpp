@@ -21,8 +21,8 @@ HomePage::HomePage(QWidget *parent)
     layout->addWidget(m_launcher, 0, 0);
     layout->addWidget(m_mediaCard, 1, 0);
     layout->addWidget(m_carView, 0, 1, 2, 1);
-    layout->setColumnStretch(0, 58);
-    layout->setColumnStretch(1, 42);
+    layout->setColumnStretch(0, 62);
+    layout->setColumnStretch(1, 38);
 }
 
 void HomePage::paintEvent(QPaintEvent *)

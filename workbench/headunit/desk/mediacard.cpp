@@ -11,6 +11,7 @@ namespace {
 const int margin = 16;
 const int pictureSize = 88;
 const int buttonSize = 64;
+const int narrow = 540; // a card narrower than this leaves its picture out for the text
 
 } // namespace
 
@@ -66,9 +67,12 @@ void MediaCard::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(DeskColours::panel);
     painter.drawRoundedRect(rect(), 10, 10);
-    painter.drawPixmap(QRect(margin, margin, pictureSize, pictureSize), m_icon);
+    const bool hasPicture = width() >= narrow;
+    if (hasPicture) {
+        painter.drawPixmap(QRect(margin, margin, pictureSize, pictureSize), m_icon);
+    }
 
-    const int left = 2 * margin + pictureSize;
+    const int left = hasPicture ? 2 * margin + pictureSize : margin;
     const int right = m_title.isEmpty() ? width() - margin : width() - 2 * margin - 3 * buttonSize - 16;
     struct Line
     {

@@ -1,0 +1,94 @@
+#include "boxkeyspage.h"
+
+#include "decoderbox.h"
+#include "panelcard.h"
+#include "propertyeditors.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+const int gap = 8;
+const int columns = 2;
+
+// The card says already where the key is.
+QString title(const BoxKey &key)
+{
+    const QString place = QStringLiteral("panel_");
+    return PropertyEditors::title(key.name.startsWith(place) ? key.name.mid(place.size()) : key.name);
+}
+
+} // namespace
+
+BoxKeysPage::BoxKeysPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
+{
+    setObjectName(QStringLiteral("sidePage"));
+    QVBoxLayout *page = new QVBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->setSpacing(gap);
+    addKeys(tr("Keys on the steering wheel"), BoxKey::Wheel);
+    addKeys(tr("Keys on the car's panel"), BoxKey::Panel);
+    addKnobs();
+    if (page->isEmpty()) {
+        PanelCard *card = new PanelCard(tr("This car has no keys"));
+        page->addWidget(card);
+    }
+    page->addStretch();
+}
+
+void BoxKeysPage::addKeys(const QString &heading, BoxKey::Source source)
+{
+    QGridLayout *grid = nullptr;
+    int place = 0;
+    for (const BoxKey &key : m_box->speaker()->keys()) {
+        if (key.source != source) {
+            continue;
+        }
+        if (!grid) {
+            PanelCard *card = new PanelCard(heading);
+            layout()->addWidget(card);
+            grid = new QGridLayout;
+            grid->setSpacing(gap);
+            card->rows()->addLayout(grid);
+        }
+        QPushButton *button = new QPushButton(title(key));
+        button->setObjectName(QStringLiteral("chip"));
+        button->setToolTip(QStringLiteral("0x%1").arg(key.code, 2, 16, QLatin1Char('0')));
+        const QString name = key.name;
+        connect(button, &QPushButton::pressed, m_box, [this, name] { m_box->pressKey(name); });
+        connect(button, &QPushButton::released, m_box, [this, name] { m_box->releaseKey(name); });
+        grid->addWidget(button, place / columns, place % columns);
+        ++place;
+    }
+}
+
+void BoxKeysPage::addKnobs()
+{
+    QGridLayout *grid = nullptr;
+    for (const BoxKey &key : m_box->speaker()->keys()) {
+        if (key.source != BoxKey::Knob) {
+            continue;
+        }
+        if (!grid) {
+            PanelCard *card = new PanelCard(tr("Knobs"));
+            layout()->addWidget(card);
+            grid = new QGridLayout;
+            grid->setSpacing(gap);
+            grid->setColumnStretch(0, 1);
+            card->rows()->addLayout(grid);
+        }
+        const int row = grid->rowCount();
+        QLabel *label = new QLabel(title(key));
+        label->setObjectName(QStringLiteral("controlName"));
+        grid->addWidget(label, row, 0);
+        for (const int clicks : {1, 5}) {
+            QPushButton *button = new QPushButton(QStringLiteral("%1×").arg(clicks));
+            button->setObjectName(QStringLiteral("chip"));
+            const QString name = key.name;
+            connect(button, &QPushButton::clicked, m_box,
+                    [this, name, clicks] { m_box->turnKnob(name, clicks); });
+            grid->addWidget(button, row, clicks == 1 ? 1 : 2);
+        }
+    }
+}

@@ -1,0 +1,219 @@
+#include "boxpage.h"
+
+#include "panelcard.h"
+#include "scenarioplayer.h"
+
+#include <QEvent>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <limits>
+
+namespace {
+
+const int gap = 8;
+const int noiseBytes = 24;
+const int cutAfter = 3;
+const int silenceMs = 3000;
+const int logLines = 500;
+const int logHeight = 260;
+
+QLabel *plainLabel(const char *objectName)
+{
+    QLabel *label = new QLabel;
+    label->setObjectName(QLatin1String(objectName));
+    label->setTextFormat(Qt::PlainText); // it shows what came over the line
+    label->setWordWrap(true);
+    return label;
+}
+
+QPushButton *chip()
+{
+    QPushButton *button = new QPushButton;
+    button->setObjectName(QStringLiteral("chip"));
+    return button;
+}
+
+QHBoxLayout *pair(QWidget *left, QWidget *right)
+{
+    QHBoxLayout *row = new QHBoxLayout;
+    row->setSpacing(gap);
+    row->addWidget(left, 1);
+    row->addWidget(right, 1);
+    return row;
+}
+
+} // namespace
+
+BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
+{
+    setObjectName(QStringLiteral("sidePage"));
+    QVBoxLayout *page = new QVBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->setSpacing(gap);
+    for (PanelCard **card : {&m_stateCard, &m_scenarioCard, &m_faultCard, &m_observationCard, &m_logCard}) {
+        *card = new PanelCard(QString());
+        page->addWidget(*card);
+    }
+    addStateCard();
+    addScenarioCard();
+    addFaultCard();
+    m_observations = plainLabel("controlName");
+    m_observationCard->rows()->addWidget(m_observations);
+    m_log = new QPlainTextEdit;
+    m_log->setObjectName(QStringLiteral("boxLog"));
+    m_log->setReadOnly(true);
+    m_log->setMaximumBlockCount(logLines);
+    m_log->setWordWrapMode(QTextOption::WrapAnywhere);
+    m_log->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_log->setFixedHeight(logHeight);
+    m_logCard->rows()->addWidget(m_log);
+    page->addStretch();
+
+    connect(box, &DecoderBox::stateChanged, this, &BoxPage::showState);
+    connect(box, &DecoderBox::unitCame, this, &BoxPage::showState);
+    connect(box, &DecoderBox::unitLeft, this, &BoxPage::showState);
+    connect(box, &DecoderBox::observed, this, &BoxPage::showObservations);
+    connect(box, &DecoderBox::logLine, m_log, &QPlainTextEdit::appendPlainText);
+    setTexts();
+}
+
+BoxPage::~BoxPage() = default;
+
+void BoxPage::addStateCard()
+{
+    m_state = plainLabel("controlValue");
+    m_start = chip();
+    m_stop = chip();
+    m_stateCard->rows()->addWidget(m_state);
+    m_stateCard->rows()->addLayout(pair(m_start, m_stop));
+    connect(m_start, &QPushButton::clicked, m_box, [this] {
+        m_box->holdTongue(0);
+        m_box->start();
+    });
+    connect(m_stop, &QPushButton::clicked, m_box,
+            [this] { m_box->holdTongue(std::numeric_limits<int>::max()); });
+}
+
+void BoxPage::addScenarioCard()
+{
+    m_scenarioState = plainLabel("controlName");
+    m_choose = chip();
+    m_playButton = chip();
+    m_scenarioCard->rows()->addWidget(m_scenarioState);
+    m_scenarioCard->rows()->addLayout(pair(m_choose, m_playButton));
+    connect(m_choose, &QPushButton::clicked, this, &BoxPage::choose);
+    connect(m_playButton, &QPushButton::clicked, this, [this] {
+        if (m_player) {
+            stopPlaying();
+        } else {
+            play(m_scenario);
+        }
+    });
+}
+
+void BoxPage::addFaultCard()
+{
+    m_noise = chip();
+    m_cut = chip();
+    m_corrupt = chip();
+    m_silence = chip();
+    m_faultCard->rows()->addLayout(pair(m_noise, m_cut));
+    m_faultCard->rows()->addLayout(pair(m_corrupt, m_silence));
+    connect(m_noise, &QPushButton::clicked, m_box, [this] { m_box->sendNoise(noiseBytes); });
+    connect(m_cut, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CutNext, cutAfter); });
+    connect(m_corrupt, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CorruptNext); });
+    connect(m_silence, &QPushButton::clicked, m_box, [this] { m_box->holdTongue(silenceMs); });
+}
+
+void BoxPage::choose()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(window(), tr("Scenario"), m_scenario, tr("Scenarios (*.scn)"));
+    if (!path.isEmpty()) {
+        play(path);
+    }
+}
+
+void BoxPage::play(const QString &path)
+{
+    stopPlaying();
+    m_scenario = path;
+    Scenario scenario;
+    if (scenario.load(path, *m_box, &m_error)) {
+        m_error.clear();
+        m_player.reset(new ScenarioPlayer(m_box, scenario));
+        connect(m_player.get(), &ScenarioPlayer::finished, this, &BoxPage::stopPlaying, Qt::QueuedConnection);
+        m_player->play();
+    }
+    setTexts();
+}
+
+void BoxPage::stopPlaying()
+{
+    m_player.reset();
+    setTexts();
+}
+
+void BoxPage::showState()
+{
+    QString text;
+    switch (m_box->state()) {
+    case DecoderBox::WaitsForReady:
+        text = tr("Waits for the unit's ready");
+        break;
+    case DecoderBox::Talks:
+        text = tr("Talks with the unit");
+        break;
+    case DecoderBox::Silent:
+        text = tr("Silent: the unit did not acknowledge");
+        break;
+    }
+    m_state->setText(m_box->isUnitThere() ? text : tr("The unit has not opened the port"));
+}
+
+void BoxPage::showObservations()
+{
+    QStringList lines;
+    const QMap<QString, QString> &all = m_box->observations();
+    for (auto row = all.begin(); row != all.end(); ++row) {
+        lines << row.key() + QStringLiteral(": ") + row.value();
+    }
+    m_observations->setText(lines.isEmpty() ? tr("Nothing yet") : lines.join(QLatin1Char('\n')));
+}
+
+void BoxPage::setTexts()
+{
+    m_stateCard->setTitle(tr("Box at %1").arg(m_box->portPath()));
+    m_start->setText(tr("Start"));
+    m_stop->setText(tr("Stop"));
+    m_scenarioCard->setTitle(tr("Scenario"));
+    m_choose->setText(tr("Open ..."));
+    m_playButton->setText(m_player ? tr("Stop") : tr("Play"));
+    m_playButton->setEnabled(!m_scenario.isEmpty());
+    const QString name = m_scenario.mid(m_scenario.lastIndexOf(QLatin1Char('/')) + 1);
+    m_scenarioState->setText(!m_error.isEmpty() ? m_error
+                             : name.isEmpty()   ? tr("None chosen")
+                             : m_player         ? tr("%1 plays").arg(name)
+                                                : name);
+    m_faultCard->setTitle(tr("Line faults"));
+    m_noise->setText(tr("Noise"));
+    m_cut->setText(tr("Cut a package"));
+    m_corrupt->setText(tr("Corrupt a package"));
+    m_silence->setText(tr("Silence, 3 s"));
+    m_observationCard->setTitle(tr("What the unit told the box"));
+    m_logCard->setTitle(tr("Line log"));
+    showState();
+    showObservations();
+}
+
+void BoxPage::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTexts();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,245 @@
+#include "propertyeditors.h"
+
+#include "quietslider.h"
+#include "simulatedcar.h"
+#include "steeringwheel.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+// The most choices that stand side by side; more fold into a list.
+const int mostButtons = 4;
+
+/// Calls \a show now and whenever \a name changes, as long as \a control lives.
+template <typename Show>
+void follow(SimulatedCar *car, const QString &name, QWidget *control, Show show)
+{
+    QObject::connect(car, &SimulatedCar::changed, control, [name, show](const QString &changed) {
+        if (changed == name) {
+            show();
+        }
+    });
+    show();
+}
+
+QLabel *label(const QString &text, const char *objectName)
+{
+    QLabel *result = new QLabel(text);
+    result->setObjectName(QLatin1String(objectName));
+    return result;
+}
+
+QWidget *titled(const CarProperty &property, QLabel *value, QWidget *control)
+{
+    QWidget *result = new QWidget;
+    QVBoxLayout *rows = new QVBoxLayout(result);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(4);
+    QHBoxLayout *head = new QHBoxLayout;
+    head->addWidget(label(PropertyEditors::title(property.name), "controlName"));
+    head->addStretch();
+    if (value) {
+        head->addWidget(value);
+    }
+    rows->addLayout(head);
+    rows->addWidget(control);
+    return result;
+}
+
+QWidget *createSwitch(const CarProperty &property, SimulatedCar *car)
+{
+    QPushButton *button = new QPushButton(PropertyEditors::title(property.name));
+    button->setObjectName(QStringLiteral("chip"));
+    button->setCheckable(true);
+    const QString name = property.name;
+    QObject::connect(button, &QPushButton::clicked, car, [car, name](bool on) { car->setValue(name, on); });
+    follow(car, name, button, [=] { button->setChecked(car->flag(name)); });
+    return button;
+}
+
+/// Any property whose values lie on a scale: \a count positions, \a valueAt gives the value of each and
+/// \a position the one of the car's present value.
+template <typename ValueAt, typename Position>
+QWidget *createScale(const CarProperty &property, SimulatedCar *car, int count, ValueAt valueAt,
+                     Position position)
+{
+    QuietSlider *slider = new QuietSlider(Qt::Horizontal);
+    slider->setRange(0, count - 1);
+    QLabel *value = label(QString(), "controlValue");
+    const QString name = property.name;
+    const QString unit = property.unit;
+    QObject::connect(slider, &QSlider::valueChanged, car,
+                     [=](int place) { car->setValue(name, valueAt(place)); });
+    follow(car, name, slider, [=] {
+        slider->blockSignals(true);
+        slider->setValue(position());
+        slider->blockSignals(false);
+        value->setText(unit.isEmpty() ? car->text(name) : car->text(name) + QLatin1Char(' ') + unit);
+    });
+    return titled(property, value, slider);
+}
+
+QWidget *createNumber(const CarProperty &property, SimulatedCar *car)
+{
+    const double step = property.step > 0 ? property.step : 1;
+    const double least = property.minimum;
+    const bool isWhole = property.kind == CarProperty::Integer;
+    const QString name = property.name;
+    return createScale(
+        property, car, int((property.maximum - least) / step + 0.5) + 1,
+        [=](int place) {
+            return isWhole ? QVariant(qRound(least + place * step)) : QVariant(least + place * step);
+        },
+        [=] { return qRound((car->value(name).toDouble() - least) / step); });
+}
+
+/// The scale of degrees has LO before its beginning and HI behind its end.
+QWidget *createTemperature(const CarProperty &property, SimulatedCar *car)
+{
+    const int degrees = int((property.maximum - property.minimum) / property.step + 0.5) + 1;
+    const double least = property.minimum;
+    const double step = property.step;
+    const QString name = property.name;
+    return createScale(
+        property, car, degrees + 2,
+        [=](int place) {
+            return place == 0             ? QVariant(QStringLiteral("LO"))
+                   : place == degrees + 1 ? QVariant(QStringLiteral("HI"))
+                                          : QVariant(least + (place - 1) * step);
+        },
+        [=] {
+            const ClimateTemperature chosen = car->temperature(name);
+            return chosen.kind == ClimateTemperature::Low    ? 0
+                   : chosen.kind == ClimateTemperature::High ? degrees + 1
+                                                             : qRound((chosen.celsius - least) / step) + 1;
+        });
+}
+
+QWidget *createButtons(const CarProperty &property, SimulatedCar *car)
+{
+    QWidget *row = new QWidget;
+    QHBoxLayout *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    QButtonGroup *group = new QButtonGroup(row);
+    const QString name = property.name;
+    for (int i = 0; i < property.choices.size(); ++i) {
+        QPushButton *button = new QPushButton(PropertyEditors::title(property.choices.at(i)));
+        button->setObjectName(QStringLiteral("chip"));
+        button->setCheckable(true);
+        group->addButton(button, i);
+        layout->addWidget(button);
+        const QString choice = property.choices.at(i);
+        QObject::connect(button, &QPushButton::clicked, car, [=] { car->setValue(name, choice); });
+    }
+    follow(car, name, row, [=] { group->button(car->choice(name))->setChecked(true); });
+    return titled(property, nullptr, row);
+}
+
+QWidget *createList(const CarProperty &property, SimulatedCar *car)
+{
+    QComboBox *box = new QuietComboBox;
+    box->addItems(property.choices);
+    const QString name = property.name;
+    QObject::connect(box, QOverload<int>::of(&QComboBox::activated), car,
+                     [=](int index) { car->setValue(name, box->itemText(index)); });
+    follow(car, name, box, [=] { box->setCurrentIndex(car->choice(name)); });
+    return titled(property, nullptr, box);
+}
+
+QWidget *createText(const CarProperty &property, SimulatedCar *car)
+{
+    QLineEdit *edit = new QLineEdit;
+    const QString name = property.name;
+    follow(car, name, edit, [=] { edit->setText(car->text(name)); });
+    QObject::connect(edit, &QLineEdit::editingFinished, car, [=] {
+        QString error;
+        if (!car->setValue(name, edit->text(), &error)) {
+            edit->setText(car->text(name));
+        }
+        edit->setToolTip(error);
+    });
+    return titled(property, nullptr, edit);
+}
+
+QWidget *createWheel(const CarProperty &property, SimulatedCar *car)
+{
+    SteeringWheel *wheel = new SteeringWheel(int(property.maximum), int(property.step));
+    const QString name = property.name;
+    QObject::connect(wheel, &SteeringWheel::turned, car, [=](int angle) { car->setValue(name, angle); });
+    follow(car, name, wheel, [=] { wheel->setAngle(car->number(name)); });
+    return wheel;
+}
+
+} // namespace
+
+QString PropertyEditors::title(const QString &name)
+{
+    return groupTitle(name.mid(name.lastIndexOf(QLatin1Char('.')) + 1));
+}
+
+QString PropertyEditors::groupTitle(const QString &group)
+{
+    QString text = group;
+    text.replace(QLatin1Char('.'), QLatin1Char(' '));
+    text.replace(QLatin1Char('_'), QLatin1Char(' '));
+    static const QHash<QString, QString> spellings = {{QStringLiteral("ac"), QStringLiteral("A/C")},
+                                                      {QStringLiteral("C"), QStringLiteral("°C")},
+                                                      {QStringLiteral("F"), QStringLiteral("°F")},
+                                                      {QStringLiteral("hangup"), QStringLiteral("Hang up")}};
+    text = spellings.value(text, text.left(1).toUpper() + text.mid(1));
+    return QCoreApplication::translate("CarProperty", text.toUtf8().constData());
+}
+
+QWidget *PropertyEditors::create(const CarProperty &property, SimulatedCar *car)
+{
+    if (property.name == QLatin1String("steering.angle")) {
+        return createWheel(property, car);
+    }
+    switch (property.kind) {
+    case CarProperty::Switch:
+        return createSwitch(property, car);
+    case CarProperty::Integer:
+    case CarProperty::Real:
+        return createNumber(property, car);
+    case CarProperty::Temperature:
+        return createTemperature(property, car);
+    case CarProperty::Choice:
+        return property.choices.size() <= mostButtons ? createButtons(property, car)
+                                                      : createList(property, car);
+    case CarProperty::Text:
+    case CarProperty::NumberList:
+        break;
+    }
+    return createText(property, car);
+}
+
+QWidget *PropertyEditors::createUpright(const CarProperty &property, SimulatedCar *car)
+{
+    QuietSlider *slider = new QuietSlider(Qt::Vertical);
+    slider->setRange(int(property.minimum), int(property.maximum));
+    slider->setToolTip(property.name);
+    QLabel *value = label(QString(), "controlValue");
+    const QString name = property.name;
+    QObject::connect(slider, &QSlider::valueChanged, car, [=](int level) { car->setValue(name, level); });
+    follow(car, name, slider, [=] {
+        slider->blockSignals(true);
+        slider->setValue(car->number(name));
+        slider->blockSignals(false);
+        value->setText(car->text(name));
+    });
+    QWidget *result = new QWidget;
+    QVBoxLayout *layout = new QVBoxLayout(result);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(slider, 0, Qt::AlignHCenter);
+    layout->addWidget(value, 0, Qt::AlignHCenter);
+    return result;
+}

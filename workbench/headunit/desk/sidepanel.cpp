@@ -1,0 +1,79 @@
+#include "sidepanel.h"
+
+#include "boxkeyspage.h"
+#include "boxpage.h"
+#include "carpage.h"
+#include "unitpage.h"
+
+#include <QButtonGroup>
+#include <QEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+const int gap = 8;
+} // namespace
+
+SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
+    : QWidget(parent), m_box(box), m_pages(new QStackedWidget), m_unitPage(new UnitPage)
+{
+    setObjectName(QStringLiteral("sidePanel"));
+    setAttribute(Qt::WA_StyledBackground);
+    setFixedWidth(panelWidth);
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(gap);
+    QHBoxLayout *tabs = new QHBoxLayout;
+    tabs->setSpacing(gap);
+    column->addLayout(tabs);
+    column->addWidget(m_pages);
+    if (box) {
+        m_boxPage = new BoxPage(box);
+        addPage(QT_TR_NOOP("Car"), new CarPage(box->car(), box->speaker()->properties()));
+        addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box));
+        addPage(QT_TR_NOOP("Box"), m_boxPage);
+    }
+    addPage(QT_TR_NOOP("Unit"), m_unitPage);
+    QButtonGroup *group = new QButtonGroup(this);
+    for (int i = 0; i < m_tabs.size(); ++i) {
+        group->addButton(m_tabs.at(i).button);
+        tabs->addWidget(m_tabs.at(i).button);
+        connect(m_tabs.at(i).button, &QPushButton::clicked, this, [this, i] { showPage(i); });
+    }
+    showPage(0);
+}
+
+void SidePanel::addPage(const char *title, QWidget *page)
+{
+    QScrollArea *area = new QScrollArea;
+    area->setObjectName(QStringLiteral("sideArea"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    m_pages->addWidget(area);
+    QPushButton *button = new QPushButton(tr(title));
+    button->setObjectName(QStringLiteral("tab"));
+    button->setCheckable(true);
+    m_tabs << Tab{button, title};
+}
+
+void SidePanel::showPage(int index)
+{
+    if (index >= 0 && index < m_tabs.size()) {
+        m_pages->setCurrentIndex(index);
+        m_tabs.at(index).button->setChecked(true);
+    }
+}
+
+void SidePanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        for (const Tab &tab : m_tabs) {
+            tab.button->setText(tr(tab.title));
+        }
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,52 @@
+#ifndef SIDEPANEL_H
+#define SIDEPANEL_H
+
+#include <QVector>
+#include <QWidget>
+
+class BoxPage;
+class DecoderBox;
+class QPushButton;
+class QStackedWidget;
+class UnitPage;
+
+/// Beside the unit: the virtual box and its car, and what is done to the unit itself. One page at a time,
+/// each scrolls.
+class SidePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int panelWidth = 380;
+
+    /// \a box may be null, when the unit talks to a real one; the panel then has the unit's page only. Not
+    /// owned, and must outlive the panel.
+    explicit SidePanel(DecoderBox *box, QWidget *parent = nullptr);
+
+    UnitPage *unitPage() const { return m_unitPage; }
+    /// Null without a box.
+    BoxPage *boxPage() const { return m_boxPage; }
+
+    int pageCount() const { return m_tabs.size(); }
+    void showPage(int index);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void addPage(const char *title, QWidget *page);
+
+    struct Tab
+    {
+        QPushButton *button;
+        const char *title; // untranslated
+    };
+
+    DecoderBox *m_box;
+    QVector<Tab> m_tabs;
+    QStackedWidget *m_pages;
+    UnitPage *m_unitPage;
+    BoxPage *m_boxPage = nullptr;
+};
+
+#endif
