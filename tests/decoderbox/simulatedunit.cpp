@@ -1,7 +1,6 @@
 #include "simulatedunit.h"
 
-#include "boxcatalog.h"
-#include "decoderbox.h"
+#include "boxtools.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -79,8 +78,8 @@ void SimulatedUnit::read()
 std::unique_ptr<DecoderBox> openBox(int type)
 {
     QString error;
-    std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-    if (!box || !box->open(QString(), &error)) {
+    std::unique_ptr<DecoderBox> box = makeBox(type);
+    if (!box->open(QString(), &error)) {
         qFatal("%s", qPrintable(error));
     }
     return box;

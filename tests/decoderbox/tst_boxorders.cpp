@@ -114,6 +114,7 @@ void TestBoxOrders::missingScenario()
 void TestBoxOrders::shippedScenarios_data()
 {
     QTest::addColumn<int>("type");
+    QTest::newRow("volkswagen") << 3;
     QTest::newRow("xinhang") << 4;
     QTest::newRow("mazda") << 5;
     QTest::newRow("honda") << 7;

@@ -2,39 +2,10 @@
 // hand from the box's data sheet.
 
 #include "boxcatalog.h"
-#include "decoderbox.h"
+#include "boxtools.h"
 #include "simulatedunit.h"
 
 #include <QtTest>
-
-namespace {
-
-/// Carries out "climate.left 21.5; climate.ac on" on the car.
-void change(DecoderBox *box, const QString &changes)
-{
-    const QStringList parts = changes.split(';');
-    for (const QString &part : parts) {
-        const QString text = part.trimmed();
-        QString error;
-        if (!text.isEmpty() && !box->car()->setValue(text.section(' ', 0, 0), text.section(' ', 1), &error)) {
-            qFatal("%s", qPrintable(error));
-        }
-    }
-}
-
-/// The data of the report called \a meaning, in hex.
-QByteArray reportData(const DecoderBox &box, const QString &meaning)
-{
-    for (int i = 0; i < box.speaker()->reports().size(); ++i) {
-        if (box.speaker()->reports().at(i).meaning == meaning) {
-            const BoxPackage package = box.speaker()->reportPackage(i);
-            return QByteArray(1, char(package.command)).toHex() + ' ' + package.data.toHex(' ');
-        }
-    }
-    return "no such report";
-}
-
-} // namespace
 
 class TestBoxPackages : public QObject
 {
@@ -194,8 +165,7 @@ void TestBoxPackages::reports()
     QFETCH(int, type);
     QFETCH(QString, changes);
     QFETCH(QString, report);
-    QString error;
-    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
+    const auto box = makeBox(type);
     change(box.get(), changes);
     QTEST(reportData(*box, report), "package");
 }
@@ -227,15 +197,8 @@ void TestBoxPackages::keys()
     QFETCH(int, type);
     QFETCH(QString, key);
     QFETCH(int, state);
-    QString error;
-    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-    const BoxKey *found = box->speaker()->findKey(key);
-    QVERIFY(found);
-    QByteArray sent;
-    const auto packages = box->speaker()->keyPackages(*found, BoxSpeaker::KeyState(state));
-    for (const BoxPackage &package : packages) {
-        sent += QByteArray(1, char(package.command)).toHex() + ' ' + package.data.toHex(' ');
-    }
+    const auto box = makeBox(type);
+    const QByteArray sent = keyData(*box, key, BoxSpeaker::KeyState(state));
     QTEST(sent, "package");
 }
 
@@ -332,8 +295,7 @@ void TestBoxPackages::everyReportIsAboutSomething_data()
 void TestBoxPackages::everyReportIsAboutSomething()
 {
     QFETCH(int, type);
-    QString error;
-    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
+    const auto box = makeBox(type);
     const QStringList properties = box->speaker()->properties();
     for (const BoxReport &report : box->speaker()->reports()) {
         for (const QString &name : report.concerns) {

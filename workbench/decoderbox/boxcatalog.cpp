@@ -6,6 +6,7 @@
 #include "speakers/jeepspeaker.h"
 #include "speakers/mazdaspeaker.h"
 #include "speakers/toyotaspeaker.h"
+#include "speakers/volkswagenspeaker.h"
 #include "speakers/xinhangspeaker.h"
 
 namespace {
@@ -27,13 +28,20 @@ BoxSpeaker *makePlain(SimulatedCar *car)
 const QVector<BoxCatalog::Row> &BoxCatalog::rows()
 {
     static const QVector<Row> rows = {
-        {1, "CanBus_LiHang_JMCE200N", nullptr},          {2, "CanBus_Huida_ZD", nullptr},
-        {3, "CanBus_Raise_Volkswagen", makePlain},       {4, "CanBus_XinHang", make<XinHangSpeaker>},
-        {5, "CanBus_XBS_Mazda", make<MazdaSpeaker>},     {6, "CanBus_XinRi", makePlain},
-        {7, "CanBus_Raise_Honda", make<HondaSpeaker>},   {8, "CanBus_Raise_Nissan", makePlain},
-        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>}, {10, "CanBus_Raise_GM", make<GmSpeaker>},
-        {11, "CanBus_Raise_Haval", makePlain},           {12, "CanBus_Raise_GAC", makePlain},
-        {13, "CanBus_Raise_Venucia", makePlain},         {14, "CanBus_Raise_Renault", makePlain},
+        {1, "CanBus_LiHang_JMCE200N", nullptr},
+        {2, "CanBus_Huida_ZD", nullptr},
+        {3, "CanBus_Raise_Volkswagen", make<VolkswagenSpeaker>},
+        {4, "CanBus_XinHang", make<XinHangSpeaker>},
+        {5, "CanBus_XBS_Mazda", make<MazdaSpeaker>},
+        {6, "CanBus_XinRi", makePlain},
+        {7, "CanBus_Raise_Honda", make<HondaSpeaker>},
+        {8, "CanBus_Raise_Nissan", makePlain},
+        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>},
+        {10, "CanBus_Raise_GM", make<GmSpeaker>},
+        {11, "CanBus_Raise_Haval", makePlain},
+        {12, "CanBus_Raise_GAC", makePlain},
+        {13, "CanBus_Raise_Venucia", makePlain},
+        {14, "CanBus_Raise_Renault", makePlain},
         {15, "CanBus_Raise_Jeep", make<JeepSpeaker>},
     };
     return rows;

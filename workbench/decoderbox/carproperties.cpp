@@ -1,6 +1,7 @@
 // What the simulated car has: one row per property, grouped as a panel shows them.
 
 #include "carproperty.h"
+#include "carsettings.h"
 
 namespace {
 
@@ -17,63 +18,66 @@ const CarProperty::Kind NumberList = CarProperty::NumberList;
 
 const QVector<CarProperty> &CarProperty::all()
 {
-    static const QVector<CarProperty> properties = {
-        // name, kind, minimum, maximum, step, unit, choices, initial
-        {"climate.power", Switch, none, none, none, "", {}, "on"},
-        {"climate.ac", Switch, none, none, none, "", {}, "off"},
-        {"climate.auto", Switch, none, none, none, "", {}, "off"},
-        {"climate.circulation", Choice, none, none, none, "", {"out", "in", "auto"}, "out"},
-        {"climate.left", Temperature, 15.0, 32.0, 0.5, "°C", {}, "21"},
-        {"climate.right", Temperature, 15.0, 32.0, 0.5, "°C", {}, "21"},
-        // What the car's own display shows; the car thinks in °C either way.
-        {"climate.unit", Choice, none, none, none, "", {"C", "F"}, "C"},
-        {"climate.fan", Integer, 0, 7, 1, "", {}, "2"},
-        {"climate.fan_auto", Switch, none, none, none, "", {}, "off"},
-        {"climate.to_window", Switch, none, none, none, "", {}, "off"},
-        {"climate.to_face", Switch, none, none, none, "", {}, "on"},
-        {"climate.to_feet", Switch, none, none, none, "", {}, "off"},
-        {"climate.defrost", Switch, none, none, none, "", {}, "off"},
-        // The car asks for its climate screen with every package that says so ...
-        {"climate.show", Switch, none, none, none, "", {}, "off"},
-        // ... or tells whether the screen is up.
-        {"climate.screen", Switch, none, none, none, "", {}, "off"},
+    static const QVector<CarProperty> properties =
+        QVector<CarProperty>{
+            // name, kind, minimum, maximum, step, unit, choices, initial
+            {"climate.power", Switch, none, none, none, "", {}, "on"},
+            {"climate.ac", Switch, none, none, none, "", {}, "off"},
+            {"climate.auto", Switch, none, none, none, "", {}, "off"},
+            {"climate.circulation", Choice, none, none, none, "", {"out", "in", "auto"}, "out"},
+            {"climate.left", Temperature, 15.0, 32.0, 0.5, "°C", {}, "21"},
+            {"climate.right", Temperature, 15.0, 32.0, 0.5, "°C", {}, "21"},
+            // What the car's own display shows; the car thinks in °C either way.
+            {"climate.unit", Choice, none, none, none, "", {"C", "F"}, "C"},
+            {"climate.fan", Integer, 0, 7, 1, "", {}, "2"},
+            {"climate.fan_auto", Switch, none, none, none, "", {}, "off"},
+            {"climate.to_window", Switch, none, none, none, "", {}, "off"},
+            {"climate.to_face", Switch, none, none, none, "", {}, "on"},
+            {"climate.to_feet", Switch, none, none, none, "", {}, "off"},
+            {"climate.defrost", Switch, none, none, none, "", {}, "off"},
+            // The car asks for its climate screen with every package that says so ...
+            {"climate.show", Switch, none, none, none, "", {}, "off"},
+            // ... or tells whether the screen is up.
+            {"climate.screen", Switch, none, none, none, "", {}, "off"},
 
-        {"doors.front_left", Switch, none, none, none, "", {}, "off"},
-        {"doors.front_right", Switch, none, none, none, "", {}, "off"},
-        {"doors.rear_left", Switch, none, none, none, "", {}, "off"},
-        {"doors.rear_right", Switch, none, none, none, "", {}, "off"},
+            {"doors.front_left", Switch, none, none, none, "", {}, "off"},
+            {"doors.front_right", Switch, none, none, none, "", {}, "off"},
+            {"doors.rear_left", Switch, none, none, none, "", {}, "off"},
+            {"doors.rear_right", Switch, none, none, none, "", {}, "off"},
 
-        {"radar.front.1", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.front.2", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.front.3", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.front.4", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.rear.1", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.rear.2", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.rear.3", Integer, 0, 6, 1, "", {}, "0"},
-        {"radar.rear.4", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.front.1", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.front.2", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.front.3", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.front.4", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.rear.1", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.rear.2", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.rear.3", Integer, 0, 6, 1, "", {}, "0"},
+            {"radar.rear.4", Integer, 0, 6, 1, "", {}, "0"},
 
-        {"steering.angle", Integer, -540, 540, 10, "°", {}, "0"},
-        {"gear.reverse", Switch, none, none, none, "", {}, "off"},
-        {"indicator.right", Switch, none, none, none, "", {}, "off"},
-        {"light.illumination", Switch, none, none, none, "", {}, "off"},
-        // Which picture the car's display shows: the factory's or the unit's.
-        {"screen.factory", Switch, none, none, none, "", {}, "off"},
-        {"camera.view360", Switch, none, none, none, "", {}, "off"},
+            {"steering.angle", Integer, -540, 540, 10, "°", {}, "0"},
+            {"gear.reverse", Switch, none, none, none, "", {}, "off"},
+            {"indicator.right", Switch, none, none, none, "", {}, "off"},
+            {"light.illumination", Switch, none, none, none, "", {}, "off"},
+            // Which picture the car's display shows: the factory's or the unit's.
+            {"screen.factory", Switch, none, none, none, "", {}, "off"},
+            {"camera.view360", Switch, none, none, none, "", {}, "off"},
 
-        {"box.version", Text, none, 32, none, "", {}, "VB 1.00.00"},
-        {"box.car_type", Integer, 0, 65535, 1, "", {}, "1"},
-        // The greatest distance that each radar sensor knows, front left to front right, rear left to rear
-        // right.
-        {"box.radar_maxima", NumberList, 0, 255, 8, "", {}, "7,7,7,7,7,7,7,7"},
-        // How the box misbehaves in a firmware update.
-        {"firmware.fault",
-         Choice,
-         none,
-         none,
-         none,
-         "",
-         {"none", "twice", "backwards", "beyond", "stop"},
-         "none"},
-    };
+            {"box.version", Text, none, 32, none, "", {}, "VB 1.00.00"},
+            {"box.car_type", Integer, 0, 65535, 1, "", {}, "1"},
+            // The greatest distance that each radar sensor knows, front left to front right, rear left to
+            // rear
+            // right.
+            {"box.radar_maxima", NumberList, 0, 255, 8, "", {}, "7,7,7,7,7,7,7,7"},
+            // How the box misbehaves in a firmware update.
+            {"firmware.fault",
+             Choice,
+             none,
+             none,
+             none,
+             "",
+             {"none", "twice", "backwards", "beyond", "stop"},
+             "none"},
+        } +
+        carSettings();
     return properties;
 }
