@@ -231,9 +231,7 @@ void TestSettings::damagedWithoutPredecessorIsEmpty_data()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty file") << QByteArray();
     QTest::newRow("NULs") << QByteArray(4096, '\0');
-    QTest::newRow("noise") << QByteArray("\x7f"
-                                         "ELF\x02\x01=\xfe\n[Car]\nSetItem1=5",
-                                         28);
+    QTest::newRow("noise") << QByteArray("\x7f\x01\x02=\xfe\n[Car]\nSetItem1=5");
     QTest::newRow("larger than any settings file") << "[Car]\nSetItem1=5\n;" + QByteArray(1 << 20, 'x');
 }
 

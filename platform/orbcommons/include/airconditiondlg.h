@@ -4,7 +4,8 @@
 #include "orbdialog.h"
 
 /// The climate display: an overlay at the foot of the screen. Each setter changes what it shows at once;
-/// showing and hiding is the caller's, with setVisible. Objects may be built before there is a screen.
+/// showing and hiding is the caller's, with setVisible; the user may put it away with a tap. Objects may be
+/// built before there is a screen.
 class ORB_EXPORT AirConditionDlg : public OrbDialog
 {
     Q_OBJECT
@@ -47,11 +48,12 @@ public:
     /// Temperatures as they are to be shown ("21.5°C", "72°F", "LO", "HI"); an empty text shows nothing.
     void setTemperature(const QString &left, const QString &right);
 
-    void setVisible(bool visible) override;
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    QSize sizeHint() const override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

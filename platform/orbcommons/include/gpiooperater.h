@@ -7,12 +7,13 @@
 
 /// One GPIO line of the head unit. The object is a handle: several may name the same line, and a line keeps
 /// its state when the handle goes. Without a GPIO root folder the lines live in memory; with one (OrbHost)
-/// they are the folders gpioN below it, with their files `direction` and `value`. A file that cannot be
-/// written is reported with one debug line; the state in memory follows all the same.
+/// they are the folders gpioN below it, with their files `direction` and `value`; a line without a folder is
+/// exported first. A file that cannot be written is reported with one debug line; the state in memory follows
+/// all the same.
 class ORB_EXPORT GPIOOperater
 {
 public:
-    /// \a line: number of the line, 0 and up.
+    /// \a line: number of the line, 0 and up. A line below 0 is none: setting it does nothing.
     explicit GPIOOperater(int line);
 
     int line() const { return m_line; }
@@ -21,7 +22,7 @@ public:
     void setDirection(const QString &direction);
     QString direction() const;
 
-    /// 0 or 1 (anything but 0 counts as 1). A line starts as 0.
+    /// 0 or 1 (anything but 0 counts as 1). A line starts as 0; an input with a file reads as the file says.
     void setValue(int value);
     int value() const;
 

@@ -24,6 +24,9 @@ public:
     /// its own, in which packages and keys go on.
     static int choose(const QString &title, const QStringList &texts, int current);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QButtonGroup *m_group;
 };

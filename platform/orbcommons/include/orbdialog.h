@@ -18,15 +18,17 @@ public:
         Choice = 1   ///< wants an answer (selection, firmware update)
     };
 
-    /// \a kind: one of Kind; anything else counts as Overlay. A dialog without a parent is put on the unit's
-    /// screen when it becomes visible; it stays owned by whoever built it.
+    /// \a kind: one of Kind; anything else counts as Overlay. The dialog is put on the unit's screen
+    /// when it becomes visible and taken off it, hidden, when the screen goes. It stays owned by whoever
+    /// built it; one that was built with a parent is deleted after that.
     explicit OrbDialog(QWidget *parent = nullptr, int kind = Overlay);
     ~OrbDialog() override;
 
     int kind() const;
 
 public Q_SLOTS:
-    /// Showing brings the dialog to the front. exec(), open() and show() all come through here.
+    /// Showing brings the dialog to the front of its kind: overlays lie over windows, choices over both.
+    /// exec(), open() and show() all come through here.
     void setVisible(bool visible) override;
 
     void done(int result) override;

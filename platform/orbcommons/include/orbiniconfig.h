@@ -12,7 +12,8 @@ class OrbIniConfigPrivate;
 /// Settings kept in an ini file of the head unit's settings folder. A file is replaced whole: written beside,
 /// flushed to the disk, renamed; the version before is kept as NAME.bak. A power cut leaves the old or the
 /// new file, never half of one. A file that does not read as it was written counts as absent, and its
-/// predecessor is used.
+/// predecessor is used; so does one above 1 MiB. A file written by hand is taken when it parses. Objects on
+/// the same file see each other's values.
 class ORB_EXPORT OrbIniConfig : public QObject
 {
     Q_OBJECT
@@ -27,9 +28,9 @@ public:
     /// The stored value (ini values are texts: convert with toInt() and check), or \a defaultValue.
     QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
 
-    /// Stores a value and replaces the file before it returns. Writing the value that is already there
-    /// touches no file. False when the file could not be written (one debug line); the value holds in memory
-    /// all the same.
+    /// Stores a value as its text and replaces the file before it returns. Writing the value that is already
+    /// there touches no file. False when the file could not be written (one debug line); the value holds in
+    /// memory all the same. An empty key is refused.
     bool setValue(const QString &key, const QVariant &value);
 
     bool contains(const QString &key) const;

@@ -9,8 +9,8 @@
 /// title bar: a back button (`btnBack`), the window title, a home button (`btnHome`). A subclass sets its
 /// central widget (a form's setupUi(this) does) and overrides the hooks that it needs.
 ///
-/// The window is a child of the unit's screen while the screen exists, so it is deleted with it at the
-/// latest.
+/// While it is visible the window is a child of the unit's screen, and when the screen goes it is taken off
+/// it first, hidden. It belongs to whoever built it; one that was built with a parent is deleted after that.
 class ORB_EXPORT OrbMainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -4,6 +4,7 @@
 // The one place that knows which Qt generation it is compiled with.
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QLayout>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -34,6 +35,35 @@ inline void setMargin(QLayout *layout, int margin)
 inline QVariant voidStarVariant(void *address)
 {
     return QVariant::fromValue(address);
+}
+
+/// Width of \a text in pixels.
+inline int textWidth(const QFontMetrics &metrics, const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(text);
+#else
+    return metrics.width(text);
+#endif
+}
+
+/// Where \a event happened, in the receiving widget's and in screen coordinates.
+inline QPoint mousePos(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->position().toPoint();
+#else
+    return event->pos();
+#endif
+}
+
+inline QPoint mouseGlobalPos(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->globalPosition().toPoint();
+#else
+    return event->globalPos();
+#endif
 }
 
 } // namespace OrbQt

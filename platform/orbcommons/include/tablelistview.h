@@ -33,8 +33,12 @@ public:
     explicit TableListView(QWidget *parent = nullptr);
     ~TableListView() override;
 
+    /// \a model stays the caller's; null detaches.
+    void setModel(QAbstractItemModel *model) override;
+
 Q_SIGNALS:
     /// A tap (press and release on one cell without a drag) on \a index, next to QAbstractItemView::clicked.
+    /// QAbstractItemView::pressed comes with the press already. Headings and disabled rows give none of them.
     void itemColumnClicked(QAbstractItemModel *model, const QModelIndex &index);
 
 protected:
@@ -42,6 +46,9 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+
+private Q_SLOTS:
+    void fitColumns();
 
 private:
     Q_DISABLE_COPY(TableListView)

@@ -17,10 +17,12 @@ public:
     /// with a general text.
     void showUpdateDlg(int kind);
 
-    /// Progress, 0 to 100 %, clamped. 100 or the last packet leaves the bar standing.
+    /// Progress, 0 to 100 %, clamped. The end is 100, or a silence of some seconds near it, since the share
+    /// of the last packet is seldom 100; after a silence before that the user may close the dialog.
     void updatePercent(int percent);
 
-    /// The update failed; \a code is shown with the message. The dialog can then be closed.
+    /// The update failed; \a code is shown with the message. The dialog can then be closed, and one that had
+    /// begun tried again. Ignored when the update has ended well; never shows a hidden dialog.
     void setUpdateFailed(int code);
 
 Q_SIGNALS:
@@ -29,6 +31,10 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void onAccepted();
+    void onSilence();
 
 private:
     Q_DISABLE_COPY(UpdateDialog)

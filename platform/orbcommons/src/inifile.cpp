@@ -5,7 +5,6 @@
 #include <QDebug>
 #include <QFile>
 #include <QHash>
-#include <QWeakPointer>
 
 namespace {
 
@@ -28,13 +27,13 @@ IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
            found ? "its predecessor is used" : "it counts as empty");
 }
 
-QSharedPointer<IniFile> IniFile::open(const QString &path)
+std::shared_ptr<IniFile> IniFile::open(const QString &path)
 {
-    static QHash<QString, QWeakPointer<IniFile>> openFiles;
-    QSharedPointer<IniFile> file = openFiles.value(path).toStrongRef();
+    static QHash<QString, std::weak_ptr<IniFile>> openFiles;
+    std::shared_ptr<IniFile> file = openFiles.value(path).lock();
     if (!file) {
-        file = QSharedPointer<IniFile>(new IniFile(path));
-        openFiles.insert(path, file.toWeakRef());
+        file.reset(new IniFile(path));
+        openFiles[path] = file;
     }
     return file;
 }

@@ -3,7 +3,8 @@
 
 #include "initext.h"
 
-#include <QSharedPointer>
+#include <QString>
+#include <memory>
 
 /// A settings file in memory. All OrbIniConfig objects on one path share it, so that none writes back what
 /// another one has changed meanwhile.
@@ -11,7 +12,7 @@ class IniFile
 {
 public:
     /// The file at \a path, read from the disk unless somebody has it open.
-    static QSharedPointer<IniFile> open(const QString &path);
+    static std::shared_ptr<IniFile> open(const QString &path);
 
     QString path() const { return m_path; }
 

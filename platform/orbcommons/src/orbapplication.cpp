@@ -2,10 +2,14 @@
 
 #include "orbevent.h"
 #include "orbhost_p.h"
+#include "orbskin.h"
 #include "orbtrace.h"
 #include "touchinjector.h"
 
-OrbApplication::OrbApplication(int &argc, char **argv) : QApplication(argc, argv) {}
+OrbApplication::OrbApplication(int &argc, char **argv) : QApplication(argc, argv)
+{
+    applyOrbSkin(*this);
+}
 
 OrbApplication::~OrbApplication()
 {

@@ -54,6 +54,8 @@ OrbHostPrivate::~OrbHostPrivate()
 
 void OrbHostPrivate::destroy()
 {
+    if (theHost)
+        theHost->d->windowStack->leaveArea();
     OrbHost *host = theHost;
     theHost = nullptr;
     delete host;

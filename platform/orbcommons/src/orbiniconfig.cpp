@@ -8,7 +8,7 @@
 class OrbIniConfigPrivate
 {
 public:
-    QSharedPointer<IniFile> file;
+    std::shared_ptr<IniFile> file;
     QString group;
 };
 

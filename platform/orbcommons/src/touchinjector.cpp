@@ -19,7 +19,7 @@ void TouchInjector::inject(int type, int x, int y)
 
 void TouchInjector::deliver(int type, int x, int y)
 {
-    QWidget *screen = OrbHost::instance()->screen();
+    const QPointer<QWidget> screen(OrbHost::instance()->screen());
     if (!screen)
         return;
     // Should this touch run an event loop, that loop has to be told that the next touch is already waiting.
@@ -40,7 +40,7 @@ void TouchInjector::deliver(int type, int x, int y)
     send(receiver, type, receiver->mapFromGlobal(global), global);
 }
 
-void TouchInjector::press(QWidget *screen, const QPoint &pos)
+void TouchInjector::press(const QPointer<QWidget> &screen, const QPoint &pos)
 {
     // A release got lost: the widget comes up again, but outside itself, which clicks nothing.
     if (QWidget *stuck = m_grabber) {
@@ -48,10 +48,10 @@ void TouchInjector::press(QWidget *screen, const QPoint &pos)
         const QPoint outside(-1, -1);
         send(stuck, QEvent::MouseButtonRelease, outside, stuck->mapToGlobal(outside));
     }
-    if (!screen->rect().contains(pos))
+    if (!screen || !screen->rect().contains(pos))
         return;
     QWidget *hit = screen->childAt(pos);
-    m_grabber = hit ? hit : screen;
+    m_grabber = hit ? hit : screen.data();
     const QPoint global = screen->mapToGlobal(pos);
     send(m_grabber, QEvent::MouseButtonPress, m_grabber->mapFromGlobal(global), global);
 }

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void deliver(int type, int x, int y);
 
 private:
-    void press(QWidget *screen, const QPoint &pos);
+    void press(const QPointer<QWidget> &screen, const QPoint &pos);
     void send(QWidget *receiver, int type, const QPoint &local, const QPoint &global);
 
     QPointer<QWidget> m_grabber; ///< gets every touch until the release

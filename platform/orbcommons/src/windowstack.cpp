@@ -1,13 +1,44 @@
 #include "windowstack.h"
 
 #include "orbhost_p.h"
+#include "orbtrace.h"
+
+#include <QEvent>
+#include <QLayout>
+
+namespace {
+
+const int OverlayHeight = 190;
+const int SmallestChoiceWidth = 560;
+const int ChoiceMargin = 16;
+
+QRect overlayGeometry(const QRect &area, const QSize &hint)
+{
+    const int height = qMin(area.height(), qMax(OverlayHeight, hint.height()));
+    return QRect(area.left(), area.bottom() + 1 - height, area.width(), height);
+}
+
+QRect choiceGeometry(const QRect &area, const QWidget *dialog)
+{
+    const QSize hint = dialog->sizeHint().isValid() ? dialog->sizeHint() : dialog->size();
+    const QSize room = area.size() - QSize(2 * ChoiceMargin, 2 * ChoiceMargin);
+    QSize size(qMin(room.width(), qMax(SmallestChoiceWidth, hint.width())), hint.height());
+    QLayout *layout = dialog->layout();
+    if (layout && layout->hasHeightForWidth())
+        size.setHeight(layout->totalHeightForWidth(size.width()));
+    QRect place(QPoint(0, 0), size.boundedTo(room));
+    place.moveCenter(area.center());
+    return place;
+}
+
+} // namespace
 
 WindowStack *WindowStack::instance()
 {
     return OrbHostPrivate::get()->windowStack;
 }
 
-WindowStack::WindowStack(QObject *parent) : QObject(parent) {}
+WindowStack::WindowStack(QObject *parent) : QObject(parent), m_area(nullptr), m_quiet(nullptr) {}
 
 void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
 {
@@ -16,6 +47,10 @@ void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
     const Entry entry = {window, kind, appId};
     m_all.append(window);
     m_order.append(entry);
+    window->installEventFilter(this);
+    // On the screen a window is the area's child; what it was built under then still decides when it dies.
+    if (window->parent())
+        connect(window->parent(), SIGNAL(destroyed()), window, SLOT(deleteLater()));
 }
 
 void WindowStack::remove(QWidget *window)
@@ -25,31 +60,77 @@ void WindowStack::remove(QWidget *window)
         return;
     m_order.removeAt(index);
     m_all.removeAll(window);
+    restack();
     Q_EMIT changed();
 }
 
+void WindowStack::traceVisibility(QWidget *window, bool visible)
+{
+    // The update dialog reports its own calls instead.
+    if (!OrbTrace::listener || window == m_quiet || window->inherits("UpdateDialog"))
+        return;
+    OrbTrace::listener->called(QLatin1String(window->metaObject()->className()), QLatin1String("setVisible"),
+                               QVariantList() << visible);
+}
+
+void WindowStack::place(QWidget *window)
+{
+    const int index = indexInOrder(window);
+    if (index < 0 || !m_area)
+        return;
+    if (window->parentWidget() != m_area)
+        setParentQuietly(window, m_area);
+    setGeometryOf(m_order.at(index));
+}
+
 void WindowStack::shown(QWidget *window)
-{
-    raise(window);
-}
-
-void WindowStack::hidden(QWidget *window)
-{
-    if (indexInOrder(window) >= 0)
-        Q_EMIT changed();
-}
-
-void WindowStack::raise(QWidget *window)
 {
     const int index = indexInOrder(window);
     if (index < 0)
         return;
     m_order.append(m_order.takeAt(index));
-    window->raise();
+    restack();
     Q_EMIT changed();
 }
 
-void WindowStack::areaChanged() {}
+void WindowStack::hidden(QWidget *window)
+{
+    if (indexInOrder(window) < 0)
+        return;
+    restack();
+    Q_EMIT changed();
+}
+
+void WindowStack::areaChanged()
+{
+    QWidget *next = OrbHost::instance()->windowArea();
+    if (next == m_area)
+        return;
+    leaveArea();
+    m_area = next;
+    if (!m_area)
+        return;
+    m_area->installEventFilter(this);
+    connect(m_area, SIGNAL(destroyed()), SLOT(leaveArea()));
+}
+
+// Also while the area is being destroyed: its windows are not its own and must not go with it.
+void WindowStack::leaveArea()
+{
+    QWidget *left = m_area;
+    m_area = nullptr;
+    delete m_scrim;
+    if (!left)
+        return;
+    left->removeEventFilter(this);
+    disconnect(left, nullptr, this, nullptr);
+    const QList<QWidget *> windows = m_all;
+    for (int i = 0; i < windows.size(); ++i) {
+        QWidget *window = windows.at(i);
+        if (indexInOrder(window) >= 0 && window->parentWidget() == left)
+            setParentQuietly(window, nullptr);
+    }
+}
 
 QList<QWidget *> WindowStack::all() const
 {
@@ -58,29 +139,102 @@ QList<QWidget *> WindowStack::all() const
 
 QWidget *WindowStack::front(bool ignoreOverlays) const
 {
-    for (int i = m_order.size() - 1; i >= 0; --i) {
-        const Entry &entry = m_order.at(i);
-        if (entry.window->isVisible() && !(ignoreOverlays && entry.kind == OverlayDialog))
-            return entry.window;
-    }
-    return nullptr;
+    int index = topmost(ChoiceDialog);
+    if (index < 0 && !ignoreOverlays)
+        index = topmost(OverlayDialog);
+    if (index < 0)
+        index = topmost(MainWindow);
+    return index < 0 ? nullptr : m_order.at(index).window;
 }
 
 unsigned int WindowStack::frontAppId() const
 {
-    for (int i = m_order.size() - 1; i >= 0; --i) {
-        const Entry &entry = m_order.at(i);
-        if (entry.kind == MainWindow && entry.window->isVisible())
-            return entry.appId;
-    }
-    return 0;
+    const int index = topmost(MainWindow);
+    return index < 0 ? 0 : m_order.at(index).appId;
 }
 
-int WindowStack::indexInOrder(QWidget *window) const
+bool WindowStack::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_area && event->type() == QEvent::Resize) {
+        for (int i = 0; i < m_order.size(); ++i)
+            setGeometryOf(m_order.at(i));
+        restack();
+    } else if (event->type() == QEvent::LayoutRequest) {
+        // What a dialog shows has changed, and with it the room that it needs.
+        const int index = indexInOrder(watched);
+        if (index >= 0 && m_order.at(index).kind != MainWindow)
+            setGeometryOf(m_order.at(index));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+int WindowStack::indexInOrder(const QObject *window) const
 {
     for (int i = 0; i < m_order.size(); ++i) {
         if (m_order.at(i).window == window)
             return i;
     }
     return -1;
+}
+
+int WindowStack::topmost(Kind kind) const
+{
+    for (int i = m_order.size() - 1; i >= 0; --i) {
+        if (m_order.at(i).kind == kind && !m_order.at(i).window->isHidden())
+            return i;
+    }
+    return -1;
+}
+
+void WindowStack::setGeometryOf(const Entry &entry)
+{
+    if (!m_area || entry.window->parentWidget() != m_area)
+        return;
+    const QRect area = m_area->rect();
+    if (entry.kind == MainWindow)
+        entry.window->setGeometry(area);
+    else if (entry.kind == OverlayDialog)
+        entry.window->setGeometry(overlayGeometry(area, entry.window->sizeHint()));
+    else
+        entry.window->setGeometry(choiceGeometry(area, entry.window));
+}
+
+void WindowStack::setParentQuietly(QWidget *window, QWidget *parent)
+{
+    const QWidget *before = m_quiet;
+    m_quiet = window;
+    if (!window->isHidden())
+        window->setVisible(false);
+    window->setParent(parent, parent ? Qt::Widget : Qt::Window);
+    m_quiet = before;
+}
+
+// Puts what is on the area into its order: windows, overlays, choices; the scrim lies right under the topmost
+// choice, so that nothing else takes a touch.
+void WindowStack::restack()
+{
+    if (!m_area)
+        return;
+    const int choice = topmost(ChoiceDialog);
+    const Kind kinds[] = {MainWindow, OverlayDialog, ChoiceDialog};
+    for (int k = 0; k < 3; ++k) {
+        for (int i = 0; i < m_order.size(); ++i) {
+            if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area)
+                m_order.at(i).window->raise();
+        }
+    }
+    if (choice < 0 || m_order.at(choice).window->parentWidget() != m_area) {
+        if (m_scrim)
+            m_scrim->hide();
+        return;
+    }
+    if (!m_scrim) {
+        m_scrim = new QWidget(m_area);
+        m_scrim->setObjectName(QLatin1String("orbScrim"));
+        m_scrim->setAttribute(Qt::WA_StyledBackground);
+        m_scrim->setAttribute(Qt::WA_NoMousePropagation);
+    }
+    m_scrim->setGeometry(m_area->rect());
+    m_scrim->show();
+    m_scrim->stackUnder(m_order.at(choice).window);
 }

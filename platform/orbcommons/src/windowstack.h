@@ -3,11 +3,13 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 
-/// Every window and dialog of the framework that exists, and which of them lies on top. Each adds itself when
-/// it is built and removes itself when it goes; the pointers are never followed after that. A window that
-/// was not added is ignored by every function. GUI thread only.
+/// Every window and dialog of the framework that exists, where each lies on the unit's screen and which of
+/// them is on top: windows below overlays below choices. Each adds itself when it is built and removes itself
+/// when it goes; the pointers are never followed after that. A window that was not added is ignored by every
+/// function. GUI thread only.
 class WindowStack : public QObject
 {
     Q_OBJECT
@@ -24,12 +26,16 @@ public:
     void add(QWidget *window, Kind kind, unsigned int appId = 0);
     void remove(QWidget *window);
 
-    /// \a window became visible: it is in front from now on.
+    /// Reports a call of setVisible, but not one that the stack makes itself.
+    void traceVisibility(QWidget *window, bool visible);
+
+    /// \a window is about to become visible: puts it on the window area, in its place there. Without an area
+    /// it stays a top-level window.
+    void place(QWidget *window);
+
+    /// \a window became visible: it is in front of its kind from now on.
     void shown(QWidget *window);
     void hidden(QWidget *window);
-
-    /// Brings \a window to the front without changing its visibility.
-    void raise(QWidget *window);
 
     /// The unit's window area was set, replaced or taken away.
     void areaChanged();
@@ -43,6 +49,12 @@ public:
     /// Application of the topmost visible main window; 0 when there is none.
     unsigned int frontAppId() const;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public Q_SLOTS:
+    /// Takes every window off the window area, hidden; each is its owner's alone again.
+    void leaveArea();
+
 Q_SIGNALS:
     void changed();
 
@@ -54,10 +66,17 @@ private:
         unsigned int appId;
     };
 
-    int indexInOrder(QWidget *window) const;
+    int indexInOrder(const QObject *window) const;
+    int topmost(Kind kind) const;
+    void setGeometryOf(const Entry &entry);
+    void setParentQuietly(QWidget *window, QWidget *parent);
+    void restack();
 
     QList<QWidget *> m_all;
-    QList<Entry> m_order; ///< bottom to top
+    QList<Entry> m_order; ///< bottom to top within each kind
+    QWidget *m_area;
+    QPointer<QWidget> m_scrim;
+    const QWidget *m_quiet; ///< whose setVisible is the stack's own doing
 };
 
 #endif // WINDOWSTACK_H

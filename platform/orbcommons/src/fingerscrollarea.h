@@ -1,0 +1,24 @@
+#ifndef FINGERSCROLLAREA_H
+#define FINGERSCROLLAREA_H
+
+#include <QScrollArea>
+
+class DragScroller;
+
+/// A vertical scroll area that a finger drags, also where it comes down on a button: the button is then let
+/// go unpressed.
+class FingerScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// Takes \a content, whose buttons are all there already.
+    FingerScrollArea(QWidget *content, QWidget *parent);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    DragScroller *m_scroller;
+};
+
+#endif // FINGERSCROLLAREA_H

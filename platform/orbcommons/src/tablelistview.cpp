@@ -1,0 +1,135 @@
+#include "tablelistview.h"
+
+#include "dragscroller.h"
+#include "orbqtcompat.h"
+#include "tableviewmodel.h"
+
+#include <QHeaderView>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QScrollBar>
+
+namespace {
+
+// Share of the width that the value gets, and the secondary text when there is one, in percent.
+const int ValueShare = 32;
+const int SecondShare = 20;
+const int SmallestValueWidth = 200;
+const int EmptySecondWidth = 16;
+
+bool hasSecondTexts(const QAbstractItemModel *model)
+{
+    for (int row = 0; row < model->rowCount(); ++row) {
+        if (!model->index(row, TableViewItemDatas::SecondColumn).data().toString().isEmpty())
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+class TableListView::Private
+{
+public:
+    explicit Private(TableListView *view) : scroller(new DragScroller(view->verticalScrollBar(), view)) {}
+
+    DragScroller *scroller;
+    QPersistentModelIndex pressed;
+};
+
+TableListView::TableListView(QWidget *parent) : QTableView(parent), d(new Private(this))
+{
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(RowHeight);
+    setShowGrid(false);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setItemDelegate(new TableItemDelegate(this));
+}
+
+TableListView::~TableListView()
+{
+    delete d;
+}
+
+void TableListView::setModel(QAbstractItemModel *next)
+{
+    if (model())
+        disconnect(model(), nullptr, this, SLOT(fitColumns()));
+    d->pressed = QPersistentModelIndex();
+    QTableView::setModel(next);
+    if (next) {
+        connect(next, SIGNAL(dataChanged(QModelIndex, QModelIndex)), SLOT(fitColumns()));
+        connect(next, SIGNAL(rowsInserted(QModelIndex, int, int)), SLOT(fitColumns()));
+        connect(next, SIGNAL(rowsRemoved(QModelIndex, int, int)), SLOT(fitColumns()));
+        connect(next, SIGNAL(modelReset()), SLOT(fitColumns()));
+    }
+    fitColumns();
+}
+
+void TableListView::fitColumns()
+{
+    if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount)
+        return;
+    const int width = viewport()->width();
+    const int value = qMin(width / 2, qMax(SmallestValueWidth, width * ValueShare / 100));
+    const int second = hasSecondTexts(model()) ? width * SecondShare / 100 : EmptySecondWidth;
+    setColumnWidth(TableViewItemDatas::TextColumn, qMax(1, width - second - value));
+    setColumnWidth(TableViewItemDatas::SecondColumn, second);
+    setColumnWidth(TableViewItemDatas::ValueColumn, value);
+}
+
+void TableListView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    fitColumns();
+}
+
+void TableListView::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPoint place = OrbQt::mousePos(event);
+    d->pressed = QPersistentModelIndex();
+    if (d->scroller->press(place.y()))
+        return;
+    const QModelIndex index = indexAt(place);
+    if (!(index.flags() & Qt::ItemIsSelectable))
+        return;
+    d->pressed = index;
+    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    Q_EMIT pressed(index);
+}
+
+void TableListView::mouseMoveEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (d->scroller->move(OrbQt::mousePos(event).y()))
+        clearSelection();
+}
+
+void TableListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    clearSelection();
+    const QModelIndex index = d->pressed;
+    d->pressed = QPersistentModelIndex();
+    if (!d->scroller->release() || !index.isValid() || indexAt(OrbQt::mousePos(event)) != index)
+        return;
+    // A receiver may change the rows or delete the list.
+    const QPersistentModelIndex tapped = index;
+    QPointer<TableListView> guard(this);
+    Q_EMIT clicked(index);
+    if (guard && tapped.isValid())
+        Q_EMIT itemColumnClicked(model(), tapped);
+}
