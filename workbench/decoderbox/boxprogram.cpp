@@ -3,27 +3,17 @@
 #include "boxcatalog.h"
 #include "boxscript.h"
 #include "decoderbox.h"
+#include "quitonsignals.h"
 #include "scenarioplayer.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <csignal>
 #include <cstdio>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
-
-int signalPipe[2] = {-1, -1};
-
-void onSignal(int)
-{
-    const char byte = 0;
-    const ssize_t ignored = ::write(signalPipe[1], &byte, 1);
-    (void)ignored;
-}
 
 void print(FILE *stream, const QString &line)
 {
@@ -59,7 +49,8 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
     if (!openLog(parser.value("log")) || !openScenario(parser.value("scenario"))) {
         return false;
     }
-    quitOnSignals();
+    // A box that is stopped by a signal still takes its link away.
+    quitOnSignals(this);
     print(stdout, m_box->portPath());
     return openScript(parser.value("script"));
 }
@@ -150,18 +141,4 @@ bool BoxProgram::openScript(const QString &path)
     connect(script, &BoxScript::answered, this, [](const QString &line) { print(stdout, line); });
     connect(script, &BoxScript::finished, this, [] { QCoreApplication::quit(); });
     return true;
-}
-
-// A box that is stopped by a signal still takes its link away.
-void BoxProgram::quitOnSignals()
-{
-    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
-        return;
-    }
-    QSocketNotifier *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [] { QCoreApplication::quit(); });
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        std::signal(number, onSignal);
-    }
-    std::signal(SIGPIPE, SIG_IGN);
 }

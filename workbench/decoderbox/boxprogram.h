@@ -30,7 +30,6 @@ private:
     bool openLog(const QString &path);
     bool openScenario(const QString &path);
     bool openScript(const QString &path);
-    void quitOnSignals();
 
     std::unique_ptr<DecoderBox> m_box;
     QFile m_log;

@@ -1,0 +1,38 @@
+#ifndef HEADUNITOPTIONS_H
+#define HEADUNITOPTIONS_H
+
+#include <QMap>
+#include <QSize>
+#include <QStringList>
+#include <QVariant>
+
+/// What the command line of `headunit` asks for.
+struct HeadUnitOptions
+{
+    static constexpr uint canBusTypeTag = 0x10008;
+    static constexpr uint keyRedefTag = 0x1000c;
+
+    QMap<uint, QVariant> tags;
+    QMap<QString, QVariant> productValues;
+    QMap<QString, QStringList> factorySettings;
+    QString settingsDir; ///< empty for the framework's own choice
+    QString plugin;      ///< empty for the one that belongs to the program
+    QSize screenSize;    ///< pixels; 1024x600 unless the product value "ScreenSize" says otherwise
+    bool isHeadless = false;
+    bool hasDecoderBox = false;
+    QString scenario; ///< of the decoder box; empty for none
+    QString trace;    ///< file, "-" for standard output, empty for none
+    QString script;   ///< file, "-" for standard input, empty for none
+    bool wantsHelp = false;
+
+    /// Reads \a arguments, the program's name first; needs no application object. False, with the reason in
+    /// \a error, when they are wrong.
+    bool parse(const QStringList &arguments, QString *error);
+
+    static QString usage();
+
+    /// The decoder type that the plug-in will read; 0 for none.
+    uint canBusType() const { return tags.value(canBusTypeTag).toUInt(); }
+};
+
+#endif

@@ -1,0 +1,173 @@
+#include "headunitprogram.h"
+
+#include "boxcatalog.h"
+#include "decoderbox.h"
+#include "headunit.h"
+#include "lineoutput.h"
+#include "quitonsignals.h"
+#include "scenarioplayer.h"
+#include "scriptrunner.h"
+#include "tracewriter.h"
+#include "unitscreen.h"
+
+#include "orbapplication.h"
+#include "orbhost.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int lastPackagesMs = 500; // what the end of a scenario has brought about is still on its way
+
+// A path on the command line: relative ones are relative to the current folder, "-" is \a standard.
+bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, QString *error)
+{
+    file->setFileName(path);
+    const bool ok = path == "-" ? file->open(standard, mode) : file->open(mode);
+    if (!ok) {
+        *error = QString("%1: %2").arg(path, file->errorString());
+    }
+    return ok;
+}
+
+} // namespace
+
+HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent)
+    : QObject(parent), m_options(options)
+{}
+
+HeadUnitProgram::~HeadUnitProgram()
+{
+    m_script.reset();
+    m_unit.reset();
+    m_window.reset();
+    OrbTrace::setListener(nullptr);
+}
+
+bool HeadUnitProgram::begin(QString *error)
+{
+    quitOnSignals(this);
+    if (!openTrace(error)) {
+        return false;
+    }
+    configureUnit();
+    if (!openBox(error)) {
+        return false;
+    }
+    m_unit.reset(new HeadUnit);
+    openScreen();
+    const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
+    if (!m_unit->loadPlugin(plugin, error)) {
+        return false;
+    }
+    return openScript(error);
+}
+
+QString HeadUnitProgram::ownPlugin()
+{
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const QString installed = folder.filePath(HEADUNIT_INSTALLED_PLUGIN);
+    const QString built = folder.filePath(HEADUNIT_BUILT_PLUGIN);
+    return QDir::cleanPath(QFileInfo::exists(installed) ? installed : built);
+}
+
+// A script is answered on standard output when nobody asked for the trace.
+bool HeadUnitProgram::openTrace(QString *error)
+{
+    const bool isTraced = !m_options.trace.isEmpty();
+    if (isTraced || !m_options.script.isEmpty()) {
+        const QString path = isTraced ? m_options.trace : QString("-");
+        const QFile::OpenMode mode = QFile::WriteOnly | QFile::Truncate | QFile::Unbuffered;
+        if (!open(&m_traceFile, path, mode, STDOUT_FILENO, error)) {
+            return false;
+        }
+        m_output.reset(new LineOutput(m_traceFile.handle()));
+    }
+    m_writer.reset(new TraceWriter(m_output.get()));
+    if (isTraced) {
+        OrbTrace::setListener(m_writer.get());
+    }
+    return true;
+}
+
+void HeadUnitProgram::configureUnit()
+{
+    OrbHost *host = OrbHost::instance();
+    for (auto i = m_options.tags.cbegin(); i != m_options.tags.cend(); ++i) {
+        host->setTag(i.key(), i.value());
+    }
+    for (auto i = m_options.productValues.cbegin(); i != m_options.productValues.cend(); ++i) {
+        host->setProductValue(i.key(), i.value());
+    }
+    for (auto i = m_options.factorySettings.cbegin(); i != m_options.factorySettings.cend(); ++i) {
+        host->setFactorySetting(i.key(), i.value());
+    }
+    if (!m_options.settingsDir.isEmpty()) {
+        host->setSettingsDir(m_options.settingsDir);
+    }
+    const uint type = m_options.canBusType();
+    const uint lastType = uint(BoxCatalog::rows().last().type);
+    if (type > lastType) {
+        std::fprintf(stderr,
+                     "headunit: CAN-bus type %u is none of 1 to %u, the unit runs without a decoder\n", type,
+                     lastType);
+    }
+}
+
+bool HeadUnitProgram::openBox(QString *error)
+{
+    if (!m_options.hasDecoderBox) {
+        return true;
+    }
+    m_box.reset(BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error));
+    if (!m_box || !m_box->open(QString(), error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", m_box->portPath());
+    return m_options.scenario.isEmpty() || openScenario(error);
+}
+
+bool HeadUnitProgram::openScenario(QString *error)
+{
+    Scenario scenario;
+    if (!scenario.load(m_options.scenario, *m_box, error)) {
+        return false;
+    }
+    ScenarioPlayer *player = new ScenarioPlayer(m_box.get(), scenario, m_box.get());
+    connect(m_box.get(), &DecoderBox::unitCame, player, [player] {
+        if (!player->isPlaying()) {
+            player->play();
+        }
+    });
+    if (m_options.isHeadless && m_options.script.isEmpty()) {
+        connect(player, &ScenarioPlayer::finished, this,
+                [] { QTimer::singleShot(lastPackagesMs, qApp, &QCoreApplication::quit); });
+    }
+    return true;
+}
+
+void HeadUnitProgram::openScreen()
+{
+    // Without a window the unit ends by order only.
+    QApplication::setQuitOnLastWindowClosed(!m_options.isHeadless);
+    m_window.reset(new UnitScreen(m_options.screenSize));
+    m_window->show();
+}
+
+bool HeadUnitProgram::openScript(QString *error)
+{
+    if (m_options.script.isEmpty()) {
+        return true;
+    }
+    if (!open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error)) {
+        return false;
+    }
+    m_script.reset(new ScriptRunner(m_scriptFile.handle(), m_unit.get(), m_writer.get()));
+    connect(m_script.get(), &ScriptRunner::finished, qApp, &QCoreApplication::quit);
+    return true;
+}

@@ -1,0 +1,54 @@
+#ifndef HEADUNITPROGRAM_H
+#define HEADUNITPROGRAM_H
+
+#include "headunitoptions.h"
+
+#include <QFile>
+#include <QObject>
+
+#include <memory>
+
+class DecoderBox;
+class HeadUnit;
+class LineOutput;
+class ScriptRunner;
+class TraceWriter;
+class QWidget;
+
+/// The program `headunit`: one unit as its command line says, with or without a window, a virtual box, a
+/// trace and a script. Needs the OrbApplication, and goes before it.
+class HeadUnitProgram : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HeadUnitProgram(const HeadUnitOptions &options, QObject *parent = nullptr);
+    ~HeadUnitProgram() override;
+
+    /// Sets everything up and loads the plug-in. The application's event loop does the rest and ends with
+    /// the program's work. False, with one sentence in \a error, when the unit cannot run.
+    bool begin(QString *error);
+
+    /// The plug-in that lies where this program's own build or installation puts it.
+    static QString ownPlugin();
+
+private:
+    bool openTrace(QString *error);
+    void configureUnit();
+    bool openBox(QString *error);
+    bool openScenario(QString *error);
+    void openScreen();
+    bool openScript(QString *error);
+
+    HeadUnitOptions m_options;
+    QFile m_traceFile;
+    QFile m_scriptFile;
+    std::unique_ptr<LineOutput> m_output;
+    std::unique_ptr<TraceWriter> m_writer;
+    std::unique_ptr<DecoderBox> m_box;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<HeadUnit> m_unit;
+    std::unique_ptr<ScriptRunner> m_script;
+};
+
+#endif

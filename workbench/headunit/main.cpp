@@ -1,0 +1,56 @@
+#include "headunitoptions.h"
+#include "headunitprogram.h"
+
+#include "orbapplication.h"
+
+#include <cstdio>
+
+namespace {
+
+enum ExitCode { Fine = 0, CannotRun = 1, WrongUsage = 2 };
+
+void complain(const QString &problem)
+{
+    std::fprintf(stderr, "headunit: %s\n", problem.toLocal8Bit().constData());
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    HeadUnitOptions options;
+    QString error;
+    if (!options.parse(arguments, &error)) {
+        complain(error);
+        std::fputs(qPrintable(HeadUnitOptions::usage()), stderr);
+        return WrongUsage;
+    }
+    if (options.wantsHelp) {
+        std::fputs(qPrintable(HeadUnitOptions::usage()), stdout);
+        return Fine;
+    }
+    if (options.isHeadless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (!hasDisplay()) {
+        complain("no display; use --headless");
+        return CannotRun;
+    }
+    int ownArgument = 1; // the others are not Qt's
+    OrbApplication application(ownArgument, argv);
+    HeadUnitProgram program(options);
+    if (!program.begin(&error)) {
+        complain(error);
+        return CannotRun;
+    }
+    return QCoreApplication::exec();
+}
