@@ -15,6 +15,7 @@ ScriptRunner::ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, 
     : QObject(parent), m_lines(descriptor), m_commands(unit), m_writer(writer)
 {
     m_waitTimer.setSingleShot(true);
+    m_waitTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_waitTimer, &QTimer::timeout, this, &ScriptRunner::answer);
     connect(&m_lines, &DescriptorLines::arrived, this, &ScriptRunner::work);
 }
