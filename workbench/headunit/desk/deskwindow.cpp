@@ -1,0 +1,90 @@
+#include "deskwindow.h"
+
+#include "climatewatch.h"
+#include "headunit.h"
+#include "keystrip.h"
+#include "orbapplication.h"
+#include "orbhost.h"
+#include "sidepanel.h"
+#include "unitpage.h"
+#include "unitshell.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QGridLayout>
+
+namespace {
+
+const int margin = 12;
+const AppTagId keySetTag = 0x1000c;
+const uint languageNotification = 20486;
+const int usbDisk = 0;
+
+} // namespace
+
+// Resources of a static library are there only once someone asks for them, outside any namespace.
+static void loadResources()
+{
+    Q_INIT_RESOURCE(desk);
+}
+
+DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize, QWidget *parent)
+    : QWidget(parent), m_unit(unit)
+{
+    loadResources();
+    setObjectName(QStringLiteral("deskWindow"));
+    setAttribute(Qt::WA_StyledBackground);
+    QFile style(QStringLiteral(":/desk/desk.qss"));
+    if (style.open(QIODevice::ReadOnly)) {
+        setStyleSheet(QString::fromUtf8(style.readAll()));
+    }
+
+    m_screen = new UnitScreen(screenSize);
+    m_shell = new UnitShell(unit, m_screen, this);
+    m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(keySetTag, QVariant(0)).toInt());
+    m_sidePanel = new SidePanel(box);
+    m_climateWatch = new ClimateWatch(this);
+    QGridLayout *layout = new QGridLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    layout->addWidget(m_screen, 0, 0);
+    layout->addWidget(m_keyStrip, 1, 0, Qt::AlignTop);
+    layout->addWidget(m_sidePanel, 0, 1, 2, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+
+    connect(m_keyStrip, &KeyStrip::keyUsed, m_shell, &UnitShell::useKey);
+    UnitPage *unitPage = m_sidePanel->unitPage();
+    unitPage->setLanguage(OrbHost::instance()->language());
+    connect(unitPage, &UnitPage::languageChosen, this, &DeskWindow::chooseLanguage);
+    connect(unitPage, &UnitPage::diskChanged, this, [this](bool isIn, const QString &path) {
+        m_unit->setDisk(usbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
+    });
+    retranslate();
+}
+
+DeskWindow::~DeskWindow()
+{
+    // The shell works on the screen's pages, which go with the window's other children.
+    delete m_shell;
+}
+
+void DeskWindow::chooseLanguage(const QString &language)
+{
+    OrbHost::instance()->setLanguage(language);
+    m_unit->notify(languageNotification);
+}
+
+void DeskWindow::retranslate()
+{
+    setWindowTitle(tr("Head unit on the desk"));
+    m_shell->retranslate();
+}
+
+void DeskWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,282 @@
+#include "unitshell.h"
+
+#include "apppage.h"
+#include "carview.h"
+#include "headunit.h"
+#include "homepage.h"
+#include "keynavigator.h"
+#include "mediacard.h"
+#include "orbapplication.h"
+#include "orbcommons.h"
+#include "orbevent.h"
+#include "orbhost.h"
+#include "orbmainwindow.h"
+#include "statusbar.h"
+#include "unitscreen.h"
+
+namespace {
+
+const AppTagId statusWordTag = 0x10001;
+const AppTagId clockFormatTag = 0x11009;
+const uint callState = 0x1000000;
+
+// How long a plug-in may take to bring up a window of its own for an application that was opened.
+const int windowPatience = 150; // milliseconds
+
+struct SourceIcon
+{
+    uint mode;
+    const char *icon;
+};
+
+const SourceIcon sourceIcons[] = {{6, "radio"}, {9, "music"}, {3, "bluetooth"}, {4, "navigation"}};
+
+// Applications without icons of their own for which the unit has a better one than the common one.
+const SourceIcon appIcons[] = {{513, "view360"}};
+
+template <size_t Count>
+QString launcherIcon(const SourceIcon (&icons)[Count], uint id)
+{
+    const char *name = "app";
+    for (const SourceIcon &row : icons) {
+        name = row.mode == id ? row.icon : name;
+    }
+    return QStringLiteral(":/desk/launcher/%1.png").arg(QLatin1String(name));
+}
+
+QString minutes(int seconds)
+{
+    return QStringLiteral("%1:%2")
+        .arg(seconds / 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+UnitShell::UnitShell(HeadUnit *unit, UnitScreen *screen, QObject *parent)
+    : QObject(parent)
+    , m_unit(unit)
+    , m_screen(screen)
+    , m_statusBar(new StatusBar(screen->statusArea()))
+    , m_homePage(new HomePage(screen->windowArea()))
+    , m_appPage(new AppPage(screen->windowArea()))
+{
+    m_statusBar->resize(screen->statusArea()->size());
+    m_homePage->resize(screen->windowArea()->size());
+    m_appPage->resize(screen->windowArea()->size());
+    m_appPage->lower();
+    m_homePage->lower();
+
+    connectFramework();
+    connect(&m_controls, &UnitControls::changed, this, &UnitShell::showControls);
+    connect(&m_controls, &UnitControls::callChanged, this, &UnitShell::onCallChanged);
+    connect(&m_controls, &UnitControls::navigation, this, &UnitShell::onNavigation);
+    connect(&m_controls, &UnitControls::modeChanged, this,
+            [this](uint mode, uint before) { m_unit->setMode(mode, before); });
+    connect(m_unit, &HeadUnit::modeChanged, &m_controls, &UnitControls::setMode);
+    connect(m_homePage->launcher(), &Launcher::chosen, this, &UnitShell::open);
+    connect(m_homePage->mediaCard(), &MediaCard::keyTapped, this,
+            [this](int code) { m_controls.key(code, true, false); });
+    connect(&m_secondTimer, &QTimer::timeout, this, &UnitShell::showControls);
+    m_secondTimer.start(1000);
+    retranslate();
+}
+
+void UnitShell::connectFramework()
+{
+    OrbApplication *application = OrbApplication::instance();
+    connect(application, &OrbApplication::orbEventDispatched, this, &UnitShell::onEvent);
+    connect(application, &OrbApplication::orbEventReceived, this, &UnitShell::onEvent);
+    connect(application, &OrbApplication::keySimulated, &m_controls,
+            [this](int key, bool press, bool autoRepeat, int) { m_controls.key(key, press, autoRepeat); });
+    OrbHost *host = OrbHost::instance();
+    connect(host, &OrbHost::appTitleChanged, this, &UnitShell::showEntries);
+    connect(host, &OrbHost::appIconsChanged, this, &UnitShell::showEntries);
+    // Windows that come or go may be half built or half gone while they say so.
+    connect(host, &OrbHost::windowsChanged, this, &UnitShell::showEntries, Qt::QueuedConnection);
+    connect(host, &OrbHost::windowsChanged, this, &UnitShell::showFront, Qt::QueuedConnection);
+}
+
+void UnitShell::useKey(int code, int phase)
+{
+    if (!m_unit->key(uint(code), HeadUnit::KeyPhase(phase))) {
+        m_controls.key(code, phase != HeadUnit::KeyReleased, phase == HeadUnit::KeyRepeated);
+    }
+}
+
+void UnitShell::onEvent(const OrbEvent *event)
+{
+    if (m_carState.take(*event)) {
+        showCarState();
+    } else if (int(event->type()) == OrbEvent::ShowAppType) {
+        onShowApp(event->getParam2());
+    } else if (int(event->type()) == OrbEvent::ReturnType) {
+        onReturn();
+    }
+}
+
+/// The plug-in itself asks for the application, so it is not asked to show it once more.
+void UnitShell::onShowApp(uint appId)
+{
+    showPage(appId);
+}
+
+void UnitShell::onReturn()
+{
+    if (m_appPage->isVisible()) {
+        hidePage();
+    } else {
+        KeyNavigator::goBack();
+    }
+}
+
+void UnitShell::onCallChanged(bool isInCall)
+{
+    const quint64 before = OrbApplication::instance()->getTag(statusWordTag, QVariant(0)).toULongLong();
+    const quint64 state = isInCall ? before | callState : before & ~quint64(callState);
+    OrbHost::instance()->setTag(statusWordTag, state);
+    m_unit->changeState(uint(state), callState);
+}
+
+void UnitShell::onNavigation(int key)
+{
+    QWidget *front = OrbHost::instance()->frontWindow();
+    switch (key) {
+    case Qt::Key_Home:
+        hidePage();
+        KeyNavigator::goHome();
+        break;
+    case Qt::Key_Back:
+        if (!KeyNavigator::goBack()) {
+            hidePage();
+        }
+        break;
+    default:
+        if (front) {
+            KeyNavigator::send(front, key);
+        } else if (!m_appPage->isVisible()) {
+            m_homePage->launcher()->navigate(key);
+        }
+        break;
+    }
+}
+
+void UnitShell::open(const Launcher::Entry &entry)
+{
+    switch (entry.kind) {
+    case Launcher::Entry::Source:
+        m_controls.setMode(entry.id);
+        break;
+    case Launcher::Entry::Window:
+        openWindow(entry.title);
+        break;
+    case Launcher::Entry::Application:
+        m_unit->showApp(entry.id);
+        QTimer::singleShot(windowPatience, this, [this, entry] {
+            if (!OrbHost::instance()->frontWindow()) {
+                showPage(entry.id);
+            }
+        });
+        break;
+    }
+}
+
+void UnitShell::openWindow(const QString &title)
+{
+    for (QWidget *window : OrbHost::instance()->windows()) {
+        if (qobject_cast<OrbMainWindow *>(window) && window->windowTitle() == title) {
+            window->setVisible(true);
+            return;
+        }
+    }
+}
+
+void UnitShell::showPage(uint appId)
+{
+    const Launcher::Entry entry = appEntry(appId);
+    m_appPage->setApplication(appId, entry.title, QPixmap(entry.normalIcon));
+    m_appPage->setCarState(m_carState);
+    m_appPage->show();
+    showFront();
+}
+
+void UnitShell::hidePage()
+{
+    m_appPage->hide();
+    showFront();
+}
+
+void UnitShell::showCarState()
+{
+    m_homePage->carView()->setState(m_carState);
+    m_appPage->setCarState(m_carState);
+}
+
+void UnitShell::showControls()
+{
+    m_statusBar->setTwelveHourClock(
+        OrbApplication::instance()->getTag(clockFormatTag, QVariant(0)).toUInt() == 1);
+    m_statusBar->setVolume(m_controls.volume(), UnitControls::loudest, m_controls.isMuted());
+    const QString mode = UnitControls::modeName(m_controls.mode());
+    m_statusBar->setMode(mode);
+    const bool isInCall = m_controls.call() == UnitControls::InCall;
+    m_statusBar->setCall(isInCall                                       ? minutes(m_controls.callSeconds())
+                         : m_controls.call() == UnitControls::Listening ? tr("Listening …")
+                                                                        : QString(),
+                         isInCall);
+    m_homePage->mediaCard()->setTrack(mode, QPixmap(launcherIcon(sourceIcons, m_controls.mode())),
+                                      m_controls.title(), m_controls.subtitle());
+    m_homePage->mediaCard()->setPlaying(m_controls.isPlaying());
+    m_homePage->launcher()->setMode(m_controls.mode());
+}
+
+void UnitShell::showFront()
+{
+    QWidget *front = OrbHost::instance()->frontWindow();
+    m_statusBar->setApplication(front                    ? front->windowTitle()
+                                : m_appPage->isVisible() ? m_appPage->title()
+                                                         : tr("Home"));
+}
+
+QVector<Launcher::Entry> UnitShell::sourceEntries() const
+{
+    QVector<Launcher::Entry> entries;
+    for (const uint mode : UnitControls::modes()) {
+        entries << Launcher::Entry{Launcher::Entry::Source, mode, UnitControls::modeName(mode),
+                                   launcherIcon(sourceIcons, mode), QString()};
+    }
+    return entries;
+}
+
+Launcher::Entry UnitShell::appEntry(uint appId) const
+{
+    const QStringList icons = OrbHost::instance()->appIcons(appId);
+    const QString title = AppTitleFromAppId(appId);
+    return {Launcher::Entry::Application, appId, title.isEmpty() ? tr("Application %1").arg(appId) : title,
+            icons.isEmpty() ? launcherIcon(appIcons, appId) : icons.value(0), icons.value(1)};
+}
+
+void UnitShell::showEntries()
+{
+    QVector<Launcher::Entry> entries = sourceEntries();
+    for (const uint appId : OrbHost::instance()->titledApps()) {
+        entries << appEntry(appId);
+    }
+    // Windows that belong to no application can be opened by nothing else.
+    for (QWidget *window : OrbHost::instance()->windows()) {
+        const OrbMainWindow *main = qobject_cast<OrbMainWindow *>(window);
+        if (main && main->appId() == 0 && !main->windowTitle().isEmpty()) {
+            entries << Launcher::Entry{Launcher::Entry::Window, 0, main->windowTitle(),
+                                       QStringLiteral(":/desk/launcher/settings.png"), QString()};
+        }
+    }
+    m_homePage->launcher()->setEntries(entries);
+}
+
+void UnitShell::retranslate()
+{
+    showEntries();
+    showControls();
+    showFront();
+    m_homePage->carView()->update();
+}
