@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <memory>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -53,6 +54,8 @@ private slots:
     void writingAfterDamageKeepsTheGoodPredecessor();
     void fileThatCannotBeWritten();
     void hugeValueIsRefused();
+    void writeThatStopsAtAnyByte_data();
+    void writeThatStopsAtAnyByte();
     void killedWhileWriting();
 
 private:
@@ -73,7 +76,11 @@ private:
 
 void TestSettings::init()
 {
-    m_dir.reset(new QTemporaryDir);
+    // In memory where there is such a folder: flushing costs nothing there, so that more writes are cut.
+    const QString memory("/dev/shm");
+    const QString parent = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+    m_dir.reset(new QTemporaryDir(parent + "/tst_settings-XXXXXX"));
+    QVERIFY(m_dir->isValid());
     OrbHost::instance()->setSettingsDir(m_dir->filePath("set"));
 }
 
@@ -283,13 +290,55 @@ void TestSettings::hugeValueIsRefused()
     QCOMPARE(contentOf(path()), before);
 }
 
+void TestSettings::writeThatStopsAtAnyByte_data()
+{
+    QTest::addColumn<bool>("dies");
+    QTest::newRow("the process dies") << true;
+    QTest::newRow("the disk is full") << false;
+}
+
+/// A process that may write so many bytes to a file and no more. Up to the size of the version before, it
+/// fails at the copy that becomes the predecessor, after that at the new version.
+void TestSettings::writeThatStopsAtAnyByte()
+{
+    QFETCH(bool, dies);
+    {
+        OrbIniConfig config("car.ini", "Car");
+        QVERIFY(config.setValue("payload", "first"));
+        QVERIFY(config.setValue("payload", "second"));
+    }
+    const QString large = payloadOf(3).left(600);
+    int stopped = 0;
+    for (rlim_t size = 0; read("payload") == "second"; size += 5) {
+        const pid_t child = ::fork();
+        QVERIFY(child >= 0);
+        if (child == 0) {
+            const rlimit limit = {size, size};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            ::signal(SIGXFSZ, dies ? SIG_DFL : SIG_IGN);
+            DebugLog quiet;
+            ::_exit(OrbIniConfig("car.ini", "Car").setValue("payload", large) ? 0 : 1);
+        }
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        if (status != 0)
+            ++stopped;
+        DebugLog log;
+        QVERIFY(read("payload") == (status != 0 ? "second" : large));
+        const QString before = OrbIniConfig("car.ini.bak", "Car").value("payload").toString();
+        QVERIFY(before == "first" || before == "second");
+        QCOMPARE(log.lines(), QStringList());
+    }
+    QCOMPARE(stopped, (contentOf(path()).size() + 4) / 5);
+}
+
 /// A process that writes without a pause is killed at arbitrary moments. Whatever stands there then was
 /// written whole, is from the round that was last finished or the one after, and its predecessor is whole
 /// too.
 void TestSettings::killedWhileWriting()
 {
     int lastRound = 0;
-    for (int kill = 0; kill < 60; ++kill) {
+    for (int kill = 0; kill < 20; ++kill) {
         int finished[2];
         QCOMPARE(::pipe(finished), 0);
         const pid_t child = ::fork();
@@ -306,7 +355,7 @@ void TestSettings::killedWhileWriting()
         // The first round is waited for, so that every child is killed while it writes.
         int round = 0;
         QCOMPARE(::read(finished[0], &round, sizeof round), ssize_t(sizeof round));
-        ::usleep(useconds_t(97 * kill));
+        ::usleep(useconds_t(307 * kill));
         QCOMPARE(::kill(child, SIGKILL), 0);
         int status = 0;
         QCOMPARE(::waitpid(child, &status, 0), child);
