@@ -11,6 +11,12 @@ namespace CarKeys {
 enum Key {
     NoKey = 0x01FFFFFF,
 
+    Digit1 = Qt::Key_1,
+    Digit2 = Qt::Key_2,
+    Digit3 = Qt::Key_3,
+    Digit4 = Qt::Key_4,
+    Digit5 = Qt::Key_5,
+    Digit6 = Qt::Key_6,
     Enter = Qt::Key_Enter,
     Home = Qt::Key_Home,
     Left = Qt::Key_Left,
@@ -46,6 +52,7 @@ enum Key {
 };
 
 // The boxes and the framework know the keys by these numbers.
+static_assert(Digit1 == 0x31 && Digit6 == 0x36, "key numbers");
 static_assert(Enter == 0x01000005 && Home == 0x01000010 && Back == 0x01000061, "key numbers");
 static_assert(Left == 0x01000012 && Up == 0x01000013 && Right == 0x01000014 && Down == 0x01000015,
               "key numbers");

@@ -10,8 +10,10 @@
 
 namespace {
 
-enum Source { CarSource = 400, AppSource = 401 };
-enum Subject { CarDataSubject = 12, AppRequestSubject = 25 };
+enum Source { LightSource = 1, CarSource = 400, AppSource = 401 };
+enum Subject { LightSubject = 1, CarDataSubject = 12, AppRequestSubject = 25 };
+
+const unsigned int LightParam2 = 8; // what the framework expects besides on or off; its meaning is not known
 
 void dispatch(OrbEvent *event)
 {
@@ -41,6 +43,20 @@ void UnitLink::sendSteeringAngle(float degrees)
     event.setParams(SteeringAngle, 0);
     event.setVariantParam(static_cast<int>(static_cast<qint16>(truncated(degrees))));
     dispatch(&event);
+}
+
+void UnitLink::sendSwitch(CarData what, bool on)
+{
+    OrbEvent event(AppSource, CarDataSubject, OrbEvent::NotifyType);
+    event.setParams(what, on);
+    dispatch(&event);
+}
+
+void UnitLink::sendIllumination(bool on)
+{
+    OrbEvent event(LightSource, LightSubject, OrbEvent::NotifyType);
+    event.setParams(on ? IlluminationOn : IlluminationOff, LightParam2);
+    QCoreApplication::sendEvent(OrbApplication::instance(), &event);
 }
 
 void UnitLink::requestApp(int type, unsigned int param, unsigned int param2)

@@ -37,6 +37,12 @@ void sendCarData(CarData what, unsigned int value);
 void sendRadarLevels(CarData what, const QByteArray &levels);
 void sendSteeringAngle(float degrees);
 
+/// Dispatches the user's choice for \a what, RadarSwitch or TrackSwitch: whether the unit shows it.
+void sendSwitch(CarData what, bool on);
+
+/// Tells the application object, at once, that the car's lights went on or off.
+void sendIllumination(bool on);
+
 /// Sends a request about an application (OrbEvent::ShowAppType, ReturnType) to the application object, at
 /// once.
 void requestApp(int type, unsigned int param = 0, unsigned int param2 = 0);
