@@ -1,0 +1,36 @@
+#ifndef XINHANGSETTINGSWINDOW_H
+#define XINHANGSETTINGSWINDOW_H
+
+#include "orbmainwindow.h"
+
+class QModelIndex;
+class TableViewModel;
+class XinHangSettings;
+
+/// "Car Setting": one row per setting with its value; a tap on a row offers the values to choose from.
+class XinHangSettingsWindow : public OrbMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// \a settings must outlive the window.
+    explicit XinHangSettingsWindow(XinHangSettings &settings);
+
+    /// Writes title, texts and values of all rows anew, in the current language; new items get their row.
+    void resetListTexts();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void onItemListViewClicked(const QModelIndex &index);
+
+private:
+    /// The user's choice, -1 for none. Runs an event loop of its own.
+    static int showSelectDialog(const QString &title, const QStringList &texts, int current);
+
+    XinHangSettings &m_settings;
+    TableViewModel *m_model;
+};
+
+#endif // XINHANGSETTINGSWINDOW_H
