@@ -1,0 +1,355 @@
+#include "xinhangbench.h"
+
+#include "updatedialog.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QtEndian>
+
+#include <sys/stat.h>
+
+namespace {
+
+QByteArray hex32(quint32 number)
+{
+    return QByteArray::number(number, 16).rightJustified(8, '0');
+}
+
+QByteArray image(int size)
+{
+    QByteArray bytes(size, '\0');
+    QRandomGenerator random(quint32(size) + 1);
+    for (char &byte : bytes)
+        byte = char(random.bounded(256));
+    return bytes;
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+const char Fails[] = "UpdateDialog.setUpdateFailed(2)";
+const char Offers[] = "UpdateDialog.showUpdateDlg(1)";
+
+} // namespace
+
+/// A bench with a disk, number 3, whose two partitions are folders.
+class UpdateBench : public XinHangBench
+{
+public:
+    explicit UpdateBench(int carType = 1)
+    {
+        QDir(disk.path()).mkpath("a");
+        QDir(disk.path()).mkpath("b");
+        drive(carType, "own");
+    }
+    ~UpdateBench() { OrbHost::instance()->setDiskPartitions(3, QStringList()); }
+
+    QString file(const QString &name = "b/can_xinhang.bin") const { return disk.filePath(name); }
+
+    QStringList insert()
+    {
+        OrbHost::instance()->setDiskPartitions(3, {file("a"), file("b")});
+        return change(1);
+    }
+    QStringList pull()
+    {
+        OrbHost::instance()->setDiskPartitions(3, QStringList());
+        return change(0);
+    }
+    QStringList change(int status)
+    {
+        calls();
+        Q_EMIT OrbApplication::instance()->diskDeviceStatusChange(3, status);
+        return calls();
+    }
+    /// The user accepts in the dialog.
+    QStringList accept()
+    {
+        calls();
+        for (QWidget *window : OrbHost::instance()->windows()) {
+            if (auto *const dialog = qobject_cast<UpdateDialog *>(window))
+                dialog->findChild<QAbstractButton *>("btnOk")->click();
+        }
+        return calls();
+    }
+    QStringList ask(quint32 number) { return exchange("08 02 00 " + hex32(number)); }
+    bool answers(quint32 number) { return ask(number).value(0).startsWith("send 86 02 00 "); }
+
+    QTemporaryDir disk;
+};
+
+class TestXinHangUpdate : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void search_data();
+    void search();
+    void quirk_xinhang_path_kept();
+    void quirk_xinhang_any_disk_fails();
+    void wholeUpdate_data();
+    void wholeUpdate();
+    void anyOrder();
+    void refusedFiles_data();
+    void refusedFiles();
+    void largestFile();
+    void failedRequests_data();
+    void failedRequests();
+    void changedFile_data();
+    void changedFile();
+    void secondUpdate();
+};
+
+void TestXinHangUpdate::search_data()
+{
+    QTest::addColumn<int>("carType");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QStringList>("calls");
+    const QStringList offers(Offers);
+    const QStringList none;
+    QTest::newRow("car 1") << 1 << "a/can_xinhang.bin" << 1 << offers;
+    QTest::newRow("car 1, second partition") << 1 << "b/can_xinhang.bin" << 1 << offers;
+    QTest::newRow("car 1, file of another car") << 1 << "a/can_xinhang_1.bin" << 1 << none;
+    QTest::newRow("car 4") << 4 << "a/can_xinhang_4.bin" << 1 << offers;
+    QTest::newRow("car 4, file of car 1") << 4 << "a/can_xinhang.bin" << 1 << none;
+    QTest::newRow("car 65535") << 65535 << "a/can_xinhang_65535.bin" << 1 << offers;
+    QTest::newRow("no file") << 1 << "a/other.bin" << 1 << none;
+    QTest::newRow("disk gone") << 1 << "a/can_xinhang.bin" << 0 << none;
+    QTest::newRow("unknown state") << 1 << "a/can_xinhang.bin" << 2 << none;
+    QTest::newRow("negative state") << 1 << "a/can_xinhang.bin" << -1 << none;
+}
+
+void TestXinHangUpdate::search()
+{
+    QFETCH(int, carType);
+    QFETCH(QString, name);
+    QFETCH(int, status);
+    QFETCH(QStringList, calls);
+    UpdateBench bench(carType);
+    writeFile(bench.file(name), "firmware");
+    OrbHost::instance()->setDiskPartitions(3, {bench.file("a"), bench.file("b")});
+    QCOMPARE(bench.change(status), calls);
+}
+
+void TestXinHangUpdate::quirk_xinhang_path_kept()
+{
+    UpdateBench bench;
+    writeFile(bench.file(), "firmware");
+    QCOMPARE(bench.insert(), QStringList(Offers));
+    QVERIFY(QFile::rename(bench.file(), bench.file("a/can_xinhang.bin")));
+    QCOMPARE(bench.insert(), QStringList(Offers));
+    QCOMPARE(bench.accept(), QStringList(Fails));
+}
+
+void TestXinHangUpdate::quirk_xinhang_any_disk_fails()
+{
+    UpdateBench bench;
+    QCOMPARE(bench.pull(), QStringList());
+    writeFile(bench.file(), "firmware");
+    bench.insert();
+    bench.accept();
+    bench.exchange("08 01 | 08 02 00 00 00 00 00 | 08 03");
+    Q_EMIT OrbApplication::instance()->diskDeviceStatusChange(9, 0);
+    QCOMPARE(bench.calls(), QStringList(Fails));
+}
+
+void TestXinHangUpdate::wholeUpdate_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<quint32>("count");
+    QTest::newRow("empty") << 0 << 0u;
+    QTest::newRow("one byte") << 1 << 1u;
+    QTest::newRow("one byte less than a packet") << 127 << 1u;
+    QTest::newRow("one packet") << 128 << 1u;
+    QTest::newRow("one byte more than a packet") << 129 << 2u;
+    QTest::newRow("1 MiB") << 1024 * 1024 << 8192u;
+}
+
+void TestXinHangUpdate::wholeUpdate()
+{
+    QFETCH(int, size);
+    QFETCH(quint32, count);
+    UpdateBench bench;
+    const QByteArray firmware = image(size);
+    writeFile(bench.file(), firmware);
+    bench.insert();
+    bench.box.takeUntilQuiet(20);
+    QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00"));
+    bench.exchange("08 01");
+    const QByteArray answers =
+        XinHangWire::frame("86 00 00") + XinHangWire::frame("86 01 00 " + hex32(count));
+    QVERIFY(bench.box.waitForBytes(int(answers.size())));
+    QCOMPARE(bench.box.take().toHex(' '), answers.toHex(' '));
+
+    // The box puts the image together from what comes over the line.
+    const int packageSize = 138;
+    QByteArray received;
+    for (quint32 number = 0; number < count;) {
+        QByteArray requests;
+        const quint32 from = number;
+        for (; number < count && number < from + 64; ++number)
+            requests += XinHangWire::frame("08 02 00 " + hex32(number));
+        bench.box.send(requests);
+        const int wanted = int(number - from) * packageSize;
+        QVERIFY(bench.box.waitForBytes(wanted));
+        const QByteArray sent = bench.box.take();
+        QCOMPARE(int(sent.size()), wanted);
+        for (quint32 i = from; i < number; ++i) {
+            const QByteArray package = sent.mid(int(i - from) * packageSize, packageSize);
+            QCOMPARE(package, XinHangWire::frame("86 02 00 " + hex32(i) + package.mid(9, 128).toHex()));
+            received += package.mid(9, 128);
+        }
+    }
+    QCOMPARE(received.left(size) == firmware, true);
+    QCOMPARE(received.mid(size), QByteArray(int(count) * 128 - size, '\xFF'));
+    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+}
+
+void TestXinHangUpdate::anyOrder()
+{
+    UpdateBench bench;
+    const QByteArray firmware = image(500);
+    writeFile(bench.file(), firmware);
+    bench.insert();
+    bench.accept();
+    bench.exchange("08 01");
+    const QList<QPair<quint32, int>> requests = {{3, 75}, {0, 0}, {0, 0}, {2, 50}, {1, 25}};
+    for (const auto &request : requests) {
+        const QByteArray part = firmware.mid(int(request.first) * 128, 128).leftJustified(128, '\xFF');
+        const QStringList expected = {
+            "send " + (QByteArray::fromHex("860200" + hex32(request.first)) + part).toHex(' '),
+            QString("UpdateDialog.updatePercent(%1)").arg(request.second)};
+        QCOMPARE(bench.ask(request.first), expected);
+    }
+}
+
+void TestXinHangUpdate::refusedFiles_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"gone", "pipe", "folder", "too large"})
+        QTest::newRow(kind) << kind;
+}
+
+void TestXinHangUpdate::refusedFiles()
+{
+    QFETCH(QString, kind);
+    UpdateBench bench;
+    writeFile(bench.file(), "firmware");
+    bench.insert();
+    QFile file(bench.file());
+    if (kind == "too large") {
+        file.resize(64 * 1024 * 1024 + 1);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^update file too large:"));
+    } else {
+        file.remove();
+        if (kind == "pipe")
+            QCOMPARE(mkfifo(QFile::encodeName(bench.file()).constData(), 0600), 0);
+        else if (kind == "folder")
+            QVERIFY(QDir().mkdir(bench.file()));
+    }
+    QCOMPARE(bench.accept(), QStringList(Fails));
+    QCOMPARE(bench.exchange("08 01"), QStringList(Fails));
+    // The right file again: the same dialog starts the update.
+    QFile::remove(bench.file());
+    QDir().rmdir(bench.file());
+    writeFile(bench.file(), "firmware");
+    QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00"));
+}
+
+void TestXinHangUpdate::largestFile()
+{
+    UpdateBench bench;
+    writeFile(bench.file(), "firmware");
+    QVERIFY(QFile(bench.file()).resize(64 * 1024 * 1024));
+    bench.insert();
+    bench.accept();
+    QCOMPARE(XinHang::joined(bench.exchange("08 01")), QString("send 86 01 00 00 08 00 00"));
+    QVERIFY(bench.answers(0x7FFFF));
+    QCOMPARE(bench.ask(0x80000), QStringList(Fails));
+}
+
+void TestXinHangUpdate::failedRequests_data()
+{
+    QTest::addColumn<QByteArray>("packages");
+    QTest::addColumn<QString>("calls");
+    const QString fails(Fails);
+    QTest::newRow("the count itself") << QByteArray("08 02 00 00 00 00 02") << fails;
+    QTest::newRow("far beyond") << QByteArray("08 02 00 ff ff ff ff") << fails;
+    QTest::newRow("half a number") << QByteArray("08 02 00 00 01") << fails;
+    QTest::newRow("unknown steps") << QByteArray("08 00 | 08 04 | 08 ff") << QString();
+}
+
+void TestXinHangUpdate::failedRequests()
+{
+    QFETCH(QByteArray, packages);
+    QFETCH(QString, calls);
+    UpdateBench bench;
+    writeFile(bench.file(), image(200));
+    bench.insert();
+    bench.accept();
+    QCOMPARE(bench.ask(0), QStringList(Fails)); // before the count
+    bench.exchange("08 01");
+    QCOMPARE(XinHang::joined(bench.exchange(packages)), calls);
+    QVERIFY(bench.answers(1));
+    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+    QCOMPARE(bench.ask(0), QStringList(Fails));
+}
+
+void TestXinHangUpdate::changedFile_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"shrinks", "vanishes", "disk pulled"})
+        QTest::newRow(kind) << kind;
+}
+
+// The file is harmed in the middle of an update, comes back, and the box asks again.
+void TestXinHangUpdate::changedFile()
+{
+    QFETCH(QString, kind);
+    UpdateBench bench;
+    const QByteArray firmware = image(1000);
+    writeFile(bench.file(), firmware);
+    bench.insert();
+    bench.accept();
+    bench.exchange("08 01");
+    QVERIFY(bench.answers(0));
+    if (kind == "disk pulled")
+        QCOMPARE(bench.pull(), QStringList(Fails));
+    QVERIFY(QFile(bench.file()).resize(300));
+    if (kind == "vanishes")
+        QVERIFY(QFile::remove(bench.file()));
+    QCOMPARE(bench.ask(2), QStringList(Fails)); // never padding in place of firmware
+    QCOMPARE(bench.ask(7), QStringList(Fails));
+    QFile::remove(bench.file());
+    writeFile(bench.file(), firmware);
+    if (kind == "disk pulled")
+        QCOMPARE(bench.insert(), QStringList(Offers));
+    bench.ask(2); // may fail still, but then the file is opened anew
+    for (const quint32 number : {1u, 2u, 3u, 4u, 5u, 6u, 7u})
+        QVERIFY(bench.answers(number));
+    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+}
+
+void TestXinHangUpdate::secondUpdate()
+{
+    UpdateBench bench;
+    for (const char *name : {"b/can_xinhang.bin", "a/can_xinhang.bin"}) {
+        writeFile(bench.file(name), image(200));
+        QCOMPARE(bench.insert(), QStringList(Offers));
+        bench.accept();
+        QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00")); // the user starts anew
+        QCOMPARE(XinHang::joined(bench.exchange("08 01")), QString("send 86 01 00 00 00 00 02"));
+        bench.exchange("08 03");
+    }
+}
+
+CANBUS_TEST_MAIN(TestXinHangUpdate)
+#include "tst_xinhang_update.moc"
