@@ -25,6 +25,7 @@ public:
     static int choose(const QString &title, const QStringList &texts, int current);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

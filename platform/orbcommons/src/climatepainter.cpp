@@ -12,7 +12,8 @@ enum Direction { Feet = 1, Face = 2, Windscreen = 4 };
 
 const int FanLevels = 7;
 const int Padding = 24;
-const int CentreWidth = 500;
+const int LargestCentre = 500;
+const int SmallestCentre = 400;
 const int MarkHeight = 44;
 const int MarkGap = 8;
 const int SmallestFont = 12;
@@ -25,6 +26,21 @@ QRect centred(const QRect &room, const QSize &size)
     QRect place(QPoint(0, 0), size);
     place.moveCenter(room.center());
     return place;
+}
+
+QPixmap picture(const char *path)
+{
+    return QPixmap(QLatin1String(path));
+}
+
+/// The shape of a picture in one colour.
+QPixmap tinted(const QPixmap &shape, const QColor &colour)
+{
+    QPixmap result(shape);
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(result.rect(), colour);
+    return result;
 }
 
 } // namespace
@@ -78,18 +94,19 @@ void ClimatePainter::paint(const ClimateState &state)
     m_painter->setOpacity(m_opacity);
 
     const QRect inner = m_room.adjusted(Padding, 16, -Padding, -16);
-    const int side = (inner.width() - CentreWidth) / 2 - Padding;
+    const int middle = qBound(SmallestCentre, m_room.width() / 2, LargestCentre);
+    const int side = (inner.width() - middle) / 2 - Padding;
     QRect temperature(inner.left(), inner.top(), side, inner.height());
     paintTemperature(temperature, state.left, scalePosition(state.left, state.minimum, state.maximum));
     temperature.moveRight(inner.right());
     paintTemperature(temperature, state.right, scalePosition(state.right, state.minimum, state.maximum));
 
-    const QRect centre = centred(inner, QSize(CentreWidth, inner.height()));
-    const int half = CentreWidth / 2;
+    const QRect centre = centred(inner, QSize(middle, inner.height()));
+    const int half = middle / 2;
     const int upper = inner.height() - MarkHeight - 8;
     paintFan(QRect(centre.left(), centre.top(), half, upper), state);
     paintDirection(QRect(centre.left() + half, centre.top(), half, upper), state);
-    paintMarks(QRect(centre.left(), centre.bottom() + 1 - MarkHeight, CentreWidth, MarkHeight), state);
+    paintMarks(QRect(centre.left(), centre.bottom() + 1 - MarkHeight, middle, MarkHeight), state);
 }
 
 void ClimatePainter::paintGround()
@@ -126,7 +143,7 @@ void ClimatePainter::paintScale(const QRect &room, double position)
 
 void ClimatePainter::paintFan(const QRect &room, const ClimateState &state)
 {
-    paintIcon(QRect(room.left(), room.top(), 64, room.height()), ":/orb/climate/fan.png", 1);
+    paintIcon(QRect(room.left(), room.top(), 64, room.height()), picture(":/orb/climate/fan.png"), 1);
     const QRect rest = room.adjusted(80, 0, -16, 0);
     m_painter->setPen(OrbPalette::text());
     if (!state.on)
@@ -151,18 +168,19 @@ void ClimatePainter::paintFanBars(const QRect &room, int level)
 
 void ClimatePainter::paintDirection(const QRect &room, const ClimateState &state)
 {
-    const QRect figure(room.left() + 24, room.top(), 176, room.height());
-    const bool byCar = state.direction == ClimateState::ChosenByCar;
-    const int bits = byCar ? 0 : state.direction;
-    paintIcon(figure, ":/orb/climate/seat.png", 1);
-    paintIcon(figure, ":/orb/climate/air-windscreen.png", bits & Windscreen ? 1 : AbsentOpacity);
-    paintIcon(figure, ":/orb/climate/air-face.png", bits & Face ? 1 : AbsentOpacity);
-    paintIcon(figure, ":/orb/climate/air-feet.png", bits & Feet ? 1 : AbsentOpacity);
-    if (!byCar)
+    const QRect figure(room.left() + (room.width() - 176) / 3, room.top(), 176, room.height());
+    paintIcon(figure, picture(":/orb/climate/seat.png"), 1);
+    if (state.direction == ClimateState::ChosenByCar) {
+        // Where the arrows would be.
+        m_painter->setPen(OrbPalette::accent());
+        paintFitted(QRect(figure.left() + 20, figure.top() + 8, 72, figure.height()), tr("AUTO"), 22,
+                    QFont::Bold, Qt::AlignCenter);
         return;
-    m_painter->setPen(OrbPalette::accent());
-    const QRect label(figure.right() + 1, room.top(), room.right() - figure.right(), room.height());
-    paintFitted(label, tr("AUTO"), 20, QFont::Bold, Qt::AlignCenter);
+    }
+    const int bits = state.direction;
+    paintIcon(figure, picture(":/orb/climate/air-windscreen.png"), bits & Windscreen ? 1 : AbsentOpacity);
+    paintIcon(figure, picture(":/orb/climate/air-face.png"), bits & Face ? 1 : AbsentOpacity);
+    paintIcon(figure, picture(":/orb/climate/air-feet.png"), bits & Feet ? 1 : AbsentOpacity);
 }
 
 void ClimatePainter::paintMarks(const QRect &room, const ClimateState &state)
@@ -197,7 +215,8 @@ void ClimatePainter::paintIconChip(const QRect &room, bool lit, const char *icon
     m_painter->setPen(Qt::NoPen);
     m_painter->setBrush(lit ? OrbPalette::accent() : OrbPalette::raised());
     m_painter->drawRoundedRect(room, 10, 10);
-    paintIcon(room, icon, lit ? 1 : UnlitOpacity);
+    paintIcon(room, lit ? tinted(picture(icon), OrbPalette::ground()) : picture(icon),
+              lit ? 1 : UnlitOpacity);
 }
 
 // As large as the room allows: figures and translated words are of any length.
@@ -214,10 +233,9 @@ void ClimatePainter::paintFitted(const QRect &room, const QString &text, int lar
     m_painter->drawText(room, alignment | Qt::TextDontClip, text);
 }
 
-void ClimatePainter::paintIcon(const QRect &room, const char *icon, qreal opacity)
+void ClimatePainter::paintIcon(const QRect &room, const QPixmap &icon, qreal opacity)
 {
-    const QPixmap picture((QLatin1String(icon)));
     m_painter->setOpacity(m_opacity * opacity);
-    m_painter->drawPixmap(centred(room, picture.size()), picture);
+    m_painter->drawPixmap(centred(room, icon.size()), icon);
     m_painter->setOpacity(m_opacity);
 }

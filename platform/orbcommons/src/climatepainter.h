@@ -7,6 +7,7 @@
 #include <QString>
 
 class QPainter;
+class QPixmap;
 
 /// What the climate display shows.
 struct ClimateState
@@ -57,7 +58,7 @@ private:
     void paintChip(const QRect &room, bool lit, const QString &text);
     void paintIconChip(const QRect &room, bool lit, const char *icon);
     void paintFitted(const QRect &room, const QString &text, int largest, int weight, int alignment);
-    void paintIcon(const QRect &room, const char *icon, qreal opacity);
+    void paintIcon(const QRect &room, const QPixmap &icon, qreal opacity);
 
     QPainter *m_painter;
     QRect m_room;

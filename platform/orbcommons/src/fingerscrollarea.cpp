@@ -12,12 +12,18 @@ FingerScrollArea::FingerScrollArea(QWidget *content, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     setWidgetResizable(true);
     setWidget(content);
     content->installEventFilter(this);
     const QList<QAbstractButton *> buttons = content->findChildren<QAbstractButton *>();
     for (int i = 0; i < buttons.size(); ++i)
         buttons.at(i)->installEventFilter(this);
+}
+
+QSize FingerScrollArea::sizeHint() const
+{
+    return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), 0);
 }
 
 bool FingerScrollArea::eventFilter(QObject *watched, QEvent *event)

@@ -15,6 +15,9 @@ public:
     /// Takes \a content, whose buttons are all there already.
     FingerScrollArea(QWidget *content, QWidget *parent);
 
+    /// Room for the whole content; the layout gives less where there is less.
+    QSize sizeHint() const override;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

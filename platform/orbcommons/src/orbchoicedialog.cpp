@@ -15,8 +15,22 @@ namespace {
 const int Margin = 24;
 const int RowHeight = 64;
 const int RowGap = 8;
-// What a screen of 480 lines has room for; more rows scroll.
-const int VisibleRows = 4;
+// Where the screen has no room for all rows they scroll, so many at least stay in sight.
+const int FewestRows = 2;
+
+/// Takes a tap anywhere on its row, not only on mark and text.
+class ChoiceRow : public QCheckBox
+{
+public:
+    ChoiceRow(const QString &text, QWidget *parent) : QCheckBox(text, parent)
+    {
+        setMinimumHeight(RowHeight);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+protected:
+    bool hitButton(const QPoint &place) const override { return rect().contains(place); }
+};
 
 QLabel *titleLabel(const QString &title, QWidget *parent)
 {
@@ -34,10 +48,8 @@ QWidget *choiceRows(const QStringList &texts, int current, QButtonGroup *group)
     OrbQt::setMargin(column, 0);
     column->setSpacing(RowGap);
     for (int i = 0; i < texts.size(); ++i) {
-        QCheckBox *box = new QCheckBox(texts.at(i), rows);
-        box->setMinimumHeight(RowHeight);
+        QCheckBox *box = new ChoiceRow(texts.at(i), rows);
         box->setChecked(i == current);
-        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         group->addButton(box, i);
         column->addWidget(box);
     }
@@ -63,8 +75,7 @@ OrbChoiceDialog::OrbChoiceDialog(const QString &title, const QStringList &texts,
     column->addWidget(titleLabel(title, this));
 
     FingerScrollArea *area = new FingerScrollArea(choiceRows(texts, current, m_group), this);
-    const int shown = qBound(1, int(texts.size()), VisibleRows);
-    area->setFixedHeight(shown * RowHeight + (shown - 1) * RowGap);
+    area->setMinimumHeight(qMin(FewestRows, int(texts.size())) * (RowHeight + RowGap));
     column->addWidget(area);
 
     QPushButton *ok = dialogButton("btnOk", tr("OK"), this);
@@ -90,6 +101,13 @@ int OrbChoiceDialog::choose(const QString &title, const QStringList &texts, int 
     const int chosen = dialog && result == Accepted ? dialog->chosenIndex() : -1;
     delete dialog;
     return chosen;
+}
+
+void OrbChoiceDialog::showEvent(QShowEvent *event)
+{
+    OrbDialog::showEvent(event);
+    if (QAbstractButton *chosen = m_group->checkedButton())
+        findChild<QScrollArea *>()->ensureWidgetVisible(chosen, 0, RowHeight / 2);
 }
 
 void OrbChoiceDialog::changeEvent(QEvent *event)

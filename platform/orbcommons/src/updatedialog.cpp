@@ -12,6 +12,8 @@
 namespace {
 
 const int Margin = 32;
+// The same in every state, so that nothing jumps.
+const int Width = 680;
 const int DecoderFirmware = 1;
 // The last packet stands for less than 100 %, and nobody reports the end: a short silence after it is the
 // end.
@@ -80,6 +82,8 @@ void UpdateDialog::Private::build(UpdateDialog *dialog)
     silence->setObjectName(QLatin1String("silence"));
     silence->setSingleShot(true);
     silence->setInterval(SilenceTime);
+
+    dialog->setMinimumWidth(Width);
 
     QHBoxLayout *head = new QHBoxLayout;
     head->setSpacing(24);

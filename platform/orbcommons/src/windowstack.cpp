@@ -20,7 +20,8 @@ QRect overlayGeometry(const QRect &area, const QSize &hint)
 
 QRect choiceGeometry(const QRect &area, const QWidget *dialog)
 {
-    const QSize hint = dialog->sizeHint().isValid() ? dialog->sizeHint() : dialog->size();
+    QSize hint = dialog->sizeHint().isValid() ? dialog->sizeHint() : dialog->size();
+    hint = hint.expandedTo(dialog->minimumSize());
     const QSize room = area.size() - QSize(2 * ChoiceMargin, 2 * ChoiceMargin);
     QSize size(qMin(room.width(), qMax(SmallestChoiceWidth, hint.width())), hint.height());
     QLayout *layout = dialog->layout();

@@ -1,0 +1,297 @@
+#include "unitscreen.h"
+
+#include "orbapplication.h"
+#include "tablelistview.h"
+#include "tableviewmodel.h"
+
+#include <climits>
+
+#include <QPointer>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+/// The list model, and the list under a finger.
+class TestLists : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cellsByRole_data();
+    void cellsByRole();
+    void wrongPlacesChangeNothing();
+    void changesAreAnnounced();
+    void removesWhatExists_data();
+    void removesWhatExists();
+    void tapReachesTheCell_data();
+    void tapReachesTheCell();
+    void headingTakesNoTap();
+    void dragScrolls();
+    void flickGlidesOn();
+    void touchStopsTheGlide();
+    void receiverMayChangeTheRows();
+    void columnsFollowTheTexts();
+    void switchIsDrawnAsItStands();
+};
+
+namespace {
+
+enum { OptionsRole = 4097 };
+
+class List
+{
+public:
+    explicit List(int rows) : screen(QSize(1024, 600)), view(screen.area())
+    {
+        for (int i = 0; i < rows; ++i) {
+            TableViewItemDatas datas(100 + i, QString("Row %1").arg(i), "icon.png");
+            datas.setValue(TableViewItemDatas::ValueColumn, i % 2 ? QVariant(true) : QVariant("Far"));
+            datas.setBindData(OptionsRole, QStringList({"Near", "Far"}));
+            model.appendItemDatas(datas);
+        }
+        view.setModel(&model);
+        view.resize(screen.area()->size());
+        view.show();
+    }
+
+    QPoint middle(int row, int column) const { return view.visualRect(model.index(row, column)).center(); }
+    int scrolled() const { return view.verticalScrollBar()->value(); }
+
+    TestScreen screen;
+    TableViewModel model;
+    TableListView view;
+};
+
+} // namespace
+
+void TestLists::cellsByRole_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("value");
+    const QVariant nothing;
+    QTest::newRow("label") << 0 << 0 << int(Qt::DisplayRole) << QVariant("Row 0");
+    QTest::newRow("icon") << 0 << 0 << int(Qt::DecorationRole) << QVariant("icon.png");
+    QTest::newRow("no icon elsewhere") << 0 << 2 << int(Qt::DecorationRole) << nothing;
+    QTest::newRow("value") << 0 << 2 << int(Qt::DisplayRole) << QVariant("Far");
+    QTest::newRow("value is no switch") << 0 << 2 << int(Qt::CheckStateRole) << nothing;
+    QTest::newRow("switch has no text") << 1 << 2 << int(Qt::DisplayRole) << QVariant(QString());
+    QTest::newRow("switch") << 1 << 2 << int(Qt::CheckStateRole) << QVariant(int(Qt::Checked));
+    QTest::newRow("bind data") << 0 << 0 << int(OptionsRole) << QVariant(QStringList({"Near", "Far"}));
+    QTest::newRow("role that is not set") << 0 << 0 << 4096 << nothing;
+    QTest::newRow("role of Qt") << 0 << 0 << int(Qt::ToolTipRole) << nothing;
+    QTest::newRow("row past the end") << 2 << 0 << int(Qt::DisplayRole) << nothing;
+}
+
+void TestLists::cellsByRole()
+{
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(int, role);
+    QFETCH(QVariant, value);
+    List list(2);
+    const QVariant found = list.model.data(list.model.index(row, column), role);
+    QCOMPARE(found.isValid(), value.isValid());
+    QCOMPARE(role == Qt::CheckStateRole && found.isValid() ? QVariant(found.toInt()) : found, value);
+}
+
+void TestLists::wrongPlacesChangeNothing()
+{
+    List list(2);
+    QSignalSpy changes(&list.model, SIGNAL(dataChanged(QModelIndex, QModelIndex)));
+    for (const int row : {-1, 2}) {
+        list.model.setItemDatas(row, TableViewItemDatas(7, "no"));
+        list.model.setCellValue(row, 0, "no");
+        QCOMPARE(list.model.itemDatas(row).getItemId(), -1);
+    }
+    list.model.setCellValue(0, 3, "no");
+    list.model.setCellValue(0, -1, "no");
+    TableViewItemDatas datas;
+    datas.setValue(3, "no");
+    QCOMPARE(datas.value(3), QVariant());
+    QCOMPARE(changes.size(), 0);
+    QCOMPARE(list.model.rowCount(), 2);
+}
+
+void TestLists::changesAreAnnounced()
+{
+    List list(3);
+    QSignalSpy changes(&list.model, SIGNAL(dataChanged(QModelIndex, QModelIndex)));
+    list.model.setCellValue(1, TableViewItemDatas::ValueColumn, false);
+    list.model.setItemDatas(2, TableViewItemDatas(9, "New"));
+    QCOMPARE(changes.size(), 2);
+    QCOMPARE(changes[0][0].value<QModelIndex>(), list.model.index(1, 2));
+    QCOMPARE(changes[1][1].value<QModelIndex>(), list.model.index(2, 2));
+    QCOMPARE(list.model.rowOfItem(9), 2);
+    QCOMPARE(list.model.rowOfItem(102), -1);
+}
+
+void TestLists::removesWhatExists_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("left");
+    QTest::newRow("one") << 1 << 1 << 4;
+    QTest::newRow("from the fourth on") << 3 << 1000 << 3;
+    QTest::newRow("count that overflows") << 4 << INT_MAX << 4;
+    QTest::newRow("past the end") << 5 << 1 << 5;
+    QTest::newRow("before the start") << -1 << 2 << 5;
+    QTest::newRow("none") << 0 << 0 << 5;
+    QTest::newRow("negative count") << 0 << -1 << 5;
+}
+
+void TestLists::removesWhatExists()
+{
+    QFETCH(int, row);
+    QFETCH(int, count);
+    QFETCH(int, left);
+    List list(5);
+    list.model.removeItemDatas(row, count);
+    QCOMPARE(list.model.rowCount(), left);
+    list.model.clear();
+    QCOMPARE(list.model.rowCount(), 0);
+}
+
+void TestLists::tapReachesTheCell_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::newRow("label") << 0;
+    QTest::newRow("gap") << 1;
+    QTest::newRow("value") << 2;
+}
+
+void TestLists::tapReachesTheCell()
+{
+    QFETCH(int, column);
+    List list(20);
+    QSignalSpy pressed(&list.view, SIGNAL(pressed(QModelIndex)));
+    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
+    QSignalSpy cell(&list.view, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)));
+    TestScreen::press(list.view.viewport(), list.middle(2, column));
+    QCOMPARE(pressed.size(), 1);
+    QCOMPARE(clicked.size(), 0);
+    TestScreen::tap(list.view.viewport(), list.middle(3, column));
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(clicked[0][0].value<QModelIndex>(), list.model.index(3, column));
+    QCOMPARE(cell.size(), 1);
+    QCOMPARE(cell[0][1].value<QModelIndex>(), list.model.index(3, column));
+    // A finger that slides into the next row has changed its mind.
+    const QPoint low = list.view.visualRect(list.model.index(4, column)).bottomLeft() + QPoint(4, -4);
+    TestScreen::drag(list.view.viewport(), low, low + QPoint(0, 8));
+    QCOMPARE(clicked.size(), 1);
+    // A receiver learns nothing from a touch below the last row.
+    list.model.removeItemDatas(1, 19);
+    TestScreen::tap(list.view.viewport(), QPoint(40, 400));
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestLists::headingTakesNoTap()
+{
+    List list(2);
+    TableViewItemDatas heading(-1, "Adaptive cruise control");
+    heading.setHeading(true);
+    list.model.setItemDatas(1, heading);
+    QSignalSpy pressed(&list.view, SIGNAL(pressed(QModelIndex)));
+    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
+    TestScreen::tap(list.view.viewport(), list.middle(1, 0));
+    QCOMPARE(pressed.size() + clicked.size(), 0);
+}
+
+void TestLists::dragScrolls()
+{
+    List list(40);
+    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
+    TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 391));
+    QCOMPARE(list.scrolled(), 0);
+    QCOMPARE(clicked.size(), 1);
+    TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 300));
+    QVERIFY(list.scrolled() >= 100);
+    QCOMPARE(clicked.size(), 1);
+    // Never past the ends.
+    TestScreen::drag(list.view.viewport(), QPoint(100, 10), QPoint(100, 5000));
+    QTest::qWait(60);
+    QCOMPARE(list.scrolled(), 0);
+}
+
+void TestLists::flickGlidesOn()
+{
+    List list(400);
+    TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 300));
+    const int released = list.scrolled();
+    QTRY_VERIFY(list.scrolled() > released + 50);
+}
+
+void TestLists::touchStopsTheGlide()
+{
+    List list(400);
+    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
+    TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 300));
+    QTest::qWait(40);
+    TestScreen::tap(list.view.viewport(), QPoint(100, 200));
+    const int stopped = list.scrolled();
+    QTest::qWait(60);
+    QCOMPARE(list.scrolled(), stopped);
+    QCOMPARE(clicked.size(), 0);
+    TestScreen::tap(list.view.viewport(), QPoint(100, 200));
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestLists::receiverMayChangeTheRows()
+{
+    List list(5);
+    QSignalSpy cell(&list.view, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)));
+    const auto connection =
+        connect(&list.view, &QAbstractItemView::clicked, &list.model, &TableViewModel::clear);
+    TestScreen::tap(list.view.viewport(), list.middle(1, 0));
+    QCOMPARE(list.model.rowCount(), 0);
+    QCOMPARE(cell.size(), 0);
+    disconnect(connection);
+
+    TableListView *view = new TableListView(list.screen.area());
+    list.model.appendItemDatas(TableViewItemDatas(1, "Row"));
+    view->setModel(&list.model);
+    view->setGeometry(list.screen.area()->rect());
+    view->show();
+    connect(view, &QAbstractItemView::clicked, view, [view] { delete view; });
+    const QPointer<TableListView> guard(view);
+    TestScreen::tap(view->viewport(), QPoint(40, 30));
+    QVERIFY(!guard);
+}
+
+void TestLists::columnsFollowTheTexts()
+{
+    List list(3);
+    const auto width = [&](int column) { return list.view.columnWidth(column); };
+    QCOMPARE(width(0) + width(1) + width(2), list.view.viewport()->width());
+    QVERIFY(width(1) < 40);
+    list.model.setCellValue(1, TableViewItemDatas::SecondColumn, "since the last service");
+    QVERIFY(width(1) > 150);
+    list.view.resize(500, 300);
+    QCOMPARE(width(0) + width(1) + width(2), list.view.viewport()->width());
+    list.view.setModel(nullptr);
+    list.model.clear();
+}
+
+void TestLists::switchIsDrawnAsItStands()
+{
+    List list(2);
+    const auto colour = [&] {
+        const QRect cell = list.view.visualRect(list.model.index(1, 2));
+        const QImage picture = list.view.viewport()->grab().toImage();
+        return picture.pixelColor(cell.right() - 24 - 36, cell.center().y());
+    };
+    const QColor on = colour();
+    list.model.setCellValue(1, 2, false);
+    const QColor off = colour();
+    QVERIFY(on.blue() > off.blue() + 60);
+}
+
+int main(int argc, char **argv)
+{
+    OrbApplication application(argc, argv);
+    TestLists test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_lists.moc"
