@@ -119,8 +119,7 @@ void ClimatePainter::paintTemperature(const QRect &room, const QString &text, do
 {
     m_painter->setPen(OrbPalette::text());
     const QRect digits = room.adjusted(0, 14, 0, -50);
-    paintFitted(digits, text.isEmpty() ? QString(QLatin1String("--")) : text, 64, QFont::Light,
-                Qt::AlignCenter);
+    paintFitted(digits, text, 64, QFont::Light, Qt::AlignCenter);
     paintScale(QRect(room.left() + 8, room.bottom() - 32, room.width() - 16, 8), position);
 }
 
@@ -173,8 +172,8 @@ void ClimatePainter::paintDirection(const QRect &room, const ClimateState &state
     if (state.direction == ClimateState::ChosenByCar) {
         // Where the arrows would be.
         m_painter->setPen(OrbPalette::accent());
-        paintFitted(QRect(figure.left() + 20, figure.top() + 8, 72, figure.height()), tr("AUTO"), 22,
-                    QFont::Bold, Qt::AlignCenter);
+        paintFitted(QRect(figure.left() + 4, figure.center().y(), 66, 32), tr("AUTO"), 22, QFont::Bold,
+                    Qt::AlignCenter);
         return;
     }
     const int bits = state.direction;
