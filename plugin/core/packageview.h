@@ -19,6 +19,11 @@ public:
         , m_n(qBound(0, n, qMax(0, m_size - dataAt)))
     {}
 
+    /// The \a n data bytes at \a data of a package with command \a command, as an adapter hands them on.
+    PackageView(uchar command, const uchar *data, int n)
+        : m_bytes(data), m_size(qMax(0, n)), m_dataAt(0), m_command(command), m_n(m_size)
+    {}
+
     uchar command() const { return m_command; }
 
     /// Number of data bytes.

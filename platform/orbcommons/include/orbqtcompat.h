@@ -3,6 +3,7 @@
 
 // The one place that knows which Qt generation it is compiled with.
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QLayout>
@@ -63,6 +64,16 @@ inline QPoint mouseGlobalPos(const QMouseEvent *event)
     return event->globalPosition().toPoint();
 #else
     return event->globalPos();
+#endif
+}
+
+/// \a source (UTF-8) in the application's language; \a context as in its Linguist file.
+inline QString translateUtf8(const char *context, const char *source)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QCoreApplication::translate(context, source);
+#else
+    return QCoreApplication::translate(context, source, nullptr, QCoreApplication::UnicodeUTF8);
 #endif
 }
 

@@ -1,0 +1,253 @@
+#include "vwpagestate.h"
+
+#include "vwcommands.h"
+#include "vwtexts.h"
+
+#include "tableviewmodel.h"
+
+#include <QSize>
+#include <QStringList>
+
+namespace Vw {
+namespace {
+
+const char IconFolder[] = ":/dazhong/set/";
+const char DropDownMark[] = ":/dazhong/set/xiala.png";
+const char OpenMark[] = ":/dazhong/set/open.png";
+const char InfoIcon[] = "info.png";
+const char ReportIcon[] = "report.png";
+const char ConsumerIcon[] = "consumer.png";
+const char NoReading[] = "--";
+
+QString iconPath(const char *fileName)
+{
+    return fileName ? QLatin1String(IconFolder) + QLatin1String(fileName) : QString();
+}
+
+TableViewItemDatas reportItem(const QString &label, const char *icon, const QString &value = QString())
+{
+    TableViewItemDatas item(NoItem, label, iconPath(icon));
+    item.setValue(TableViewItemDatas::ValueColumn, value);
+    return item;
+}
+
+// The report's lines, or one that says that there are none.
+QList<TableViewItemDatas> orNoEntries(const QList<TableViewItemDatas> &items)
+{
+    if (!items.isEmpty())
+        return items;
+    return QList<TableViewItemDatas>() << reportItem(text(QT_TR_NOOP("No entries available")), InfoIcon);
+}
+
+QStringList optionTexts(const SettingRow &row)
+{
+    QStringList texts;
+    for (int i = 0; i < row.optionCount(); ++i)
+        texts.append(text(row.options[i]));
+    return texts;
+}
+
+QString readingText(const ServiceReading &reading)
+{
+    const QString count = numberText(reading.count, text(reading.unit));
+    switch (reading.form) {
+    case ServiceReading::Text:
+        return reading.text;
+    case ServiceReading::Count:
+        return count;
+    case ServiceReading::Overdue:
+        return text(QT_TR_NOOP("overdue by")) + QLatin1Char(' ') + count;
+    default:
+        return QLatin1String(NoReading);
+    }
+}
+
+} // namespace
+
+QString numberText(int value, const QString &unit)
+{
+    return unit.isEmpty() ? QString::number(value) : QString::number(value) + QLatin1Char(' ') + unit;
+}
+
+PageState::PageState(unsigned int page)
+    : m_id(page)
+    , m_page(settingPage(page))
+    , m_speedInMph(false)
+    , m_startStop(StartStopReport())
+    , m_numbers(NumbersReport())
+{
+    for (int i = 0; m_page && i < m_page->rowCount; ++i)
+        m_rows.append(m_page->rows[i]);
+}
+
+// ---------------------------------------------------------------------------------------------- replies
+
+bool PageState::take(const PackageView &d)
+{
+    if (m_id == StartStopPage && d.command() == StartStopReply) {
+        const StartStopReport report = startStopReport(d);
+        if (report.valid)
+            m_startStop = report;
+        return report.valid;
+    }
+    if ((m_id == ReportsPage && d.command() == ReportsReply) ||
+        (m_id == ConsumersPage && d.command() == ConsumersReply)) {
+        const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
+        if (report.valid)
+            m_numbers = report;
+        return report.valid;
+    }
+    if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0)
+        return false;
+    takeSettings(d);
+    return true;
+}
+
+void PageState::takeSettings(const PackageView &d)
+{
+    if (d.command() == ServiceReply) {
+        const ServiceReading reading = serviceReading(d);
+        if (reading.form != ServiceReading::Absent)
+            m_readings.insert(reading.item, reading);
+    }
+    if (m_id == TyresPage && WarningSpeedUnitField.isIn(d))
+        m_speedInMph = WarningSpeedUnitField.valueIn(d) != 0;
+
+    for (int i = 0; i < m_rows.size(); ++i) {
+        // A new driving mode changes the rows behind it, which this reply then fills as well.
+        const SettingRow row = m_rows.at(i);
+        takeField(row, row.field, d);
+        if (row.item == DrivingModeItem)
+            takeField(row, SecondDrivingModeField, d);
+    }
+}
+
+void PageState::takeField(const SettingRow &row, const ReplyField &field, const PackageView &d)
+{
+    if (!field.isIn(d))
+        return;
+    int value = field.valueIn(d);
+    if (row.kind == SettingRow::Options)
+        value = row.optionOf(value);
+    if (value < 0)
+        return;
+    m_values.insert(row.item, value);
+    if (row.item == DrivingModeItem)
+        showProfileRows();
+}
+
+// ---------------------------------------------------------------------------------------------- profile
+
+void PageState::showProfileRows()
+{
+    dropProfileRows();
+    m_rows.append(profileRows(value(DrivingModeItem, -1)));
+}
+
+void PageState::dropProfileRows()
+{
+    while (m_page && m_rows.size() > m_page->rowCount)
+        m_rows.removeLast();
+}
+
+// ---------------------------------------------------------------------------------------------- rows
+
+const SettingRow *PageState::row(int index) const
+{
+    return index >= 0 && index < m_rows.size() ? &m_rows.at(index) : nullptr;
+}
+
+NumberRange PageState::rangeOf(const SettingRow &row) const
+{
+    return row.item == WarningSpeedItem && m_speedInMph ? WarningSpeedMph : row.range;
+}
+
+QList<TableViewItemDatas> PageState::rows() const
+{
+    if (m_id == StartStopPage)
+        return startStopRows();
+    if (m_id == ReportsPage)
+        return reportRows();
+    if (m_id == ConsumersPage)
+        return consumerRows();
+    QList<TableViewItemDatas> items;
+    for (int i = 0; i < m_rows.size(); ++i)
+        items.append(itemOf(m_rows.at(i)));
+    return items;
+}
+
+TableViewItemDatas PageState::itemOf(const SettingRow &row) const
+{
+    TableViewItemDatas item(row.item, text(row.label), iconPath(row.icon));
+    item.setHeading(row.kind == SettingRow::Heading);
+    item.setBindData(PageRole, row.opens);
+    if (row.kind == SettingRow::Switch) {
+        item.setValue(TableViewItemDatas::ValueColumn, value(row.item, 0) != 0);
+        return item;
+    }
+    item.setValue(TableViewItemDatas::ValueColumn, valueText(row));
+    if (row.kind == SettingRow::Link)
+        item.setMark(QLatin1String(OpenMark));
+    if (row.kind == SettingRow::Options) {
+        item.setBindData(OptionsRole, optionTexts(row));
+        item.setMark(QLatin1String(DropDownMark));
+    } else if (row.kind == SettingRow::Number) {
+        const NumberRange range = rangeOf(row);
+        item.setBindData(RangeRole, QSize(range.minimum, range.maximum));
+        item.setBindData(ValueRole, value(row.item, range.minimum));
+        item.setBindData(StepRole, range.step);
+        item.setBindData(UnitRole, text(range.unit));
+    }
+    return item;
+}
+
+QString PageState::valueText(const SettingRow &row) const
+{
+    if (row.kind == SettingRow::Reading)
+        return m_readings.contains(row.item) ? readingText(m_readings.value(row.item))
+                                             : QString::fromLatin1(NoReading);
+    if (!isKnown(row.item))
+        return QString();
+    if (row.kind == SettingRow::Options)
+        return text(row.options[value(row.item, 0)]);
+    return row.kind == SettingRow::Number ? numberText(value(row.item, 0), text(rangeOf(row).unit))
+                                          : QString();
+}
+
+QList<TableViewItemDatas> PageState::startStopRows() const
+{
+    QList<TableViewItemDatas> reasons;
+    for (int i = 0; i < m_startStop.texts.size(); ++i) {
+        const QString reason = getStartStopInfo(m_startStop.texts.at(i));
+        if (!reason.isEmpty())
+            reasons.append(reportItem(reason, InfoIcon));
+    }
+    QList<TableViewItemDatas> items;
+    if (m_startStop.valid && !m_startStop.active)
+        items.append(reportItem(text(QT_TR_NOOP("Start-stop system is deactivated")), "startstop.png"));
+    else if (m_startStop.valid && reasons.isEmpty())
+        items.append(reportItem(text(QT_TR_NOOP("Start-stop system is activated")), "startstop.png"));
+    return orNoEntries(items + reasons);
+}
+
+QList<TableViewItemDatas> PageState::reportRows() const
+{
+    QList<TableViewItemDatas> items;
+    for (int i = 0; i < m_numbers.numbers.size(); ++i)
+        items.append(reportItem(text(QT_TR_NOOP("Report code")), ReportIcon,
+                                QString::number(m_numbers.numbers.at(i))));
+    return orNoEntries(items);
+}
+
+QList<TableViewItemDatas> PageState::consumerRows() const
+{
+    QList<TableViewItemDatas> items;
+    for (int i = 0; i < m_numbers.numbers.size(); ++i) {
+        const QString consumer = getConvConsumerInfo(m_numbers.numbers.at(i));
+        if (!consumer.isEmpty())
+            items.append(reportItem(consumer, ConsumerIcon));
+    }
+    return orNoEntries(items);
+}
+
+} // namespace Vw

@@ -1,0 +1,17 @@
+#ifndef VWTEXTS_H
+#define VWTEXTS_H
+
+#include <QString>
+
+/// Texts of the numbers that the car reports, in the unit's language. Empty for a number without a text.
+namespace Vw {
+
+/// Why the engine is not stopped, or was started: 0..33.
+QString getStartStopInfo(int number);
+
+/// A convenience consumer that costs fuel: 1..18.
+QString getConvConsumerInfo(int number);
+
+} // namespace Vw
+
+#endif // VWTEXTS_H
