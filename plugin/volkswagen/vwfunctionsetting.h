@@ -1,0 +1,73 @@
+#ifndef VWFUNCTIONSETTING_H
+#define VWFUNCTIONSETTING_H
+
+#include "vwpagestate.h"
+
+#include "orbmainwindow.h"
+
+#include <QPointer>
+#include <QStringList>
+
+class CanBus_Raise_Volkswagen;
+class QAbstractItemModel;
+class QModelIndex;
+class SelectDialog;
+class TableListView;
+class TableViewModel;
+
+/// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. The page
+/// deletes itself when the driver leaves it (back or home).
+class VWFunctionSetting : public OrbMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// \a appId: the page, one of Vw::SettingsPage; an unknown one is an empty page without a title.
+    /// \a adapter must outlive the page.
+    VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen *adapter, QWidget *parent = nullptr);
+    ~VWFunctionSetting() override;
+
+    /// Title of page \a appId, empty for an unknown one.
+    static QString getAppTitleFromId(unsigned int appId);
+
+public Q_SLOTS:
+    void onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen);
+
+protected:
+    void onLoadUiSkin() override;
+    void onBackEvent() override;
+    void onHomeEvent() override;
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void onItemColumnClicked(QAbstractItemModel *model, const QModelIndex &index);
+    void retranslate();
+
+private:
+    void onItemClicked(const QModelIndex &index);
+    void sendRequests();
+    void refresh();
+    void leave();
+
+    void toggleSwitch(const Vw::SettingRow &row);
+    void openPage(unsigned int appId);
+    void chooseOption(const Vw::SettingRow &row, const QModelIndex &index);
+    void chooseNumber(const Vw::SettingRow &row, const QModelIndex &index);
+    void confirmAction(const Vw::SettingRow &row);
+    void send(int item, int value);
+
+    int showSelectCheckBoxModeDialog(const QStringList &options, int current, const QModelIndex &index);
+    int showSelectSliderModeDialog(int minimum, int maximum, int step, const QString &unit, int value,
+                                   const QModelIndex &index);
+    bool showConfirmDialog(const QString &title, const QString &text);
+    SelectDialog *newDialog(const QString &title);
+
+    CanBus_Raise_Volkswagen *const m_adapter;
+    Vw::PageState m_state;
+    TableViewModel *const m_model;
+    TableListView *const m_list;
+    QPointer<SelectDialog> m_dialog; // the open one
+    bool m_left;
+};
+
+#endif // VWFUNCTIONSETTING_H
