@@ -1,12 +1,15 @@
 #include "headunitprogram.h"
 
 #include "boxcatalog.h"
+#include "boxpage.h"
 #include "decoderbox.h"
+#include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
 #include "quitonsignals.h"
 #include "scenarioplayer.h"
 #include "scriptrunner.h"
+#include "sidepanel.h"
 #include "tracewriter.h"
 #include "unitscreen.h"
 
@@ -43,8 +46,11 @@ HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent
 
 HeadUnitProgram::~HeadUnitProgram()
 {
+    // The window shows the unit, and the plug-in's windows lie in it.
     m_script.reset();
-    m_unit.reset();
+    if (m_unit) {
+        m_unit->unloadPlugin();
+    }
     m_window.reset();
     OrbTrace::setListener(nullptr);
 }
@@ -132,30 +138,42 @@ bool HeadUnitProgram::openBox(QString *error)
     return m_options.scenario.isEmpty() || openScenario(error);
 }
 
+// Read before anything else starts, played when the unit has opened its port.
 bool HeadUnitProgram::openScenario(QString *error)
 {
     Scenario scenario;
     if (!scenario.load(m_options.scenario, *m_box, error)) {
         return false;
     }
-    ScenarioPlayer *player = new ScenarioPlayer(m_box.get(), scenario, m_box.get());
-    connect(m_box.get(), &DecoderBox::unitCame, player, [player] {
-        if (!player->isPlaying()) {
-            player->play();
-        }
-    });
+    m_player = new ScenarioPlayer(m_box.get(), scenario, m_box.get());
+    connect(m_box.get(), &DecoderBox::unitCame, this, &HeadUnitProgram::playOnce);
     if (m_options.isHeadless && m_options.script.isEmpty()) {
-        connect(player, &ScenarioPlayer::finished, this,
+        connect(m_player, &ScenarioPlayer::finished, this,
                 [] { QTimer::singleShot(lastPackagesMs, qApp, &QCoreApplication::quit); });
     }
     return true;
 }
 
+void HeadUnitProgram::playOnce()
+{
+    disconnect(m_box.get(), &DecoderBox::unitCame, this, &HeadUnitProgram::playOnce);
+    // On the desk the panel plays it, where it can be seen and stopped.
+    if (DeskWindow *desk = qobject_cast<DeskWindow *>(m_window.get())) {
+        desk->sidePanel()->boxPage()->play(m_options.scenario);
+    } else {
+        m_player->play();
+    }
+}
+
 void HeadUnitProgram::openScreen()
 {
-    // Without a window the unit ends by order only.
+    // Headless there is nothing that could act by itself, and the unit ends by order only.
     QApplication::setQuitOnLastWindowClosed(!m_options.isHeadless);
-    m_window.reset(new UnitScreen(m_options.screenSize));
+    if (m_options.isHeadless) {
+        m_window.reset(new UnitScreen(m_options.screenSize));
+    } else {
+        m_window.reset(new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize));
+    }
     m_window->show();
 }
 

@@ -11,6 +11,7 @@
 class DecoderBox;
 class HeadUnit;
 class LineOutput;
+class ScenarioPlayer;
 class ScriptRunner;
 class TraceWriter;
 class QWidget;
@@ -37,6 +38,7 @@ private:
     void configureUnit();
     bool openBox(QString *error);
     bool openScenario(QString *error);
+    void playOnce();
     void openScreen();
     bool openScript(QString *error);
 
@@ -46,6 +48,7 @@ private:
     std::unique_ptr<LineOutput> m_output;
     std::unique_ptr<TraceWriter> m_writer;
     std::unique_ptr<DecoderBox> m_box;
+    ScenarioPlayer *m_player = nullptr;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<HeadUnit> m_unit;
     std::unique_ptr<ScriptRunner> m_script;
