@@ -2,6 +2,8 @@
 
 #include "boxtools.h"
 
+#include <QTest>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -23,8 +25,16 @@ SimulatedUnit::~SimulatedUnit()
 
 void SimulatedUnit::write(const QByteArray &bytes)
 {
-    if (::write(m_device, bytes.constData(), size_t(bytes.size())) != bytes.size()) {
-        qFatal("the box does not read");
+    int written = 0;
+    for (int tries = 0; written < bytes.size(); ++tries) {
+        const ssize_t count = ::write(m_device, bytes.constData() + written, size_t(bytes.size() - written));
+        written += int(qMax(ssize_t(0), count));
+        if (tries > 1000) {
+            qFatal("the box does not read");
+        }
+        if (written < bytes.size()) {
+            QTest::qWait(1);
+        }
     }
 }
 

@@ -45,6 +45,8 @@ private slots:
     void silenceHoldsPackagesBack();
     void noiseIsTheSameEachRun();
     void queueIsBounded();
+    void hostileUnitIsEndured_data();
+    void hostileUnitIsEndured();
     void linkIsReplacedAndRemoved();
     void linkNeverReplacesAFile();
 };
@@ -329,6 +331,35 @@ void TestBoxManners::queueIsBounded()
         box->releaseKey("next");
     }
     QVERIFY(dropped > 400 && dropped < 800);
+}
+
+void TestBoxManners::hostileUnitIsEndured_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("piece");
+    QTest::newRow("start bytes") << toyota << QByteArray(4096, '\x2E');
+    QTest::newRow("lying lengths") << toyota << QByteArray("\x2E\x81\xFF").repeated(1300);
+    QTest::newRow("start bytes, other frame") << 4 << QByteArray(4096, '\xF0');
+    QTest::newRow("no lengths, other frame") << 4 << QByteArray("\xF0\x00", 2).repeated(2000);
+}
+
+// A hundred kilobytes of it costs little time, and the package behind it still counts.
+void TestBoxManners::hostileUnitIsEndured()
+{
+    QFETCH(int, type);
+    QFETCH(QByteArray, piece);
+    const auto box = openBox(type);
+    SimulatedUnit unit(*box);
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < 32; ++i) {
+        unit.write(piece);
+        QTest::qWait(1);
+    }
+    QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
+    QTest::qWait(120);
+    unit.write(type == toyota ? QByteArray::fromHex("2e8101017c") : QByteArray::fromHex("f0038101017c"));
+    QTRY_COMPARE(box->state(), DecoderBox::Talks);
 }
 
 void TestBoxManners::linkIsReplacedAndRemoved()

@@ -22,22 +22,22 @@ QByteArray FrameFormat::frame(const BoxPackage &package) const
     frame[3 - lengthAt] = char(package.command);
     frame += data;
     frame += '\0';
-    frame[size - 1] = char(checksum(frame));
+    frame[size - 1] = char(checksum(frame.constData(), size));
     return frame;
 }
 
-int FrameFormat::frameSize(const QByteArray &bytes) const
+int FrameFormat::frameSize(const char *bytes, int available) const
 {
-    if (bytes.size() <= lengthAt) {
+    if (available <= lengthAt) {
         return 0;
     }
-    const int size = quint8(bytes.at(lengthAt)) + overhead;
+    const int size = quint8(bytes[lengthAt]) + overhead;
     return size < shortest ? -1 : size;
 }
 
-bool FrameFormat::isGood(const QByteArray &frame) const
+bool FrameFormat::isGood(const char *frame, int size) const
 {
-    return quint8(frame.back()) == checksum(frame);
+    return quint8(frame[size - 1]) == checksum(frame, size);
 }
 
 BoxPackage FrameFormat::package(const QByteArray &frame) const
@@ -48,11 +48,11 @@ BoxPackage FrameFormat::package(const QByteArray &frame) const
     return package;
 }
 
-quint8 FrameFormat::checksum(const QByteArray &frame) const
+quint8 FrameFormat::checksum(const char *frame, int size) const
 {
     quint8 sum = 0;
-    for (int i = sumFrom; i < frame.size() - 1; ++i) {
-        sum = quint8(sum + quint8(frame.at(i)));
+    for (int i = sumFrom; i < size - 1; ++i) {
+        sum = quint8(sum + quint8(frame[i]));
     }
     return quint8(~sum);
 }

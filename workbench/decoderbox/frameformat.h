@@ -32,16 +32,16 @@ struct FrameFormat
 
     /// The frame of \a package; data past what the length byte can say is cut off.
     QByteArray frame(const BoxPackage &package) const;
-    /// Length in bytes of the frame that \a bytes begin with, 0 while the length byte is missing, -1 for a
-    /// length that no frame has.
-    int frameSize(const QByteArray &bytes) const;
-    /// Whether the checksum of \a frame, which is whole, fits.
-    bool isGood(const QByteArray &frame) const;
+    /// Length in bytes of the frame that the \a available bytes at \a bytes begin with, 0 while the length
+    /// byte is missing, -1 for a length that no frame has.
+    int frameSize(const char *bytes, int available) const;
+    /// Whether the checksum of the frame of \a size bytes at \a frame fits.
+    bool isGood(const char *frame, int size) const;
     /// The package inside \a frame, which is whole.
     BoxPackage package(const QByteArray &frame) const;
 
 private:
-    quint8 checksum(const QByteArray &frame) const;
+    quint8 checksum(const char *frame, int size) const;
 };
 
 #endif

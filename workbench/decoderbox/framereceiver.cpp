@@ -6,37 +6,51 @@ const quint8 acknowledgement = 0xFF;
 } // namespace
 
 FrameReceiver::FrameReceiver(const FrameFormat &format, QObject *parent) : QObject(parent), m_format(format)
-{}
+{
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(candidateLifetimeMs);
+    connect(&m_patience, &QTimer::timeout, this, &FrameReceiver::giveUpWaiting);
+}
 
 void FrameReceiver::feed(const QByteArray &bytes)
 {
-    if (m_isWaiting && m_candidateAge.hasExpired(candidateLifetimeMs)) {
-        m_isWaiting = false;
-        m_stale = int(m_buffer.size());
-        m_rejected = m_stale;
-    }
     m_buffer += bytes;
-    while (!m_buffer.isEmpty()) {
-        if (quint8(m_buffer.front()) != m_format.start) {
-            takeByteBetweenPackages();
-        } else if (!takeCandidate()) {
-            break;
-        }
-    }
+    work();
 }
 
 void FrameReceiver::clear()
 {
     m_buffer.clear();
+    m_front = 0;
     m_rejected = 0;
     m_stale = 0;
-    m_isWaiting = false;
+    m_patience.stop();
+}
+
+void FrameReceiver::giveUpWaiting()
+{
+    m_stale = int(m_buffer.size());
+    m_rejected = m_stale;
+    work();
+}
+
+void FrameReceiver::work()
+{
+    while (m_front < m_buffer.size()) {
+        if (quint8(m_buffer.at(m_front)) != m_format.start) {
+            takeByteBetweenPackages();
+        } else if (!takeCandidate()) {
+            break;
+        }
+    }
+    m_buffer.remove(0, m_front);
+    m_front = 0;
 }
 
 void FrameReceiver::takeByteBetweenPackages()
 {
-    const bool isNews = m_rejected == 0 && quint8(m_buffer.front()) == acknowledgement;
-    reject();
+    const bool isNews = m_rejected == 0 && quint8(m_buffer.at(m_front)) == acknowledgement;
+    pass(1);
     if (isNews) {
         emit acknowledged();
     }
@@ -45,43 +59,43 @@ void FrameReceiver::takeByteBetweenPackages()
 // False while the candidate at the front is not whole.
 bool FrameReceiver::takeCandidate()
 {
-    const int size = m_format.frameSize(m_buffer);
+    const char *front = m_buffer.constData() + m_front;
+    const int available = int(m_buffer.size()) - m_front;
+    const int size = m_format.frameSize(front, available);
     if (size < 0) {
-        reject();
+        pass(1);
         return true;
     }
-    if (size == 0 || m_buffer.size() < size) {
+    if (size == 0 || available < size) {
         if (m_stale > 0) {
-            reject();
+            pass(1);
             return true;
         }
-        if (!m_isWaiting) {
-            m_isWaiting = true;
-            m_candidateAge.start();
+        if (!m_patience.isActive()) {
+            m_patience.start();
         }
         return false;
     }
-    m_isWaiting = false;
-    const QByteArray frame = m_buffer.left(size);
-    if (m_format.isGood(frame)) {
-        m_buffer.remove(0, size);
-        m_rejected = qMax(0, m_rejected - size);
-        m_stale = qMax(0, m_stale - size);
+    m_patience.stop();
+    const bool isNews = m_rejected == 0;
+    const bool isGood = m_format.isGood(front, size);
+    const QByteArray frame = isGood || isNews ? QByteArray(front, size) : QByteArray();
+    if (isGood) {
+        pass(size);
         emit packageReceived(m_format.package(frame), frame);
         return true;
     }
-    const bool isNews = m_rejected == 0;
     m_rejected = qMax(m_rejected, size);
-    reject();
+    pass(1);
     if (isNews) {
         emit badChecksum(frame);
     }
     return true;
 }
 
-void FrameReceiver::reject()
+void FrameReceiver::pass(int count)
 {
-    m_buffer.remove(0, 1);
-    m_rejected = qMax(0, m_rejected - 1);
-    m_stale = qMax(0, m_stale - 1);
+    m_front += count;
+    m_rejected = qMax(0, m_rejected - count);
+    m_stale = qMax(0, m_stale - count);
 }

@@ -3,13 +3,13 @@
 
 #include "frameformat.h"
 
-#include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 /// The box's ear: finds packages and acknowledgement bytes in what the unit sends.
 ///
 /// A bad candidate costs its start byte only, so that a good package inside or behind it is found. One that
-/// is not whole 100 ms after its first byte is given up when the next byte arrives.
+/// is not whole 100 ms after its first byte is given up.
 class FrameReceiver : public QObject
 {
     Q_OBJECT
@@ -30,16 +30,18 @@ signals:
     void acknowledged();
 
 private:
+    void giveUpWaiting();
+    void work();
     void takeByteBetweenPackages();
     bool takeCandidate();
-    void reject();
+    void pass(int count);
 
     const FrameFormat &m_format;
     QByteArray m_buffer;
+    int m_front = 0;    // the byte to look at; what lies before it is done with
     int m_rejected = 0; // bytes left of a candidate that turned out bad: no news in them but a whole package
     int m_stale = 0;    // bytes left that came too long ago to begin a package that is not whole by now
-    bool m_isWaiting = false; // for the rest of the candidate at the front
-    QElapsedTimer m_candidateAge;
+    QTimer m_patience;  // for the rest of the candidate at the front
 };
 
 #endif
