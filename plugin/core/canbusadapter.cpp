@@ -66,6 +66,7 @@ void CanBusAdapter::initAdapter()
 {
     const QString name = getPortName();
     if (serialPort) {
+        attachIODevice(nullptr); // the framer would take the closing for a loss
         serialPort->close();
         serialPort->deleteLater();
         serialPort = nullptr;

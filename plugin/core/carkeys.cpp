@@ -4,6 +4,15 @@
 
 #include "orbapplication.h"
 
+unsigned int CarKeys::keyFor(const KeyTable &table, quint8 code, unsigned int otherwise)
+{
+    for (int i = 0; i < table.count; ++i) {
+        if (table.rows[i].code == code)
+            return table.rows[i].key;
+    }
+    return otherwise;
+}
+
 void CarKeys::simulate(unsigned int key, int state, int last)
 {
     OrbApplication::simulateKey(static_cast<int>(key), state != Released, state == Held, last);

@@ -10,6 +10,8 @@ namespace CarKeys {
 
 enum Key {
     NoKey = 0x01FFFFFF,
+    // In key tables only: a car's single phone key, which means Call or VoiceDial (phoneKey).
+    PhoneKey = 0x01FFFFFE,
 
     Digit1 = Qt::Key_1,
     Digit2 = Qt::Key_2,
@@ -77,15 +79,27 @@ struct Mapping
     unsigned int key;
 };
 
-/// The key of \a code, \a otherwise when the table has no such code.
-template <int Rows>
-unsigned int keyFor(const Mapping (&table)[Rows], quint8 code, unsigned int otherwise = NoKey)
+/// A car's key table, borrowed.
+struct KeyTable
 {
-    for (int i = 0; i < Rows; ++i) {
-        if (table[i].code == code)
-            return table[i].key;
-    }
-    return otherwise;
+    const Mapping *rows;
+    int count;
+};
+
+template <int Rows>
+KeyTable keyTable(const Mapping (&rows)[Rows])
+{
+    const KeyTable table = {rows, Rows};
+    return table;
+}
+
+/// The key of \a code, \a otherwise when the table has no such code.
+unsigned int keyFor(const KeyTable &table, quint8 code, unsigned int otherwise = NoKey);
+
+template <int Rows>
+unsigned int keyFor(const Mapping (&rows)[Rows], quint8 code, unsigned int otherwise = NoKey)
+{
+    return keyFor(keyTable(rows), code, otherwise);
 }
 
 /// Injects \a key in the phase that the box reports (0 released, 2 held, any other pressed).

@@ -23,10 +23,18 @@ public:
     /// One key of the head unit. \a isAutoRepeat: a repeat of a held key.
     virtual void onKeyEvent(unsigned int keyCode, bool isPress, bool isAutoRepeat) = 0;
 
+    /// Whether previous and next mean tracks in application \a appId; else they have keys of their own.
+    static bool isMediaKeyApp(unsigned int appId);
+
+    /// True while a phone call is present.
+    static bool isCallState();
+
 protected:
     KeyRedefAdapter();
 
 private:
+    static KeyRedefAdapter *createAdapter(KeyRedefType type);
+
     static KeyRedefAdapter *s_instance;
 
     KeyRedefType keyRedefType;

@@ -1,7 +1,7 @@
 #ifndef MAPPING_H
 #define MAPPING_H
 
-#include <QtGlobal>
+#include <QByteArray>
 
 /// One row of a value table: a code of one side and the value of the other.
 struct ByteMapping
@@ -20,5 +20,18 @@ quint8 mapByte(const ByteMapping (&table)[Rows], unsigned int from, quint8 other
     }
     return otherwise;
 }
+
+/// Every byte of \a codes mapped.
+template <int Rows>
+QByteArray mapBytes(const ByteMapping (&table)[Rows], QByteArray codes, quint8 otherwise = 0)
+{
+    for (int i = 0; i < codes.size(); ++i)
+        codes[i] = static_cast<char>(mapByte(table, static_cast<quint8>(codes.at(i)), otherwise));
+    return codes;
+}
+
+/// Distance levels of boxes that count to four (1 nearest) as radar levels of the unit; any other level is no
+/// obstacle.
+const ByteMapping FourRadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 6}};
 
 #endif // MAPPING_H

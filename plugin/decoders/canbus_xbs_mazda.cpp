@@ -1,14 +1,94 @@
+// XBS decoder box in a Mazda, CAN-bus type 5.
+
 #include "canbus_xbs_mazda.h"
+
+#include "keysource.h"
+#include "mapping.h"
+#include "unitlink.h"
 
 #include <QTimer>
 
+namespace {
+
+// What the unit sends.
+const unsigned char SettingCommand = 0x84;
+const unsigned char Setting14 = 0x14;
+
+const CarKeys::Mapping WheelKeys[] = {
+    {0x01, CarKeys::VolumeUp},   {0x02, CarKeys::VolumeDown},
+    {0x03, CarKeys::MediaNext},  {0x04, CarKeys::MediaPrevious},
+    {0x08, CarKeys::VolumeMute}, {0x09, CarKeys::VoiceDial},
+    {0x0A, CarKeys::Call},       {0x0B, CarKeys::Hangup},
+    {0x20, CarKeys::Music},      {0x21, CarKeys::Home},
+    {0x22, CarKeys::VoiceDial},  {0x23, CarKeys::ModeSwitch},
+    {0x24, CarKeys::Up},         {0x25, CarKeys::Down},
+    {0x26, CarKeys::Left},       {0x27, CarKeys::Right},
+    {0x28, CarKeys::Enter},      {0x29, CarKeys::LaunchH},
+    {0x2A, CarKeys::Back},
+};
+
+const CarKeys::Mapping Knobs[] = {
+    {0xF0, CarKeys::VolumeUp},
+    {0xF1, CarKeys::VolumeDown},
+    {0xF2, CarKeys::Right},
+    {0xF3, CarKeys::Left},
+};
+
+KeySource wheelKeys(WheelKeys, Knobs, 0);
+
+// The box has six sensors, the unit eight: the middle ones count twice.
+const int RadarBytes[] = {1, 2, 2, 3, 4, 5, 5, 6};
+
+} // namespace
+
 CanBus_XBS_Mazda::CanBus_XBS_Mazda()
 {
-    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
+    setWheelKeys(&wheelKeys);
+    setReadyTimer();
 }
 
 void CanBus_XBS_Mazda::onInited()
 {
     sendReady(1);
     periodicTimer()->start();
+}
+
+RaiseAdapter::CommandTable CanBus_XBS_Mazda::commands() const
+{
+    typedef CanBus_XBS_Mazda Car;
+    static const Command rows[] = {
+        {0x01, 2, handler(&Car::onSteeringWheelKey)},    {0x02, 0, handler(&Car::onDoors)},
+        {0x07, 2, handler(&Car::onSignedSteeringAngle)}, {0x08, 7, handler(&Car::onRadar)},
+        {0x7F, 0, handler(&Car::onMazdaVersion)},
+    };
+    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
+    return table;
+}
+
+void CanBus_XBS_Mazda::onDoors(const PackageView &d)
+{
+    // d[0]: 7 door bit 0, 6 door bit 1, 5 door bit 2, 4 door bit 3, 3..0 unknown
+    const int doors = d.bit(0, 7) | d.bit(0, 6) << 1 | d.bit(0, 5) << 2 | d.bit(0, 4) << 3;
+    UnitLink::sendCarData(UnitLink::DoorStatus, static_cast<unsigned int>(doors));
+}
+
+void CanBus_XBS_Mazda::onRadar(const PackageView &d)
+{
+    // d[0] unknown, d[1]..d[6] one sensor each
+    QByteArray levels;
+    for (unsigned int i = 0; i < sizeof RadarBytes / sizeof RadarBytes[0]; ++i)
+        levels += static_cast<char>(d.d(RadarBytes[i]));
+    UnitLink::sendRadarLevels(UnitLink::Radar5018, mapBytes(FourRadarLevels, levels));
+}
+
+void CanBus_XBS_Mazda::onMazdaVersion(const PackageView &d)
+{
+    onVersion(d);
+    writeSettingData(Setting14, 1);
+}
+
+void CanBus_XBS_Mazda::writeSettingData(unsigned char item, unsigned char value)
+{
+    const unsigned char data[] = {item, value};
+    writeCanBusData(SettingCommand, data, sizeof data);
 }

@@ -3,7 +3,8 @@
 
 #include "raise/raiseadapter.h"
 
-/// XBS decoder in a Mazda, CAN-bus type 5; it speaks the Raise frame.
+/// XBS decoder in a Mazda, CAN-bus type 5; it speaks the Raise frame: wheel keys and knob, doors, steering
+/// angle and radar.
 class CanBus_XBS_Mazda : public RaiseAdapter
 {
     Q_OBJECT
@@ -11,7 +12,16 @@ class CanBus_XBS_Mazda : public RaiseAdapter
 public:
     CanBus_XBS_Mazda();
 
+    CommandTable commands() const override;
     void onInited() override;
+
+    /// Sends \a value for the setting \a item.
+    void writeSettingData(unsigned char item, unsigned char value);
+
+private:
+    void onDoors(const PackageView &d);
+    void onRadar(const PackageView &d);
+    void onMazdaVersion(const PackageView &d);
 };
 
 #endif // CANBUS_XBS_MAZDA_H

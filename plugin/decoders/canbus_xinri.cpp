@@ -4,7 +4,7 @@
 
 CanBus_XinRi::CanBus_XinRi()
 {
-    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
+    setReadyTimer();
 }
 
 void CanBus_XinRi::onInited()

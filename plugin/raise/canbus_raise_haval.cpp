@@ -4,7 +4,7 @@
 
 CanBus_Raise_Haval::CanBus_Raise_Haval()
 {
-    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
+    setReadyTimer();
 }
 
 void CanBus_Raise_Haval::onInited()

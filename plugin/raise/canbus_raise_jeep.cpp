@@ -1,16 +1,38 @@
+// Raise decoder box in a Jeep, CAN-bus type 15.
+
 #include "canbus_raise_jeep.h"
 
-#include <QTimer>
+#include "keysource.h"
 
-CanBus_Raise_Jeep::CanBus_Raise_Jeep()
-{
-    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
-}
+namespace {
 
-void CanBus_Raise_Jeep::onInited()
+const CarKeys::Mapping WheelKeys[] = {
+    {17, CarKeys::VolumeUp},   {18, CarKeys::VolumeDown}, {21, CarKeys::ModeSwitch},
+    {23, CarKeys::PhoneKey},   {24, CarKeys::Call},       {25, CarKeys::Hangup},
+    {26, CarKeys::ModeSwitch}, {28, CarKeys::MediaNext},  {29, CarKeys::MediaPrevious},
+};
+
+const CarKeys::Mapping PanelKeys[] = {
+    {1, CarKeys::LaunchG},    {2, CarKeys::VolumeMute}, {3, CarKeys::VolumeMute},
+    {5, CarKeys::VolumeDown}, {6, CarKeys::VolumeUp},   {7, CarKeys::MediaPrevious},
+    {8, CarKeys::MediaNext},  {9, CarKeys::PowerOff},   {10, CarKeys::PowerOff},
+};
+
+KeySource wheelKeys(WheelKeys, 1);
+KeySource panelKeys(PanelKeys, 0);
+
+} // namespace
+
+CanBus_Raise_Jeep::CanBus_Raise_Jeep() : RaisePanelAdapter(&wheelKeys, &panelKeys) {}
+
+RaiseAdapter::CommandTable CanBus_Raise_Jeep::commands() const
 {
-    sendReady(3);
-    periodicTimer()->stop();
-    const unsigned char start[] = {0x01};
-    writeCanBusData(0x84, start, sizeof start);
+    typedef CanBus_Raise_Jeep Car;
+    static const Command rows[] = {
+        {0x01, 2, handler(&Car::onSteeringWheelKey)},
+        {0x04, 2, handler(&Car::onPanelKey)},
+        {0x30, 0, handler(&Car::onVersion)},
+    };
+    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
+    return table;
 }

@@ -2,8 +2,9 @@
 
 #include "canbus_raise_toyota.h"
 
-#include "carkeys.h"
+#include "keysource.h"
 #include "mapping.h"
+#include "temperaturetext.h"
 #include "unitlink.h"
 
 #include "orbapplication.h"
@@ -31,6 +32,8 @@ const CarKeys::Mapping WheelKeys[] = {
     {0x88, CarKeys::ModeSwitch},
 };
 
+KeySource wheelKeys(WheelKeys, 1);
+
 // Distance level of the box (1 nearest) and radar level of the unit; any other level is no obstacle.
 const ByteMapping RadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 5}, {5, 6}};
 
@@ -38,44 +41,33 @@ const ByteMapping RadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 5}, {5, 6}};
 const ByteMapping ModeCodes[] = {{2, 0x04}, {3, 0x05},  {4, 0x04},  {5, 0x04},  {6, 0x01}, {7, 0x04},
                                  {9, 0x07}, {13, 0x04}, {15, 0x07}, {17, 0x07}, {18, 0x07}};
 
-char radarLevel(quint8 level)
-{
-    return static_cast<char>(mapByte(RadarLevels, level));
-}
-
 QString celsiusText(quint8 value)
 {
-    double degrees;
     if (value >= 1 && value <= 0x1D)
-        degrees = 18.0 + (value - 1) * 0.5;
-    else if (value >= 0x20 && value <= 0x23)
-        degrees = 16.0 + (value - 0x20) * 0.5;
-    else if (value == 0x1F)
-        return QLatin1String("HI");
-    else
-        return QString();
-    return QString::number(degrees, 'f', 1) + QString::fromUtf8("°C");
+        return TemperatureText::celsius(18.0 + (value - 1) * 0.5);
+    if (value >= 0x20 && value <= 0x23)
+        return TemperatureText::celsius(16.0 + (value - 0x20) * 0.5);
+    return value == 0x1F ? TemperatureText::high() : QString();
 }
 
 QString temperatureText(quint8 value, bool fahrenheit)
 {
     if (value == 0)
-        return QLatin1String("LO");
+        return TemperatureText::low();
     if (!fahrenheit)
         return celsiusText(value);
-    return value == 0xFF ? QString::fromLatin1("HI") : QString::number(value) + QString::fromUtf8("°F");
+    return value == 0xFF ? TemperatureText::high() : TemperatureText::fahrenheit(value);
 }
 
 } // namespace
 
-unsigned int CanBus_Raise_Toyota::s_currentKey = CarKeys::NoKey;
-
 CanBus_Raise_Toyota::CanBus_Raise_Toyota()
     : m_enableOemSound(OrbApplication::getOrbProductValue(QLatin1String("EnableOEMSound"), 0).toUInt() != 0)
 {
+    setWheelKeys(&wheelKeys);
     m_climate.setPTCModeVisible(false);
     m_climate.setTemperatureRange(16.0, 29.5);
-    setPeriodicTimer(200, SLOT(onSendReadyTimer()));
+    setReadyTimer();
 }
 
 void CanBus_Raise_Toyota::onInited()
@@ -112,27 +104,14 @@ RaiseAdapter::CommandTable CanBus_Raise_Toyota::commands() const
 void CanBus_Raise_Toyota::onRadar1D(const PackageView &d)
 {
     // Only the outer sensors of this group exist.
-    const char levels[] = {radarLevel(d.d(0)), 0, 0, radarLevel(d.d(3))};
-    UnitLink::sendRadarLevels(UnitLink::Radar5019, QByteArray(levels, sizeof levels));
+    QByteArray levels = d.bytes(0, 4);
+    levels[1] = levels[2] = 0;
+    UnitLink::sendRadarLevels(UnitLink::Radar5019, mapBytes(RadarLevels, levels));
 }
 
 void CanBus_Raise_Toyota::onRadar1E(const PackageView &d)
 {
-    const char levels[] = {radarLevel(d.d(0)), radarLevel(d.d(1)), radarLevel(d.d(2)), radarLevel(d.d(3))};
-    UnitLink::sendRadarLevels(UnitLink::Radar501A, QByteArray(levels, sizeof levels));
-}
-
-void CanBus_Raise_Toyota::onSteeringWheelKey(const PackageView &d)
-{
-    processSWCKey(d.data());
-}
-
-// d[0] key, d[1] state: 0 released, 1 pressed, 2 held
-void CanBus_Raise_Toyota::processSWCKey(const unsigned char *d)
-{
-    s_currentKey = CarKeys::keyFor(WheelKeys, d[0]);
-    if (s_currentKey != CarKeys::NoKey)
-        CarKeys::simulate(s_currentKey, d[1], 1);
+    UnitLink::sendRadarLevels(UnitLink::Radar501A, mapBytes(RadarLevels, d.bytes(0, 4)));
 }
 
 void CanBus_Raise_Toyota::onClimate(const PackageView &d)

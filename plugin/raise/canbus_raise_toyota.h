@@ -20,23 +20,16 @@ public:
     /// Switches the car's own (OEM) sound on or off.
     void enableOEMSound(bool on);
 
-    /// Key of the wheel that was reported last, CarKeys::NoKey after an unknown one.
-    static unsigned int currentKey() { return s_currentKey; }
-
 public Q_SLOTS:
     /// Reports the unit's application mode \a mode to the car.
     void onModeAppChange(uint mode, uint other);
 
 private:
-    void onSteeringWheelKey(const PackageView &d);
-    void processSWCKey(const unsigned char *d);
     void onSteeringAngle(const PackageView &d);
     void onRadar1D(const PackageView &d);
     void onRadar1E(const PackageView &d);
     void onClimate(const PackageView &d);
     void on360View(const PackageView &d);
-
-    static unsigned int s_currentKey;
 
     AirConditionDlg m_climate;
     QByteArray m_lastClimate; // d[0..3] of the climate package that showed the dialog last

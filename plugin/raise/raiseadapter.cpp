@@ -1,6 +1,7 @@
 #include "raiseadapter.h"
 
 #include "framing.h"
+#include "keysource.h"
 #include "unitlink.h"
 
 #include <QTimer>
@@ -18,12 +19,18 @@ const int Overhead = 4; // bytes of a frame without data
 
 const char Acknowledgement = '\xFF';
 const quint8 ReadyCommand = 0x81;
-const int WriteInterval = 30; // ms that the boxes want between two packages
+const int ReadyInterval = 200; // ms
+const int WriteInterval = 30;  // ms that the boxes want between two packages
 const unsigned long AppStateMask = 4;
 
 } // namespace
 
-RaiseAdapter::RaiseAdapter() : CanBusAdapter(nullptr), m_periodicTimer(nullptr), m_appState(false)
+RaiseAdapter::RaiseAdapter()
+    : CanBusAdapter(nullptr)
+    , m_periodicTimer(nullptr)
+    , m_readyTimer(nullptr)
+    , m_wheelKeys(nullptr)
+    , m_appState(false)
 {
     setWritePackageIntval(WriteInterval);
 }
@@ -119,8 +126,8 @@ void RaiseAdapter::orbAppStateChange(unsigned long state, unsigned long mask)
 
 void RaiseAdapter::onVersion(const PackageView &d)
 {
-    if (m_periodicTimer)
-        m_periodicTimer->stop();
+    if (m_readyTimer)
+        m_readyTimer->stop();
     UnitLink::publishVersion(d.bytes());
 }
 
@@ -129,6 +136,27 @@ void RaiseAdapter::onStatus(const PackageView &d)
     // d[0]: 7 status bit 1, 6 status bit 0, 5 status bit 3, 4 status bit 2, 3..0 not used
     const int status = d.bit(0, 6) | d.bit(0, 7) << 1 | d.bit(0, 4) << 2 | d.bit(0, 5) << 3;
     UnitLink::sendCarData(UnitLink::DoorStatus, static_cast<unsigned int>(status));
+}
+
+void RaiseAdapter::onSteeringWheelKey(const PackageView &d)
+{
+    processSWCKey(d.data());
+}
+
+void RaiseAdapter::processSWCKey(const unsigned char *d)
+{
+    if (m_wheelKeys)
+        m_wheelKeys->report(d[0], d[1]);
+}
+
+unsigned int RaiseAdapter::currentKey() const
+{
+    return m_wheelKeys ? m_wheelKeys->currentKey() : static_cast<unsigned int>(CarKeys::NoKey);
+}
+
+void RaiseAdapter::onSignedSteeringAngle(const PackageView &d)
+{
+    UnitLink::sendSteeringAngle(static_cast<float>(d.s16le(0)) / 4608.0f * 40.0f);
 }
 
 // ---------------------------------------------------------------------------------------------- sending
@@ -143,6 +171,12 @@ void RaiseAdapter::setPeriodicTimer(int milliseconds, const char *slot)
     m_periodicTimer = new QTimer(this);
     m_periodicTimer->setInterval(milliseconds);
     connect(m_periodicTimer, SIGNAL(timeout()), this, slot);
+}
+
+void RaiseAdapter::setReadyTimer()
+{
+    setPeriodicTimer(ReadyInterval, SLOT(onSendReadyTimer()));
+    m_readyTimer = m_periodicTimer;
 }
 
 void RaiseAdapter::onSendReadyTimer()

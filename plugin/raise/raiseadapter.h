@@ -4,6 +4,7 @@
 #include "canbusadapter.h"
 #include "packageview.h"
 
+class KeySource;
 class QTimer;
 
 /// What the decoder boxes of the Raise family share: the frame 2E command N data checksum, the
@@ -54,6 +55,12 @@ public:
     /// Queues one frame.
     void writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len);
 
+    /// One key of the steering wheel: \a d[0] code, \a d[1] state (or detents of a knob).
+    void processSWCKey(const unsigned char *d);
+
+    /// Key of the wheel that was reported last, CarKeys::NoKey after an unknown one. One per car and process.
+    unsigned int currentKey() const;
+
     /// Bit 2 of the state, for mask 4; other masks are ignored.
     void orbAppStateChange(unsigned long state, unsigned long mask) override;
     bool appState() const { return m_appState; }
@@ -80,13 +87,22 @@ protected:
     void setPeriodicTimer(int milliseconds, const char *slot);
     QTimer *periodicTimer() const { return m_periodicTimer; }
 
+    /// Makes the ready command the periodic timer's, every 200 ms while it runs.
+    void setReadyTimer();
     void sendReady(int times);
+
+    /// The keys of this car's wheel; \a keys is static data.
+    void setWheelKeys(KeySource *keys) { m_wheelKeys = keys; }
 
     // Handlers that several cars have in their tables.
     /// Version text d[0..N-1]; the box has answered, so no further ready is needed.
     void onVersion(const PackageView &d);
     /// Four status bits of d[0].
     void onStatus(const PackageView &d);
+    /// Key of the wheel d[0], d[1].
+    void onSteeringWheelKey(const PackageView &d);
+    /// Signed 16-bit steering angle d[0], d[1], of which 4608 units are 40 degrees.
+    void onSignedSteeringAngle(const PackageView &d);
 
     /// A car's row with a handler of its own class.
     template <class Car>
@@ -97,6 +113,8 @@ protected:
 
 private:
     QTimer *m_periodicTimer;
+    QTimer *m_readyTimer; // the periodic timer of a car that repeats the ready command, else null
+    KeySource *m_wheelKeys;
     bool m_appState;
 };
 
