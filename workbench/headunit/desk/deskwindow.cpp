@@ -19,7 +19,6 @@ const int margin = 12;
 const AppTagId keySetTag = 0x1000c;
 const uint languageNotification = 20486;
 const int usbDisk = 0;
-const int climatePatience = 6000; // milliseconds
 
 } // namespace
 
@@ -44,7 +43,7 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     m_shell = new UnitShell(unit, m_screen, this);
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(keySetTag, QVariant(0)).toInt());
     m_sidePanel = new SidePanel(box);
-    new ClimateWatch(climatePatience, this);
+    m_climateWatch = new ClimateWatch(this);
     QGridLayout *layout = new QGridLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin);

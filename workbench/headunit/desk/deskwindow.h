@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class ClimateWatch;
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
@@ -40,6 +41,7 @@ private:
     UnitShell *m_shell;
     KeyStrip *m_keyStrip;
     SidePanel *m_sidePanel;
+    ClimateWatch *m_climateWatch;
 };
 
 #endif

@@ -1,0 +1,193 @@
+#include "adapterfixture.h"
+
+#include "decoders/silentadapter.h"
+#include "orbhost.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTimer>
+
+// The factory keeps one adapter for the life of a process, so every case is a process of its own:
+// program --factory PORT TYPE..., where PORT is "-" for none set; its answers are lines on standard output.
+
+namespace {
+
+CanBusAdapter *instanceOf(const QString &type)
+{
+    return CanBusAdapter::getAdapterInstance(static_cast<CanBusType>(type.toUInt()));
+}
+
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    printf("%s\n", qPrintable(text));
+}
+
+int factoryMain(const QString &port, const QStringList &types)
+{
+    qInstallMessageHandler(printMessage);
+    if (port != "-")
+        OrbHost::instance()->setProductValue("CANPortName", port == "empty" ? QString() : port);
+    CanBusAdapter *first = nullptr;
+    for (const QString &type : types) {
+        CanBusAdapter *const adapter = instanceOf(type);
+        first = first ? first : adapter;
+        if (!adapter)
+            printf("%s none\n", qPrintable(type));
+        else
+            printf("%s %s inited=%d type=%u%s\n", qPrintable(type), adapter->metaObject()->className(),
+                   adapter->isInited(), adapter->getCanBusType(), adapter == first ? "" : " another");
+    }
+    TraceRecorder trace;
+    QTest::qWait(120);
+    printf("start-up packages: %d\n", int(trace.linesOf("ProtocolUtils").filter("writeDatas(").size()));
+    fflush(stdout);
+    return 0;
+}
+
+QStringList run(const QString &port, const QString &types)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(),
+                  QStringList({"--factory", port}) + types.split(' '));
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed().split('\n');
+}
+
+} // namespace
+
+class AdapterFactoryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void types_data();
+    void types();
+    void rules_data();
+    void rules();
+    void openPort();
+    void secondInit();
+};
+
+void AdapterFactoryTest::types_data()
+{
+    QTest::addColumn<QString>("className");
+    const char *const classes[] = {
+        "CanBus_LiHang_JMCE200N", "CanBus_Huida_ZD",      "CanBus_Raise_Volkswagen", "CanBus_XinHang",
+        "CanBus_XBS_Mazda",       "CanBus_XinRi",         "CanBus_Raise_Honda",      "CanBus_Raise_Nissan",
+        "CanBus_Raise_Toyota",    "CanBus_Raise_GM",      "CanBus_Raise_Haval",      "CanBus_Raise_GAC",
+        "CanBus_Raise_Venucia",   "CanBus_Raise_Renault", "CanBus_Raise_Jeep"};
+    int type = 0;
+    for (const char *const name : classes)
+        QTest::addRow("%d", ++type) << QString(name);
+}
+
+void AdapterFactoryTest::types()
+{
+    QFETCH(QString, className);
+    const QString type = QTest::currentDataTag();
+    const QString adapter = QString("%1 %2 inited=0 type=%1").arg(type, className);
+    const QString otherType = type == "3" ? "4" : "3";
+    QStringList lines = run("empty", type + ' ' + type + ' ' + otherType + " 0");
+    lines.removeAll(QString());
+    QCOMPARE(lines, (QStringList{QString("CanBusAdapter: %1 %2").arg(className, type), adapter, adapter,
+                                 otherType + " none", "0 none", "start-up packages: 0"}));
+}
+
+void AdapterFactoryTest::rules_data()
+{
+    QTest::addColumn<QString>("port");
+    QTest::addColumn<QString>("types");
+    QTest::addColumn<QStringList>("lines");
+    const QString none = "start-up packages: 0";
+    const QString log = "CanBusAdapter: CanBus_Raise_Haval 11";
+    const QString toyota = "11 CanBus_Raise_Haval inited=1 type=11";
+    QTest::newRow("unknown types build nothing and log nothing")
+        << "-"
+        << "0 16 4294967295" << QStringList{"0 none", "16 none", "4294967295 none", none};
+    QTest::newRow("a known type after unknown ones")
+        << "/nowhere/tty"
+        << "0 16 11"
+        << QStringList{"0 none",
+                       "16 none",
+                       log,
+                       "Open CanBus Serial Port  \"/nowhere/tty\"  Ret: false \"No such file or directory\"",
+                       toyota,
+                       "start-up packages: 3"};
+    QTest::newRow("default port") << "-"
+                                  << "11"
+                                  << QStringList{
+                                         log,
+                                         "Open CanBus Serial Port  \"/dev/ttyHS0\"  Ret: false \"No such "
+                                         "file or directory\"",
+                                         toyota, "start-up packages: 3"};
+}
+
+void AdapterFactoryTest::rules()
+{
+    QFETCH(QString, port);
+    QFETCH(QString, types);
+    QFETCH(QStringList, lines);
+    QCOMPARE(run(port, types), lines);
+}
+
+void AdapterFactoryTest::openPort()
+{
+    PtyBox box;
+    const QStringList lines = run(box.path(), "11");
+    const QString opened = QString("Open CanBus Serial Port  \"%1\"  Ret: true \"").arg(box.path());
+    QVERIFY2(lines.value(1).startsWith(opened), qPrintable(lines.value(1)));
+    const QByteArray ready = RaiseWire::frame("81 01");
+    QCOMPARE(box.take(), ready.repeated(3));
+}
+
+namespace {
+
+// Counts its starts.
+class CountingAdapter : public SilentAdapter
+{
+public:
+    CountingAdapter() : SilentAdapter(38400) {}
+
+    using CanBusAdapter::timerEvent;
+    void onInited() override { ++starts; }
+
+    int starts = 0;
+};
+
+} // namespace
+
+// Another timer's event starts nothing; a second initAdapter replaces the port and starts again, once.
+void AdapterFactoryTest::secondInit()
+{
+    PtyBox box;
+    OrbHost::instance()->setProductValue("CANPortName", box.path());
+    CountingAdapter adapter;
+    QVERIFY(!adapter.isInited());
+    QCOMPARE(adapter.getCanBusType(), CanBusTypeNone);
+    adapter.initAdapter();
+    QVERIFY(adapter.isInited());
+    QTimerEvent other(-1);
+    adapter.timerEvent(&other);
+    QCOMPARE(adapter.starts, 0);
+    QTRY_COMPARE(adapter.starts, 1);
+    adapter.initAdapter();
+    QTest::qWait(150);
+    QCOMPARE(adapter.starts, 2);
+    OrbHost::instance()->setProductValue("CANPortName", QString());
+    adapter.initAdapter();
+    QVERIFY(!adapter.isInited());
+    QTest::qWait(100);
+    QCOMPARE(adapter.starts, 2);
+}
+
+int main(int argc, char **argv)
+{
+    OrbApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--factory")
+        return factoryMain(arguments.value(2), arguments.mid(3));
+    AdapterFactoryTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_adapterfactory.moc"
