@@ -3,6 +3,7 @@
 #include "canbus_raise_volkswagen.h"
 
 #include "carkeys.h"
+#include "temperaturetext.h"
 #include "unitlink.h"
 #include "volkswagenwindow.h"
 #include "vwcommands.h"
@@ -57,12 +58,11 @@ void sendRadar(UnitLink::CarData what, const PackageView &d, float innerScale)
 QString temperatureText(quint8 value, bool fahrenheit)
 {
     if (value == 0)
-        return QLatin1String("LO");
+        return TemperatureText::low();
     if (value > 30)
-        return QLatin1String("HI");
-    if (fahrenheit)
-        return QString::number(value + 59) + QString::fromUtf8("°F");
-    return QString::number(16.0 + (value - 1) * 0.5, 'f', 1) + QString::fromUtf8("°C");
+        return TemperatureText::high();
+    return fahrenheit ? TemperatureText::fahrenheit(value + 59)
+                      : TemperatureText::celsius(16.0 + (value - 1) * 0.5);
 }
 
 } // namespace

@@ -38,7 +38,7 @@ int factoryMain(const QString &port, const QStringList &types)
                    adapter->isInited(), adapter->getCanBusType(), adapter == first ? "" : " another");
     }
     TraceRecorder trace;
-    QTest::qWait(120);
+    QTest::qWait(300);
     printf("start-up packages: %d\n", int(trace.linesOf("ProtocolUtils").filter("writeDatas(").size()));
     fflush(stdout);
     return 0;

@@ -13,6 +13,7 @@
 #include "raise/canbus_raise_renault.h"
 #include "raise/canbus_raise_toyota.h"
 #include "raise/canbus_raise_venucia.h"
+#include "volkswagen/canbus_raise_volkswagen.h"
 
 #include "qextserialport.h"
 
@@ -58,6 +59,8 @@ void HandshakeTest::start_data()
     QTest::addColumn<bool>("timerRuns");
     QTest::addColumn<QByteArray>("sent"); // packages, those of the clock cut to "c6 50"
     const QByteArray three = "81 01|81 01|81 01";
+    QTest::newRow("Volkswagen") << Builder(build<CanBus_Raise_Volkswagen>) << 38400 << 0 << false
+                                << QByteArray("81 00|81 01");
     QTest::newRow("Toyota") << Builder(build<CanBus_Raise_Toyota>) << 38400 << 200 << false << three;
     QTest::newRow("Haval") << Builder(build<CanBus_Raise_Haval>) << 38400 << 200 << false << three;
     QTest::newRow("GM") << Builder(build<CanBus_Raise_GM>) << 38400 << 200 << false << three + "|84 01";
