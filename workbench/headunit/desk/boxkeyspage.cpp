@@ -1,8 +1,8 @@
 #include "boxkeyspage.h"
 
+#include "carwords.h"
 #include "decoderbox.h"
 #include "panelcard.h"
-#include "propertyeditors.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -16,7 +16,7 @@ const int columns = 2;
 QString title(const BoxKey &key)
 {
     const QString place = QStringLiteral("panel_");
-    return PropertyEditors::title(key.name.startsWith(place) ? key.name.mid(place.size()) : key.name);
+    return CarWords::text(key.name.startsWith(place) ? key.name.mid(place.size()) : key.name);
 }
 
 } // namespace

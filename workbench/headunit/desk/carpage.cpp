@@ -1,5 +1,6 @@
 #include "carpage.h"
 
+#include "carwords.h"
 #include "panelcard.h"
 #include "propertyeditors.h"
 #include "simulatedcar.h"
@@ -47,7 +48,7 @@ CarPage::CarPage(SimulatedCar *car, const QStringList &names, QWidget *parent) :
 
 void CarPage::addGroup(const QString &group, const QVector<const CarProperty *> &properties)
 {
-    PanelCard *card = new PanelCard(PropertyEditors::groupTitle(group));
+    PanelCard *card = new PanelCard(CarWords::text(group));
     layout()->addWidget(card);
     int i = 0;
     while (i < properties.size()) {

@@ -1,14 +1,13 @@
 #include "propertyeditors.h"
 
+#include "carwords.h"
 #include "quietslider.h"
 #include "simulatedcar.h"
 #include "steeringwheel.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -44,7 +43,7 @@ QWidget *titled(const CarProperty &property, QLabel *value, QWidget *control)
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(4);
     QHBoxLayout *head = new QHBoxLayout;
-    head->addWidget(label(PropertyEditors::title(property.name), "controlName"));
+    head->addWidget(label(CarWords::propertyText(property.name), "controlName"));
     head->addStretch();
     if (value) {
         head->addWidget(value);
@@ -56,7 +55,7 @@ QWidget *titled(const CarProperty &property, QLabel *value, QWidget *control)
 
 QWidget *createSwitch(const CarProperty &property, SimulatedCar *car)
 {
-    QPushButton *button = new QPushButton(PropertyEditors::title(property.name));
+    QPushButton *button = new QPushButton(CarWords::propertyText(property.name));
     button->setObjectName(QStringLiteral("chip"));
     button->setCheckable(true);
     const QString name = property.name;
@@ -132,7 +131,7 @@ QWidget *createButtons(const CarProperty &property, SimulatedCar *car)
     QButtonGroup *group = new QButtonGroup(row);
     const QString name = property.name;
     for (int i = 0; i < property.choices.size(); ++i) {
-        QPushButton *button = new QPushButton(PropertyEditors::title(property.choices.at(i)));
+        QPushButton *button = new QPushButton(CarWords::text(property.choices.at(i)));
         button->setObjectName(QStringLiteral("chip"));
         button->setCheckable(true);
         group->addButton(button, i);
@@ -180,24 +179,6 @@ QWidget *createWheel(const CarProperty &property, SimulatedCar *car)
 }
 
 } // namespace
-
-QString PropertyEditors::title(const QString &name)
-{
-    return groupTitle(name.mid(name.lastIndexOf(QLatin1Char('.')) + 1));
-}
-
-QString PropertyEditors::groupTitle(const QString &group)
-{
-    QString text = group;
-    text.replace(QLatin1Char('.'), QLatin1Char(' '));
-    text.replace(QLatin1Char('_'), QLatin1Char(' '));
-    static const QHash<QString, QString> spellings = {{QStringLiteral("ac"), QStringLiteral("A/C")},
-                                                      {QStringLiteral("C"), QStringLiteral("°C")},
-                                                      {QStringLiteral("F"), QStringLiteral("°F")},
-                                                      {QStringLiteral("hangup"), QStringLiteral("Hang up")}};
-    text = spellings.value(text, text.left(1).toUpper() + text.mid(1));
-    return QCoreApplication::translate("CarProperty", text.toUtf8().constData());
-}
 
 QWidget *PropertyEditors::create(const CarProperty &property, SimulatedCar *car)
 {

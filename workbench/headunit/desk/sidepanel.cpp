@@ -31,8 +31,8 @@ SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
     column->addWidget(m_pages);
     if (box) {
         m_boxPage = new BoxPage(box);
-        addPage(QT_TR_NOOP("Car"), new CarPage(box->car(), box->speaker()->properties()));
-        addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box));
+        m_carArea = addPage(QT_TR_NOOP("Car"), new CarPage(box->car(), box->speaker()->properties()));
+        m_keysArea = addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box));
         addPage(QT_TR_NOOP("Box"), m_boxPage);
     }
     addPage(QT_TR_NOOP("Unit"), m_unitPage);
@@ -45,7 +45,7 @@ SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
     showPage(0);
 }
 
-void SidePanel::addPage(const char *title, QWidget *page)
+QScrollArea *SidePanel::addPage(const char *title, QWidget *page)
 {
     QScrollArea *area = new QScrollArea;
     area->setObjectName(QStringLiteral("sideArea"));
@@ -58,6 +58,7 @@ void SidePanel::addPage(const char *title, QWidget *page)
     button->setObjectName(QStringLiteral("tab"));
     button->setCheckable(true);
     m_tabs << Tab{button, title};
+    return area;
 }
 
 void SidePanel::showPage(int index)
@@ -73,6 +74,10 @@ void SidePanel::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         for (const Tab &tab : m_tabs) {
             tab.button->setText(tr(tab.title));
+        }
+        if (m_box) { // their texts are part of how they are built
+            m_carArea->setWidget(new CarPage(m_box->car(), m_box->speaker()->properties()));
+            m_keysArea->setWidget(new BoxKeysPage(m_box));
         }
     }
     QWidget::changeEvent(event);

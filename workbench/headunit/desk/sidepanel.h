@@ -7,6 +7,7 @@
 class BoxPage;
 class DecoderBox;
 class QPushButton;
+class QScrollArea;
 class QStackedWidget;
 class UnitPage;
 
@@ -34,7 +35,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void addPage(const char *title, QWidget *page);
+    QScrollArea *addPage(const char *title, QWidget *page);
 
     struct Tab
     {
@@ -45,6 +46,8 @@ private:
     DecoderBox *m_box;
     QVector<Tab> m_tabs;
     QStackedWidget *m_pages;
+    QScrollArea *m_carArea = nullptr;
+    QScrollArea *m_keysArea = nullptr;
     UnitPage *m_unitPage;
     BoxPage *m_boxPage = nullptr;
 };

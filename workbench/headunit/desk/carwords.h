@@ -1,0 +1,18 @@
+#ifndef CARWORDS_H
+#define CARWORDS_H
+
+#include <QString>
+
+/// What the names that a box has for its car's properties, choices and keys are called on the desk.
+namespace CarWords {
+
+/// "Volume up 2" of "volume_up_2", in the user's language where the name is known, else made of the name
+/// itself.
+QString text(const QString &name);
+
+/// The same of what stands behind a property's last point: "To window" of "climate.to_window".
+QString propertyText(const QString &name);
+
+} // namespace CarWords
+
+#endif
