@@ -140,5 +140,5 @@ void TestUnitControls::navigationComesOutOnce()
     QCOMPARE(spy.count(), 1);
 }
 
-QTEST_APPLESS_MAIN(TestUnitControls)
+QTEST_GUILESS_MAIN(TestUnitControls)
 #include "tst_unitcontrols.moc"

@@ -3,7 +3,8 @@
 #include "airconditiondlg.h"
 #include "orbhost.h"
 
-ClimateWatch::ClimateWatch(QObject *parent) : QObject(parent), m_next(OrbTrace::setListener(this))
+ClimateWatch::ClimateWatch(int patience, QObject *parent)
+    : QObject(parent), m_next(OrbTrace::setListener(this))
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(patience);

@@ -14,9 +14,8 @@ class ClimateWatch : public QObject, public OrbTraceListener
     Q_OBJECT
 
 public:
-    static constexpr int patience = 6000; ///< milliseconds
-
-    explicit ClimateWatch(QObject *parent = nullptr);
+    /// \a patience: milliseconds without a change.
+    explicit ClimateWatch(int patience, QObject *parent = nullptr);
     ~ClimateWatch() override;
 
     void called(const QString &object, const QString &call, const QVariantList &args) override;

@@ -19,6 +19,7 @@ const int margin = 12;
 const AppTagId keySetTag = 0x1000c;
 const uint languageNotification = 20486;
 const int usbDisk = 0;
+const int climatePatience = 6000; // milliseconds
 
 } // namespace
 
@@ -26,12 +27,14 @@ const int usbDisk = 0;
 static void loadResources()
 {
     Q_INIT_RESOURCE(desk);
+    Q_INIT_RESOURCE(headunit_i18n);
 }
 
 DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize, QWidget *parent)
     : QWidget(parent), m_unit(unit)
 {
     loadResources();
+    OrbHost::instance()->addTranslationDir(QStringLiteral(":/i18n"));
     setObjectName(QStringLiteral("deskWindow"));
     setAttribute(Qt::WA_StyledBackground);
     QFile style(QStringLiteral(":/desk/desk.qss"));
@@ -43,7 +46,7 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     m_shell = new UnitShell(unit, m_screen, this);
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(keySetTag, QVariant(0)).toInt());
     m_sidePanel = new SidePanel(box);
-    m_climateWatch = new ClimateWatch(this);
+    new ClimateWatch(climatePatience, this);
     QGridLayout *layout = new QGridLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin);
@@ -72,6 +75,7 @@ DeskWindow::~DeskWindow()
 void DeskWindow::chooseLanguage(const QString &language)
 {
     OrbHost::instance()->setLanguage(language);
+    m_sidePanel->unitPage()->setLanguage(OrbHost::instance()->language());
     m_unit->notify(languageNotification);
 }
 

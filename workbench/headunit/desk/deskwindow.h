@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-class ClimateWatch;
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
@@ -41,7 +40,6 @@ private:
     UnitShell *m_shell;
     KeyStrip *m_keyStrip;
     SidePanel *m_sidePanel;
-    ClimateWatch *m_climateWatch;
 };
 
 #endif

@@ -42,7 +42,11 @@ const QVector<Source> &sources()
 
 } // namespace
 
-UnitControls::UnitControls(QObject *parent) : QObject(parent), m_tracks(sources().size(), 0) {}
+UnitControls::UnitControls(QObject *parent) : QObject(parent), m_tracks(sources().size(), 0)
+{
+    m_listeningTimer.setSingleShot(true);
+    connect(&m_listeningTimer, &QTimer::timeout, this, [this] { setCall(NoCall); });
+}
 
 const QVector<uint> &UnitControls::modes()
 {
@@ -112,6 +116,11 @@ void UnitControls::setCall(Call call)
     m_call = call;
     if (call == InCall) {
         m_callClock.start();
+    }
+    if (call == Listening) {
+        m_listeningTimer.start(listeningTime);
+    } else {
+        m_listeningTimer.stop();
     }
     if (wasInCall != (call == InCall)) {
         emit callChanged(call == InCall);

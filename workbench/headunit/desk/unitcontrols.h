@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 #include <QVector>
 
 /// What the unit itself does with its keys: volume, source, track, telephone. The state behind the status bar
@@ -14,6 +15,7 @@ class UnitControls : public QObject
 public:
     enum Call { NoCall, Listening, InCall };
     static constexpr int loudest = 30;
+    static constexpr int listeningTime = 6000; ///< milliseconds that the unit waits for a spoken order
 
     explicit UnitControls(QObject *parent = nullptr);
 
@@ -63,6 +65,7 @@ private:
     bool m_isPlaying = true;
     Call m_call = NoCall;
     QElapsedTimer m_callClock;
+    QTimer m_listeningTimer;
 };
 
 #endif

@@ -71,13 +71,18 @@ UnitShell::UnitShell(HeadUnit *unit, UnitScreen *screen, QObject *parent)
     connect(&m_controls, &UnitControls::changed, this, &UnitShell::showControls);
     connect(&m_controls, &UnitControls::callChanged, this, &UnitShell::onCallChanged);
     connect(&m_controls, &UnitControls::navigation, this, &UnitShell::onNavigation);
-    connect(&m_controls, &UnitControls::modeChanged, this,
-            [this](uint mode, uint before) { m_unit->setMode(mode, before); });
+    connect(&m_controls, &UnitControls::modeChanged, this, [this](uint mode, uint before) {
+        if (m_unit->mode() != mode) { // else it is the unit that has changed it
+            m_unit->setMode(mode, before);
+        }
+    });
     connect(m_unit, &HeadUnit::modeChanged, &m_controls, &UnitControls::setMode);
     connect(m_homePage->launcher(), &Launcher::chosen, this, &UnitShell::open);
     connect(m_homePage->mediaCard(), &MediaCard::keyTapped, this,
             [this](int code) { m_controls.key(code, true, false); });
+    // The clock format, a call's length and new windows announce themselves to nobody.
     connect(&m_secondTimer, &QTimer::timeout, this, &UnitShell::showControls);
+    connect(&m_secondTimer, &QTimer::timeout, this, &UnitShell::showEntries);
     m_secondTimer.start(1000);
     retranslate();
 }

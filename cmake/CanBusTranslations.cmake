@@ -1,0 +1,34 @@
+# Puts translations into a library or program: each file NAME_LANGUAGE.ts becomes :/i18n/NAME_LANGUAGE.qm, the form
+# in which OrbHost looks for a language. The resource is called NAME (for Q_INIT_RESOURCE). Without lrelease the
+# target speaks English only.
+function(canbus_add_translations target name)
+  find_program(CANBUS_LRELEASE NAMES lrelease lrelease-qt${CANBUS_QT_VERSION}
+               HINTS /usr/lib/qt${CANBUS_QT_VERSION}/bin)
+  set(qrc ${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc)
+  set(content "<RCC>\n    <qresource prefix=\"/i18n\">\n")
+  if(CANBUS_LRELEASE)
+    foreach(source IN LISTS ARGN)
+      get_filename_component(stem ${source} NAME_WE)
+      set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${stem}.qm)
+      add_custom_command(OUTPUT ${compiled}
+        COMMAND ${CANBUS_LRELEASE} -silent ${CMAKE_CURRENT_SOURCE_DIR}/${source} -qm ${compiled}
+        DEPENDS ${source} VERBATIM)
+      list(APPEND all_compiled ${compiled})
+      string(APPEND content "        <file>${stem}.qm</file>\n")
+    endforeach()
+  else()
+    message(STATUS "lrelease is missing: ${target} speaks English only")
+  endif()
+  string(APPEND content "    </qresource>\n</RCC>\n")
+  set(before "")
+  if(EXISTS ${qrc})
+    file(READ ${qrc} before)
+  endif()
+  if(NOT before STREQUAL content)
+    file(WRITE ${qrc} "${content}")
+  endif()
+  add_custom_target(${target}_translations DEPENDS ${all_compiled})
+  target_sources(${target} PRIVATE ${qrc})
+  set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${target}_translations)
+  add_dependencies(${target} ${target}_translations)
+endfunction()

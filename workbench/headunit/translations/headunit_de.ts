@@ -1,0 +1,637 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AppPage</name>
+    <message>
+        <source>This picture comes from the car.</source>
+        <translation>Dieses Bild kommt vom Fahrzeug.</translation>
+    </message>
+</context>
+<context>
+    <name>BoxKeysPage</name>
+    <message>
+        <source>Keys on the steering wheel</source>
+        <translation>Tasten am Lenkrad</translation>
+    </message>
+    <message>
+        <source>Keys on the car's panel</source>
+        <translation>Tasten am Bedienfeld des Autos</translation>
+    </message>
+    <message>
+        <source>This car has no keys</source>
+        <translation>Dieses Auto hat keine Tasten</translation>
+    </message>
+    <message>
+        <source>Knobs</source>
+        <translation>Drehknöpfe</translation>
+    </message>
+</context>
+<context>
+    <name>BoxPage</name>
+    <message>
+        <source>Scenario</source>
+        <translation>Szenario</translation>
+    </message>
+    <message>
+        <source>Scenarios (*.scn)</source>
+        <translation>Szenarien (*.scn)</translation>
+    </message>
+    <message>
+        <source>Waits for the unit's ready</source>
+        <translation>Wartet auf die Bereitmeldung des Geräts</translation>
+    </message>
+    <message>
+        <source>Talks with the unit</source>
+        <translation>Spricht mit dem Gerät</translation>
+    </message>
+    <message>
+        <source>Silent: the unit did not acknowledge</source>
+        <translation>Stumm: das Gerät hat nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>The unit has not opened the port</source>
+        <translation>Das Gerät hat den Anschluss nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Noch nichts</translation>
+    </message>
+    <message>
+        <source>Box at %1</source>
+        <translation>Box an %1</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Open ...</source>
+        <translation>Öffnen ...</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>Keines gewählt</translation>
+    </message>
+    <message>
+        <source>%1 plays</source>
+        <translation>%1 läuft</translation>
+    </message>
+    <message>
+        <source>Line faults</source>
+        <translation>Leitungsstörungen</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Rauschen</translation>
+    </message>
+    <message>
+        <source>Cut a package</source>
+        <translation>Paket kürzen</translation>
+    </message>
+    <message>
+        <source>Corrupt a package</source>
+        <translation>Paket stören</translation>
+    </message>
+    <message>
+        <source>Silence, 3 s</source>
+        <translation>Stille, 3 s</translation>
+    </message>
+    <message>
+        <source>What the unit told the box</source>
+        <translation>Was das Gerät der Box sagte</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Leitungsprotokoll</translation>
+    </message>
+</context>
+<context>
+    <name>CarView</name>
+    <message>
+        <source>Front left door open</source>
+        <translation>Tür vorn links offen</translation>
+    </message>
+    <message>
+        <source>Front right door open</source>
+        <translation>Tür vorn rechts offen</translation>
+    </message>
+    <message>
+        <source>Rear left door open</source>
+        <translation>Tür hinten links offen</translation>
+    </message>
+    <message>
+        <source>Rear right door open</source>
+        <translation>Tür hinten rechts offen</translation>
+    </message>
+    <message>
+        <source>Doors open</source>
+        <translation>Türen offen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>All doors closed</source>
+        <translation>Alle Türen geschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>CarWords</name>
+    <message>
+        <source>A/C</source>
+        <translation>A/C</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>bar</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Box</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anruf</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Car type</source>
+        <translation>Fahrzeugtyp</translation>
+    </message>
+    <message>
+        <source>Circulation</source>
+        <translation>Luftzufuhr</translation>
+    </message>
+    <message>
+        <source>Climate</source>
+        <translation>Klima</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>Comfort</source>
+        <translation>Komfort</translation>
+    </message>
+    <message>
+        <source>Consumption</source>
+        <translation>Verbrauch</translation>
+    </message>
+    <message>
+        <source>Defrost</source>
+        <translation>Abtauen</translation>
+    </message>
+    <message>
+        <source>Doors</source>
+        <translation>Türen</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abwärts</translation>
+    </message>
+    <message>
+        <source>Early</source>
+        <translation>Früh</translation>
+    </message>
+    <message>
+        <source>Eco</source>
+        <translation>Eco</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Factory screen</source>
+        <translation>Werksanzeige</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>Gebläse</translation>
+    </message>
+    <message>
+        <source>Fan auto</source>
+        <translation>Gebläse auto</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Störung</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorspulen</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>Vorn links</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>Vorn rechts</translation>
+    </message>
+    <message>
+        <source>Function call</source>
+        <translation>Funktion Anruf</translation>
+    </message>
+    <message>
+        <source>Function hang up</source>
+        <translation>Funktion Auflegen</translation>
+    </message>
+    <message>
+        <source>Function next</source>
+        <translation>Funktion nächster</translation>
+    </message>
+    <message>
+        <source>Function previous</source>
+        <translation>Funktion voriger</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Gang</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Auflegen</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Illumination</source>
+        <translation>Beleuchtung</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Umluft</translation>
+    </message>
+    <message>
+        <source>Indicator</source>
+        <translation>Blinker</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Außenluft</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Ein/Aus</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Voriger</translation>
+    </message>
+    <message>
+        <source>Radar, front</source>
+        <translation>Radar vorn</translation>
+    </message>
+    <message>
+        <source>Radar, rear</source>
+        <translation>Radar hinten</translation>
+    </message>
+    <message>
+        <source>Radar maxima</source>
+        <translation>Radar-Höchstwerte</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>Hinten links</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>Hinten rechts</translation>
+    </message>
+    <message>
+        <source>Reverse gear</source>
+        <translation>Rückwärtsgang</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Rückspulen</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Steering</source>
+        <translation>Lenkung</translation>
+    </message>
+    <message>
+        <source>To face</source>
+        <translation>Zum Gesicht</translation>
+    </message>
+    <message>
+        <source>To feet</source>
+        <translation>Zu den Füßen</translation>
+    </message>
+    <message>
+        <source>To window</source>
+        <translation>Zur Scheibe</translation>
+    </message>
+    <message>
+        <source>Trip</source>
+        <translation>Reise</translation>
+    </message>
+    <message>
+        <source>Tune knob left</source>
+        <translation>Sendersuche links</translation>
+    </message>
+    <message>
+        <source>Tune knob right</source>
+        <translation>Sendersuche rechts</translation>
+    </message>
+    <message>
+        <source>Tyres</source>
+        <translation>Reifen</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Vehicle number</source>
+        <translation>Fahrgestellnummer</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>360 view</source>
+        <translation>360-Grad-Sicht</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Volume knob down</source>
+        <translation>Lautstärke zurück</translation>
+    </message>
+    <message>
+        <source>Volume knob up</source>
+        <translation>Lautstärke vor</translation>
+    </message>
+    <message>
+        <source>Volume up</source>
+        <translation>Lauter</translation>
+    </message>
+</context>
+<context>
+    <name>DeskWindow</name>
+    <message>
+        <source>Head unit on the desk</source>
+        <translation>Kopfeinheit auf dem Tisch</translation>
+    </message>
+</context>
+<context>
+    <name>KeyStrip</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Voriger</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Vol −</source>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <translation>Lauter</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anruf</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Auflegen</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanel</name>
+    <message>
+        <source>Car</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Box</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>UnitControls</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>USB music</source>
+        <translation>USB-Musik</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Folder behind the disk</source>
+        <translation>Ordner hinter dem Datenträger</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>Choose the folder that is on the disk.</source>
+        <translation>Wählen Sie den Ordner auf dem Datenträger.</translation>
+    </message>
+    <message>
+        <source>Plugged in: %1</source>
+        <translation>Eingesteckt: %1</translation>
+    </message>
+    <message>
+        <source>Pulled out: %1</source>
+        <translation>Abgezogen: %1</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>Ordner ...</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>Abziehen</translation>
+    </message>
+    <message>
+        <source>Put in</source>
+        <translation>Einstecken</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>UnitShell</name>
+    <message>
+        <source>Listening …</source>
+        <translation>Ich höre …</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Application %1</source>
+        <translation>Anwendung %1</translation>
+    </message>
+</context>
+</TS>

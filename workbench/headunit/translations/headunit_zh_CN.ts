@@ -1,0 +1,637 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>AppPage</name>
+    <message>
+        <source>This picture comes from the car.</source>
+        <translation>此画面来自车辆。</translation>
+    </message>
+</context>
+<context>
+    <name>BoxKeysPage</name>
+    <message>
+        <source>Keys on the steering wheel</source>
+        <translation>方向盘按键</translation>
+    </message>
+    <message>
+        <source>Keys on the car's panel</source>
+        <translation>原车面板按键</translation>
+    </message>
+    <message>
+        <source>This car has no keys</source>
+        <translation>此车没有按键</translation>
+    </message>
+    <message>
+        <source>Knobs</source>
+        <translation>旋钮</translation>
+    </message>
+</context>
+<context>
+    <name>BoxPage</name>
+    <message>
+        <source>Scenario</source>
+        <translation>场景</translation>
+    </message>
+    <message>
+        <source>Scenarios (*.scn)</source>
+        <translation>场景 (*.scn)</translation>
+    </message>
+    <message>
+        <source>Waits for the unit's ready</source>
+        <translation>等待主机就绪</translation>
+    </message>
+    <message>
+        <source>Talks with the unit</source>
+        <translation>正在与主机通信</translation>
+    </message>
+    <message>
+        <source>Silent: the unit did not acknowledge</source>
+        <translation>静默：主机未应答</translation>
+    </message>
+    <message>
+        <source>The unit has not opened the port</source>
+        <translation>主机尚未打开端口</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>Box at %1</source>
+        <translation>解码盒位于 %1</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Open ...</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>%1 plays</source>
+        <translation>正在播放 %1</translation>
+    </message>
+    <message>
+        <source>Line faults</source>
+        <translation>线路故障</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>噪声</translation>
+    </message>
+    <message>
+        <source>Cut a package</source>
+        <translation>截断数据包</translation>
+    </message>
+    <message>
+        <source>Corrupt a package</source>
+        <translation>损坏数据包</translation>
+    </message>
+    <message>
+        <source>Silence, 3 s</source>
+        <translation>静默 3 秒</translation>
+    </message>
+    <message>
+        <source>What the unit told the box</source>
+        <translation>主机发送的内容</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>线路日志</translation>
+    </message>
+</context>
+<context>
+    <name>CarView</name>
+    <message>
+        <source>Front left door open</source>
+        <translation>左前门未关</translation>
+    </message>
+    <message>
+        <source>Front right door open</source>
+        <translation>右前门未关</translation>
+    </message>
+    <message>
+        <source>Rear left door open</source>
+        <translation>左后门未关</translation>
+    </message>
+    <message>
+        <source>Rear right door open</source>
+        <translation>右后门未关</translation>
+    </message>
+    <message>
+        <source>Doors open</source>
+        <translation>车门未关</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停车</translation>
+    </message>
+    <message>
+        <source>All doors closed</source>
+        <translation>车门已全部关闭</translation>
+    </message>
+</context>
+<context>
+    <name>CarWords</name>
+    <message>
+        <source>A/C</source>
+        <translation>A/C</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>bar</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>解码盒</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>接听</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>摄像头</translation>
+    </message>
+    <message>
+        <source>Car type</source>
+        <translation>车型</translation>
+    </message>
+    <message>
+        <source>Circulation</source>
+        <translation>循环</translation>
+    </message>
+    <message>
+        <source>Climate</source>
+        <translation>空调</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>Comfort</source>
+        <translation>舒适</translation>
+    </message>
+    <message>
+        <source>Consumption</source>
+        <translation>油耗</translation>
+    </message>
+    <message>
+        <source>Defrost</source>
+        <translation>除霜</translation>
+    </message>
+    <message>
+        <source>Doors</source>
+        <translation>车门</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Early</source>
+        <translation>提前</translation>
+    </message>
+    <message>
+        <source>Eco</source>
+        <translation>经济</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Factory screen</source>
+        <translation>原车画面</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>风量</translation>
+    </message>
+    <message>
+        <source>Fan auto</source>
+        <translation>自动风量</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>快进</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>左前</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>右前</translation>
+    </message>
+    <message>
+        <source>Function call</source>
+        <translation>功能 接听</translation>
+    </message>
+    <message>
+        <source>Function hang up</source>
+        <translation>功能 挂断</translation>
+    </message>
+    <message>
+        <source>Function next</source>
+        <translation>功能 下一曲</translation>
+    </message>
+    <message>
+        <source>Function previous</source>
+        <translation>功能 上一曲</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>挡位</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>挂断</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>Illumination</source>
+        <translation>照明</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>内循环</translation>
+    </message>
+    <message>
+        <source>Indicator</source>
+        <translation>转向灯</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>灯光</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一曲</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>外循环</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>电话</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>电源</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一曲</translation>
+    </message>
+    <message>
+        <source>Radar, front</source>
+        <translation>前雷达</translation>
+    </message>
+    <message>
+        <source>Radar, rear</source>
+        <translation>后雷达</translation>
+    </message>
+    <message>
+        <source>Radar maxima</source>
+        <translation>雷达最大值</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>左后</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>右后</translation>
+    </message>
+    <message>
+        <source>Reverse gear</source>
+        <translation>倒挡</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>快退</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>保养</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Steering</source>
+        <translation>转向</translation>
+    </message>
+    <message>
+        <source>To face</source>
+        <translation>吹面</translation>
+    </message>
+    <message>
+        <source>To feet</source>
+        <translation>吹脚</translation>
+    </message>
+    <message>
+        <source>To window</source>
+        <translation>吹窗</translation>
+    </message>
+    <message>
+        <source>Trip</source>
+        <translation>行程</translation>
+    </message>
+    <message>
+        <source>Tune knob left</source>
+        <translation>调谐旋钮 左</translation>
+    </message>
+    <message>
+        <source>Tune knob right</source>
+        <translation>调谐旋钮 右</translation>
+    </message>
+    <message>
+        <source>Tyres</source>
+        <translation>轮胎</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Vehicle number</source>
+        <translation>车辆识别号</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>360 view</source>
+        <translation>360 全景</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>语音</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>音量减</translation>
+    </message>
+    <message>
+        <source>Volume knob down</source>
+        <translation>音量旋钮 减</translation>
+    </message>
+    <message>
+        <source>Volume knob up</source>
+        <translation>音量旋钮 加</translation>
+    </message>
+    <message>
+        <source>Volume up</source>
+        <translation>音量加</translation>
+    </message>
+</context>
+<context>
+    <name>DeskWindow</name>
+    <message>
+        <source>Head unit on the desk</source>
+        <translation>桌面主机</translation>
+    </message>
+</context>
+<context>
+    <name>KeyStrip</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一曲</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一曲</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Vol −</source>
+        <translation>音量−</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <translation>音量+</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>接听</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>挂断</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>语音</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanel</name>
+    <message>
+        <source>Car</source>
+        <translation>车辆</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>解码盒</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>主机</translation>
+    </message>
+</context>
+<context>
+    <name>UnitControls</name>
+    <message>
+        <source>Radio</source>
+        <translation>收音机</translation>
+    </message>
+    <message>
+        <source>USB music</source>
+        <translation>USB 音乐</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>蓝牙</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>导航</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Folder behind the disk</source>
+        <translation>磁盘对应的文件夹</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>U 盘</translation>
+    </message>
+    <message>
+        <source>Choose the folder that is on the disk.</source>
+        <translation>请选择 U 盘中的文件夹。</translation>
+    </message>
+    <message>
+        <source>Plugged in: %1</source>
+        <translation>已插入：%1</translation>
+    </message>
+    <message>
+        <source>Pulled out: %1</source>
+        <translation>已拔出：%1</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>文件夹…</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>拔出</translation>
+    </message>
+    <message>
+        <source>Put in</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+</context>
+<context>
+    <name>UnitShell</name>
+    <message>
+        <source>Listening …</source>
+        <translation>正在聆听…</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>Application %1</source>
+        <translation>应用 %1</translation>
+    </message>
+</context>
+</TS>
