@@ -3,6 +3,7 @@
 
 #include "airconditiondlg.h"
 #include "orbapplication.h"
+#include "orbchoicedialog.h"
 #include "updatedialog.h"
 
 #include <QLabel>
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void updateMaySilentlyEnd_data();
     void updateMaySilentlyEnd();
     void updateCallsAreTraced();
+    void languageChangesWhileOpen();
 };
 
 namespace {
@@ -276,6 +278,23 @@ void TestDialogs::updateCallsAreTraced()
     dialog.reject();
     QCOMPARE(trace.lines(), QStringList({"UpdateDialog.showUpdateDlg(1)", "UpdateDialog.updatePercent(140)",
                                          "UpdateDialog.setUpdateFailed(2)"}));
+}
+
+void TestDialogs::languageChangesWhileOpen()
+{
+    TestScreen screen;
+    UpdateDialog update;
+    update.showUpdateDlg(1);
+    OrbChoiceDialog choice("Convenience opening", {"OFF"}, 0);
+    choice.show();
+    SampleTranslator german("de");
+    qApp->installTranslator(&german);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(summary(update), text("btnOk:Aktualisieren btnCancel:Später"));
+    QCOMPARE(choice.findChild<QPushButton *>("btnCancel")->text(), QString("Abbrechen"));
+    qApp->removeTranslator(&german);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(summary(update), QString("btnOk:Update btnCancel:Later"));
 }
 
 int main(int argc, char **argv)

@@ -1,14 +1,12 @@
+#include "samplewindows.h"
 #include "tracerecorder.h"
 #include "unitscreen.h"
 
 #include "airconditiondlg.h"
 #include "orbapplication.h"
-#include "orbchoicedialog.h"
 #include "orbhost.h"
-#include "orbmainwindow.h"
 #include "updatedialog.h"
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QPointer>
 #include <QProcess>
@@ -18,62 +16,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <functional>
 #include <memory>
 
-namespace {
-
-/// Notes the hooks that the framework calls.
-class HookedWindow : public OrbMainWindow
-{
-    Q_OBJECT
-
-public:
-    explicit HookedWindow(unsigned int appId = 769, QWidget *parent = nullptr) : OrbMainWindow(appId, parent)
-    {}
-
-    QStringList hooks;
-    bool deleteOnHome = false;
-    bool hideOnBack = false;
-
-protected:
-    void onLoadUiSkin() override { hooks << "load"; }
-    void onVisibleChange(bool visible) override { hooks << (visible ? "visible" : "hidden"); }
-    void onBackEvent() override
-    {
-        hooks << "back";
-        if (hideOnBack)
-            hide();
-    }
-    void onHomeEvent() override
-    {
-        hooks << "home";
-        if (deleteOnHome)
-            deleteLater();
-    }
-};
-
-class PlainDialog : public OrbDialog
-{
-    Q_OBJECT
-
-public:
-    explicit PlainDialog(int kind, QWidget *parent = nullptr) : OrbDialog(parent, kind) { resize(300, 200); }
-};
-
-typedef std::function<void(HookedWindow &, PlainDialog &)> Action;
-
-/// Runs \a inside while \a dialog is open, and gives what exec() then returned.
-int execWhile(OrbDialog *dialog, const std::function<void()> &inside)
-{
-    QTimer::singleShot(0, qApp, inside);
-    return dialog->exec();
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Action)
-
+/// Windows and dialogs on the unit's screen: what is reported, where they lie, how they outlive the screen.
 class TestWindows : public QObject
 {
     Q_OBJECT
@@ -86,15 +31,8 @@ private Q_SLOTS:
     void windowsAndDialogsHaveTheirPlaces();
     void placesFollowTheScreen();
     void frontIsTheTopmost();
-    void scrimKeepsTouchesAway();
-    void execReturnsTheResult_data();
-    void execReturnsTheResult();
-    void dialogDeletedWhileOpen();
-    void dialogOverDialog();
-    void choosing();
     void screenGoesBeforeItsWindows();
     void screenIsReplaced();
-    void builderGoesBeforeItsDialog();
     void deletedWindowsAreForgotten();
     void titleIsShown();
     void processEndsWithDialogsOpen();
@@ -246,110 +184,6 @@ void TestWindows::frontIsTheTopmost()
     QCOMPARE(host->windows(), QList<QWidget *>({&first, &second, &overlay, &choice}));
 }
 
-void TestWindows::scrimKeepsTouchesAway()
-{
-    TestScreen screen;
-    HookedWindow window;
-    QPushButton *button = new QPushButton("behind");
-    QSignalSpy clicked(button, SIGNAL(clicked()));
-    window.setCentralWidget(button);
-    window.show();
-    const QPoint place(20, 120);
-    TestScreen::tap(screen.area(), place);
-    QCOMPARE(clicked.size(), 1);
-
-    PlainDialog choice(OrbDialog::Choice);
-    choice.show();
-    TestScreen::tap(screen.area(), place);
-    TestScreen::tap(screen.area(), QPoint(20, 20));
-    QCOMPARE(clicked.size(), 1);
-    QVERIFY(window.isVisible());
-    choice.hide();
-    TestScreen::tap(screen.area(), place);
-    QCOMPARE(clicked.size(), 2);
-}
-
-void TestWindows::execReturnsTheResult_data()
-{
-    QTest::addColumn<Action>("close");
-    QTest::addColumn<int>("result");
-    QTest::newRow("accept") << Action([](HookedWindow &, PlainDialog &d) { d.accept(); }) << 1;
-    QTest::newRow("reject") << Action([](HookedWindow &, PlainDialog &d) { d.reject(); }) << 0;
-    QTest::newRow("back") << Action([](HookedWindow &, PlainDialog &d) { d.back(); }) << 0;
-    QTest::newRow("done") << Action([](HookedWindow &, PlainDialog &d) { d.done(5); }) << 5;
-    QTest::newRow("hide") << Action([](HookedWindow &, PlainDialog &d) { d.hide(); }) << 0;
-    QTest::newRow("accept, then hide")
-        << Action([](HookedWindow &, PlainDialog &d) { d.accept(), d.hide(); }) << 1;
-    QTest::newRow("screen goes") << Action([](HookedWindow &, PlainDialog &) {
-        OrbHost::instance()->setScreen(nullptr, nullptr);
-    }) << 0;
-}
-
-void TestWindows::execReturnsTheResult()
-{
-    QFETCH(Action, close);
-    QFETCH(int, result);
-    TestScreen screen;
-    HookedWindow window;
-    window.show();
-    PlainDialog dialog(OrbDialog::Choice);
-    bool inside = false;
-    const int returned = execWhile(&dialog, [&] {
-        inside = dialog.isVisible() && !dialog.isWindow();
-        close(window, dialog);
-    });
-    QCOMPARE(returned, result);
-    QVERIFY(inside);
-    QVERIFY(dialog.isHidden());
-}
-
-void TestWindows::dialogDeletedWhileOpen()
-{
-    TestScreen screen;
-    QPointer<PlainDialog> dialog(new PlainDialog(OrbDialog::Choice));
-    QCOMPARE(execWhile(dialog, [dialog] { delete dialog.data(); }), 0);
-    QVERIFY(!dialog);
-    // The scrim is gone with it.
-    QCOMPARE(screen.childAt(100, 100), screen.area());
-}
-
-void TestWindows::dialogOverDialog()
-{
-    TestScreen screen;
-    PlainDialog below(OrbDialog::Choice), above(OrbDialog::Choice);
-    int inner = -1;
-    const int outer = execWhile(&below, [&] {
-        inner = execWhile(&above, [&] {
-            QCOMPARE(OrbHost::instance()->frontWindow(), &above);
-            above.done(3);
-        });
-        QCOMPARE(OrbHost::instance()->frontWindow(), &below);
-        below.done(4);
-    });
-    QCOMPARE(inner, 3);
-    QCOMPARE(outer, 4);
-}
-
-void TestWindows::choosing()
-{
-    TestScreen screen;
-    const QStringList texts = {"OFF", "Driver window", "All windows"};
-    const auto choose = [&](const char *button, int box) {
-        QTimer::singleShot(0, qApp, [button, box] {
-            QWidget *dialog = OrbHost::instance()->frontWindow();
-            const QList<QCheckBox *> boxes = dialog->findChildren<QCheckBox *>();
-            QCoreApplication::processEvents();
-            TestScreen::tap(boxes.at(box), boxes.at(box)->rect().center());
-            dialog->findChild<QPushButton *>(button)->click();
-        });
-        return OrbChoiceDialog::choose("Convenience opening", texts, 1);
-    };
-    QCOMPARE(choose("btnOk", 2), 2);
-    QCOMPARE(choose("btnOk", 1), 1);
-    QCOMPARE(choose("btnCancel", 2), -1);
-    QCOMPARE(OrbHost::instance()->windows().size(), 0);
-}
-
 void TestWindows::screenGoesBeforeItsWindows()
 {
     std::unique_ptr<TestScreen> screen(new TestScreen);
@@ -376,18 +210,6 @@ void TestWindows::screenIsReplaced()
     window.show();
     QCOMPARE(window.parentWidget(), second.area());
     QCOMPARE(window.geometry(), second.area()->rect());
-}
-
-void TestWindows::builderGoesBeforeItsDialog()
-{
-    TestScreen screen;
-    HookedWindow *window = new HookedWindow;
-    window->show();
-    QPointer<PlainDialog> dialog(new PlainDialog(OrbDialog::Choice, window));
-    dialog->show();
-    QCOMPARE(dialog->parentWidget(), screen.area());
-    delete window;
-    QTRY_VERIFY(!dialog);
 }
 
 void TestWindows::deletedWindowsAreForgotten()

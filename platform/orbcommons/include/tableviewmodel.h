@@ -35,7 +35,8 @@ public:
     void setIcon(const QString &path) { m_icon = path; }
     QString icon() const { return m_icon; }
 
-    /// Resource path of the mark behind the value (a drop-down sign, say); empty for none.
+    /// Resource path of the mark behind the value; empty for none. ":/orb/icons/dropdown.png" is a drop-down
+    /// sign in the unit"s looks.
     void setMark(const QString &path) { m_mark = path; }
     QString mark() const { return m_mark; }
 

@@ -46,6 +46,7 @@ public:
     Private() : state(Asking), kind(0), code(0), retry(false) {}
 
     void build(UpdateDialog *dialog);
+    void arrange(UpdateDialog *dialog);
     void enter(State next);
     void showTexts();
     QString message() const;
@@ -82,9 +83,11 @@ void UpdateDialog::Private::build(UpdateDialog *dialog)
     silence->setObjectName(QLatin1String("silence"));
     silence->setSingleShot(true);
     silence->setInterval(SilenceTime);
+}
 
+void UpdateDialog::Private::arrange(UpdateDialog *dialog)
+{
     dialog->setMinimumWidth(Width);
-
     QHBoxLayout *head = new QHBoxLayout;
     head->setSpacing(24);
     head->addWidget(picture, 0, Qt::AlignTop);
@@ -158,6 +161,7 @@ QString UpdateDialog::Private::message() const
 UpdateDialog::UpdateDialog(QWidget *parent) : OrbDialog(parent, Choice), d(new Private)
 {
     d->build(this);
+    d->arrange(this);
     d->enter(Private::Asking);
     connect(d->ok, SIGNAL(clicked()), SLOT(onAccepted()));
     connect(d->cancel, SIGNAL(clicked()), SLOT(reject()));

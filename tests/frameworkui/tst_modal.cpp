@@ -1,0 +1,152 @@
+#include "samplewindows.h"
+#include "unitscreen.h"
+
+#include "orbapplication.h"
+#include "orbchoicedialog.h"
+#include "orbhost.h"
+
+#include <QCheckBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+/// Dialogs that want an answer.
+class TestModal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void scrimKeepsTouchesAway();
+    void execReturnsTheResult_data();
+    void execReturnsTheResult();
+    void dialogDeletedWhileOpen();
+    void dialogOverDialog();
+    void choosing();
+    void builderGoesBeforeItsDialog();
+};
+
+void TestModal::scrimKeepsTouchesAway()
+{
+    TestScreen screen;
+    HookedWindow window;
+    QPushButton *button = new QPushButton("behind");
+    QSignalSpy clicked(button, SIGNAL(clicked()));
+    window.setCentralWidget(button);
+    window.show();
+    const QPoint place(20, 120);
+    TestScreen::tap(screen.area(), place);
+    QCOMPARE(clicked.size(), 1);
+
+    PlainDialog choice(OrbDialog::Choice);
+    choice.show();
+    TestScreen::tap(screen.area(), place);
+    TestScreen::tap(screen.area(), QPoint(20, 20));
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(window.isVisible());
+    choice.hide();
+    TestScreen::tap(screen.area(), place);
+    QCOMPARE(clicked.size(), 2);
+}
+
+void TestModal::execReturnsTheResult_data()
+{
+    QTest::addColumn<Action>("close");
+    QTest::addColumn<int>("result");
+    QTest::newRow("accept") << Action([](HookedWindow &, PlainDialog &d) { d.accept(); }) << 1;
+    QTest::newRow("reject") << Action([](HookedWindow &, PlainDialog &d) { d.reject(); }) << 0;
+    QTest::newRow("back") << Action([](HookedWindow &, PlainDialog &d) { d.back(); }) << 0;
+    QTest::newRow("done") << Action([](HookedWindow &, PlainDialog &d) { d.done(5); }) << 5;
+    QTest::newRow("hide") << Action([](HookedWindow &, PlainDialog &d) { d.hide(); }) << 0;
+    QTest::newRow("accept, then hide")
+        << Action([](HookedWindow &, PlainDialog &d) { d.accept(), d.hide(); }) << 1;
+    QTest::newRow("screen goes") << Action([](HookedWindow &, PlainDialog &) {
+        OrbHost::instance()->setScreen(nullptr, nullptr);
+    }) << 0;
+}
+
+void TestModal::execReturnsTheResult()
+{
+    QFETCH(Action, close);
+    QFETCH(int, result);
+    TestScreen screen;
+    HookedWindow window;
+    window.show();
+    PlainDialog dialog(OrbDialog::Choice);
+    bool inside = false;
+    const int returned = execWhile(&dialog, [&] {
+        inside = dialog.isVisible() && !dialog.isWindow();
+        close(window, dialog);
+    });
+    QCOMPARE(returned, result);
+    QVERIFY(inside);
+    QVERIFY(dialog.isHidden());
+}
+
+void TestModal::dialogDeletedWhileOpen()
+{
+    TestScreen screen;
+    QPointer<PlainDialog> dialog(new PlainDialog(OrbDialog::Choice));
+    QCOMPARE(execWhile(dialog, [dialog] { delete dialog.data(); }), 0);
+    QVERIFY(!dialog);
+    // The scrim is gone with it.
+    QCOMPARE(screen.childAt(100, 100), screen.area());
+}
+
+void TestModal::dialogOverDialog()
+{
+    TestScreen screen;
+    PlainDialog below(OrbDialog::Choice), above(OrbDialog::Choice);
+    int inner = -1;
+    const int outer = execWhile(&below, [&] {
+        inner = execWhile(&above, [&] {
+            QCOMPARE(OrbHost::instance()->frontWindow(), &above);
+            above.done(3);
+        });
+        QCOMPARE(OrbHost::instance()->frontWindow(), &below);
+        below.done(4);
+    });
+    QCOMPARE(inner, 3);
+    QCOMPARE(outer, 4);
+}
+
+void TestModal::choosing()
+{
+    TestScreen screen;
+    const QStringList texts = {"OFF", "Driver window", "All windows"};
+    const auto choose = [&](const char *button, int box) {
+        QTimer::singleShot(0, qApp, [button, box] {
+            QWidget *dialog = OrbHost::instance()->frontWindow();
+            const QList<QCheckBox *> boxes = dialog->findChildren<QCheckBox *>();
+            QCoreApplication::processEvents();
+            TestScreen::tap(boxes.at(box), boxes.at(box)->rect().center());
+            dialog->findChild<QPushButton *>(button)->click();
+        });
+        return OrbChoiceDialog::choose("Convenience opening", texts, 1);
+    };
+    QCOMPARE(choose("btnOk", 2), 2);
+    QCOMPARE(choose("btnOk", 1), 1);
+    QCOMPARE(choose("btnCancel", 2), -1);
+    QCOMPARE(OrbHost::instance()->windows().size(), 0);
+}
+
+void TestModal::builderGoesBeforeItsDialog()
+{
+    TestScreen screen;
+    HookedWindow *window = new HookedWindow;
+    window->show();
+    QPointer<PlainDialog> dialog(new PlainDialog(OrbDialog::Choice, window));
+    dialog->show();
+    QCOMPARE(dialog->parentWidget(), screen.area());
+    delete window;
+    QTRY_VERIFY(!dialog);
+}
+
+int main(int argc, char **argv)
+{
+    OrbApplication application(argc, argv);
+    TestModal test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_modal.moc"
