@@ -15,7 +15,6 @@ XinHangSettingsWindow::XinHangSettingsWindow(XinHangSettings &settings)
     TableListView *const view = new TableListView(this);
     view->setObjectName(QLatin1String("itemListView"));
     view->setModel(m_model);
-    view->setItemDelegate(new TableItemDelegate(view));
     setCentralWidget(view);
     connect(view, SIGNAL(clicked(QModelIndex)), this, SLOT(onItemListViewClicked(QModelIndex)));
     resetListTexts();

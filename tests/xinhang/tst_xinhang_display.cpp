@@ -18,6 +18,13 @@ private slots:
     void triggers();
     void modes();
     void longPressTime();
+    void cleanupTestCase() { m_bench.reset(); }
+
+private:
+    XinHangBench &sharedBench(const QVariantMap &settings = QVariantMap());
+
+    QScopedPointer<XinHangBench> m_bench;
+    QVariantMap m_settings; // that the bench was built with
 };
 
 // First: the screen before the call is the process's, and at first the one that is shown.
@@ -107,7 +114,7 @@ void TestXinHangDisplay::triggers()
     QFETCH(QByteArray, steps);
     QFETCH(QString, calls);
     QFETCH(int, display);
-    XinHangBench bench(settings);
+    XinHangBench &bench = sharedBench(settings);
     bench.drive(carType, "own");
     QStringList done;
     for (const QByteArray &step : steps.split('|')) {
@@ -130,9 +137,20 @@ void TestXinHangDisplay::triggers()
     QCOMPARE(int(bench.adapter->getDisplay()), display);
 }
 
+/// The bench of the test before, unless that had other settings.
+XinHangBench &TestXinHangDisplay::sharedBench(const QVariantMap &settings)
+{
+    if (!m_bench || settings != m_settings) {
+        m_bench.reset(); // two at a time would share the settings file
+        m_bench.reset(new XinHangBench(settings));
+        m_settings = settings;
+    }
+    return *m_bench;
+}
+
 void TestXinHangDisplay::modes()
 {
-    XinHangBench bench;
+    XinHangBench &bench = sharedBench();
     QList<uint> switching;
     for (uint mode = 0; mode < 20; ++mode) {
         bench.drive(2, "factory");
@@ -147,7 +165,7 @@ void TestXinHangDisplay::modes()
 // The one test that waits for the time itself.
 void TestXinHangDisplay::longPressTime()
 {
-    XinHangBench bench;
+    XinHangBench &bench = sharedBench();
     bench.drive(1, "own");
     bench.exchange("03 01 10");
     QTest::qWait(1300);
