@@ -2,8 +2,9 @@
 //
 //     instructions WORK READ_SIZE COUNT
 //
-// WORK: emit (the signal alone, COUNT times), device (the device's own share of reading COUNT packages),
-// clean, corrupted (COUNT packages), startbytes, longlengths (COUNT bytes).
+// WORK: emit (the signal alone, COUNT times); device (the device's own share of reading COUNT packages);
+// clean, corrupted (COUNT packages); startbytes, longlengths (COUNT bytes). allocations prints the heap
+// allocations for each of COUNT clean packages instead.
 
 #include "memorydevice.h"
 #include "streams.h"
@@ -14,8 +15,11 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 namespace {
+
+qint64 allocations = 0;
 
 // Receives as an adapter does: the framer's signal goes to a slot of the same object.
 class Receiver : public RaiseAdapter
@@ -73,6 +77,21 @@ extern "C" __attribute__((noinline)) void measuredEmit(Receiver *receiver, const
         Q_EMIT receiver->recvProtocolData(*package);
 }
 
+// Qt's containers and everything else on the heap come through here.
+extern "C" void *__libc_malloc(size_t size);
+extern "C" void *malloc(size_t size)
+{
+    ++allocations;
+    return __libc_malloc(size);
+}
+
+extern "C" void *__libc_realloc(void *memory, size_t size);
+extern "C" void *realloc(void *memory, size_t size)
+{
+    ++allocations;
+    return __libc_realloc(memory, size);
+}
+
 int main(int argc, char **argv)
 {
     if (argc != 4) {
@@ -98,7 +117,12 @@ int main(int argc, char **argv)
         receiver.received = measuredDevice(&device, buffer.data(), buffer.size());
     } else {
         MemoryDevice device(streamOf(work, count), readSize);
+        allocations = 0;
         measuredReceive(&receiver, &device);
+        if (work == "allocations") {
+            printf("%.4f\n", static_cast<double>(allocations) / count);
+            return 0;
+        }
     }
     printf("%lld\n", static_cast<long long>(receiver.received));
     return 0;

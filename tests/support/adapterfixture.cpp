@@ -42,7 +42,12 @@ AdapterFixture::~AdapterFixture()
 
 void AdapterFixture::open()
 {
-    setPort(box.path());
+    openPort(box.path());
+}
+
+void AdapterFixture::openPort(const QString &path)
+{
+    setPort(path);
     m_adapter->initAdapter();
 }
 

@@ -32,6 +32,8 @@ public:
         return adapter;
     }
     void open();
+    /// The same on another device.
+    void openPort(const QString &path);
 
     /// construct(), open(), and what the unit says at start-up awaited and forgotten.
     template <class Adapter>

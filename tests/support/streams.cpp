@@ -1,22 +1,10 @@
 #include "streams.h"
 
+#include "raisewire.h"
+
 #include <random>
 
 namespace {
-
-QByteArray frame(const QByteArray &data, char command)
-{
-    QByteArray frame;
-    frame += '\x2E';
-    frame += command;
-    frame += static_cast<char>(data.size());
-    frame += data;
-    unsigned int sum = 0;
-    for (int i = 1; i < frame.size(); ++i)
-        sum += static_cast<unsigned char>(frame.at(i));
-    frame += static_cast<char>(~sum);
-    return frame;
-}
 
 QByteArray joined(const QList<QByteArray> &packages)
 {
@@ -36,7 +24,7 @@ QList<QByteArray> Streams::packages(int count, int dataBytes)
         QByteArray data(dataBytes, '\0');
         for (int j = 0; j < dataBytes; ++j)
             data[j] = static_cast<char>(random());
-        packages.append(frame(data, static_cast<char>(random() % 0x60 + 0x30)));
+        packages.append(RaiseWire::frame(static_cast<quint8>(random() % 0x60 + 0x30), data));
     }
     return packages;
 }

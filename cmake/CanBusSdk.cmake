@@ -1,0 +1,23 @@
+# The plug-in alone, against a head unit maker's SDK: CANBUS_ORB_SDK names a folder with include/ (the framework's
+# headers and, where the maker ships it, qextserialport.h) and lib/ (libOrbCommons, libqextserialport).
+
+find_path(ORBCOMMONS_INCLUDE_DIR orbapplication.h
+  PATHS ${CANBUS_ORB_SDK}/include PATH_SUFFIXES orbcommons OrbCommons NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_library(ORBCOMMONS_LIBRARY OrbCommons
+  PATHS ${CANBUS_ORB_SDK}/lib PATH_SUFFIXES ${CMAKE_LIBRARY_ARCHITECTURE} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_path(QEXTSERIALPORT_INCLUDE_DIR qextserialport.h
+  PATHS ${CANBUS_ORB_SDK}/include PATH_SUFFIXES orbcommons QtExtSerialPort qextserialport)
+find_library(QEXTSERIALPORT_LIBRARY NAMES qextserialport QtExtSerialPort Qt5ExtSerialPort PATHS ${CANBUS_ORB_SDK}/lib)
+
+foreach(piece ORBCOMMONS_INCLUDE_DIR ORBCOMMONS_LIBRARY QEXTSERIALPORT_INCLUDE_DIR QEXTSERIALPORT_LIBRARY)
+  if(NOT ${piece})
+    message(FATAL_ERROR "The SDK in ${CANBUS_ORB_SDK} lacks ${piece}; set it by hand if it lies elsewhere")
+  endif()
+endforeach()
+
+add_library(CanBus::OrbCommons INTERFACE IMPORTED)
+target_include_directories(CanBus::OrbCommons INTERFACE ${ORBCOMMONS_INCLUDE_DIR})
+target_link_libraries(CanBus::OrbCommons INTERFACE ${ORBCOMMONS_LIBRARY} CanBus::QtWidgets)
+add_library(CanBus::QextSerialPort INTERFACE IMPORTED)
+target_include_directories(CanBus::QextSerialPort INTERFACE ${QEXTSERIALPORT_INCLUDE_DIR})
+target_link_libraries(CanBus::QextSerialPort INTERFACE ${QEXTSERIALPORT_LIBRARY})

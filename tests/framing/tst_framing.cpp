@@ -1,0 +1,286 @@
+// Byte streams in, packages out: every way in which a line garbles packages, and every size of a read.
+
+#include "receiver.h"
+
+#include "adapterfixture.h"
+#include "memorydevice.h"
+#include "streams.h"
+
+#include <random>
+
+namespace {
+
+const int ReadSizes[] = {1, 5, 16, 38, 259, 4096, 8 * 1024 * 1024};
+const int LongestRead = 4096;
+const int LongestUnfinished = 258;
+
+QByteArrayList delivered(const QByteArray &stream, int readSize)
+{
+    Receiver receiver;
+    MemoryDevice device(stream, readSize);
+    receiver.attachIODevice(&device);
+    int largest = 0;
+    while (device.arm()) {
+        receiver.onReadDeviceDatas();
+        largest = qMax(largest, receiver.bufferSize());
+    }
+    if (largest > qMin(readSize, LongestRead) + LongestUnfinished)
+        receiver.packages.append("buffer grew to " + QByteArray::number(largest));
+    return receiver.packages;
+}
+
+QByteArrayList times(int count, const QByteArray &package)
+{
+    QByteArrayList list;
+    for (int i = 0; i < count; ++i)
+        list.append(package);
+    return list;
+}
+
+bool isGood(const QByteArray &package)
+{
+    return RaiseWire::parse(package).packages.size() == 1;
+}
+
+} // namespace
+
+class TestFraming : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void garbledStreams_data();
+    void garbledStreams();
+    void everySplit();
+    void everyCorruptByte();
+    void anyReadSizeDeliversTheSame();
+    void lossPerCorruptedByte();
+    void lyingLengthsAreGivenUp();
+    void lateRestOfAPackageStillCounts();
+    void nestedReadKeepsOrderAndContents();
+    void keptPackagesStayAsTheyWere();
+    void attachingDropsTheOldLine();
+    void silentDeviceIsPolled();
+};
+
+void TestFraming::garbledStreams_data()
+{
+    QTest::addColumn<QByteArray>("stream");
+    QTest::addColumn<QByteArrayList>("packages");
+
+    const QByteArray key = RaiseWire::frame("20 01 01");
+    const QByteArray empty = RaiseWire::frame("7E");
+    const QByteArray longest = RaiseWire::frame(0x40, QByteArray(255, '\x2E'));
+    QByteArray corrupt = key;
+    corrupt[3] = '\x55';
+
+    QTest::newRow("one package") << key << times(1, key);
+    QTest::newRow("noise before") << QByteArray("\x01\x02\xFE") + key << times(1, key);
+    QTest::newRow("noise behind") << key + "\x01\x02\xFE" << times(1, key);
+    QTest::newRow("answer bytes between")
+        << "\xFF" + key + "\xF0\xF3" + empty + "\xFC" << QByteArrayList({key, empty});
+    QTest::newRow("no data bytes") << empty << times(1, empty);
+    QTest::newRow("255 data bytes, all of them start bytes")
+        << longest + key << QByteArrayList({longest, key});
+    QTest::newRow("bad checksum, then good") << corrupt + key << times(1, key);
+    QTest::newRow("false start right before") << "\x2E" + key + QByteArray(40, '\0') << times(1, key);
+    QTest::newRow("false start without data") << QByteArray("\x2E\x00\x00", 3) + key << times(1, key);
+    QTest::newRow("false start whose length swallows a package")
+        << QByteArray("\x2E\x01\x05", 3) + key + key + key << times(3, key);
+    QTest::newRow("package inside the data of a bad one")
+        << QByteArray("\x2E\x55\x08\x01", 4) + key + QByteArray(4, '\0') << times(1, key);
+    QTest::newRow("200 packages in one read") << key.repeated(200) << times(200, key);
+    QTest::newRow("64 KiB of start bytes, then good")
+        << QByteArray(64 * 1024, '\x2E') + key + QByteArray(64, '\0') << times(1, key);
+}
+
+void TestFraming::garbledStreams()
+{
+    QFETCH(QByteArray, stream);
+    QFETCH(QByteArrayList, packages);
+    for (int readSize : ReadSizes)
+        QCOMPARE(delivered(stream, readSize), packages);
+}
+
+void TestFraming::everySplit()
+{
+    AdapterFixture fixture;
+    Receiver *const receiver = fixture.start<Receiver>();
+    const QByteArray package = RaiseWire::frame("28 C0 45 0A 10 2E");
+    for (int split = 1; split < package.size(); ++split) {
+        QVERIFY(fixture.box.send(package.left(split)));
+        QTest::qWait(2);
+        QVERIFY(receiver->packages.isEmpty());
+        QVERIFY(fixture.box.send(package.mid(split)));
+        QVERIFY(PtyBox::waitUntil([&] { return !receiver->packages.isEmpty(); }));
+        QCOMPARE(receiver->packages, times(1, package));
+        receiver->packages.clear();
+    }
+}
+
+void TestFraming::everyCorruptByte()
+{
+    const QByteArray package = RaiseWire::frame("28 C0 45 0A 10 2E");
+    const QByteArray next = RaiseWire::frame("20 01 01");
+    for (int at = 0; at < package.size(); ++at) {
+        for (int value = 0; value < 256; ++value) {
+            QByteArray corrupt = package;
+            corrupt[at] = static_cast<char>(value);
+            // Room behind, so that a length byte that lies is found out.
+            const QByteArrayList packages = delivered(corrupt + next + QByteArray(260, '\0'), 4096);
+            QVERIFY2(packages.contains(next) || packages.size() == 1, package.toHex());
+            QCOMPARE(packages.contains(package), corrupt == package);
+            for (const QByteArray &one : packages)
+                QVERIFY(isGood(one));
+        }
+    }
+}
+
+void TestFraming::anyReadSizeDeliversTheSame()
+{
+    std::mt19937 random(7);
+    QByteArray wild(20000, '\0');
+    for (int i = 0; i < wild.size(); ++i)
+        wild[i] = random() % 3 ? static_cast<char>(random()) : '\x2E';
+    const QByteArray streams[] = {Streams::corrupted(2000, 3), Streams::noisy(2000),
+                                  wild + Streams::clean(10)};
+    for (const QByteArray &stream : streams) {
+        const QByteArrayList packages = delivered(stream, 1);
+        QVERIFY(!packages.isEmpty());
+        for (int readSize : ReadSizes)
+            QCOMPARE(delivered(stream, readSize), packages);
+    }
+}
+
+void TestFraming::lossPerCorruptedByte()
+{
+    const int count = 40000;
+    const int distance = 4;
+    const QByteArrayList sent = Streams::packages(count);
+    // Room behind, so that nothing is left unfinished.
+    const QByteArrayList packages =
+        delivered(Streams::corrupted(count, distance) + QByteArray(260, '\0'), 4096);
+    int good = 0;
+    int at = 0;
+    for (int i = 0; i < count; ++i) {
+        if (i % distance == 0)
+            continue;
+        const int found = packages.indexOf(sent.at(i), at);
+        if (found >= 0 && found < at + 8) {
+            ++good;
+            at = found + 1;
+        }
+    }
+    const int corrupted = count / distance;
+    const int lost = count - corrupted - good;
+    QVERIFY2(lost <= 0.004 * corrupted, qPrintable(QString("%1 of %2").arg(lost).arg(corrupted)));
+}
+
+void TestFraming::lyingLengthsAreGivenUp()
+{
+    AdapterFixture fixture;
+    Receiver *const receiver = fixture.start<Receiver>();
+    const QByteArray package = RaiseWire::frame("20 01 01");
+    // Each of the four claims more than ever comes. They were read together, so they go together, also while
+    // the line is busy with answer bytes.
+    QVERIFY(fixture.box.send(QByteArray("\x2E\x01\xFF\x2E\x01\xFE\x2E\x01\xFD\x2E\x01\xFC") + package));
+    for (int i = 0; i < 8; ++i) {
+        QTest::qWait(40);
+        QVERIFY(fixture.box.send("\xFF"));
+    }
+    QVERIFY(receiver->packages.isEmpty());
+    QVERIFY(PtyBox::waitUntil([&] { return !receiver->packages.isEmpty(); }, 600));
+    QCOMPARE(receiver->packages, times(1, package));
+}
+
+void TestFraming::lateRestOfAPackageStillCounts()
+{
+    AdapterFixture fixture;
+    Receiver *const receiver = fixture.start<Receiver>();
+    const QByteArray package = RaiseWire::frame("20 01 01");
+    QVERIFY(fixture.box.send(package.left(4)));
+    QTest::qWait(300);
+    QVERIFY(fixture.box.send(package.mid(4)));
+    QVERIFY(PtyBox::waitUntil([&] { return !receiver->packages.isEmpty(); }));
+
+    // A thread that was busy elsewhere has not been listening; what came meanwhile is not late.
+    receiver->packages.clear();
+    QVERIFY(fixture.box.send(package.left(4)));
+    QTest::qWait(20);
+    QTest::qSleep(600);
+    QVERIFY(fixture.box.send(package.mid(4)));
+    QVERIFY(PtyBox::waitUntil([&] { return !receiver->packages.isEmpty(); }));
+    QCOMPARE(receiver->packages, times(1, package));
+}
+
+void TestFraming::nestedReadKeepsOrderAndContents()
+{
+    const QByteArrayList sent = Streams::packages(9);
+    Receiver receiver;
+    MemoryDevice device(Streams::clean(9), 32);
+    receiver.attachIODevice(&device);
+    QByteArrayList afterNested;
+    receiver.onPackage = [&](const QByteArray &package) {
+        // As a slot does that opens a dialog with an event loop of its own.
+        device.arm();
+        receiver.onReadDeviceDatas();
+        afterNested.append(QByteArray(package.constData(), package.size()));
+    };
+    while (device.arm())
+        receiver.onReadDeviceDatas();
+    QCOMPARE(receiver.packages, sent);
+    std::sort(afterNested.begin(), afterNested.end());
+    QByteArrayList sorted = sent;
+    std::sort(sorted.begin(), sorted.end());
+    QCOMPARE(afterNested, sorted);
+}
+
+void TestFraming::keptPackagesStayAsTheyWere()
+{
+    Receiver receiver;
+    MemoryDevice device(Streams::clean(50), 16);
+    receiver.attachIODevice(&device);
+    QByteArrayList kept;
+    receiver.onPackage = [&](const QByteArray &package) { kept.append(package); };
+    while (device.arm())
+        receiver.onReadDeviceDatas();
+    QCOMPARE(kept, Streams::packages(50));
+}
+
+void TestFraming::attachingDropsTheOldLine()
+{
+    const QByteArray package = RaiseWire::frame("20 01 01");
+    Receiver receiver;
+    MemoryDevice first(package.left(3), 16);
+    MemoryDevice second(package, 16);
+    receiver.attachIODevice(&first);
+    first.arm();
+    receiver.onReadDeviceDatas();
+    receiver.attachIODevice(&second);
+    second.arm();
+    receiver.onReadDeviceDatas();
+    QCOMPARE(receiver.packages, times(1, package));
+    receiver.attachIODevice(nullptr);
+    receiver.onReadDeviceDatas();
+    {
+        MemoryDevice shortLived(package, 16);
+        receiver.attachIODevice(&shortLived);
+    }
+    receiver.onReadDeviceDatas();
+    QCOMPARE(receiver.packages.size(), 1);
+}
+
+void TestFraming::silentDeviceIsPolled()
+{
+    // This device never announces what arrives.
+    Receiver receiver;
+    MemoryDevice device(Streams::clean(5), 16);
+    receiver.attachIODevice(&device);
+    QTest::qWait(400);
+    while (device.arm())
+        QTest::qWait(20);
+    QCOMPARE(receiver.packages, Streams::packages(5));
+}
+
+CANBUS_TEST_MAIN(TestFraming)
+#include "tst_framing.moc"
