@@ -25,11 +25,15 @@ qint64 allocations = 0;
 class Receiver : public RaiseAdapter
 {
 public:
-    Receiver() : received(0) {}
+    void onRecvMcuProtocol(const QByteArray &package) override
+    {
+        received += package.size();
+        packages += package.size() == PackageSize;
+    }
 
-    void onRecvMcuProtocol(const QByteArray &package) override { received += package.size(); }
-
-    qint64 received;
+    static const int PackageSize = 12;
+    qint64 received = 0;
+    qint64 packages = 0;
 };
 
 void receiveAll(Receiver *receiver, MemoryDevice *device)
@@ -41,7 +45,7 @@ void receiveAll(Receiver *receiver, MemoryDevice *device)
 
 QByteArray streamOf(const QByteArray &work, int count)
 {
-    if (work == "corrupted")
+    if (work == "corrupted" || work == "loss")
         return Streams::corrupted(count, 20);
     if (work == "startbytes")
         return Streams::startBytes(count);
@@ -118,9 +122,15 @@ int main(int argc, char **argv)
     } else {
         MemoryDevice device(streamOf(work, count), readSize);
         allocations = 0;
+        receiver.packages = 0;
         measuredReceive(&receiver, &device);
         if (work == "allocations") {
             printf("%.4f\n", static_cast<double>(allocations) / count);
+            return 0;
+        }
+        if (work == "loss") {
+            const int corrupted = (count + 19) / 20;
+            printf("%.4f\n", static_cast<double>(count - corrupted - receiver.packages) / corrupted);
             return 0;
         }
     }

@@ -10,8 +10,6 @@
 /// The framer with the hooks of the Raise frame, keeping what it delivers instead of decoding it.
 class Receiver : public RaiseAdapter
 {
-    Q_OBJECT
-
 public:
     void onRecvMcuProtocol(const QByteArray &package) override
     {

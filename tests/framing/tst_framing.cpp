@@ -154,8 +154,8 @@ void TestFraming::anyReadSizeDeliversTheSame()
 
 void TestFraming::lossPerCorruptedByte()
 {
-    const int count = 40000;
-    const int distance = 4;
+    const int count = 100000;
+    const int distance = 20;
     const QByteArrayList sent = Streams::packages(count);
     // Room behind, so that nothing is left unfinished.
     const QByteArrayList packages =
@@ -173,7 +173,9 @@ void TestFraming::lossPerCorruptedByte()
     }
     const int corrupted = count / distance;
     const int lost = count - corrupted - good;
-    QVERIFY2(lost <= 0.004 * corrupted, qPrintable(QString("%1 of %2").arg(lost).arg(corrupted)));
+    // One lying length in 256 has a checksum that fits, and takes the dozen packages that it covers with it.
+    // Giving up a whole package's length after a bad one would lose half a package per corrupted byte.
+    QVERIFY2(lost <= 0.02 * corrupted, qPrintable(QString("%1 of %2").arg(lost).arg(corrupted)));
 }
 
 void TestFraming::lyingLengthsAreGivenUp()

@@ -141,7 +141,7 @@ void TestSerialLine::queuedMeanwhileLeavesOnce()
     PtyBox box;
     QVERIFY(QFile::link(box.path(), link));
     QVERIFY(box.waitForBytes(Ready.size(), 4000));
-    QCOMPARE(box.takeUntilQuiet(1200), Ready);
+    QCOMPARE(box.takeUntilQuiet(200), Ready);
 }
 
 void TestSerialLine::portThatIsMissing_data()
@@ -167,8 +167,8 @@ void TestSerialLine::portThatIsMissing()
     if (hasPort)
         QVERIFY2(opened.first().startsWith("Open CanBus Serial Port  \"" + path + "\"  Ret: false \""),
                  qPrintable(opened.first()));
-    // Two attempts to open it again later, nothing has been said about them.
-    QTest::qWait(2300);
+    // An attempt to open it again later, nothing has been said about it.
+    QTest::qWait(1100);
     QVERIFY(messages.size() <= 2);
 }
 

@@ -23,7 +23,7 @@ QList<QByteArray> Streams::packages(int count, int dataBytes)
     for (int i = 0; i < count; ++i) {
         QByteArray data(dataBytes, '\0');
         for (int j = 0; j < dataBytes; ++j)
-            data[j] = static_cast<char>(random());
+            data[j] = random() % 2 ? static_cast<char>(random()) : '\0';
         packages.append(RaiseWire::frame(static_cast<quint8>(random() % 0x60 + 0x30), data));
     }
     return packages;

@@ -7,7 +7,7 @@
 /// Byte streams to frame, the same in every run.
 namespace Streams {
 
-/// The good packages of clean(), one by one.
+/// The good packages of clean(), one by one. As in a car's packages, about half of the data bytes are 0.
 QList<QByteArray> packages(int count, int dataBytes = 8);
 
 /// \a count good packages with \a dataBytes data bytes each and changing contents.

@@ -31,6 +31,7 @@ public:
     /// \a source and \a id name the sender and the subject by the framework's numbers; \a type is the event
     /// type, one of OrbEventType or any other QEvent type number. All parameters start as 0 or unset.
     OrbEvent(unsigned int source, unsigned int id, int type);
+    ~OrbEvent() override;
 
     /// True when \a event may be taken for an OrbEvent: its type lies in FirstType..LastType.
     static bool isOrbEvent(const QEvent *event);

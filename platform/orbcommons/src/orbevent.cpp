@@ -4,6 +4,8 @@ OrbEvent::OrbEvent(unsigned int source, unsigned int id, int type)
     : QEvent(static_cast<QEvent::Type>(type)), m_source(source), m_id(id), m_param(0), m_param2(0)
 {}
 
+OrbEvent::~OrbEvent() {}
+
 bool OrbEvent::isOrbEvent(const QEvent *event)
 {
     return event && int(event->type()) >= FirstType && int(event->type()) <= LastType;
