@@ -152,12 +152,9 @@ void BoxCommand::carryOut(DecoderBox *box) const
     case Release:
         box->releaseKey(m_name);
         break;
-    case Tap: {
-        const QString name = m_name;
-        box->pressKey(name);
-        QTimer::singleShot(m_number, box, [box, name] { box->releaseKey(name); });
+    case Tap:
+        tap(box);
         break;
-    }
     case Turn:
         box->turnKnob(m_name, m_number);
         break;
@@ -185,4 +182,16 @@ void BoxCommand::carryOut(DecoderBox *box) const
     case End:
         break;
     }
+}
+
+void BoxCommand::tap(DecoderBox *box) const
+{
+    QTimer *release = new QTimer(box);
+    release->setSingleShot(true);
+    QObject::connect(release, &QTimer::timeout, box, [box, release, name = m_name] {
+        box->releaseKey(name);
+        release->deleteLater();
+    });
+    box->pressKey(m_name);
+    release->start(m_number);
 }

@@ -55,6 +55,7 @@ private:
     bool parseTouch(const QStringList &words, const DecoderBox &box, QString *error);
     bool parseRaw(const QString &hex, QString *error);
     bool parseFault(const QStringList &words, QString *error);
+    void tap(DecoderBox *box) const;
 
     Action m_action = End;
     QString m_name;

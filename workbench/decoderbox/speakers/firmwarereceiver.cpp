@@ -59,7 +59,7 @@ QString FirmwareReceiver::takeStart()
 QString FirmwareReceiver::takeCount(const BoxPackage &package)
 {
     const quint32 count = bigEndian32(package, 2);
-    const QString meaning = QString("firmware of %1 packets").arg(count);
+    QString meaning = QString("firmware of %1 packets").arg(count);
     if (m_state != Ready || package.n() < packetHeader) {
         return meaning + ", out of turn";
     }
@@ -81,7 +81,7 @@ QString FirmwareReceiver::takeCount(const BoxPackage &package)
 QString FirmwareReceiver::takePacket(const BoxPackage &package)
 {
     const quint32 number = bigEndian32(package, 2);
-    const QString meaning = QString("firmware packet %1").arg(number);
+    QString meaning = QString("firmware packet %1").arg(number);
     if (m_state != Receiving || package.n() < packetHeader + packetSize || number != wanted()) {
         return meaning + ", not asked for";
     }

@@ -26,25 +26,25 @@ const double rearMiddleStep = 27.5;
 // An order that is no setting: the properties behind it go back to where they began, or to 0.
 struct Action
 {
-    int item;
     const char *properties; // beginning of their names
+    int item;
     bool isToZero;
 };
 
 const Action actions[] = {
-    {34, "tyres.", false},
-    {138, "trip.since_start.", true},
-    {139, "trip.long_term.", true},
-    {141, "service.inspection.", false},
-    {193, "settings.assist.", false},
-    {194, "settings.parking.", false},
-    {195, "settings.light.", false},
-    {196, "settings.mirrors.", false},
-    {197, "settings.opening.", false},
-    {198, "settings.display.", false},
-    {199, "settings.", false},
-    {212, "settings.drive.", false},
-    {232, "settings.drive.offroad_climate", false},
+    {"tyres.", 34, false},
+    {"trip.since_start.", 138, true},
+    {"trip.long_term.", 139, true},
+    {"service.inspection.", 141, false},
+    {"settings.assist.", 193, false},
+    {"settings.parking.", 194, false},
+    {"settings.light.", 195, false},
+    {"settings.mirrors.", 196, false},
+    {"settings.opening.", 197, false},
+    {"settings.display.", 198, false},
+    {"settings.", 199, false},
+    {"settings.drive.", 212, false},
+    {"settings.drive.offroad_climate", 232, false},
 };
 
 QByteArray distances(const SimulatedCar &car, const QString &side, double middleStep)
@@ -235,7 +235,7 @@ QString VolkswagenSpeaker::takeRequest(const BoxPackage &package)
 {
     const quint8 command = package.d(0);
     const bool hasSubTypes = command == settingsPage || command == drivingData || command == serviceData;
-    const QString meaning = QString("request %1 %2").arg(hex(command), hex(package.d(1)));
+    QString meaning = QString("request %1 %2").arg(hex(command), hex(package.d(1)));
     for (int i = 0; i < reports().size(); ++i) {
         if (reports().at(i).command == command && (!hasSubTypes || reportPackage(i).d(0) == package.d(1))) {
             emit reportDue(i);
@@ -248,7 +248,7 @@ QString VolkswagenSpeaker::takeRequest(const BoxPackage &package)
 QString VolkswagenSpeaker::takeSetting(const BoxPackage &package)
 {
     const int item = package.d(0);
-    const QString meaning = observe(QString("setting %1").arg(item), QString::number(package.d(1)));
+    QString meaning = observe(QString("setting %1").arg(item), QString::number(package.d(1)));
     if (isAction(item)) {
         carryOutAction(item);
         return meaning;
