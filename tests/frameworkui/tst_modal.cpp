@@ -8,6 +8,8 @@
 #include <QCheckBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void dialogDeletedWhileOpen();
     void dialogOverDialog();
     void choosing();
+    void longChoiceScrollsUnderTheFinger();
     void builderGoesBeforeItsDialog();
 };
 
@@ -140,6 +143,31 @@ void TestModal::builderGoesBeforeItsDialog()
     QCOMPARE(dialog->parentWidget(), screen.area());
     delete window;
     QTRY_VERIFY(!dialog);
+}
+
+void TestModal::longChoiceScrollsUnderTheFinger()
+{
+    TestScreen screen;
+    QStringList texts;
+    for (int i = 0; i < 12; ++i)
+        texts << QString("Profile %1").arg(i);
+    OrbChoiceDialog dialog("Profiles", texts, 9);
+    dialog.show();
+    QCoreApplication::processEvents();
+    const QList<QCheckBox *> rows = dialog.findChildren<QCheckBox *>();
+    const QScrollBar *bar = dialog.findChild<QScrollArea *>()->verticalScrollBar();
+    // What is chosen is in sight.
+    QVERIFY(!rows.at(9)->visibleRegion().isEmpty());
+    const int before = bar->value();
+    const QPoint middle = rows.at(9)->rect().center();
+    TestScreen::drag(rows.at(8), middle, middle + QPoint(0, 100));
+    QVERIFY(bar->value() <= before - 88);
+    QCOMPARE(dialog.chosenIndex(), 9);
+    QVERIFY(!rows.at(8)->isDown());
+    QTRY_COMPARE(bar->value(), 0);
+    QTest::qWait(50);
+    TestScreen::tap(rows.at(0), middle);
+    QCOMPARE(dialog.chosenIndex(), 0);
 }
 
 int main(int argc, char **argv)
