@@ -48,7 +48,7 @@ CarPage::CarPage(SimulatedCar *car, const QStringList &names, QWidget *parent) :
 
 void CarPage::addGroup(const QString &group, const QVector<const CarProperty *> &properties)
 {
-    PanelCard *card = new PanelCard(CarWords::text(group));
+    PanelCard *card = new PanelCard(CarWords::groupText(group));
     layout()->addWidget(card);
     int i = 0;
     while (i < properties.size()) {

@@ -10,7 +10,10 @@ namespace CarWords {
 /// itself.
 QString text(const QString &name);
 
-/// The same of what stands behind a property's last point: "To window" of "climate.to_window".
+/// "Settings · Units" of the group "settings.units".
+QString groupText(const QString &group);
+
+/// The text of what stands behind a property's last point: "To window" of "climate.to_window".
 QString propertyText(const QString &name);
 
 } // namespace CarWords

@@ -12,10 +12,14 @@
 #include <QEvent>
 #include <QFile>
 #include <QGridLayout>
+#include <QGuiApplication>
+#include <QScreen>
 
 namespace {
 
 const int margin = 12;
+const int preferredHeight = 860;
+const int titleBarHeight = 40; // about what a desktop puts around windows
 const AppTagId keySetTag = 0x1000c;
 const uint languageNotification = 20486;
 const int usbDisk = 0;
@@ -64,6 +68,10 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
         m_unit->setDisk(usbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
     });
     retranslate();
+    // The panel has much to show: as high as fits the display, though not more than it needs.
+    const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(sizeHint().width(),
+           qMax(sizeHint().height(), qMin(display.height() - titleBarHeight, preferredHeight)));
 }
 
 DeskWindow::~DeskWindow()

@@ -146,10 +146,12 @@ QWidget *createButtons(const CarProperty &property, SimulatedCar *car)
 QWidget *createList(const CarProperty &property, SimulatedCar *car)
 {
     QComboBox *box = new QuietComboBox;
-    box->addItems(property.choices);
+    for (const QString &choice : property.choices) {
+        box->addItem(CarWords::text(choice), choice);
+    }
     const QString name = property.name;
     QObject::connect(box, QOverload<int>::of(&QComboBox::activated), car,
-                     [=](int index) { car->setValue(name, box->itemText(index)); });
+                     [=](int index) { car->setValue(name, box->itemData(index)); });
     follow(car, name, box, [=] { box->setCurrentIndex(car->choice(name)); });
     return titled(property, nullptr, box);
 }
