@@ -22,11 +22,11 @@ bool QextSerialPort::open(OpenMode mode)
         return false;
     m_failed = false;
     if (!m_port.open(mode & ReadWrite)) {
-        setErrorString(m_port.errorString());
+        setFailure(m_port.errorString());
         return false;
     }
     applySettings();
-    setErrorString(QString());
+    setFailure(QString());
     // The port keeps the only buffer.
     return QIODevice::open(mode | Unbuffered);
 }
@@ -66,7 +66,13 @@ qint64 QextSerialPort::bytesToWrite() const
 
 QString QextSerialPort::errorString()
 {
-    return QIODevice::errorString();
+    return m_failure;
+}
+
+void QextSerialPort::setFailure(const QString &text)
+{
+    m_failure = text;
+    setErrorString(text); // what QIODevice answers is never empty
 }
 
 qint64 QextSerialPort::readData(char *data, qint64 maxSize)
@@ -88,6 +94,6 @@ void QextSerialPort::onPortError(QSerialPort::SerialPortError error)
     if (!fatal || m_failed || !isOpen())
         return;
     m_failed = true;
-    setErrorString(m_port.errorString());
+    setFailure(m_port.errorString());
     Q_EMIT readChannelFinished();
 }

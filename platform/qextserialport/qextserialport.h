@@ -73,11 +73,13 @@ private Q_SLOTS:
 
 private:
     void applySettings();
+    void setFailure(const QString &text);
 
     QSerialPort m_port;
     const PortSettings m_settings;
     const QueryMode m_mode;
     bool m_failed;
+    QString m_failure;
 };
 
 #endif // QEXTSERIALPORT_H
