@@ -16,7 +16,9 @@ foreach(piece ORBCOMMONS_INCLUDE_DIR ORBCOMMONS_LIBRARY QEXTSERIALPORT_INCLUDE_D
 endforeach()
 
 add_library(CanBus::OrbCommons INTERFACE IMPORTED)
-target_include_directories(CanBus::OrbCommons INTERFACE ${ORBCOMMONS_INCLUDE_DIR})
+# The header that knows the Qt generation is the project's own, not the maker's.
+target_include_directories(CanBus::OrbCommons INTERFACE
+  ${ORBCOMMONS_INCLUDE_DIR} ${PROJECT_SOURCE_DIR}/platform/qtcompat)
 target_link_libraries(CanBus::OrbCommons INTERFACE ${ORBCOMMONS_LIBRARY} CanBus::QtWidgets)
 add_library(CanBus::QextSerialPort INTERFACE IMPORTED)
 target_include_directories(CanBus::QextSerialPort INTERFACE ${QEXTSERIALPORT_INCLUDE_DIR})

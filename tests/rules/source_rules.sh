@@ -12,7 +12,7 @@ complain() {
     failed=1
 }
 
-portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | grep -v 'orbqtcompat.h' | sort)
+portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | sort)
 
 # One source for three Qt generations. These came after 4.8, or went with 6.
 # shellcheck disable=SC2086
