@@ -9,6 +9,12 @@
 #include <QEvent>
 #include <QPointer>
 
+namespace {
+
+const char DropDownMark[] = ":/dazhong/set/xiala.png";
+
+}
+
 XinHangSettingsWindow::XinHangSettingsWindow(XinHangSettings &settings)
     : m_settings(settings), m_model(new TableViewModel(this))
 {
@@ -26,9 +32,13 @@ void XinHangSettingsWindow::resetListTexts()
     const QList<int> items = m_settings.items();
     for (int row = 0; row < items.size(); ++row) {
         const int item = items.at(row);
+        const QStringList values = XinHangSettings::getSetItemValueTexts(item);
         TableViewItemDatas datas(item, XinHangSettings::getSetItemText(item));
-        datas.setValue(TableViewItemDatas::ValueColumn, XinHangSettings::getSetItemValueTexts(item).value(
-                                                            m_settings.getSetItemValueIndex(item)));
+        if (!values.isEmpty()) {
+            datas.setValue(TableViewItemDatas::ValueColumn,
+                           values.value(m_settings.getSetItemValueIndex(item)));
+            datas.setMark(QLatin1String(DropDownMark));
+        }
         if (row < m_model->rowCount())
             m_model->setItemDatas(row, datas);
         else
