@@ -169,7 +169,8 @@ void TestOptions::goesOnWithoutALink_data()
                                   << "/dev/nowhere";
     QTest::newRow("port is no terminal")
         << QStringList{"--can-bus-type", "9", "--port", "/dev/null"} << "/dev/null";
-    QTest::newRow("empty port name") << QStringList{"--can-bus-type", "9", "--port", ""} << "";
+    QTest::newRow("empty port name") << QStringList{"--can-bus-type", "9", "--port", ""}
+                                     << "the port has no name";
     QTest::newRow("unknown type") << QStringList{"--can-bus-type", "99"} << "CAN-bus type 99";
 }
 

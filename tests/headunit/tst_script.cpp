@@ -25,6 +25,7 @@ private slots:
     void answersWithoutTrace();
     void endOfInput_data();
     void endOfInput();
+    void closedStreams();
     void quitInsideADialog();
     void longLine();
     void signalsEndCleanly_data();
@@ -265,6 +266,15 @@ void TestScript::endOfInput()
         count += line.value("object") == "script" && line.value("call") != "error" ? 1 : 0;
     }
     QCOMPARE(count, answers);
+}
+
+void TestScript::closedStreams()
+{
+    QProcess shell;
+    shell.start("sh", {"-c", "exec \"$0\" --headless --plugin \"$1\" --trace - --script - <&- >&-", HEADUNIT,
+                       PROBE_PLUGIN});
+    QVERIFY(shell.waitForFinished(5000) || (shell.kill(), shell.waitForFinished(), false));
+    QCOMPARE(shell.exitCode(), 0);
 }
 
 void TestScript::quitInsideADialog()

@@ -5,6 +5,9 @@
 
 #include <cstdio>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 enum ExitCode { Fine = 0, CannotRun = 1, WrongUsage = 2 };
@@ -20,10 +23,21 @@ bool hasDisplay()
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
+// A standard stream that was closed must not become another file's number: it reads as empty and swallows.
+void keepStandardStreams()
+{
+    int descriptor = 0;
+    do {
+        descriptor = ::open("/dev/null", O_RDWR);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    ::close(descriptor);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    keepStandardStreams();
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);
