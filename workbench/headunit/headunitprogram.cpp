@@ -38,6 +38,22 @@ bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, 
     return ok;
 }
 
+// The plug-in goes on in silence.
+void sayWhyNoDecoder(const HeadUnitOptions &options)
+{
+    const uint lastType = uint(BoxCatalog::rows().last().type);
+    const QVariant port = options.productValues.value("CANPortName");
+    QString reason;
+    if (options.canBusType() > lastType) {
+        reason = QString("CAN-bus type %1 is none of 1 to %2").arg(options.canBusType()).arg(lastType);
+    } else if (port.isValid() && port.toString().isEmpty()) {
+        reason = "the port has no name";
+    }
+    if (!reason.isEmpty()) {
+        std::fprintf(stderr, "headunit: %s, the unit runs without a decoder\n", qPrintable(reason));
+    }
+}
+
 } // namespace
 
 HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent)
@@ -116,13 +132,7 @@ void HeadUnitProgram::configureUnit()
     if (!m_options.settingsDir.isEmpty()) {
         host->setSettingsDir(m_options.settingsDir);
     }
-    const uint type = m_options.canBusType();
-    const uint lastType = uint(BoxCatalog::rows().last().type);
-    if (type > lastType) {
-        std::fprintf(stderr,
-                     "headunit: CAN-bus type %u is none of 1 to %u, the unit runs without a decoder\n", type,
-                     lastType);
-    }
+    sayWhyNoDecoder(m_options);
 }
 
 bool HeadUnitProgram::openBox(QString *error)
