@@ -157,7 +157,7 @@ void TestDeskWidgets::titlesFitTheirTile()
     QFont font;
     font.setPixelSize(18);
     const QStringList lines = tile.titleLines();
-    QTEST(lines.size(), "lines");
+    QTEST(int(lines.size()), "lines");
     for (const QString &line : lines) {
         QVERIFY2(QFontMetrics(font).horizontalAdvance(line) <= tile.width(), qPrintable(line));
     }

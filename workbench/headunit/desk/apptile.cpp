@@ -52,9 +52,10 @@ QStringList AppTile::titleLines() const
         return QStringList();
     }
     first.setLineWidth(width);
+    const int length = first.textLength();
     layout.endLayout();
-    QStringList lines(metrics.elidedText(text().left(first.textLength()).trimmed(), Qt::ElideRight, width));
-    const QString rest = text().mid(first.textLength()).trimmed();
+    QStringList lines(metrics.elidedText(text().left(length).trimmed(), Qt::ElideRight, width));
+    const QString rest = text().mid(length).trimmed();
     if (!rest.isEmpty()) {
         lines << metrics.elidedText(rest, Qt::ElideRight, width);
     }
