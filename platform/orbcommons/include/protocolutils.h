@@ -84,6 +84,7 @@ private Q_SLOTS:
 private:
     void startPolling();
     void framePackages();
+    bool holdsPackageBehind();
     void emitPackage(const char *bytes, int size);
     void emitPackageWatched(const char *bytes, int size);
     void sendQueued();

@@ -28,6 +28,8 @@ const int BusyTime = 250;
 
 const int CandidateLifetime = 500;
 const int MarkInterval = 20;
+// No package pauses for so long in its middle.
+const int PauseTime = 40;
 // A GUI thread that was busy for longer than this has not been listening; such time ages no candidate.
 const int LongestPollGap = 50;
 const int ReopenInterval = 1000;
@@ -308,6 +310,23 @@ void ProtocolUtils::emitPackageWatched(const char *bytes, int size)
     Q_EMIT recvProtocolData(package);
 }
 
+// Whether a whole good package lies behind the first byte of the unfinished candidate at the cursor.
+bool ProtocolUtils::holdsPackageBehind()
+{
+    const int held = static_cast<int>(recvBuffer.size());
+    for (int from = m_d->cursor + 1; held - from >= m_d->minimum; ++from) {
+        const int start = findPackageStartSig(from);
+        if (start < from || held - start < m_d->minimum)
+            return false;
+        const int size = getPackageSize(start);
+        if (size >= m_d->minimum && size <= qMin(held - start, LongestPackage) &&
+            isAvaliablePackage(start, start + size - 1, size))
+            return true;
+        from = start;
+    }
+    return false;
+}
+
 void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
@@ -320,7 +339,10 @@ void ProtocolUtils::onPollTimer()
     m_d->quietTime = m_d->received ? 0 : qMin(m_d->quietTime + elapsed, BusyTime);
     m_d->received = false;
     m_d->mark(m_d->streamBase + recvBuffer.size());
-    while (recvBuffer.size() > m_d->cursor && m_d->isStale()) {
+    // A box says what is not acknowledged again after 100 ms, and only three times: it must not wait for a
+    // candidate that its own repetitions fill up.
+    const bool pause = m_d->quietTime >= PauseTime && m_d->quietTime - elapsed < PauseTime;
+    while (recvBuffer.size() > m_d->cursor && (m_d->isStale() || (pause && holdsPackageBehind()))) {
         ++m_d->cursor;
         m_d->candidateSize = 0;
         framePackages();
