@@ -141,7 +141,7 @@ void SelectDialog::addStepButton(QLayout *layout, const QString &text, const QSt
 // 64 bits: a step past the limit must not overflow.
 void SelectDialog::setValue(qint64 value)
 {
-    m_value = static_cast<int>(qBound<qint64>(m_minimum, value, m_maximum));
+    m_value = static_cast<int>(qBound(static_cast<qint64>(m_minimum), value, static_cast<qint64>(m_maximum)));
     m_valueButton->setText(QString::number(m_value) + m_unit);
 }
 
