@@ -108,7 +108,10 @@ void TestUnitControls::call_data()
     QTest::newRow("voice") << QList<int>{voice} << int(UnitControls::Listening) << QList<bool>{};
     QTest::newRow("voice, then hang up")
         << QList<int>{voice, hangup} << int(UnitControls::NoCall) << QList<bool>{};
-    QTest::newRow("voice dials") << QList<int>{voice, call} << int(UnitControls::InCall) << QList<bool>{true};
+    QTest::newRow("voice twice dials")
+        << QList<int>{voice, voice} << int(UnitControls::InCall) << QList<bool>{true};
+    QTest::newRow("voice, then call")
+        << QList<int>{voice, call} << int(UnitControls::InCall) << QList<bool>{true};
     QTest::newRow("voice in a call") << QList<int>{call, voice} << int(UnitControls::InCall)
                                      << QList<bool>{true};
     QTest::newRow("hang up without a call")

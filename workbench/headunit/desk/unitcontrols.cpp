@@ -172,7 +172,8 @@ bool UnitControls::phoneKey(int code)
 {
     switch (code) {
     case Qt::Key_VoiceDial:
-        setCall(m_call == NoCall ? Listening : m_call);
+        // Cars with one phone key send this one until there is a call: the second press dials what was heard.
+        setCall(m_call == NoCall ? Listening : InCall);
         return true;
     case Qt::Key_Call:
         setCall(InCall);
