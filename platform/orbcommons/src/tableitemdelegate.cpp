@@ -6,6 +6,7 @@
 
 #include <QPainter>
 #include <QTextLayout>
+#include <QTextOption>
 
 namespace {
 
@@ -35,6 +36,10 @@ QStringList twoLines(const QFont &font, const QString &text, int width)
 {
     const QFontMetrics metrics(font);
     QTextLayout layout(text, font);
+    // A number without a blank (a vehicle's, say) is broken as well rather than cut.
+    QTextOption wrapping;
+    wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(wrapping);
     layout.beginLayout();
     QTextLine first = layout.createLine();
     if (first.isValid())

@@ -16,11 +16,14 @@ const int ValueShare = 32;
 const int SecondShare = 20;
 const int SmallestValueWidth = 200;
 const int EmptySecondWidth = 16;
+const int EmptyValueWidth = 80; // a mark fits
 
-bool hasSecondTexts(const QAbstractItemModel *model)
+// Whether any row has a text or a switch in \a column.
+bool hasContents(const QAbstractItemModel *model, int column)
 {
     for (int row = 0; row < model->rowCount(); ++row) {
-        if (!model->index(row, TableViewItemDatas::SecondColumn).data().toString().isEmpty())
+        const QModelIndex index = model->index(row, column);
+        if (!index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid())
             return true;
     }
     return false;
@@ -79,8 +82,11 @@ void TableListView::fitColumns()
     if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount)
         return;
     const int width = viewport()->width();
-    const int value = qMin(width / 2, qMax(SmallestValueWidth, width * ValueShare / 100));
-    const int second = hasSecondTexts(model()) ? width * SecondShare / 100 : EmptySecondWidth;
+    const bool hasValues = hasContents(model(), TableViewItemDatas::ValueColumn);
+    const bool hasSeconds = hasContents(model(), TableViewItemDatas::SecondColumn);
+    const int valueWidth = hasValues ? qMax(SmallestValueWidth, width * ValueShare / 100) : EmptyValueWidth;
+    const int value = qMin(width / 2, valueWidth);
+    const int second = hasSeconds ? width * SecondShare / 100 : EmptySecondWidth;
     setColumnWidth(TableViewItemDatas::TextColumn, qMax(1, width - second - value));
     setColumnWidth(TableViewItemDatas::SecondColumn, second);
     setColumnWidth(TableViewItemDatas::ValueColumn, value);
