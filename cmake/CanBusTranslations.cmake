@@ -32,3 +32,30 @@ function(canbus_add_translations target name)
   set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${target}_translations)
   add_dependencies(${target} ${target}_translations)
 endfunction()
+
+# Folder of the compiled translations that a host loads from outside (plug-in and framework). Installed they lie in
+# share/orb/translations.
+set(CANBUS_TRANSLATION_DIR ${CMAKE_BINARY_DIR}/translations)
+set(CANBUS_TRANSLATION_INSTALL_DIR ${CMAKE_INSTALL_DATADIR}/orb/translations)
+
+# Compiles each NAME_LANGUAGE.ts to a file of that folder; NAME_translations is the target.
+function(canbus_translation_files name)
+  find_program(CANBUS_LRELEASE NAMES lrelease lrelease-qt${CANBUS_QT_VERSION}
+               HINTS /usr/lib/qt${CANBUS_QT_VERSION}/bin)
+  set(all_compiled "")
+  if(CANBUS_LRELEASE)
+    file(MAKE_DIRECTORY ${CANBUS_TRANSLATION_DIR})
+    foreach(source IN LISTS ARGN)
+      get_filename_component(stem ${source} NAME_WE)
+      set(compiled ${CANBUS_TRANSLATION_DIR}/${stem}.qm)
+      add_custom_command(OUTPUT ${compiled}
+        COMMAND ${CANBUS_LRELEASE} -silent ${CMAKE_CURRENT_SOURCE_DIR}/${source} -qm ${compiled}
+        DEPENDS ${source} VERBATIM)
+      list(APPEND all_compiled ${compiled})
+    endforeach()
+    install(FILES ${all_compiled} DESTINATION ${CANBUS_TRANSLATION_INSTALL_DIR})
+  else()
+    message(STATUS "lrelease is missing: no translations for ${name}")
+  endif()
+  add_custom_target(${name}_translations ALL DEPENDS ${all_compiled})
+endfunction()

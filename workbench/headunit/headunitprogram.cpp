@@ -120,6 +120,12 @@ bool HeadUnitProgram::openTrace(QString *error)
 void HeadUnitProgram::configureUnit()
 {
     OrbHost *host = OrbHost::instance();
+    const QDir folder(QCoreApplication::applicationDirPath());
+    for (const char *translations : {HEADUNIT_INSTALLED_TRANSLATIONS, HEADUNIT_BUILT_TRANSLATIONS}) {
+        if (folder.exists(translations)) {
+            host->addTranslationDir(folder.absoluteFilePath(translations));
+        }
+    }
     for (auto i = m_options.tags.cbegin(); i != m_options.tags.cend(); ++i) {
         host->setTag(i.key(), i.value());
     }

@@ -1,0 +1,15 @@
+# Fails when TS_FILE lacks the translation of a text that stands in SOURCES. Works on COPY.
+configure_file(${TS_FILE} ${COPY} COPYONLY)
+execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete ${SOURCES} -ts ${COPY}
+                RESULT_VARIABLE result ERROR_QUIET)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "lupdate failed on ${SOURCES}")
+endif()
+file(READ ${COPY} text)
+string(REGEX MATCHALL "<source>[^<]*</source>[^<]*<translation type=\"unfinished\">" unfinished "${text}")
+if(unfinished)
+  message(FATAL_ERROR "${TS_FILE} lacks (see tools/update-translations.sh):\n${unfinished}")
+endif()
+if(NOT text MATCHES "<translation>")
+  message(FATAL_ERROR "${TS_FILE} translates nothing")
+endif()

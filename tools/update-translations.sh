@@ -1,0 +1,16 @@
+#!/bin/sh
+# Brings the Linguist files up to date with the visible texts in the sources: new texts come in as unfinished,
+# texts that are gone go. Needs lupdate (qttools5-dev-tools).
+set -eu
+
+cd "$(dirname "$0")/.."
+for language in de zh_CN; do
+    lupdate -silent -locations none -no-obsolete plugin \
+        -target-language "$language" -ts "plugin/translations/canbus_$language.ts"
+    lupdate -silent -locations none -no-obsolete platform/orbcommons \
+        -target-language "$language" -ts "platform/orbcommons/translations/orbcommons_$language.ts"
+    lupdate -silent -locations none -no-obsolete workbench/headunit \
+        -target-language "$language" -ts "workbench/headunit/translations/headunit_$language.ts"
+done
+grep -l 'type="unfinished"' plugin/translations/*.ts platform/orbcommons/translations/*.ts \
+    workbench/headunit/translations/*.ts || true
