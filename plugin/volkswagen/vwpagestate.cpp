@@ -19,6 +19,13 @@ const char ReportIcon[] = "report.png";
 const char ConsumerIcon[] = "consumer.png";
 const char NoReading[] = "--";
 
+// Named here, where the translators' tools see that they belong to this namespace.
+const char *const NoEntries = QT_TR_NOOP("No entries available");
+const char *const Overdue = QT_TR_NOOP("overdue by");
+const char *const StartStopOff = QT_TR_NOOP("Start-stop system is deactivated");
+const char *const StartStopOn = QT_TR_NOOP("Start-stop system is activated");
+const char *const ReportCode = QT_TR_NOOP("Report code");
+
 QString iconPath(const char *fileName)
 {
     return fileName ? QLatin1String(IconFolder) + QLatin1String(fileName) : QString();
@@ -36,7 +43,7 @@ QList<TableViewItemDatas> orNoEntries(const QList<TableViewItemDatas> &items)
 {
     if (!items.isEmpty())
         return items;
-    return QList<TableViewItemDatas>() << reportItem(text(QT_TR_NOOP("No entries available")), InfoIcon);
+    return QList<TableViewItemDatas>() << reportItem(text(NoEntries), InfoIcon);
 }
 
 QStringList optionTexts(const SettingRow &row)
@@ -56,7 +63,7 @@ QString readingText(const ServiceReading &reading)
     case ServiceReading::Count:
         return count;
     case ServiceReading::Overdue:
-        return text(QT_TR_NOOP("overdue by")) + QLatin1Char(' ') + count;
+        return text(Overdue) + QLatin1Char(' ') + count;
     default:
         return QLatin1String(NoReading);
     }
@@ -224,9 +231,9 @@ QList<TableViewItemDatas> PageState::startStopRows() const
     }
     QList<TableViewItemDatas> items;
     if (m_startStop.valid && !m_startStop.active)
-        items.append(reportItem(text(QT_TR_NOOP("Start-stop system is deactivated")), "startstop.png"));
+        items.append(reportItem(text(StartStopOff), "startstop.png"));
     else if (m_startStop.valid && reasons.isEmpty())
-        items.append(reportItem(text(QT_TR_NOOP("Start-stop system is activated")), "startstop.png"));
+        items.append(reportItem(text(StartStopOn), "startstop.png"));
     return orNoEntries(items + reasons);
 }
 
@@ -234,8 +241,7 @@ QList<TableViewItemDatas> PageState::reportRows() const
 {
     QList<TableViewItemDatas> items;
     for (int i = 0; i < m_numbers.numbers.size(); ++i)
-        items.append(reportItem(text(QT_TR_NOOP("Report code")), ReportIcon,
-                                QString::number(m_numbers.numbers.at(i))));
+        items.append(reportItem(text(ReportCode), ReportIcon, QString::number(m_numbers.numbers.at(i))));
     return orNoEntries(items);
 }
 

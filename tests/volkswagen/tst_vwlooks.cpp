@@ -1,0 +1,298 @@
+#include "adapterfixture.h"
+#include "unitscreen.h"
+#include "vwbench.h"
+
+#include "volkswagen/figurelabel.h"
+#include "volkswagen/volkswagenwindow.h"
+#include "volkswagen/vwsettingstable.h"
+
+#include "orbhost.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QLabel>
+#include <QTextLayout>
+
+#include <memory>
+
+/// Draws every screen of the Volkswagen on both screen sizes and in three languages, and checks that each
+/// text has the room that it needs. With ORB_SCREENSHOTS=FOLDER the pictures are kept there.
+class TestVwLooks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void textsFit_data();
+    void textsFit();
+    void cleanup();
+};
+
+namespace {
+
+typedef std::unique_ptr<QWidget> (*Scene)(CanBus_Raise_Volkswagen &);
+
+std::unique_ptr<QWidget> driving(CanBus_Raise_Volkswagen &adapter)
+{
+    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
+    window->show();
+    VwBench::feed(adapter, "50 10 01 08 02 00 00 | 50 61 00 3e 00 00 00 | 50 20 01 10 27 00 00 |"
+                           "50 30 00 4b 00 00 00 | 50 40 00 a4 01 00 00 | 50 50 5f 00 00 00 00");
+    return window;
+}
+
+std::unique_ptr<QWidget> drivingLargest(CanBus_Raise_Volkswagen &adapter)
+{
+    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
+    window->show();
+    window->changeRangeIndex(1);
+    VwBench::feed(adapter, "50 10 01 ff ff 00 00 | 50 61 03 ff ff 00 00 | 50 21 00 ff ff ff ff |"
+                           "50 31 02 ff ff 00 00 | 50 41 01 ff ff 00 00 | 50 51 ff ff 00 00 00");
+    return window;
+}
+
+std::unique_ptr<QWidget> tyreWindow(CanBus_Raise_Volkswagen &adapter, const char *packages)
+{
+    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
+    window->show();
+    VwBench::click(*window, "btnTPMS");
+    VwBench::feed(adapter, packages);
+    return window;
+}
+
+std::unique_ptr<QWidget> tyreStates(CanBus_Raise_Volkswagen &adapter)
+{
+    return tyreWindow(adapter, "68 00 00 | 65 00 01 02 00");
+}
+
+std::unique_ptr<QWidget> tyreWarning(CanBus_Raise_Volkswagen &adapter)
+{
+    return tyreWindow(adapter, "65 00 01 02 00 | 68 02 02");
+}
+
+std::unique_ptr<QWidget> tyreBoth(CanBus_Raise_Volkswagen &adapter)
+{
+    return tyreWindow(adapter, "68 09 04 | 65 01 00 00 01");
+}
+
+template <unsigned int Page>
+std::unique_ptr<QWidget> page(CanBus_Raise_Volkswagen &adapter)
+{
+    std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(Page, &adapter));
+    window->show();
+    VwBench::feed(
+        adapter,
+        "40 10 02 | 40 20 01 78 01 | 40 30 03 01 | 40 31 0f 32 01 | 40 40 07 53 86 | 40 50 71 32 0f 1e |"
+        "40 51 07 1e 32 03 | 40 52 0a 14 03 64 | 40 60 1f | 40 70 21 1f 01 | 40 80 ff 03 | 40 90 32 21 |"
+        "40 b0 03 | 40 a0 03 21 12 | 60 06 01 02 09 0d 15 19 01 | 61 02 00 e8 03 ff ff | 62 03 01 06 0d |"
+        "63 00 57 56 57 5a 5a 5a 31 4b 5a 38 57 30 30 30 30 30 31 | 63 10 01 5a 00 | 63 11 02 96 00 |"
+        "63 20 02 0a 00 | 63 21 11 32 00 | 63 22 01");
+    return window;
+}
+
+std::unique_ptr<QWidget> emptyReports(CanBus_Raise_Volkswagen &adapter)
+{
+    std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(Vw::ReportsPage, &adapter));
+    window->show();
+    return window;
+}
+
+std::unique_ptr<QWidget> optionDialog(unsigned int pageId, int item, int chosen)
+{
+    const Vw::SettingPage *settings = Vw::settingPage(pageId);
+    for (int i = 0; i < settings->rowCount; ++i) {
+        const Vw::SettingRow &row = settings->rows[i];
+        if (row.item != item)
+            continue;
+        QStringList options;
+        for (int option = 0; option < row.optionCount(); ++option)
+            options << Vw::text(row.options[option]);
+        std::unique_ptr<SelectDialog> dialog(new SelectDialog);
+        dialog->setWindowTitle(Vw::text(row.label));
+        dialog->setCheckBoxListMode(options, options.value(chosen), true);
+        dialog->show();
+        return dialog;
+    }
+    return nullptr;
+}
+
+std::unique_ptr<QWidget> drivingModes(CanBus_Raise_Volkswagen &)
+{
+    return optionDialog(Vw::ProfilePage, Vw::DrivingModeItem, 3);
+}
+
+std::unique_ptr<QWidget> tyreLoads(CanBus_Raise_Volkswagen &)
+{
+    return optionDialog(Vw::TyresPage, 35, 0);
+}
+
+std::unique_ptr<QWidget> slider(CanBus_Raise_Volkswagen &)
+{
+    std::unique_ptr<SelectDialog> dialog(new SelectDialog);
+    dialog->setWindowTitle(Vw::text("Warning speed"));
+    dialog->setSliderMode(30, 240, 10, 120, " km/h");
+    dialog->show();
+    return dialog;
+}
+
+std::unique_ptr<QWidget> question(CanBus_Raise_Volkswagen &)
+{
+    std::unique_ptr<SelectDialog> dialog(new SelectDialog);
+    dialog->setWindowTitle(VWFunctionSetting::tr("Factory settings"));
+    dialog->setContentText(QString("%1 %2 %3 ?")
+                               .arg(VWFunctionSetting::tr("Are you sure restore"),
+                                    Vw::text("Parking and manoeuvring"), VWFunctionSetting::tr("settings")));
+    dialog->show();
+    return dialog;
+}
+
+const struct
+{
+    const char *name;
+    Scene make;
+} scenes[] = {
+    {"driving", driving},
+    {"driving-largest", drivingLargest},
+    {"tyre-states", tyreStates},
+    {"tyre-warning", tyreWarning},
+    {"tyre-both", tyreBoth},
+    {"page-car-setting", page<Vw::CarSettingPage>},
+    {"page-tyres", page<Vw::TyresPage>},
+    {"page-assistance", page<Vw::DriverAssistancePage>},
+    {"page-parking", page<Vw::ParkingPage>},
+    {"page-light", page<Vw::LightPage>},
+    {"page-mirrors", page<Vw::MirrorsPage>},
+    {"page-opening", page<Vw::OpeningPage>},
+    {"page-display", page<Vw::DisplayPage>},
+    {"page-service", page<Vw::ServicePage>},
+    {"page-units", page<Vw::UnitsPage>},
+    {"page-factory", page<Vw::FactoryPage>},
+    {"page-start-stop", page<Vw::StartStopPage>},
+    {"page-reports", page<Vw::ReportsPage>},
+    {"page-profile", page<Vw::ProfilePage>},
+    {"page-consumers", page<Vw::ConsumersPage>},
+    {"page-nothing-reported", emptyReports},
+    {"dialog-driving-modes", drivingModes},
+    {"dialog-tyre-loads", tyreLoads},
+    {"dialog-slider", slider},
+    {"dialog-question", question},
+};
+
+/// The text's size where it is drawn, wrapped to the label's width where it wraps.
+QSize textSize(const QLabel *label)
+{
+    const int flags = label->wordWrap() ? int(Qt::TextWordWrap) : 0;
+    const QRect room(0, 0, label->contentsRect().width(), 10000);
+    return label->fontMetrics().boundingRect(room, flags, label->text()).size();
+}
+
+bool fits(const QWidget *widget)
+{
+    if (!widget->parentWidget()->rect().contains(widget->geometry()))
+        return false;
+    if (const FigureLabel *figure = qobject_cast<const FigureLabel *>(widget))
+        return figure->contentsRect().width() >= figure->minimumSizeHint().width();
+    if (const QLabel *label = qobject_cast<const QLabel *>(widget)) {
+        const QSize size = textSize(label);
+        return size.width() <= label->contentsRect().width() &&
+               size.height() <= label->contentsRect().height();
+    }
+    const QAbstractButton *button = qobject_cast<const QAbstractButton *>(widget);
+    return button->width() >= button->sizeHint().width() && button->height() >= 60;
+}
+
+/// Whether a cell's text fits on the two lines that the list draws; \a taken: pixels of the cell for icon,
+/// mark and borders.
+bool fitsCell(const QString &text, int width, int taken)
+{
+    QFont font = qApp->font();
+    font.setPixelSize(22);
+    QTextLayout layout(text, font);
+    QTextOption wrapping;
+    wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(wrapping);
+    layout.beginLayout();
+    int lines = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), ++lines)
+        line.setLineWidth(width - taken);
+    layout.endLayout();
+    return lines <= 2;
+}
+
+QString clippedRow(const VWFunctionSetting &page)
+{
+    const TableListView *list = VwBench::listOf(page);
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+        const TableViewItemDatas datas = VwBench::modelOf(page)->itemDatas(row);
+        const QString value = datas.isSwitch() ? QString() : datas.value(2).toString();
+        if (!fitsCell(datas.text(), list->columnWidth(0), 80) || !fitsCell(value, list->columnWidth(2), 60))
+            return datas.text() + ": " + value;
+        if (!datas.isHeading() && QPixmap(datas.icon()).isNull())
+            return datas.text() + ": no icon";
+        if (!datas.mark().isEmpty() && QPixmap(datas.mark()).isNull())
+            return datas.text() + ": no mark";
+    }
+    return QString();
+}
+
+} // namespace
+
+void TestVwLooks::initTestCase()
+{
+    TestSupport::watchConnects();
+    OrbHost::instance()->addTranslationDir(TRANSLATION_FOLDER);
+}
+
+void TestVwLooks::cleanup()
+{
+    OrbHost::instance()->setLanguage("en");
+}
+
+void TestVwLooks::textsFit_data()
+{
+    QTest::addColumn<int>("scene");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("language");
+    const QSize sizes[] = {QSize(1024, 600), QSize(800, 480)};
+    for (int scene = 0; scene < int(std::size(scenes)); ++scene) {
+        for (const QSize &size : sizes) {
+            for (const char *language : {"en", "de", "zh_CN"})
+                QTest::addRow("%s-%d-%s", scenes[scene].name, size.width(), language)
+                    << scene << size << QString(language);
+        }
+    }
+}
+
+void TestVwLooks::textsFit()
+{
+    QFETCH(int, scene);
+    QFETCH(QSize, size);
+    QFETCH(QString, language);
+    TestScreen screen(size);
+    CanBus_Raise_Volkswagen adapter;
+    QVERIFY(OrbHost::instance()->setLanguage(language));
+    const std::unique_ptr<QWidget> shown = scenes[scene].make(adapter);
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+
+    const QPixmap picture = screen.grab();
+    const QString folder = qEnvironmentVariable("ORB_SCREENSHOTS");
+    if (!folder.isEmpty() && QDir().mkpath(folder))
+        QVERIFY(picture.save(QDir(folder).filePath(QString("%1.png").arg(QTest::currentDataTag()))));
+    QVERIFY(screen.area()->rect().contains(shown->geometry()));
+    int checked = 0;
+    for (const QWidget *widget : shown->findChildren<QWidget *>()) {
+        const bool hasText =
+            qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget);
+        if (!hasText || !widget->isVisible())
+            continue;
+        ++checked;
+        QVERIFY2(fits(widget), qPrintable(widget->objectName() + ": " + widget->property("text").toString()));
+    }
+    QVERIFY(checked > 0);
+    if (const VWFunctionSetting *page = qobject_cast<const VWFunctionSetting *>(shown.get()))
+        QCOMPARE(clippedRow(*page), QString());
+}
+
+CANBUS_TEST_MAIN(TestVwLooks)
+#include "tst_vwlooks.moc"

@@ -1,0 +1,118 @@
+#include "vwbench.h"
+
+#include "unitscreen.h"
+
+#include "orbhost.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QTimer>
+
+namespace VwBench {
+
+void feed(CanBus_Raise_Volkswagen &adapter, const char *packages)
+{
+    for (const QByteArray &package : QByteArray(packages).split('|'))
+        adapter.onRecvMcuProtocol(RaiseWire::frame(package));
+}
+
+TableListView *listOf(const VWFunctionSetting &page)
+{
+    return page.findChild<TableListView *>();
+}
+
+TableViewModel *modelOf(const VWFunctionSetting &page)
+{
+    return static_cast<TableViewModel *>(listOf(page)->model());
+}
+
+int rowOf(const VWFunctionSetting &page, int item)
+{
+    return modelOf(page)->rowOfItem(item);
+}
+
+int rowOf(const VWFunctionSetting &page, const QString &label)
+{
+    const TableViewModel *model = modelOf(page);
+    for (int row = 0; row < model->rowCount(); ++row) {
+        if (model->itemDatas(row).text() == label)
+            return row;
+    }
+    return -1;
+}
+
+QString valueOf(const VWFunctionSetting &page, int row)
+{
+    const TableViewItemDatas datas = modelOf(page)->itemDatas(row);
+    const QVariant value = datas.value(TableViewItemDatas::ValueColumn);
+    if (datas.isSwitch())
+        return value.toBool() ? "on" : "off";
+    return value.toString();
+}
+
+bool tap(VWFunctionSetting &page, int row, int column, const std::function<void(SelectDialog &)> &answer)
+{
+    bool answered = false;
+    QTimer::singleShot(0, qApp, [&] {
+        if (SelectDialog *dialog = openDialog()) {
+            answered = true;
+            if (answer)
+                answer(*dialog);
+            // Whatever the answer was, the test goes on.
+            if (SelectDialog *open = openDialog())
+                open->reject();
+        }
+    });
+    TableListView *list = listOf(page);
+    const QModelIndex index = list->model()->index(row, column);
+    list->scrollTo(index);
+    TestScreen::tap(list->viewport(), list->visualRect(index).center());
+    QCoreApplication::processEvents();
+    return answered;
+}
+
+QStringList sent(TraceRecorder &trace)
+{
+    const QString call = "ProtocolUtils.writeDatas(";
+    QStringList packages;
+    for (const QString &line : trace.take()) {
+        if (line.startsWith(call)) {
+            const QByteArray frame = QByteArray::fromHex(line.mid(call.size()).chopped(1).toLatin1());
+            packages << RaiseWire::parse(frame).packages.join('|');
+        }
+    }
+    return packages;
+}
+
+SelectDialog *openDialog()
+{
+    const QList<QWidget *> windows = OrbHost::instance()->windows();
+    for (QWidget *window : windows) {
+        SelectDialog *dialog = qobject_cast<SelectDialog *>(window);
+        if (dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+void check(SelectDialog &dialog, int index)
+{
+    const QList<QCheckBox *> boxes = dialog.findChildren<QCheckBox *>();
+    if (index < boxes.size())
+        boxes.at(index)->click();
+}
+
+void step(SelectDialog &dialog, int steps)
+{
+    for (int i = 0; i < qAbs(steps); ++i)
+        click(dialog, steps > 0 ? "btnInc" : "btnDec");
+}
+
+void click(const QWidget &window, const char *button)
+{
+    if (QAbstractButton *found = window.findChild<QAbstractButton *>(button))
+        found->click();
+}
+
+} // namespace VwBench
