@@ -1,0 +1,264 @@
+#include "adapterfixture.h"
+#include "unitscreen.h"
+#include "vwbench.h"
+
+#include "volkswagen/flowlayout.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+#include <limits>
+
+/// The select dialog: its three modes, their limits, and how it ends.
+class TestSelectDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void steps_data();
+    void steps();
+    void checks_data();
+    void checks();
+    void severalFlags();
+    void exclusiveChoiceMoves();
+    void showsText();
+    void firstModeWins_data();
+    void firstModeWins();
+    void sizesAndRepeat();
+    void ends_data();
+    void ends();
+    void hidesItsButtons();
+    void flowWraps();
+
+private:
+    TestScreen m_screen;
+};
+
+void TestSelectDialog::steps_data()
+{
+    QTest::addColumn<QList<int>>("slider"); // minimum, maximum, step, value
+    QTest::addColumn<int>("presses");       // "+", or "-" below 0
+    QTest::addColumn<QString>("text");
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    QTest::newRow("starts at its value") << QList<int>{0, 10, 1, 4} << 0 << "4 km";
+    QTest::newRow("starts at the maximum at most") << QList<int>{0, 10, 1, 20} << 0 << "10 km";
+    QTest::newRow("starts at the minimum at least") << QList<int>{5, 10, 1, -3} << 0 << "5 km";
+    QTest::newRow("up") << QList<int>{0, 10, 3, 3} << 1 << "6 km";
+    QTest::newRow("down") << QList<int>{0, 10, 3, 9} << -2 << "3 km";
+    QTest::newRow("a step past the maximum lands on it") << QList<int>{0, 10, 3, 9} << 1 << "10 km";
+    QTest::newRow("a step past the minimum lands on it") << QList<int>{1, 10, 3, 2} << -1 << "1 km";
+    QTest::newRow("does not wrap at the maximum") << QList<int>{0, 10, 5, 10} << 3 << "10 km";
+    QTest::newRow("does not wrap at the minimum") << QList<int>{-10, 10, 5, -10} << -3 << "-10 km";
+    QTest::newRow("widest range, up") << QList<int>{least, most, most, 5} << 1 << "2147483647 km";
+    QTest::newRow("widest range, down") << QList<int>{least, most, most, -5} << -1 << "-2147483648 km";
+    QTest::newRow("limits the wrong way round") << QList<int>{10, 0, 1, 5} << 1 << "10 km";
+}
+
+void TestSelectDialog::steps()
+{
+    QFETCH(QList<int>, slider);
+    QFETCH(int, presses);
+    QFETCH(QString, text);
+    SelectDialog dialog;
+    QCOMPARE(dialog.getSliderValueText(), QString());
+    QCOMPARE(dialog.getSliderValue(), -1);
+    dialog.setSliderMode(slider[0], slider[1], slider[2], slider[3], " km");
+    dialog.show();
+    VwBench::step(dialog, presses);
+    QCOMPARE(dialog.getSliderValueText(), text);
+    QCOMPARE(QString::number(dialog.getSliderValue()) + " km", text);
+    QCOMPARE(dialog.getCheckedIndex(), -1);
+}
+
+void TestSelectDialog::checks_data()
+{
+    QTest::addColumn<QStringList>("items");
+    QTest::addColumn<QString>("checked");
+    QTest::addColumn<int>("index");
+    const QStringList items{"OFF", " Activated", "ESC sport "};
+    QTest::newRow("first") << items << "OFF" << 0;
+    QTest::newRow("blanks around the checked text") << items << "  OFF " << 0;
+    QTest::newRow("blanks around the items") << items << "ESC sport" << 2;
+    QTest::newRow("unknown text") << items << "Sport" << -1;
+    QTest::newRow("nothing known") << items << "" << -1;
+    QTest::newRow("no items") << QStringList() << "OFF" << -1;
+}
+
+void TestSelectDialog::checks()
+{
+    QFETCH(QStringList, items);
+    QFETCH(QString, checked);
+    QFETCH(int, index);
+    SelectDialog dialog;
+    QCOMPARE(dialog.getCheckedIndex(), -1);
+    dialog.setCheckBoxListMode(items, checked, true);
+    QCOMPARE(dialog.getCheckedIndex(), index);
+    const QList<QCheckBox *> boxes = dialog.findChildren<QCheckBox *>();
+    QCOMPARE(int(boxes.size()), int(items.size()));
+    for (int i = 0; i < boxes.size(); ++i) {
+        QCOMPARE(boxes.at(i)->text(), items.at(i));
+        QCOMPARE(boxes.at(i)->focusPolicy(), Qt::StrongFocus);
+    }
+}
+
+void TestSelectDialog::severalFlags()
+{
+    SelectDialog dialog;
+    dialog.setCheckBoxListMode({"a", "b", "c"}, "c", false);
+    dialog.show();
+    VwBench::check(dialog, 1);
+    QCOMPARE(dialog.getCheckedIndex(), 1);
+    QVERIFY(dialog.findChildren<QCheckBox *>().at(2)->isChecked());
+    VwBench::check(dialog, 1);
+    VwBench::check(dialog, 2);
+    QCOMPARE(dialog.getCheckedIndex(), -1);
+}
+
+void TestSelectDialog::exclusiveChoiceMoves()
+{
+    SelectDialog dialog;
+    dialog.setCheckBoxListMode({"a", "b", "c"}, "c", true);
+    dialog.show();
+    VwBench::check(dialog, 0);
+    QCOMPARE(dialog.getCheckedIndex(), 0);
+    VwBench::check(dialog, 0);
+    QCOMPARE(dialog.getCheckedIndex(), 0);
+}
+
+void TestSelectDialog::showsText()
+{
+    SelectDialog dialog;
+    dialog.setWindowTitle("Factory settings");
+    dialog.setContentText("Are you sure?");
+    QCOMPARE(dialog.findChild<QLabel *>("txtTitle")->text(), QString("Factory settings"));
+    QCOMPARE(static_cast<QDialog &>(dialog).windowTitle(), QString());
+    const QLabel *content = dialog.findChild<QLabel *>("labelContent");
+    QCOMPARE(content->text(), QString("Are you sure?"));
+    QVERIFY(content->wordWrap());
+    QCOMPARE(content->alignment(), Qt::AlignCenter);
+}
+
+void TestSelectDialog::firstModeWins_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::newRow("text") << 0;
+    QTest::newRow("check boxes") << 1;
+    QTest::newRow("slider") << 2;
+    QTest::newRow("layout") << 3;
+}
+
+void TestSelectDialog::firstModeWins()
+{
+    QFETCH(int, first);
+    SelectDialog dialog;
+    for (int mode : {first, 0, 1, 2, 3}) {
+        if (mode == 0)
+            dialog.setContentText("text");
+        else if (mode == 1)
+            dialog.setCheckBoxListMode({"a", "b"}, "b", true);
+        else if (mode == 2)
+            dialog.setSliderMode(0, 10, 1, 5, "");
+        else
+            dialog.setContentLayout(new QHBoxLayout);
+    }
+    QCOMPARE(dialog.findChild<QLabel *>("labelContent") != nullptr, first == 0);
+    QCOMPARE(dialog.getCheckedIndex(), first == 1 ? 1 : -1);
+    QCOMPARE(dialog.getSliderValue(), first == 2 ? 5 : -1);
+}
+
+void TestSelectDialog::sizesAndRepeat()
+{
+    SelectDialog dialog;
+    dialog.setSliderMode(0, 10, 1, 5, " s");
+    dialog.show();
+    const struct
+    {
+        const char *name;
+        QSize smallest;
+        bool repeats;
+        bool enabled;
+    } buttons[] = {{"btnDec", QSize(100, 60), true, true},
+                   {"btnValue", QSize(300, 60), false, false},
+                   {"btnInc", QSize(100, 60), true, true},
+                   {"btnOk", QSize(150, 60), false, true},
+                   {"btnCancel", QSize(150, 60), false, true}};
+    for (const auto &expected : buttons) {
+        const QPushButton *button = dialog.findChild<QPushButton *>(expected.name);
+        QVERIFY2(button, expected.name);
+        QCOMPARE(button->minimumSize().expandedTo(expected.smallest), button->minimumSize());
+        QVERIFY(button->size().expandedTo(expected.smallest) == button->size());
+        QCOMPARE(button->autoRepeat(), expected.repeats);
+        QCOMPARE(button->isEnabled(), expected.enabled);
+        if (expected.repeats) {
+            QCOMPARE(button->autoRepeatDelay(), 500);
+            QCOMPARE(button->autoRepeatInterval(), 200);
+        }
+    }
+    QVERIFY(dialog.findChild<QPushButton *>("btnDec")->x() < dialog.findChild<QPushButton *>("btnInc")->x());
+}
+
+void TestSelectDialog::ends_data()
+{
+    QTest::addColumn<QByteArray>("by");
+    QTest::addColumn<int>("result");
+    QTest::newRow("OK") << QByteArray("btnOk") << 1;
+    QTest::newRow("Cancel") << QByteArray("btnCancel") << 0;
+    QTest::newRow("the unit's Back key") << QByteArray() << 0;
+}
+
+void TestSelectDialog::ends()
+{
+    QFETCH(QByteArray, by);
+    QFETCH(int, result);
+    SelectDialog dialog;
+    dialog.setContentText("text");
+    QTimer::singleShot(0, &dialog, [&dialog, by] {
+        if (by.isEmpty())
+            dialog.back();
+        else
+            VwBench::click(dialog, by);
+    });
+    QCOMPARE(dialog.exec(), result);
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestSelectDialog::hidesItsButtons()
+{
+    SelectDialog dialog;
+    dialog.setContentText("text");
+    dialog.hideButtons();
+    dialog.show();
+    for (const char *name : {"lineBottom", "btnOk", "btnCancel"})
+        QVERIFY2(!dialog.findChild<QWidget *>(name)->isVisible(), name);
+    QVERIFY(dialog.findChild<QWidget *>("lineTop")->isVisible());
+}
+
+void TestSelectDialog::flowWraps()
+{
+    QWidget parent;
+    FlowLayout *flow = new FlowLayout(20, 20, 20, &parent);
+    QList<QWidget *> tiles;
+    for (int i = 0; i < 4; ++i) {
+        tiles << new QWidget;
+        tiles.last()->setFixedSize(100, 60);
+        flow->addWidget(tiles.last());
+    }
+    QCOMPARE(flow->heightForWidth(260), 2 * 60 + 20 + 40);
+    QCOMPARE(flow->heightForWidth(259), 4 * 60 + 3 * 20 + 40);
+    QCOMPARE(flow->heightForWidth(1000), 60 + 40);
+    parent.resize(260, 300);
+    flow->setGeometry(parent.rect());
+    QCOMPARE(tiles.at(1)->pos(), QPoint(140, 20));
+    QCOMPARE(tiles.at(2)->pos(), QPoint(20, 100));
+    // A tile wider than the room gets the room.
+    flow->setGeometry(QRect(0, 0, 10, 10));
+    delete flow->takeAt(3);
+    QVERIFY(!flow->takeAt(3) && !flow->itemAt(7));
+}
+
+CANBUS_TEST_MAIN(TestSelectDialog)
+#include "tst_selectdialog.moc"
