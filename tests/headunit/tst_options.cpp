@@ -17,6 +17,7 @@ private slots:
     void wrongUsage();
     void cannotRun_data();
     void cannotRun();
+    void noDisplay();
     void goesOnWithoutALink_data();
     void goesOnWithoutALink();
 };
@@ -159,6 +160,19 @@ void TestOptions::cannotRun()
     const QStringList lines = run.errors().split('\n').filter("headunit: ");
     QCOMPARE(lines.size(), 1);
     QVERIFY2(lines.first().contains(reason), qPrintable(lines.first()));
+}
+
+void TestOptions::noDisplay()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        environment.remove(name);
+    }
+    HeadUnitRun run;
+    run.process().setProcessEnvironment(environment);
+    QVERIFY(run.start({}));
+    QCOMPARE(run.finish(), 1);
+    QCOMPARE(run.errors(), QString("headunit: no display; use --headless\n"));
 }
 
 void TestOptions::goesOnWithoutALink_data()

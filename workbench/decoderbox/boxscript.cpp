@@ -3,61 +3,33 @@
 #include "boxcommand.h"
 #include "decoderbox.h"
 
-#include <QSocketNotifier>
-
-#include <unistd.h>
-
 namespace {
 const int longestWaitMs = 600000;
-const int longestLine = 64 * 1024;
 } // namespace
 
 BoxScript::BoxScript(DecoderBox *box, int descriptor, QObject *parent)
-    : QObject(parent)
-    , m_box(box)
-    , m_descriptor(descriptor)
-    , m_notifier(new QSocketNotifier(descriptor, QSocketNotifier::Read, this))
+    : QObject(parent), m_box(box), m_lines(descriptor)
 {
     m_waitTimer.setSingleShot(true);
     connect(&m_waitTimer, &QTimer::timeout, this, &BoxScript::work);
-    connect(m_notifier, &QSocketNotifier::activated, this, &BoxScript::read);
-}
-
-void BoxScript::read()
-{
-    char bytes[4096];
-    const ssize_t count = ::read(m_descriptor, bytes, sizeof bytes);
-    if (count > 0) {
-        m_unread.append(bytes, int(count));
-    } else {
-        m_notifier->setEnabled(false);
-        m_isAtEnd = true;
-        m_unread += '\n';
-    }
-    for (int end = m_unread.indexOf('\n'); end >= 0; end = m_unread.indexOf('\n')) {
-        m_lines.enqueue(QString::fromUtf8(m_unread.left(end)).trimmed());
-        m_unread.remove(0, end + 1);
-    }
-    if (m_unread.size() > longestLine) {
-        m_unread.clear();
-        emit answered("error: line too long");
-    }
-    work();
+    connect(&m_lines, &DescriptorLines::arrived, this, &BoxScript::work);
 }
 
 void BoxScript::work()
 {
-    while (!m_lines.isEmpty() && !m_waitTimer.isActive()) {
-        const QString line = m_lines.dequeue();
-        if (line == "quit") {
-            m_notifier->setEnabled(false);
-            m_isAtEnd = true;
-            m_lines.clear();
+    while (m_lines.hasLine() && !m_waitTimer.isActive()) {
+        QString line;
+        const bool isWhole = m_lines.takeLine(&line);
+        line = line.trimmed();
+        if (!isWhole) {
+            emit answered("error: line too long");
+        } else if (line == "quit") {
+            m_lines.stop();
         } else if (!line.isEmpty() && !line.startsWith('#')) {
             emit answered(answer(line));
         }
     }
-    if (m_isAtEnd && m_lines.isEmpty() && !m_waitTimer.isActive()) {
+    if (m_lines.isAtEnd() && !m_waitTimer.isActive()) {
         emit finished();
     }
 }

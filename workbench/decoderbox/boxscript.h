@@ -1,12 +1,12 @@
 #ifndef BOXSCRIPT_H
 #define BOXSCRIPT_H
 
+#include "descriptorlines.h"
+
 #include <QObject>
-#include <QQueue>
 #include <QTimer>
 
 class DecoderBox;
-class QSocketNotifier;
 
 /// Orders to a box from a file descriptor, one a line, each answered by one line. Besides what BoxCommand
 /// reads:
@@ -31,17 +31,12 @@ signals:
     void finished();
 
 private:
-    void read();
     void work();
     QString answer(const QString &line);
 
     DecoderBox *m_box;
-    int m_descriptor;
-    QSocketNotifier *m_notifier;
-    QByteArray m_unread; // the line that is not yet whole
-    QQueue<QString> m_lines;
+    DescriptorLines m_lines;
     QTimer m_waitTimer;
-    bool m_isAtEnd = false;
 };
 
 #endif

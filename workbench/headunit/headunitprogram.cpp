@@ -74,7 +74,7 @@ HeadUnitProgram::~HeadUnitProgram()
 bool HeadUnitProgram::begin(QString *error)
 {
     quitOnSignals(this);
-    if (!openTrace(error)) {
+    if (!openTrace(error) || !openScript(error)) {
         return false;
     }
     configureUnit();
@@ -87,7 +87,8 @@ bool HeadUnitProgram::begin(QString *error)
     if (!m_unit->loadPlugin(plugin, error)) {
         return false;
     }
-    return openScript(error);
+    startScript();
+    return true;
 }
 
 QString HeadUnitProgram::ownPlugin()
@@ -195,13 +196,15 @@ void HeadUnitProgram::openScreen()
 
 bool HeadUnitProgram::openScript(QString *error)
 {
-    if (m_options.script.isEmpty()) {
-        return true;
-    }
-    if (!open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error)) {
-        return false;
+    return m_options.script.isEmpty() ||
+           open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error);
+}
+
+void HeadUnitProgram::startScript()
+{
+    if (!m_scriptFile.isOpen()) {
+        return;
     }
     m_script.reset(new ScriptRunner(m_scriptFile.handle(), m_unit.get(), m_writer.get()));
     connect(m_script.get(), &ScriptRunner::finished, qApp, &QCoreApplication::quit);
-    return true;
 }

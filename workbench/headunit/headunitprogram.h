@@ -41,6 +41,7 @@ private:
     void playOnce();
     void openScreen();
     bool openScript(QString *error);
+    void startScript();
 
     HeadUnitOptions m_options;
     QFile m_traceFile;
