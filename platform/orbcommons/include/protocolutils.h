@@ -78,7 +78,7 @@ private Q_SLOTS:
     void onDeviceLost();
     void onDeviceDestroyed();
     void onPollTimer();
-    void onPaceTimer();
+    void onPackageSent(const QByteArray &package);
     void onReopenTimer();
 
 private:
@@ -87,8 +87,6 @@ private:
     bool holdsPackageBehind();
     void emitPackage(const char *bytes, int size);
     void emitPackageWatched(const char *bytes, int size);
-    void sendQueued();
-    void writeNow(const QByteArray &bytes);
 
     Q_DISABLE_COPY(ProtocolUtils)
     class Private;

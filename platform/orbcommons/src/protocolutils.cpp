@@ -1,11 +1,12 @@
 #include "protocolutils.h"
 
 #include "orbtrace.h"
+#include "pacedwriter.h"
+#include "streamage.h"
 
 #include <QDebug>
 #include <QElapsedTimer>
 #include <QIODevice>
-#include <QQueue>
 #include <QTimer>
 
 #include <cstring>
@@ -15,9 +16,6 @@ namespace {
 // One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
 const int ReadSize = 4096;
 const int LongestPackage = 512;
-const int QueueLimit = 4096;
-// Bytes that a device would not take at once; an acknowledgement past this is dropped.
-const int UnsentLimit = 64 * 1024;
 
 // Boxes want their acknowledgement within 10 ms. A device that announces its data needs the poll only as a
 // net.
@@ -26,20 +24,11 @@ const int IdlePollInterval = 8;
 const int AnnouncedPollInterval = 100;
 const int BusyTime = 250;
 
-const int CandidateLifetime = 500;
-const int MarkInterval = 20;
 // No package pauses for so long in its middle.
 const int PauseTime = 40;
 // A GUI thread that was busy for longer than this has not been listening; such time ages no candidate.
 const int LongestPollGap = 50;
 const int ReopenInterval = 1000;
-
-// Everything before this place in the stream was read at that time or earlier.
-struct ReadMark
-{
-    qint64 time;
-    qint64 streamEnd;
-};
 
 } // namespace
 
@@ -49,7 +38,7 @@ public:
     explicit Private(ProtocolUtils *parent)
         : poll(new QTimer(parent))
         , reopen(new QTimer(parent))
-        , pace(new QTimer(parent))
+        , writer(new PacedWriter(parent))
         , device(nullptr)
         , isOpen(false)
         , openMode(QIODevice::ReadWrite)
@@ -60,11 +49,8 @@ public:
         , candidateSize(0)
         , needed(0)
         , streamBase(0)
-        , listenTime(0)
         , quietTime(0)
         , emitting(false)
-        , queueFull(false)
-        , interval(0)
         , debug(false)
     {}
 
@@ -99,27 +85,9 @@ public:
         return bytes + rest;
     }
 
-    // Notes what has been read by now; called from the poll, so one mark stands for a whole poll interval.
-    void mark(qint64 streamEnd)
-    {
-        if (marks.isEmpty() || listenTime - marks.last().time >= MarkInterval) {
-            const ReadMark now = {listenTime, streamEnd};
-            marks.enqueue(now);
-        }
-        while (marks.size() > 1 && marks.at(1).time <= listenTime - CandidateLifetime)
-            marks.dequeue();
-    }
-
-    // Whether the byte at the cursor was read longer ago than a package may take to arrive.
-    bool isStale() const
-    {
-        return !marks.isEmpty() && marks.first().time <= listenTime - CandidateLifetime &&
-               streamBase + cursor < marks.first().streamEnd;
-    }
-
     QTimer *const poll;
     QTimer *const reopen;
-    QTimer *const pace;
+    PacedWriter *const writer;
 
     QIODevice *device;
     bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
@@ -132,19 +100,12 @@ public:
     int candidateSize; // length of the unfinished package at the cursor, 0 while it is not known
     int needed;        // bytes from the cursor on without which there is nothing to frame
     qint64 streamBase; // place of recvBuffer[0] in all that was ever read
-    qint64 listenTime; // ms during which the framer could have read
     int quietTime;     // ms without data
     QElapsedTimer sincePoll;
-    QQueue<ReadMark> marks;
+    StreamAge age;
 
     QByteArray emission; // carries each package to the slots, and is used again while nobody keeps it
     bool emitting;
-
-    QQueue<QByteArray> queue;
-    bool queueFull;
-    QByteArray unsent; // the part of a package that the device did not take
-    int interval;
-    QElapsedTimer sinceWrite;
 
     QString tag;
     bool debug;
@@ -155,10 +116,10 @@ ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private
 {
     m_d->clock.start();
     m_d->reopen->setInterval(ReopenInterval);
-    m_d->pace->setSingleShot(true);
     connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
     connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
-    connect(m_d->pace, SIGNAL(timeout()), this, SLOT(onPaceTimer()));
+    connect(m_d->writer, SIGNAL(sent(QByteArray)), this, SLOT(onPackageSent(QByteArray)));
+    connect(m_d->writer, SIGNAL(failed()), this, SLOT(onDeviceLost()));
 }
 
 ProtocolUtils::~ProtocolUtils()
@@ -173,12 +134,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     m_d->device = device;
     m_d->isOpen = device && device->isOpen();
     m_d->announces = false;
-    m_d->cursor = 0;
-    m_d->candidateSize = 0;
-    m_d->needed = 0;
-    m_d->marks.clear();
-    m_d->unsent.clear();
-    recvBuffer.resize(0);
+    m_d->writer->setDevice(nullptr);
     recvBuffer.reserve(ReadSize + LongestPackage);
     m_d->poll->stop();
     m_d->reopen->stop();
@@ -197,12 +153,17 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     }
 }
 
+// A device has been opened: what the one before left unfinished does not go on here.
 void ProtocolUtils::startPolling()
 {
+    m_d->cursor = static_cast<int>(recvBuffer.size());
+    m_d->candidateSize = 0;
+    m_d->needed = 0;
+    m_d->age.clear();
     m_d->quietTime = 0;
     m_d->sincePoll.start();
     m_d->setPollInterval(BusyPollInterval);
-    sendQueued();
+    m_d->writer->setDevice(m_d->device);
 }
 
 // ---------------------------------------------------------------------------------------------- reading
@@ -247,8 +208,7 @@ void ProtocolUtils::framePackages()
     int size = p->candidateSize;
     p->candidateSize = 0;
     p->needed = minimum;
-    forever
-    {
+    for (;;) {
         if (size == 0) {
             if (recvBuffer.size() - cursor < minimum)
                 break;
@@ -335,14 +295,14 @@ void ProtocolUtils::onPollTimer()
         return;
 
     const int elapsed = static_cast<int>(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
-    m_d->listenTime += elapsed;
     m_d->quietTime = m_d->received ? 0 : qMin(m_d->quietTime + elapsed, BusyTime);
     m_d->received = false;
-    m_d->mark(m_d->streamBase + recvBuffer.size());
+    m_d->age.advance(elapsed, m_d->streamBase + recvBuffer.size());
     // A box says what is not acknowledged again after 100 ms, and only three times: it must not wait for a
     // candidate that its own repetitions fill up.
     const bool pause = m_d->quietTime >= PauseTime && m_d->quietTime - elapsed < PauseTime;
-    while (recvBuffer.size() > m_d->cursor && (m_d->isStale() || (pause && holdsPackageBehind()))) {
+    while (recvBuffer.size() > m_d->cursor &&
+           (m_d->age.isStale(m_d->streamBase + m_d->cursor) || (pause && holdsPackageBehind()))) {
         ++m_d->cursor;
         m_d->candidateSize = 0;
         framePackages();
@@ -357,75 +317,27 @@ void ProtocolUtils::onPollTimer()
 
 void ProtocolUtils::setWritePackageIntval(int milliseconds)
 {
-    m_d->interval = qMax(0, milliseconds);
+    m_d->writer->setInterval(milliseconds);
 }
 
 void ProtocolUtils::writeDatas(const QByteArray &package)
 {
     if (OrbTrace::listener)
         OrbTrace::listener->called("ProtocolUtils", "writeDatas", QVariantList() << package);
-    if (m_d->queue.size() >= QueueLimit) {
-        if (!m_d->queueFull)
-            qWarning("ProtocolUtils: %d packages wait to be written, further ones are refused", QueueLimit);
-        m_d->queueFull = true;
-        return;
-    }
-    m_d->queueFull = false;
-    m_d->queue.enqueue(package);
-    sendQueued();
+    m_d->writer->enqueue(package);
 }
 
 void ProtocolUtils::writeDatas_direct(const QByteArray &bytes)
 {
     if (OrbTrace::listener)
         OrbTrace::listener->called("ProtocolUtils", "writeDatas_direct", QVariantList() << bytes);
-    if (m_d->isOpen && m_d->unsent.size() < UnsentLimit)
-        writeNow(bytes);
+    m_d->writer->writeNow(bytes);
 }
 
-// Sends what may leave by now and arms the timer for the rest.
-void ProtocolUtils::sendQueued()
+void ProtocolUtils::onPackageSent(const QByteArray &package)
 {
-    while (m_d->isOpen && !m_d->queue.isEmpty()) {
-        const qint64 wait = m_d->sinceWrite.isValid() ? m_d->interval - m_d->sinceWrite.elapsed() : 0;
-        if (wait > 0 || !m_d->unsent.isEmpty()) {
-            if (!m_d->pace->isActive())
-                m_d->pace->start(static_cast<int>(qMax<qint64>(wait, 1)));
-            return;
-        }
-        // It leaves the queue first: a write that fails half-way must not send it a second time.
-        const QByteArray package = m_d->queue.dequeue();
-        m_d->sinceWrite.start();
-        if (m_d->debug)
-            m_d->log("send", package);
-        writeNow(package);
-    }
-}
-
-void ProtocolUtils::onPaceTimer()
-{
-    if (m_d->isOpen && !m_d->unsent.isEmpty()) {
-        const QByteArray rest = m_d->unsent;
-        m_d->unsent.clear();
-        writeNow(rest);
-    }
-    sendQueued();
-}
-
-// Writes \a bytes behind whatever the device has not taken yet, so that packages never interleave.
-void ProtocolUtils::writeNow(const QByteArray &bytes)
-{
-    if (!m_d->unsent.isEmpty()) {
-        m_d->unsent += bytes;
-        return;
-    }
-    const qint64 written = m_d->device->write(bytes);
-    if (written < 0) {
-        onDeviceLost();
-    } else if (written < bytes.size()) {
-        m_d->unsent = bytes.mid(static_cast<int>(written));
-        m_d->pace->start(BusyPollInterval);
-    }
+    if (m_d->debug)
+        m_d->log("send", package);
 }
 
 // ---------------------------------------------------------------------------------------- device states
@@ -437,8 +349,7 @@ void ProtocolUtils::onDeviceLost()
     qWarning("ProtocolUtils: lost the device (%s), trying again every second",
              qPrintable(m_d->device->errorString()));
     m_d->poll->stop();
-    m_d->pace->stop();
-    m_d->unsent.clear();
+    m_d->writer->setDevice(nullptr);
     m_d->reopen->start();
     m_d->isOpen = false;
     m_d->device->close();
