@@ -1,6 +1,7 @@
 #include "adapterfixture.h"
 #include "unitscreen.h"
 #include "vwbench.h"
+#include "vwmenu.h"
 
 #include "volkswagen/vwsettingstable.h"
 #include "volkswagen/vwtexts.h"
@@ -138,37 +139,18 @@ void TestVwReplies::fields_data()
                         const char *texts) {
         QTest::newRow(name) << page << item << subType << byte << shift << width << QString(texts).split('|');
     };
-    row("Esc system", 782, 16, 0x10, 1, 0, 8, "OFF|Activated|ESC sport");
-    row("warning speed", 771, 33, 0x20, 2, 0, 8, " km/h");
-    row("tyre pressure monitoring", 771, 35, 0x20, 3, 0, 8, "Comfortable|Standard|Full load");
-    row("drive program", 773, 55, 0x31, 2, 0, 2, "|Eco|Normal|Sport");
-    row("distance", 773, 56, 0x31, 2, 4, 4, "Very close|Close|Far|Very far");
-    row("front volume", 774, 65, 0x40, 2, 0, 4, "");
-    row("front tone", 774, 66, 0x40, 2, 4, 4, "");
-    row("rear volume", 774, 67, 0x40, 3, 0, 4, "");
-    row("rear tone", 774, 68, 0x40, 3, 4, 4, "");
-    row("switch-on time", 775, 80, 0x50, 1, 0, 3, "Early|Medium|Late");
-    row("instruments", 775, 83, 0x50, 2, 0, 8, " %");
-    row("coming home", 775, 84, 0x50, 3, 0, 8, " s");
-    row("leaving home", 775, 85, 0x50, 4, 0, 8, " s");
-    row("travel mode", 775, 86, 0x51, 1, 0, 1, "Right traffic|Left traffic");
-    row("headlight distance", 775, 95, 0x51, 1, 1, 3, "");
-    row("door light", 775, 87, 0x51, 2, 0, 8, " %");
-    row("footwell light", 775, 88, 0x51, 3, 0, 8, " %");
-    row("head light", 775, 91, 0x52, 1, 0, 8, " %");
-    row("front light", 775, 92, 0x52, 2, 0, 8, " %");
-    row("all light", 775, 93, 0x52, 4, 0, 8, " %");
-    row("light colour", 775, 94, 0x52, 3, 0, 8, "OFF|White|Orange|Blue");
-    row("convenience opening", 777, 112, 0x70, 1, 0, 3, "OFF|Driver window|All window");
-    row("door unlocking", 777, 113, 0x70, 1, 4, 3, "Vehicle side|Single door|All doors");
-    row("distance unit", 780, 144, 0x90, 1, 0, 1, "km|mi");
-    row("speed unit", 780, 145, 0x90, 1, 1, 1, "km/h|mph");
-    row("temperature unit", 780, 146, 0x90, 1, 2, 1, "℃|℉");
-    row("volume unit", 780, 147, 0x90, 1, 4, 3, "L|gal(UK)|gal(US)");
-    row("consumption unit", 780, 148, 0x90, 2, 0, 3, "mpg(UK)|L/100km|mpg(US)|km/L");
-    row("pressure unit", 780, 149, 0x90, 2, 4, 3, "bar|psi|kPa");
-    row("driving mode", 785, 208, 0xA0, 1, 0, 4,
-        "Normal|Sport|ECO|Individual|Snow|Off-road|Off-road individual");
+    for (const VwMenu::Row &field : VwMenu::rows()) {
+        QStringList texts;
+        if (field.kind == VwMenu::Number)
+            texts << QString(" " + field.options().at(3)).chopped(field.options().at(3).isEmpty() ? 1 : 0);
+        else if (field.kind == VwMenu::Options)
+            for (int code = 0; code < 8; ++code)
+                texts << field.textOf(code);
+        else
+            continue;
+        QTest::newRow(field.label) << field.page << field.item << field.subType << field.byte << field.shift
+                                   << field.width << texts;
+    }
     row("driving mode of the key", 785, 208, 0xB1, 1, 0, 3,
         "Normal|Sport|ECO|Individual|Snow|Off-road|Off-road individual");
     row("steering", 785, 209, 0xA0, 2, 0, 4, "Normal|Sport");

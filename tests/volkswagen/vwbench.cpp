@@ -65,6 +65,7 @@ bool tap(VWFunctionSetting &page, int row, int column, const std::function<void(
         }
     });
     TableListView *list = listOf(page);
+    list->doItemsLayout(); // rows that have just come are not laid out yet
     const QModelIndex index = list->model()->index(row, column);
     list->scrollTo(index);
     TestScreen::tap(list->viewport(), list->visualRect(index).center());
