@@ -83,8 +83,6 @@ VolkswagenWindow::VolkswagenWindow(CanBus_Raise_Volkswagen *adapter, QWidget *pa
         m_tyreFrames[i]->hide();
         m_ui->carPicture->setTyreFrame(static_cast<Vw::Tyre>(i), m_tyreFrames[i]);
     }
-    // This car's box has nothing to show behind the button.
-    m_ui->btnCarStatus->hide();
 
     connect(adapter, SIGNAL(recvCanDatas(quint8, const quint8 *, quint8)), this,
             SLOT(onRecvCanDatas(quint8, const quint8 *, quint8)));
@@ -126,6 +124,7 @@ void VolkswagenWindow::on_btnTPMS_clicked()
     showTab(m_ui->tabTPMS);
 }
 
+// The car's box has nothing to show here; the button is drawn as one that has no use.
 void VolkswagenWindow::on_btnCarStatus_clicked() {}
 
 void VolkswagenWindow::on_btnSetting_clicked()

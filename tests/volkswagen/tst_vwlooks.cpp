@@ -198,7 +198,7 @@ bool fits(const QWidget *widget)
                size.height() <= label->contentsRect().height();
     }
     const QAbstractButton *button = qobject_cast<const QAbstractButton *>(widget);
-    return button->width() >= button->sizeHint().width() && button->height() >= 60;
+    return button->size().expandedTo(button->sizeHint()) == button->size() && button->height() >= 60;
 }
 
 /// Whether a cell's text fits on the two lines that the list draws; \a taken: pixels of the cell for icon,
