@@ -7,12 +7,9 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPointer>
-
-#include <memory>
 
 /// Walks the whole settings menu under a finger: every row of every page, its dialog, the command that goes
-/// out, the reply, and the text that then stands in the row. And what may happen while a dialog is open.
+/// out, the reply, and the text that then stands in the row.
 class TestVwMenu : public QObject
 {
     Q_OBJECT
@@ -22,77 +19,22 @@ private Q_SLOTS:
     void pages();
     void rows_data();
     void rows();
-    void quirk_vw_warning_speed();
-    void individualModes_data();
-    void individualModes();
-    void profileRowsFollowTheCar();
-    void staleDialog_data();
-    void staleDialog();
-    void secondPageOfAKind();
-    void languageChangesWhileOpen();
-    void reportRowsDoNothing();
 };
 
 namespace {
 
+using VwBench::cancel;
+using VwBench::choose;
+using VwBench::commands;
+using VwBench::Page;
 using VwMenu::Row;
-
-struct Bench
-{
-    explicit Bench(unsigned int pageId)
-        : adapter(new CanBus_Raise_Volkswagen), page(new VWFunctionSetting(pageId, adapter.get()))
-    {
-        page->show();
-        sent();
-    }
-    ~Bench()
-    {
-        delete page;
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    QStringList sent() { return VwBench::sent(trace); }
-    int rowOf(int item) const { return VwBench::rowOf(*page, item); }
-    QString valueOf(int item) const { return VwBench::valueOf(*page, rowOf(item)); }
-    bool tap(int item, const std::function<void(SelectDialog &)> &answer = nullptr, int column = 0)
-    {
-        return VwBench::tap(*page, rowOf(item), column, answer);
-    }
-    void feed(const QByteArray &data) { adapter->onRecvMcuProtocol(RaiseWire::frame(0x40, data)); }
-
-    TestScreen screen;
-    TraceRecorder trace;
-    std::unique_ptr<CanBus_Raise_Volkswagen> adapter;
-    QPointer<VWFunctionSetting> page;
-};
-
-QString command(int item, int value)
-{
-    return "c6 " + QByteArray(1, char(item)).toHex() + ' ' + QByteArray(1, char(value)).toHex();
-}
-
-QStringList commands(int item, int value)
-{
-    return QStringList{command(item, value)};
-}
 
 QString titleOf(const SelectDialog &dialog)
 {
     return dialog.findChild<QLabel *>("txtTitle")->text();
 }
 
-void cancel(SelectDialog &dialog)
-{
-    VwBench::click(dialog, "btnCancel");
-}
-
-void choose(SelectDialog &dialog, int index)
-{
-    VwBench::check(dialog, index);
-    VwBench::click(dialog, "btnOk");
-}
-
-void walkSwitch(Bench &bench, const Row &row)
+void walkSwitch(Page &bench, const Row &row)
 {
     QVERIFY(!bench.tap(row.item, nullptr, 0));
     QCOMPARE(bench.sent(), QStringList());
@@ -109,7 +51,7 @@ void walkSwitch(Bench &bench, const Row &row)
     }
 }
 
-void walkOptions(Bench &bench, const Row &row)
+void walkOptions(Page &bench, const Row &row)
 {
     const QStringList options = row.options();
     QVERIFY(bench.tap(row.item, cancel));
@@ -144,7 +86,7 @@ void walkOptions(Bench &bench, const Row &row)
     }
 }
 
-void walkNumber(Bench &bench, const Row &row)
+void walkNumber(Page &bench, const Row &row)
 {
     const QStringList range = row.options();
     const int minimum = range.at(0).toInt();
@@ -183,7 +125,7 @@ void walkNumber(Bench &bench, const Row &row)
     QCOMPARE(bench.sent(), commands(row.item, maximum));
 }
 
-void walkConfirmed(Bench &bench, const Row &row)
+void walkConfirmed(Page &bench, const Row &row)
 {
     const bool factory = row.page == 781;
     const QString label = row.label;
@@ -198,7 +140,7 @@ void walkConfirmed(Bench &bench, const Row &row)
     QCOMPARE(bench.sent(), commands(row.item, 1));
 }
 
-void walkLink(Bench &bench, const Row &row)
+void walkLink(Page &bench, const Row &row)
 {
     QVERIFY(!VwBench::tap(*bench.page, VwBench::rowOf(*bench.page, QString(row.label)), 0));
     VWFunctionSetting *opened = qobject_cast<VWFunctionSetting *>(OrbHost::instance()->frontWindow());
@@ -285,7 +227,7 @@ void TestVwMenu::rows()
 {
     QFETCH(int, index);
     const Row row = VwMenu::rows().at(index);
-    Bench bench(row.page);
+    Page bench(row.page);
     switch (row.kind) {
     case VwMenu::Link:
         walkLink(bench, row);
@@ -312,179 +254,6 @@ void TestVwMenu::rows()
             QVERIFY(!VwBench::tap(*bench.page, VwBench::rowOf(*bench.page, QString(row.label)), column));
         QCOMPARE(bench.sent(), QStringList());
         break;
-    }
-}
-
-void TestVwMenu::quirk_vw_warning_speed()
-{
-    Bench bench(771);
-    // Before the car has told its value there is none to send.
-    QVERIFY(bench.tap(33, cancel));
-    QCOMPARE(bench.sent(), QStringList());
-    bench.feed(QByteArray::fromHex("20017800"));
-    QVERIFY(bench.tap(33, [](SelectDialog &dialog) {
-        VwBench::step(dialog, 3);
-        cancel(dialog);
-    }));
-    QCOMPARE(bench.sent(), commands(33, 120));
-    bench.feed(QByteArray::fromHex("20034b00"));
-    QVERIFY(bench.tap(33, [](SelectDialog &dialog) {
-        QCOMPARE(dialog.getSliderValueText(), QString("75 mph"));
-        VwBench::step(dialog, 1);
-        VwBench::click(dialog, "btnOk");
-    }));
-    QCOMPARE(bench.sent(), commands(33, 80));
-    QCOMPARE(bench.valueOf(33), QString("80 mph"));
-}
-
-void TestVwMenu::individualModes_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("item");
-    QTest::addColumn<int>("choice"); // -1: a row without a dialog
-    QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("rowsGo");
-    QTest::newRow("steering") << 3 << 209 << 1 << 1 << true;
-    QTest::newRow("engine") << 3 << 210 << 2 << 2 << true;
-    QTest::newRow("climate, first option") << 3 << 211 << 0 << 0 << false;
-    QTest::newRow("climate, second option") << 3 << 211 << 1 << 2 << false;
-    QTest::newRow("front lighting") << 3 << 213 << 1 << 1 << true;
-    QTest::newRow("reset") << 3 << 212 << -1 << 1 << false;
-    QTest::newRow("off-road climate, first option") << 6 << 228 << 0 << 0 << false;
-    QTest::newRow("off-road climate, second option") << 6 << 228 << 1 << 2 << false;
-    QTest::newRow("off-road reset") << 6 << 232 << -1 << 1 << false;
-}
-
-void TestVwMenu::individualModes()
-{
-    QFETCH(int, mode);
-    QFETCH(int, item);
-    QFETCH(int, choice);
-    QFETCH(int, code);
-    QFETCH(bool, rowsGo);
-    Bench bench(785);
-    const QByteArray reply = QByteArray::fromHex("a0000000").replace(1, 1, QByteArray(1, char(mode)));
-    bench.feed(reply);
-    const int rows = VwBench::modelOf(*bench.page)->rowCount();
-    QCOMPARE(bench.tap(item, [&](SelectDialog &dialog) { cancel(dialog); }), choice >= 0);
-    QCOMPARE(bench.sent(), choice >= 0 ? QStringList() : commands(item, code));
-    QCOMPARE(bench.tap(item, [&](SelectDialog &dialog) { choose(dialog, choice); }), choice >= 0);
-    QCOMPARE(bench.sent(), commands(item, code));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rowsGo ? 3 : rows);
-    bench.feed(reply);
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rows);
-}
-
-void TestVwMenu::profileRowsFollowTheCar()
-{
-    Bench bench(785);
-    bench.feed(QByteArray::fromHex("a0030000"));
-    QVERIFY(bench.rowOf(209) == 3);
-    QVERIFY(bench.tap(208, [](SelectDialog &dialog) { choose(dialog, 1); }));
-    QCOMPARE(bench.valueOf(208), QString("Sport"));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 3);
-    // Choosing the individual mode shows its rows once the car has taken it.
-    QVERIFY(bench.tap(208, [](SelectDialog &dialog) { choose(dialog, 3); }));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 3);
-    bench.feed(QByteArray::fromHex("a0030000"));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 8);
-}
-
-void TestVwMenu::staleDialog_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QByteArray>("happens");
-    for (const char *happens : {"home", "back", "deleted"}) {
-        const struct
-        {
-            const char *name;
-            int page, item;
-        } rows[] = {
-            {"options", 782, 16}, {"number", 775, 83}, {"warning speed", 771, 33}, {"question", 781, 199}};
-        for (const auto &row : rows)
-            QTest::addRow("%s while a page is left: %s", row.name, happens)
-                << row.page << row.item << QByteArray(happens);
-    }
-    QTest::newRow("row goes while its dialog is open") << 785 << 209 << QByteArray("mode");
-    QTest::newRow("replies arrive while a dialog is open") << 782 << 16 << QByteArray("replies");
-}
-
-void TestVwMenu::staleDialog()
-{
-    QFETCH(int, page);
-    QFETCH(int, item);
-    QFETCH(QByteArray, happens);
-    Bench bench(page);
-    bench.feed(QByteArray::fromHex("20017800"));
-    bench.feed(QByteArray::fromHex("a0030000"));
-    QVERIFY(bench.tap(item, [&](SelectDialog &dialog) {
-        VwBench::check(dialog, 1);
-        if (happens == "home")
-            bench.page->home();
-        else if (happens == "back")
-            bench.page->back();
-        else if (happens == "deleted")
-            delete bench.page;
-        else if (happens == "mode")
-            bench.feed(QByteArray::fromHex("a0000000"));
-        else
-            bench.feed(QByteArray::fromHex("1000"));
-        // Whoever left the page has closed the dialog as well.
-        QCOMPARE(VwBench::openDialog() == nullptr, happens != "mode" && happens != "replies");
-        if (SelectDialog *open = VwBench::openDialog())
-            VwBench::click(*open, "btnOk");
-    }));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const bool left = happens == "home" || happens == "back" || happens == "deleted";
-    QCOMPARE(bench.page.isNull(), left);
-    QCOMPARE(bench.sent(), left ? QStringList() : commands(item, 1));
-    // The adapter goes on without the page.
-    bench.feed(QByteArray::fromHex("1001"));
-}
-
-void TestVwMenu::secondPageOfAKind()
-{
-    Bench bench(782);
-    VWFunctionSetting second(782, bench.adapter.get());
-    second.show();
-    bench.feed(QByteArray::fromHex("1002"));
-    QCOMPARE(bench.valueOf(16), QString("ESC sport"));
-    QCOMPARE(VwBench::valueOf(second, 0), QString("ESC sport"));
-    delete bench.page;
-    bench.feed(QByteArray::fromHex("1001"));
-    QCOMPARE(VwBench::valueOf(second, 0), QString("Activated"));
-}
-
-void TestVwMenu::languageChangesWhileOpen()
-{
-    OrbHost *host = OrbHost::instance();
-    host->addTranslationDir(TRANSLATION_FOLDER);
-    Bench bench(771);
-    bench.feed(QByteArray::fromHex("20015002"));
-    QVERIFY(host->setLanguage("zh_CN"));
-    QCoreApplication::sendPostedEvents();
-    const QString title = bench.page->windowTitle();
-    const QString load = bench.valueOf(35);
-    const QStringList options = VwBench::modelOf(*bench.page)->itemDatas(3).bindData(4097).toStringList();
-    host->setLanguage("en");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(title, QString("轮胎"));
-    QCOMPARE(load, QString("满载"));
-    QCOMPARE(options, QStringList({"舒适", "标准", "满载"}));
-    QCOMPARE(bench.page->windowTitle(), QString("Tyres"));
-    QCOMPARE(bench.valueOf(35), QString("Full load"));
-    QCOMPARE(bench.valueOf(33), QString("80 km/h"));
-}
-
-void TestVwMenu::reportRowsDoNothing()
-{
-    for (unsigned int page : {783u, 784u, 786u}) {
-        Bench bench(page);
-        VwBench::feed(*bench.adapter, "60 02 01 02 00 00 00 00 01 | 61 01 00 05 00 | 62 01 03 00 00");
-        for (int column : {0, 2})
-            QVERIFY(!VwBench::tap(*bench.page, 0, column));
-        QCOMPARE(bench.sent(), QStringList());
     }
 }
 

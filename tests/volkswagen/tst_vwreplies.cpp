@@ -34,29 +34,12 @@ private Q_SLOTS:
 
 namespace {
 
-struct Bench
+using VwBench::Page;
+
+void feed(Page &bench, int command, const QByteArray &data)
 {
-    explicit Bench(unsigned int pageId) : page(pageId, &adapter) { page.show(); }
-
-    void feed(quint8 command, const QByteArray &data)
-    {
-        adapter.onRecvMcuProtocol(RaiseWire::frame(command, data));
-    }
-    QString valueOf(int item) const { return VwBench::valueOf(page, VwBench::rowOf(page, item)); }
-
-    /// "LABEL=VALUE" of each row.
-    QStringList rows() const
-    {
-        QStringList rows;
-        for (int row = 0; row < VwBench::modelOf(page)->rowCount(); ++row)
-            rows << VwBench::modelOf(page)->itemDatas(row).text() + '=' + VwBench::valueOf(page, row);
-        return rows;
-    }
-
-    TestScreen screen;
-    CanBus_Raise_Volkswagen adapter;
-    VWFunctionSetting page;
-};
+    bench.adapter->onRecvMcuProtocol(RaiseWire::frame(quint8(command), data));
+}
 
 QByteArray reply(int subType, int byte, int value, int length = 5)
 {
@@ -104,15 +87,15 @@ void TestVwReplies::switches()
     QFETCH(int, subType);
     QFETCH(int, byte);
     QFETCH(QList<int>, items);
-    Bench bench(page);
-    bench.feed(quint8(command), reply(subType, byte, 0));
+    Page bench(page);
+    feed(bench, command, reply(subType, byte, 0));
     const QStringList allOff = bench.rows();
     for (int bit = 0; bit < 8; ++bit) {
         const int item = items.value(bit, -1);
-        bench.feed(quint8(command), reply(subType, byte, 1 << bit));
+        feed(bench, command, reply(subType, byte, 1 << bit));
         QStringList expected = allOff;
         if (item >= 0) {
-            QString &text = expected[VwBench::rowOf(bench.page, item)];
+            QString &text = expected[VwBench::rowOf(*bench.page, item)];
             QVERIFY(text.endsWith("=off"));
             text.replace("=off", "=on");
         }
@@ -168,7 +151,7 @@ void TestVwReplies::fields()
     QFETCH(int, shift);
     QFETCH(int, width);
     QFETCH(QStringList, texts);
-    Bench bench(page);
+    Page bench(page);
     const bool number = texts.size() == 1;
     // The rows of an individual mode need that mode.
     const bool individual = item >= 209 && item <= 213;
@@ -179,7 +162,7 @@ void TestVwReplies::fields()
             QByteArray data = reply(subType, byte, (others & ~(mask << shift)) | value << shift);
             if (individual)
                 data[1] = 3;
-            bench.feed(0x40, data);
+            bench.feed(data);
             const QString known = texts.value(value);
             if (number)
                 shown = QString::number(value) + texts.first();
@@ -187,8 +170,8 @@ void TestVwReplies::fields()
                 shown = known; // a value without a text leaves what was there
             QCOMPARE(bench.valueOf(item), shown);
             if (number)
-                QCOMPARE(VwBench::modelOf(bench.page)
-                             ->itemDatas(VwBench::rowOf(bench.page, item))
+                QCOMPARE(VwBench::modelOf(*bench.page)
+                             ->itemDatas(VwBench::rowOf(*bench.page, item))
                              .bindData(4099)
                              .toInt(),
                          value);
@@ -198,10 +181,10 @@ void TestVwReplies::fields()
 
 void TestVwReplies::warningSpeedUnit()
 {
-    Bench bench(771);
+    Page bench(771);
     const auto row = [&bench] {
         const TableViewItemDatas datas =
-            VwBench::modelOf(bench.page)->itemDatas(VwBench::rowOf(bench.page, 33));
+            VwBench::modelOf(*bench.page)->itemDatas(VwBench::rowOf(*bench.page, 33));
         const QSize range = datas.bindData(4098).toSize();
         return QString("%1 %2..%3 step %4 %5")
             .arg(datas.value(2).toString())
@@ -211,9 +194,9 @@ void TestVwReplies::warningSpeedUnit()
             .arg(datas.bindData(4101).toString());
     };
     QCOMPARE(row(), QString(" 30..240 step 10 km/h"));
-    VwBench::feed(bench.adapter, "40 20 02 2d");
+    VwBench::feed(*bench.adapter, "40 20 02 2d");
     QCOMPARE(row(), QString("45 mph 20..150 step 5 mph"));
-    VwBench::feed(bench.adapter, "40 20 01 50");
+    VwBench::feed(*bench.adapter, "40 20 01 50");
     QCOMPARE(row(), QString("80 km/h 30..240 step 10 km/h"));
 }
 
@@ -249,12 +232,12 @@ void TestVwReplies::service()
     QFETCH(QByteArray, package);
     QFETCH(int, item);
     QFETCH(QString, text);
-    Bench bench(779);
+    Page bench(779);
     const QStringList before = bench.rows();
-    VwBench::feed(bench.adapter, package);
+    VwBench::feed(*bench.adapter, package);
     QCOMPARE(bench.valueOf(item), text);
     QStringList expected = before;
-    expected[VwBench::rowOf(bench.page, item)].replace("=--", "=" + text);
+    expected[VwBench::rowOf(*bench.page, item)].replace("=--", "=" + text);
     QCOMPARE(bench.rows(), expected);
 }
 
@@ -298,36 +281,36 @@ void TestVwReplies::reports()
     QFETCH(int, page);
     QFETCH(QByteArray, package);
     QFETCH(QStringList, rows);
-    Bench bench(page);
+    Page bench(page);
     QCOMPARE(bench.rows(), QStringList{"No entries available="});
-    VwBench::feed(bench.adapter, package);
+    VwBench::feed(*bench.adapter, package);
     QCOMPARE(bench.rows(), rows);
     // The next report replaces all of them.
-    VwBench::feed(bench.adapter, "60 01 00 00 00 00 00 00 01 | 61 00 00 | 62 00 00 00 00");
+    VwBench::feed(*bench.adapter, "60 01 00 00 00 00 00 00 01 | 61 00 00 | 62 00 00 00 00");
     QCOMPARE(bench.rows(), page == 783 ? QStringList{"Trailer mode="} : QStringList{"No entries available="});
 }
 
 void TestVwReplies::individualRowsComeAndGo()
 {
-    Bench bench(785);
+    Page bench(785);
     const auto items = [&bench] {
         QStringList result;
-        for (int row = 0; row < VwBench::modelOf(bench.page)->rowCount(); ++row)
-            result << QString::number(VwBench::modelOf(bench.page)->itemDatas(row).getItemId());
+        for (int row = 0; row < VwBench::modelOf(*bench.page)->rowCount(); ++row)
+            result << QString::number(VwBench::modelOf(*bench.page)->itemDatas(row).getItemId());
         return result.join(' ');
     };
     QCOMPARE(items(), QString("202 203 208"));
-    VwBench::feed(bench.adapter, "40 a0 03 21 12");
+    VwBench::feed(*bench.adapter, "40 a0 03 21 12");
     QCOMPARE(items(), QString("202 203 208 209 210 211 213 212"));
     QCOMPARE(bench.rows().mid(2).join(' '), QString("Driving mode=Individual Steering=Sport Engine=ECO "
                                                     "Climate=ECO Front lighting=Sport Reset="));
-    VwBench::feed(bench.adapter, "40 b1 06");
+    VwBench::feed(*bench.adapter, "40 b1 06");
     QCOMPARE(items(), QString("202 203 208 228 232"));
-    VwBench::feed(bench.adapter, "40 a0 06 00 02");
+    VwBench::feed(*bench.adapter, "40 a0 06 00 02");
     QCOMPARE(bench.valueOf(228), QString("ECO"));
-    VwBench::feed(bench.adapter, "40 a0 0f");
+    VwBench::feed(*bench.adapter, "40 a0 0f");
     QCOMPARE(items(), QString("202 203 208 228 232"));
-    VwBench::feed(bench.adapter, "40 b1 00");
+    VwBench::feed(*bench.adapter, "40 b1 00");
     QCOMPARE(items(), QString("202 203 208"));
 }
 
@@ -351,13 +334,13 @@ void TestVwReplies::shortReplies()
     QFETCH(int, page);
     QFETCH(QByteArray, data);
     const QByteArray whole = QByteArray::fromHex(data);
-    const QStringList untouched = Bench(page).rows();
+    const QStringList untouched = Page(page).rows();
     QStringList before = untouched;
     for (int length = 0; length <= whole.size(); ++length) {
         // What is cut away must read as untouched, not as zeros: only rows of the bytes that are there
         // change.
-        Bench bench(page);
-        bench.feed(0x40, whole.left(length));
+        Page bench(page);
+        bench.feed(whole.left(length));
         const QStringList shown = bench.rows();
         if (length < 2)
             QCOMPARE(shown, untouched);
@@ -365,9 +348,9 @@ void TestVwReplies::shortReplies()
             QVERIFY2(shown != before, qPrintable(QString("byte %1 changes nothing").arg(length - 1)));
         before = shown;
     }
-    Bench unknown(page);
-    unknown.feed(0x40, QByteArray::fromHex("ffffffffffff"));
-    unknown.feed(0x99, whole);
+    Page unknown(page);
+    unknown.feed(QByteArray::fromHex("ffffffffffff"));
+    feed(unknown, 0x99, whole);
     QCOMPARE(unknown.rows(), untouched);
 }
 
@@ -379,11 +362,11 @@ void TestVwReplies::pagesIgnoreOthersReplies()
                                      "40 80 ff 03",    "40 90 32 21",       "40 b0 03",    "63 10 01 5a 00"};
     const QList<int> owners{782, 771, 773, 773, 774, 775, 776, 777, 778, 780, 785, 779};
     for (int page = 771; page <= 786; ++page) {
-        Bench bench(page);
+        Page bench(page);
         const QStringList untouched = bench.rows();
         for (int i = 0; i < packages.size(); ++i) {
             if (owners.at(i) != page)
-                VwBench::feed(bench.adapter, packages.at(i));
+                VwBench::feed(*bench.adapter, packages.at(i));
         }
         QCOMPARE(bench.rows(), untouched);
     }

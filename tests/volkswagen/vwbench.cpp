@@ -116,4 +116,41 @@ void click(const QWidget &window, const char *button)
         found->click();
 }
 
+void cancel(SelectDialog &dialog)
+{
+    click(dialog, "btnCancel");
+}
+
+void choose(SelectDialog &dialog, int index)
+{
+    check(dialog, index);
+    click(dialog, "btnOk");
+}
+
+QStringList commands(int item, int value)
+{
+    return {"c6 " + QByteArray(1, char(item)).toHex() + ' ' + QByteArray(1, char(value)).toHex()};
+}
+
+Page::Page(unsigned int pageId)
+    : adapter(new CanBus_Raise_Volkswagen), page(new VWFunctionSetting(pageId, adapter.get()))
+{
+    page->show();
+    sent();
+}
+
+Page::~Page()
+{
+    delete page;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QStringList Page::rows() const
+{
+    QStringList rows;
+    for (int row = 0; row < modelOf(*page)->rowCount(); ++row)
+        rows << modelOf(*page)->itemDatas(row).text() + '=' + VwBench::valueOf(*page, row);
+    return rows;
+}
+
 } // namespace VwBench

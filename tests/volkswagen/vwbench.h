@@ -3,6 +3,7 @@
 
 #include "raisewire.h"
 #include "tracerecorder.h"
+#include "unitscreen.h"
 
 #include "volkswagen/canbus_raise_volkswagen.h"
 #include "volkswagen/selectdialog.h"
@@ -11,9 +12,11 @@
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 /// The screens of the Volkswagen under test: packages go straight into the adapter, clicks onto the real
 /// widgets.
@@ -49,6 +52,37 @@ SelectDialog *openDialog();
 void check(SelectDialog &dialog, int index);
 void step(SelectDialog &dialog, int steps);
 void click(const QWidget &window, const char *button);
+
+/// Answers of a dialog: Cancel; option \a index and OK.
+void cancel(SelectDialog &dialog);
+void choose(SelectDialog &dialog, int index);
+
+/// The package that sets \a item to \a value, as sent() gives it.
+QStringList commands(int item, int value);
+
+/// One open settings page with its adapter, on a screen of its own.
+struct Page
+{
+    explicit Page(unsigned int pageId);
+    ~Page();
+
+    QStringList sent() { return VwBench::sent(trace); }
+    int rowOf(int item) const { return VwBench::rowOf(*page, item); }
+    QString valueOf(int item) const { return VwBench::valueOf(*page, rowOf(item)); }
+    bool tap(int item, const std::function<void(SelectDialog &)> &answer = nullptr, int column = 0)
+    {
+        return VwBench::tap(*page, rowOf(item), column, answer);
+    }
+    /// Hands the adapter a settings reply with \a data.
+    void feed(const QByteArray &data) { adapter->onRecvMcuProtocol(RaiseWire::frame(0x40, data)); }
+    /// "LABEL=VALUE" of each row.
+    QStringList rows() const;
+
+    TestScreen screen;
+    TraceRecorder trace;
+    std::unique_ptr<CanBus_Raise_Volkswagen> adapter;
+    QPointer<VWFunctionSetting> page;
+};
 
 } // namespace VwBench
 
