@@ -33,15 +33,16 @@ void change(DecoderBox *box, const QString &changes)
     }
 }
 
-QByteArray reportData(const DecoderBox &box, const QString &meaning)
+QByteArray reportLike(const DecoderBox &box, const QByteArray &package)
 {
-    const QVector<BoxReport> &reports = box.speaker()->reports();
-    for (int i = 0; i < reports.size(); ++i) {
-        if (reports.at(i).meaning == meaning) {
-            return inHex(box.speaker()->reportPackage(i));
+    QByteArray found;
+    for (int i = 0; i < box.speaker()->reports().size() && found != package; ++i) {
+        const QByteArray sent = inHex(box.speaker()->reportPackage(i));
+        if (sent.left(2) == package.left(2) && (found.isEmpty() || sent.left(5) == package.left(5))) {
+            found = sent;
         }
     }
-    return "no such report";
+    return found;
 }
 
 QByteArray keyData(const DecoderBox &box, const QString &key, BoxSpeaker::KeyState state)

@@ -95,22 +95,15 @@ std::unique_ptr<DecoderBox> openBox(int type)
     return box;
 }
 
-QByteArray raiseFrame(const char *commandAndDataHex)
+Conversation::Conversation(int type) : box(openBox(type)), unit(*box)
 {
-    QByteArray body = QByteArray::fromHex(commandAndDataHex);
-    body.insert(1, char(body.size() - 1));
-    quint8 sum = 0;
-    for (const char byte : body) {
-        sum = quint8(sum + quint8(byte));
+    int reports = 0;
+    for (const BoxReport &report : box->speaker()->reports()) {
+        reports += report.atStart;
     }
-    return '\x2E' + body + char(0xFF - sum);
-}
-
-QByteArray xinHangFrame(const QByteArray &commandAndData)
-{
-    quint8 sum = 0;
-    for (const char byte : commandAndData) {
-        sum = quint8(sum + quint8(byte));
+    box->start();
+    if (!QTest::qWaitFor([&] { return unit.packages().size() == reports; })) {
+        qFatal("the box does not tell its state");
     }
-    return '\xF0' + QByteArray(1, char(commandAndData.size())) + commandAndData + char(0xFF - sum);
+    unit.forget();
 }

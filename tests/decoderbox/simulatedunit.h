@@ -1,7 +1,9 @@
 #ifndef SIMULATEDUNIT_H
 #define SIMULATEDUNIT_H
 
-#include <QByteArray>
+#include "raisewire.h"
+#include "xinhangwire.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSocketNotifier>
@@ -61,12 +63,13 @@ private:
 /// The box of the CAN-bus type \a type on a terminal of its own; fails the program when there is none.
 std::unique_ptr<DecoderBox> openBox(int type);
 
-/// The frame around a command and data in hex, put together by the checksum's own rule.
-QByteArray raiseFrame(const char *commandAndDataHex);
-QByteArray xinHangFrame(const QByteArray &commandAndData);
-inline QByteArray xinHangFrame(const char *commandAndDataHex)
+/// A box on a terminal of its own that talks, and a unit that has acknowledged the state it began with.
+struct Conversation
 {
-    return xinHangFrame(QByteArray::fromHex(commandAndDataHex));
-}
+    explicit Conversation(int type);
+
+    std::unique_ptr<DecoderBox> box;
+    SimulatedUnit unit;
+};
 
 #endif
