@@ -6,16 +6,6 @@ namespace {
 
 const int InitTime = 70; // ms, a little more than an adapter waits before onInited
 
-QtMessageHandler nextHandler = nullptr;
-int broken = 0;
-
-void watchMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    if (text.startsWith("Object::connect:") || text.startsWith("QObject::connect:"))
-        ++broken;
-    nextHandler(type, context, text);
-}
-
 void setPort(const QVariant &path)
 {
     OrbHost::instance()->setProductValue("CANPortName", path);
@@ -90,19 +80,6 @@ QStringList AdapterFixture::exchange(const char *packages)
     for (const QByteArray &package : QByteArray(packages).split('|'))
         frames << RaiseWire::frame(package);
     return exchange(frames);
-}
-
-void TestSupport::watchConnects()
-{
-    // Qt Test installs a handler of its own for each program; stay in front of it.
-    const QtMessageHandler before = qInstallMessageHandler(watchMessage);
-    if (before != watchMessage)
-        nextHandler = before;
-}
-
-int TestSupport::brokenConnects()
-{
-    return broken;
 }
 
 QStringList TestSupport::words(const QString &prefix, const QString &text)

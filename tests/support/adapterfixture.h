@@ -3,12 +3,10 @@
 
 #include "ptybox.h"
 #include "raisewire.h"
+#include "testmain.h"
 #include "tracerecorder.h"
 
 #include "canbusadapter.h"
-#include "orbapplication.h"
-
-#include <QTest>
 
 /// One decoder adapter on a pseudo-terminal, its calls on the framework recorded. Built inside a test
 /// function or initTestCase (then shared by the rows of a table); needs an OrbApplication, see
@@ -62,10 +60,6 @@ private:
 
 namespace TestSupport {
 
-/// Counts Qt's complaints about string-based connects from now on; Qt reports them as log lines only.
-void watchConnects();
-int brokenConnects();
-
 /// "a b c" becomes {"PREFIXa", "PREFIXb", "PREFIXc"}.
 QStringList words(const QString &prefix, const QString &text);
 
@@ -75,15 +69,5 @@ QString key(int code, bool press, bool autoRepeat, int last);
 QStringList taps(int code, int count = 1, int last = 0);
 
 } // namespace TestSupport
-
-/// main() of a test program whose class is \a TestClass: one OrbApplication; fails on a broken connect.
-#define CANBUS_TEST_MAIN(TestClass)                                                                          \
-    int main(int argc, char **argv)                                                                          \
-    {                                                                                                        \
-        OrbApplication application(argc, argv);                                                              \
-        TestClass test;                                                                                      \
-        const int result = QTest::qExec(&test, argc, argv);                                                  \
-        return result != 0 ? result : TestSupport::brokenConnects();                                         \
-    }
 
 #endif // ADAPTERFIXTURE_H
