@@ -1,15 +1,10 @@
+#include "testmain.h"
 #include "unitscreen.h"
 
-#include "orbapplication.h"
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 
-#include <climits>
-
-#include <QPointer>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 
 /// The list model, and the list under a finger.
 class TestLists : public QObject
@@ -17,18 +12,13 @@ class TestLists : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cellsByRole_data();
     void cellsByRole();
     void wrongPlacesChangeNothing();
     void changesAreAnnounced();
-    void removesWhatExists_data();
     void removesWhatExists();
-    void tapReachesTheCell_data();
     void tapReachesTheCell();
-    void headingTakesNoTap();
     void dragScrolls();
-    void flickGlidesOn();
-    void touchStopsTheGlide();
+    void flickGlidesOnUntilATouch();
     void receiverMayChangeTheRows();
     void columnsFollowTheTexts();
     void switchIsDrawnAsItStands();
@@ -64,36 +54,22 @@ public:
 
 } // namespace
 
-void TestLists::cellsByRole_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QVariant>("value");
-    const QVariant nothing;
-    QTest::newRow("label") << 0 << 0 << int(Qt::DisplayRole) << QVariant("Row 0");
-    QTest::newRow("icon") << 0 << 0 << int(Qt::DecorationRole) << QVariant("icon.png");
-    QTest::newRow("no icon elsewhere") << 0 << 2 << int(Qt::DecorationRole) << nothing;
-    QTest::newRow("value") << 0 << 2 << int(Qt::DisplayRole) << QVariant("Far");
-    QTest::newRow("value is no switch") << 0 << 2 << int(Qt::CheckStateRole) << nothing;
-    QTest::newRow("switch has no text") << 1 << 2 << int(Qt::DisplayRole) << QVariant(QString());
-    QTest::newRow("switch") << 1 << 2 << int(Qt::CheckStateRole) << QVariant(int(Qt::Checked));
-    QTest::newRow("bind data") << 0 << 0 << int(OptionsRole) << QVariant(QStringList({"Near", "Far"}));
-    QTest::newRow("role that is not set") << 0 << 0 << 4096 << nothing;
-    QTest::newRow("role of Qt") << 0 << 0 << int(Qt::ToolTipRole) << nothing;
-    QTest::newRow("row past the end") << 2 << 0 << int(Qt::DisplayRole) << nothing;
-}
-
 void TestLists::cellsByRole()
 {
-    QFETCH(int, row);
-    QFETCH(int, column);
-    QFETCH(int, role);
-    QFETCH(QVariant, value);
     List list(2);
-    const QVariant found = list.model.data(list.model.index(row, column), role);
-    QCOMPARE(found.isValid(), value.isValid());
-    QCOMPARE(role == Qt::CheckStateRole && found.isValid() ? QVariant(found.toInt()) : found, value);
+    const auto cell = [&](int row, int column, int role) {
+        return list.model.data(list.model.index(row, column), role);
+    };
+    QCOMPARE(cell(0, 0, Qt::DisplayRole), QVariant("Row 0"));
+    QCOMPARE(cell(0, 0, Qt::DecorationRole), QVariant("icon.png"));
+    QCOMPARE(cell(0, 0, OptionsRole), QVariant(QStringList({"Near", "Far"})));
+    QVERIFY(!cell(0, 2, Qt::DecorationRole).isValid());
+    // A text has no switch, and a switch no text.
+    QCOMPARE(cell(0, 2, Qt::DisplayRole), QVariant("Far"));
+    QVERIFY(!cell(0, 2, Qt::CheckStateRole).isValid());
+    QCOMPARE(cell(1, 2, Qt::DisplayRole), QVariant(QString()));
+    QCOMPARE(cell(1, 2, Qt::CheckStateRole).toInt(), int(Qt::Checked));
+    QVERIFY(!cell(2, 0, Qt::DisplayRole).isValid());
 }
 
 void TestLists::wrongPlacesChangeNothing()
@@ -127,75 +103,49 @@ void TestLists::changesAreAnnounced()
     QCOMPARE(list.model.rowOfItem(102), -1);
 }
 
-void TestLists::removesWhatExists_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("left");
-    QTest::newRow("one") << 1 << 1 << 4;
-    QTest::newRow("from the fourth on") << 3 << 1000 << 3;
-    QTest::newRow("count that overflows") << 4 << INT_MAX << 4;
-    QTest::newRow("past the end") << 5 << 1 << 5;
-    QTest::newRow("before the start") << -1 << 2 << 5;
-    QTest::newRow("none") << 0 << 0 << 5;
-    QTest::newRow("negative count") << 0 << -1 << 5;
-}
-
 void TestLists::removesWhatExists()
 {
-    QFETCH(int, row);
-    QFETCH(int, count);
-    QFETCH(int, left);
-    List list(5);
-    list.model.removeItemDatas(row, count);
-    QCOMPARE(list.model.rowCount(), left);
-    list.model.clear();
-    QCOMPARE(list.model.rowCount(), 0);
-}
-
-void TestLists::tapReachesTheCell_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::newRow("label") << 0;
-    QTest::newRow("gap") << 1;
-    QTest::newRow("value") << 2;
+    const struct
+    {
+        int row, count, left;
+    } cases[] = {{1, 1, 4}, {3, 1000, 3}, {4, INT_MAX, 4}, {5, 1, 5}, {-1, 2, 5}, {0, 0, 5}, {0, -1, 5}};
+    for (const auto &one : cases) {
+        List list(5);
+        list.model.removeItemDatas(one.row, one.count);
+        QCOMPARE(list.model.rowCount(), one.left);
+    }
 }
 
 void TestLists::tapReachesTheCell()
 {
-    QFETCH(int, column);
     List list(20);
+    QWidget *const view = list.view.viewport();
     QSignalSpy pressed(&list.view, SIGNAL(pressed(QModelIndex)));
     QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
     QSignalSpy cell(&list.view, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)));
-    TestScreen::press(list.view.viewport(), list.middle(2, column));
+    TestScreen::press(view, list.middle(2, 0));
     QCOMPARE(pressed.size(), 1);
     QCOMPARE(clicked.size(), 0);
-    TestScreen::tap(list.view.viewport(), list.middle(3, column));
-    QCOMPARE(clicked.size(), 1);
-    QCOMPARE(clicked[0][0].value<QModelIndex>(), list.model.index(3, column));
-    QCOMPARE(cell.size(), 1);
-    QCOMPARE(cell[0][1].value<QModelIndex>(), list.model.index(3, column));
+    for (int column = 0; column < 3; ++column) {
+        TestScreen::tap(view, list.middle(3, column));
+        QCOMPARE(clicked.size(), column + 1);
+        QCOMPARE(clicked.last()[0].value<QModelIndex>(), list.model.index(3, column));
+        QCOMPARE(cell.size(), column + 1);
+        QCOMPARE(cell.last()[1].value<QModelIndex>(), list.model.index(3, column));
+    }
     // A finger that slides into the next row has changed its mind.
-    const QPoint low = list.view.visualRect(list.model.index(4, column)).bottomLeft() + QPoint(4, -4);
-    TestScreen::drag(list.view.viewport(), low, low + QPoint(0, 8));
-    QCOMPARE(clicked.size(), 1);
-    // A receiver learns nothing from a touch below the last row.
-    list.model.removeItemDatas(1, 19);
-    TestScreen::tap(list.view.viewport(), QPoint(40, 400));
-    QCOMPARE(clicked.size(), 1);
-}
-
-void TestLists::headingTakesNoTap()
-{
-    List list(2);
+    const QPoint low = list.view.visualRect(list.model.index(4, 0)).bottomLeft() + QPoint(4, -4);
+    TestScreen::drag(view, low, low + QPoint(0, 8));
+    // A receiver learns nothing from a touch below the last row, nor from one on a heading.
     TableViewItemDatas heading(-1, "Adaptive cruise control");
     heading.setHeading(true);
     list.model.setItemDatas(1, heading);
-    QSignalSpy pressed(&list.view, SIGNAL(pressed(QModelIndex)));
-    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
-    TestScreen::tap(list.view.viewport(), list.middle(1, 0));
-    QCOMPARE(pressed.size() + clicked.size(), 0);
+    list.model.removeItemDatas(2, 18);
+    pressed.clear();
+    TestScreen::tap(view, QPoint(40, 400));
+    TestScreen::tap(view, list.middle(1, 0));
+    QCOMPARE(pressed.size(), 0);
+    QCOMPARE(clicked.size(), 3);
 }
 
 void TestLists::dragScrolls()
@@ -214,20 +164,13 @@ void TestLists::dragScrolls()
     QCOMPARE(list.scrolled(), 0);
 }
 
-void TestLists::flickGlidesOn()
-{
-    List list(400);
-    TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 300));
-    const int released = list.scrolled();
-    QTRY_VERIFY(list.scrolled() > released + 50);
-}
-
-void TestLists::touchStopsTheGlide()
+void TestLists::flickGlidesOnUntilATouch()
 {
     List list(400);
     QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
     TestScreen::drag(list.view.viewport(), QPoint(100, 400), QPoint(100, 300));
-    QTest::qWait(40);
+    const int released = list.scrolled();
+    QTRY_VERIFY(list.scrolled() > released + 20);
     TestScreen::tap(list.view.viewport(), QPoint(100, 200));
     const int stopped = list.scrolled();
     QTest::qWait(60);
@@ -287,11 +230,5 @@ void TestLists::switchIsDrawnAsItStands()
     QVERIFY(on.blue() > off.blue() + 60);
 }
 
-int main(int argc, char **argv)
-{
-    OrbApplication application(argc, argv);
-    TestLists test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CANBUS_TEST_MAIN(TestLists)
 #include "tst_lists.moc"

@@ -1,19 +1,18 @@
+#include "testmain.h"
 #include "unitscreen.h"
 
 #include "airconditiondlg.h"
-#include "orbapplication.h"
 #include "orbchoicedialog.h"
+#include "orbhost.h"
 #include "orbmainwindow.h"
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 #include "updatedialog.h"
 
 #include <QCheckBox>
-#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
-#include <QTest>
 
 #include <memory>
 
@@ -24,6 +23,7 @@ class TestLooks : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { OrbHost::instance()->setLanguage("en"); }
     void textsFit_data();
     void textsFit();
 };
@@ -32,80 +32,42 @@ namespace {
 
 typedef std::unique_ptr<QWidget> (*Scene)();
 
-std::unique_ptr<QWidget> climate(bool on, int fan, int direction, int circulation)
+std::unique_ptr<AirConditionDlg> climate(bool on, int fan, int direction, const char *left, const char *right)
 {
     std::unique_ptr<AirConditionDlg> dialog(new AirConditionDlg);
-    dialog->setPTCModeVisible(false);
     dialog->setTemperatureRange(16.0, 29.5);
     dialog->setAirConditionEnable(on);
     dialog->setACEnable(on);
     dialog->setAutoModeEnable(fan == 0xFF);
     dialog->setWindDirect(direction);
     dialog->setAirVolume(fan);
-    dialog->setCirculationMode(circulation);
-    dialog->setTemperature(QString::fromUtf8("21.5°C"), QString::fromUtf8("18.0°C"));
+    dialog->setCirculationMode(fan);
+    dialog->setTemperature(QString::fromUtf8(left), QString::fromUtf8(right));
     dialog->show();
     return dialog;
 }
 
-std::unique_ptr<QWidget> climateOn()
-{
-    return climate(true, 4, 3, 1);
-}
-
-std::unique_ptr<QWidget> climateAuto()
-{
-    std::unique_ptr<QWidget> dialog = climate(true, 0xFF, 0xFF, 0xFF);
-    static_cast<AirConditionDlg *>(dialog.get())->setTemperature("LO", "HI");
-    return dialog;
-}
-
-std::unique_ptr<QWidget> climateOff()
-{
-    return climate(false, 0, 0, 0);
-}
-
 std::unique_ptr<QWidget> climateDefrost()
 {
-    std::unique_ptr<QWidget> dialog = climate(true, 7, 4, 0);
-    AirConditionDlg *display = static_cast<AirConditionDlg *>(dialog.get());
-    display->setPTCModeVisible(true);
-    display->setDefrostingMode();
-    display->setTemperature(QString::fromUtf8("72°F"), QString());
+    std::unique_ptr<AirConditionDlg> dialog = climate(true, 7, 4, "72°F", "");
+    dialog->setDefrostingMode();
     return dialog;
 }
 
-std::unique_ptr<UpdateDialog> updateAsking()
+/// The update dialog at \a percent; below 0 it still asks.
+std::unique_ptr<UpdateDialog> update(int percent)
 {
     std::unique_ptr<UpdateDialog> dialog(new UpdateDialog);
     dialog->showUpdateDlg(1);
-    return dialog;
-}
-
-std::unique_ptr<QWidget> updateQuestion()
-{
-    return updateAsking();
-}
-
-std::unique_ptr<QWidget> updateRunning()
-{
-    std::unique_ptr<UpdateDialog> dialog = updateAsking();
-    dialog->updatePercent(42);
+    if (percent >= 0)
+        dialog->updatePercent(percent);
     return dialog;
 }
 
 std::unique_ptr<QWidget> updateFailed()
 {
-    std::unique_ptr<UpdateDialog> dialog = updateAsking();
-    dialog->updatePercent(42);
+    std::unique_ptr<UpdateDialog> dialog = update(42);
     dialog->setUpdateFailed(2);
-    return dialog;
-}
-
-std::unique_ptr<QWidget> updateDone()
-{
-    std::unique_ptr<UpdateDialog> dialog = updateAsking();
-    dialog->updatePercent(100);
     return dialog;
 }
 
@@ -116,17 +78,12 @@ std::unique_ptr<QWidget> choiceOf(const QStringList &texts)
     return dialog;
 }
 
-std::unique_ptr<QWidget> choiceShort()
-{
-    return choiceOf({"OFF", "Driver window", "All windows"});
-}
-
-std::unique_ptr<QWidget> choiceLong()
+QStringList profiles()
 {
     QStringList texts;
     for (int i = 1; i <= 12; ++i)
         texts << QString("Profile %1 of the driver").arg(i);
-    return choiceOf(texts);
+    return texts;
 }
 
 TableViewItemDatas row(int id, const QString &text, const QVariant &value, const QString &mark = QString())
@@ -161,33 +118,25 @@ std::unique_ptr<QWidget> list()
     return window;
 }
 
-std::unique_ptr<QWidget> listUnderClimate()
-{
-    std::unique_ptr<QWidget> window = list();
-    AirConditionDlg *display = new AirConditionDlg(window.get());
-    display->setAirConditionEnable(true);
-    display->setTemperature(QString::fromUtf8("21.5°C"), QString::fromUtf8("22.0°C"));
-    display->show();
-    return window;
-}
-
 const struct
 {
     const char *name;
     Scene make;
 } scenes[] = {
-    {"climate-on", climateOn},
-    {"climate-auto", climateAuto},
-    {"climate-off", climateOff},
+    {"climate-on", [] { return std::unique_ptr<QWidget>(climate(true, 4, 3, "21.5°C", "18.0°C")); }},
+    {"climate-auto", [] { return std::unique_ptr<QWidget>(climate(true, 0xFF, 0xFF, "LO", "HI")); }},
+    {"climate-off", [] { return std::unique_ptr<QWidget>(climate(false, 0, 0, "21.5°C", "")); }},
     {"climate-defrost", climateDefrost},
-    {"update-question", updateQuestion},
-    {"update-running", updateRunning},
+    {"update-question", [] { return std::unique_ptr<QWidget>(update(-1)); }},
+    {"update-running", [] { return std::unique_ptr<QWidget>(update(42)); }},
     {"update-failed", updateFailed},
-    {"update-done", updateDone},
-    {"choice-short", choiceShort},
-    {"choice-long", choiceLong},
+    {"update-done", [] { return std::unique_ptr<QWidget>(update(100)); }},
+    {"choice-short",
+     [] {
+         return choiceOf({"OFF", "Driver window", "All windows"});
+     }},
+    {"choice-long", [] { return choiceOf(profiles()); }},
     {"list", list},
-    {"list-under-climate", listUnderClimate},
 };
 
 /// The text's size where it is drawn, wrapped to the label's width where it wraps.
@@ -237,10 +186,9 @@ void TestLooks::textsFit()
     QFETCH(QString, language);
     TestScreen screen(size);
     const std::unique_ptr<QWidget> shown = scenes[scene].make();
-    SampleTranslator translator(language);
     // The language changes while the screen is open.
-    if (language != "en")
-        qApp->installTranslator(&translator);
+    OrbHost::instance()->addTranslationDir(TRANSLATION_FOLDER);
+    QVERIFY(OrbHost::instance()->setLanguage(language));
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
 
@@ -261,11 +209,5 @@ void TestLooks::textsFit()
     QVERIFY(checked > 0 || qobject_cast<AirConditionDlg *>(shown.get()));
 }
 
-int main(int argc, char **argv)
-{
-    OrbApplication application(argc, argv);
-    TestLooks test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CANBUS_TEST_MAIN(TestLooks)
 #include "tst_looks.moc"

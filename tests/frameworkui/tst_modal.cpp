@@ -1,17 +1,14 @@
 #include "samplewindows.h"
+#include "testmain.h"
 #include "unitscreen.h"
 
-#include "orbapplication.h"
 #include "orbchoicedialog.h"
 #include "orbhost.h"
 
 #include <QCheckBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 
 /// Dialogs that want an answer.
 class TestModal : public QObject
@@ -56,16 +53,20 @@ void TestModal::execReturnsTheResult_data()
 {
     QTest::addColumn<Action>("close");
     QTest::addColumn<int>("result");
-    QTest::newRow("accept") << Action([](HookedWindow &, PlainDialog &d) { d.accept(); }) << 1;
-    QTest::newRow("reject") << Action([](HookedWindow &, PlainDialog &d) { d.reject(); }) << 0;
-    QTest::newRow("back") << Action([](HookedWindow &, PlainDialog &d) { d.back(); }) << 0;
-    QTest::newRow("done") << Action([](HookedWindow &, PlainDialog &d) { d.done(5); }) << 5;
-    QTest::newRow("hide") << Action([](HookedWindow &, PlainDialog &d) { d.hide(); }) << 0;
-    QTest::newRow("accept, then hide")
-        << Action([](HookedWindow &, PlainDialog &d) { d.accept(), d.hide(); }) << 1;
-    QTest::newRow("screen goes") << Action([](HookedWindow &, PlainDialog &) {
-        OrbHost::instance()->setScreen(nullptr, nullptr);
-    }) << 0;
+    const auto row = [](const char *name, const Action &close, int result) {
+        QTest::newRow(name) << close << result;
+    };
+    row(
+        "back", [](HookedWindow &, PlainDialog &d) { d.back(); }, 0);
+    row(
+        "done", [](HookedWindow &, PlainDialog &d) { d.done(5); }, 5);
+    row(
+        "hide", [](HookedWindow &, PlainDialog &d) { d.hide(); }, 0);
+    row(
+        "accept, then hide", [](HookedWindow &, PlainDialog &d) { d.accept(), d.hide(); }, 1);
+    row(
+        "screen goes",
+        [](HookedWindow &, PlainDialog &) { OrbHost::instance()->setScreen(nullptr, nullptr); }, 0);
 }
 
 void TestModal::execReturnsTheResult()
@@ -170,11 +171,5 @@ void TestModal::longChoiceScrollsUnderTheFinger()
     QCOMPARE(dialog.chosenIndex(), 0);
 }
 
-int main(int argc, char **argv)
-{
-    OrbApplication application(argc, argv);
-    TestModal test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CANBUS_TEST_MAIN(TestModal)
 #include "tst_modal.moc"

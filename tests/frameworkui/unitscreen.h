@@ -1,7 +1,6 @@
 #ifndef UNITSCREEN_H
 #define UNITSCREEN_H
 
-#include <QTranslator>
 #include <QWidget>
 
 /// A unit's screen for a test: a status strip of 48 pixels, the window area below it. Registered with the
@@ -24,21 +23,6 @@ protected:
 
 private:
     QWidget *m_area;
-};
-
-/// Stands in for the translators of a language: the framework's own texts in sample translations, which are
-/// as long as real ones.
-class SampleTranslator : public QTranslator
-{
-public:
-    explicit SampleTranslator(const QString &language);
-
-    QString translate(const char *context, const char *source, const char *disambiguation,
-                      int n) const override;
-    bool isEmpty() const override { return false; }
-
-private:
-    const int m_column;
 };
 
 #endif // UNITSCREEN_H
