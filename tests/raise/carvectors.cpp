@@ -2,6 +2,8 @@
 
 #include "adapterfixture.h"
 
+#include <QMap>
+
 namespace {
 
 QStringList carData(int what, int value, const QString &more = QString())
@@ -26,9 +28,12 @@ QStringList Expect::released(int key, int last)
     return {TestSupport::key(key, false, false, last)};
 }
 
-QStringList Expect::angle(int degrees)
+QStringList Expect::angles(const QList<int> &degrees)
 {
-    return carData(0x501C, 0, QString(",variant=%1").arg(degrees));
+    QStringList lines;
+    for (const int angle : degrees)
+        lines += carData(0x501C, 0, QString(",variant=%1").arg(angle));
+    return lines;
 }
 
 QStringList Expect::radar(int what, const char *levels)
@@ -36,12 +41,33 @@ QStringList Expect::radar(int what, const char *levels)
     return carData(what, 0, QString(",bytes=%1").arg(levels));
 }
 
-QStringList Expect::status(int bits)
+QStringList Expect::status(const QList<int> &bits)
 {
-    return carData(0x501B, bits);
+    QStringList lines;
+    for (const int value : bits)
+        lines += carData(0x501B, value);
+    return lines;
 }
 
-QStringList Expect::climate(const char *calls)
+QStringList Expect::climate(const QByteArray &calls)
 {
-    return TestSupport::words("AirConditionDlg.", QString::fromUtf8(calls));
+    static const QMap<QString, QString> names = {
+        {"on", "setAirConditionEnable"},  {"ac", "setACEnable"},      {"auto", "setAutoModeEnable"},
+        {"wind", "setWindDirectEx"},      {"fan", "setAirVolume"},    {"circ", "setCirculationMode"},
+        {"defrost", "setDefrostingMode"}, {"temp", "setTemperature"}, {"show", "setVisible"}};
+    QStringList lines;
+    for (const QString &call : QString::fromUtf8(calls).split(' ')) {
+        const QString name = call.section('(', 0, 0);
+        lines << "AirConditionDlg." + names.value(name) + call.mid(name.size());
+    }
+    return lines;
+}
+
+QList<QPair<const char *, CarVectors>> allVectors()
+{
+    return {{"CanBus_Raise_Toyota", toyotaVectors()},
+            {"CanBus_Raise_Honda", hondaVectors()},
+            {"CanBus_Raise_GM", gmVectors()},
+            {"CanBus_Raise_Jeep", jeepVectors()},
+            {"CanBus_XBS_Mazda", mazdaVectors()}};
 }

@@ -12,11 +12,14 @@ struct CarVector
 {
     const char *name;
     const char *setup;
-    const char *packages;
+    QByteArray packages;
     QStringList trace;
 };
 
 typedef QList<CarVector> CarVectors;
+
+/// The tables of all cars by class name.
+QList<QPair<const char *, CarVectors>> allVectors();
 
 CarVectors toyotaVectors();
 CarVectors hondaVectors();
@@ -26,14 +29,16 @@ CarVectors mazdaVectors();
 
 namespace Expect {
 
-/// Trace lines: a key in one phase; car-data events; "setA(1) setB(2)" as calls of the climate dialog.
+/// Trace lines: a key in one phase; car-data events, one for each value; the calls of the climate dialog,
+/// "on(true) ac(true) auto(true) wind(7) fan(3) circ(1) defrost() temp(21.5°C,LO) show(true)" in the car's
+/// order.
 QStringList pressed(int key, int last);
 QStringList held(int key, int last);
 QStringList released(int key, int last);
-QStringList angle(int degrees);
+QStringList angles(const QList<int> &degrees);
 QStringList radar(int what, const char *levels);
-QStringList status(int bits);
-QStringList climate(const char *calls);
+QStringList status(const QList<int> &bits);
+QStringList climate(const QByteArray &calls);
 
 } // namespace Expect
 

@@ -11,17 +11,8 @@ class CarsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void toyota_data() { addRows(toyotaVectors()); }
-    void toyota() { checkRow("CanBus_Raise_Toyota"); }
-    void honda_data() { addRows(hondaVectors()); }
-    void honda() { checkRow("CanBus_Raise_Honda"); }
-    void gm_data() { addRows(gmVectors()); }
-    void gm() { checkRow("CanBus_Raise_GM"); }
-    void jeep_data() { addRows(jeepVectors()); }
-    void jeep() { checkRow("CanBus_Raise_Jeep"); }
-    void mazda_data() { addRows(mazdaVectors()); }
-    void mazda() { checkRow("CanBus_XBS_Mazda"); }
-
+    void vectors_data();
+    void vectors();
     void phoneKey_data();
     void phoneKey();
     void commandTables_data();
@@ -32,23 +23,25 @@ private Q_SLOTS:
     void cleanupTestCase();
 
 private:
-    void addRows(const CarVectors &vectors);
-    void checkRow(const char *car);
-
     CarBench m_bench;
 };
 
-void CarsTest::addRows(const CarVectors &vectors)
+void CarsTest::vectors_data()
 {
+    QTest::addColumn<QString>("car");
     QTest::addColumn<QByteArray>("setup");
     QTest::addColumn<QByteArray>("packages");
     QTest::addColumn<QStringList>("trace");
-    for (const CarVector &vector : vectors)
-        QTest::newRow(vector.name) << QByteArray(vector.setup) << QByteArray(vector.packages) << vector.trace;
+    for (const auto &car : allVectors()) {
+        for (const CarVector &vector : car.second)
+            QTest::addRow("%s, %s", car.first, vector.name)
+                << QString(car.first) << QByteArray(vector.setup) << vector.packages << vector.trace;
+    }
 }
 
-void CarsTest::checkRow(const char *car)
+void CarsTest::vectors()
 {
+    QFETCH(QString, car);
     QFETCH(QByteArray, setup);
     QFETCH(QByteArray, packages);
     QFETCH(QStringList, trace);
@@ -66,16 +59,14 @@ void CarsTest::phoneKey_data()
     QTest::addColumn<int>("key");
     const int call = 0x01100004;
     const int voiceDial = 0x01100008;
-    for (const char *car : {"CanBus_Raise_GM", "CanBus_Raise_Jeep"}) {
-        const QByteArray package = QByteArray(car).endsWith("GM") ? "01 06 01" : "01 17 01";
-        const auto row = [&](const char *name, quint64 word, int key) {
-            QTest::addRow("%s %s", car, name) << QString(car) << package << word << key;
-        };
-        row("no call", 0, voiceDial);
-        row("bit 24", 0x1000000, call);
-        row("bit 25", 0x2000000, call);
-        row("all other bits", ~quint64(0x3000000), voiceDial);
-    }
+    const auto row = [](const char *name, const char *car, const char *package, quint64 word, int key) {
+        QTest::newRow(name) << QString(car) << QByteArray(package) << word << key;
+    };
+    row("GM, no call", "CanBus_Raise_GM", "01 06 01", ~quint64(0x3000000), voiceDial);
+    row("GM, bit 24", "CanBus_Raise_GM", "01 06 01", 0x1000000, call);
+    row("GM, bit 25", "CanBus_Raise_GM", "01 06 01", 0x2000000, call);
+    row("Jeep, no call", "CanBus_Raise_Jeep", "01 17 01", ~quint64(0x3000000), voiceDial);
+    row("Jeep, both bits", "CanBus_Raise_Jeep", "01 17 01", 0x3000000, call);
 }
 
 void CarsTest::phoneKey()
@@ -94,17 +85,12 @@ void CarsTest::phoneKey()
 void CarsTest::commandTables_data()
 {
     QTest::addColumn<QByteArray>("packages");
-    const auto row = [](const char *car, const CarVectors &vectors) {
+    for (const auto &car : allVectors()) {
         QByteArrayList packages;
-        for (const CarVector &vector : vectors)
+        for (const CarVector &vector : car.second)
             packages << vector.packages;
-        QTest::newRow(car) << packages.join('|');
-    };
-    row("CanBus_Raise_Toyota", toyotaVectors());
-    row("CanBus_Raise_Honda", hondaVectors());
-    row("CanBus_Raise_GM", gmVectors());
-    row("CanBus_Raise_Jeep", jeepVectors());
-    row("CanBus_XBS_Mazda", mazdaVectors());
+        QTest::newRow(car.first) << packages.join('|');
+    }
 }
 
 // A car's data sheet has no command twice and none without a handler, and the tables above reach every row.

@@ -23,6 +23,18 @@ private:
 typedef QMap<int, int> Codes; // code of the box and key or level of the unit
 Q_DECLARE_METATYPE(Codes)
 
+// "1000072=01,81 1000070=02": keys of the unit and the codes of the box that stand for each, in hexadecimal.
+static Codes codesOf(const char *text)
+{
+    Codes codes;
+    for (const QByteArray &entry : QByteArray(text).split(' ')) {
+        const QByteArrayList sides = entry.split('=');
+        for (const QByteArray &code : sides.value(1).split(','))
+            codes.insert(code.toInt(nullptr, 16), sides.at(0).toInt(nullptr, 16));
+    }
+    return codes;
+}
+
 void CarTablesTest::keys_data()
 {
     QTest::addColumn<QString>("car");
@@ -30,96 +42,32 @@ void CarTablesTest::keys_data()
     QTest::addColumn<Codes>("keys");
     QTest::addColumn<Codes>("knobs");
     QTest::addColumn<int>("last");
-    const auto row = [](const char *name, const char *car, int command, const Codes &keys, const Codes &knobs,
-                        int last) {
-        QTest::newRow(name) << QString(car) << command << keys << knobs << last;
+    const auto row = [](const char *name, const char *car, int command, int last, const char *keys,
+                        const char *knobs = nullptr) {
+        QTest::newRow(name) << QString(car) << command << codesOf(keys) << (knobs ? codesOf(knobs) : Codes())
+                            << last;
     };
-    row("Toyota wheel", "CanBus_Raise_Toyota", 0x20,
-        {{1, 0x01000072},
-         {0x81, 0x01000072},
-         {2, 0x01000070},
-         {0x82, 0x01000070},
-         {3, 0x01000083},
-         {0x84, 0x01000083},
-         {4, 0x01000082},
-         {0x83, 0x01000082},
-         {7, 0x0100117E},
-         {0x88, 0x0100117E},
-         {8, 0x01100008},
-         {9, 0x01100004},
-         {10, 0x01100005},
-         {19, 0x01000082},
-         {20, 0x01000083},
-         {21, 0x01000061},
-         {22, 0x01000005},
-         {0x85, 0x01000102},
-         {0x86, 0x010000C5}},
-        {}, 1);
-    row("Honda wheel", "CanBus_Raise_Honda", 0x20,
-        {{1, 0x01000072},    {32, 0x01000072}, {0x81, 0x01000072}, {2, 0x01000070},  {33, 0x01000070},
-         {0x82, 0x01000070}, {3, 0x01000083},  {20, 0x01000083},   {38, 0x01000083}, {4, 0x01000082},
-         {19, 0x01000082},   {39, 0x01000082}, {7, 0x0100117E},    {24, 0x0100117E}, {8, 0x01100008},
-         {9, 0x01100004},    {10, 0x01100005}, {22, 0x01000005},   {23, 0x01000071}, {48, 0x01000071},
-         {0x86, 0x01000071}, {34, 0x010000C5}, {36, 0x010000C5},   {35, 0x01000102}, {37, 0x01000102}},
-        {}, 1);
-    row("GM wheel", "CanBus_Raise_GM", 0x01,
-        {{1, 0x01000072},
-         {2, 0x01000070},
-         {3, 0x01000082},
-         {4, 0x01000083},
-         {5, 0x0100117E},
-         {6, 0x01100008},
-         {7, 0x01000071}},
-        {}, 1);
-    row("GM panel", "CanBus_Raise_GM", 0x02,
-        {{1, 0x010000B7},  {2, 0x01000082},  {53, 0x01000082}, {3, 0x01000083},  {52, 0x01000083},
-         {4, 0x010000A4},  {5, 0x010000A5},  {6, 0x01000061},  {7, 0x010000A2},  {8, 0x010000A6},
-         {64, 0x010000A6}, {9, 0x01000071},  {22, 0x01000005}, {27, 0x01000086}, {28, 0x01000013},
-         {29, 0x01000015}, {80, 0x01000010}, {83, 0x01000010}, {81, 0x0100117E}, {84, 0x010000FD}},
-        {{23, 0x01000072}, {24, 0x01000070}, {25, 0x01000014}, {26, 0x01000012}}, 0);
-    row("Jeep wheel", "CanBus_Raise_Jeep", 0x01,
-        {{17, 0x01000072},
-         {18, 0x01000070},
-         {21, 0x0100117E},
-         {26, 0x0100117E},
-         {23, 0x01100008},
-         {24, 0x01100004},
-         {25, 0x01100005},
-         {28, 0x01000083},
-         {29, 0x01000082}},
-        {}, 1);
-    row("Jeep panel", "CanBus_Raise_Jeep", 0x04,
-        {{1, 0x0100010E},
-         {2, 0x01000071},
-         {3, 0x01000071},
-         {5, 0x01000070},
-         {6, 0x01000072},
-         {7, 0x01000082},
-         {8, 0x01000083},
-         {9, 0x010000B7},
-         {10, 0x010000B7}},
-        {}, 0);
-    row("Mazda wheel", "CanBus_XBS_Mazda", 0x01,
-        {{0x01, 0x01000072},
-         {0x02, 0x01000070},
-         {0x03, 0x01000083},
-         {0x04, 0x01000082},
-         {0x08, 0x01000071},
-         {0x09, 0x01100008},
-         {0x0A, 0x01100004},
-         {0x0B, 0x01100005},
-         {0x20, 0x010000FD},
-         {0x21, 0x01000010},
-         {0x22, 0x01100008},
-         {0x23, 0x0100117E},
-         {0x24, 0x01000013},
-         {0x25, 0x01000015},
-         {0x26, 0x01000012},
-         {0x27, 0x01000014},
-         {0x28, 0x01000005},
-         {0x29, 0x0100010F},
-         {0x2A, 0x01000061}},
-        {{0xF0, 0x01000072}, {0xF1, 0x01000070}, {0xF2, 0x01000014}, {0xF3, 0x01000012}}, 0);
+    row("Toyota wheel", "CanBus_Raise_Toyota", 0x20, 1,
+        "1000072=01,81 1000070=02,82 1000083=03,84,14 1000082=04,83,13 100117e=07,88 1100008=08 1100004=09 "
+        "1100005=0a 1000061=15 1000005=16 1000102=85 10000c5=86");
+    row("Honda wheel", "CanBus_Raise_Honda", 0x20, 1,
+        "1000072=01,20,81 1000070=02,21,82 1000083=03,14,26 1000082=04,13,27 100117e=07,18 1100008=08 "
+        "1100004=09 1100005=0a 1000005=16 1000071=17,30,86 10000c5=22,24 1000102=23,25");
+    row("GM wheel", "CanBus_Raise_GM", 0x01, 1,
+        "1000072=01 1000070=02 1000082=03 1000083=04 100117e=05 1100008=06 1000071=07");
+    row("GM panel", "CanBus_Raise_GM", 0x02, 0,
+        "10000b7=01 1000082=02,35 1000083=03,34 10000a4=04 10000a5=05 1000061=06 10000a2=07 10000a6=08,40 "
+        "1000071=09 1000005=16 1000086=1b 1000013=1c 1000015=1d 1000010=50,53 100117e=51 10000fd=54",
+        "1000072=17 1000070=18 1000014=19 1000012=1a");
+    row("Jeep wheel", "CanBus_Raise_Jeep", 0x01, 1,
+        "1000072=11 1000070=12 100117e=15,1a 1100008=17 1100004=18 1100005=19 1000083=1c 1000082=1d");
+    row("Jeep panel", "CanBus_Raise_Jeep", 0x04, 0,
+        "100010e=01 1000071=02,03 1000070=05 1000072=06 1000082=07 1000083=08 10000b7=09,0a");
+    row("Mazda wheel", "CanBus_XBS_Mazda", 0x01, 0,
+        "1000072=01 1000070=02 1000083=03 1000082=04 1000071=08 1100008=09,22 1100004=0a 1100005=0b "
+        "10000fd=20 1000010=21 100117e=23 1000013=24 1000015=25 1000012=26 1000014=27 1000005=28 "
+        "100010f=29 1000061=2a",
+        "1000072=f0 1000070=f1 1000014=f2 1000012=f3");
 }
 
 void CarTablesTest::keys()
@@ -229,26 +177,26 @@ void CarTablesTest::temperatures_data()
     QTest::addColumn<QString>("car");
     QTest::addColumn<QByteArray>("package"); // LL and RR: the two temperatures
     QTest::addColumn<Runs>("runs");
-    QTest::newRow("Toyota Celsius") << "CanBus_Raise_Toyota" << QByteArray("28 80 00 LL RR 00")
-                                    << Runs{{0, 0, 0, 0, "LO"},
-                                            {1, 29, 18.0, 0.5, "°C"},
-                                            {0x1F, 0x1F, 0, 0, "HI"},
-                                            {0x20, 0x23, 16.0, 0.5, "°C"}};
-    QTest::newRow("Toyota Fahrenheit")
-        << "CanBus_Raise_Toyota" << QByteArray("28 80 00 LL RR 01")
-        << Runs{{0, 0, 0, 0, "LO"}, {1, 254, 1, 1, "°F"}, {255, 255, 0, 0, "HI"}};
-    QTest::newRow("Honda Celsius") << "CanBus_Raise_Honda" << QByteArray("21 80 00 LL RR 01 00 00 00 00")
-                                   << Runs{{0, 0, 0, 0, "LO"},
-                                           {1, 254, 0.5, 0.5, "°C"},
-                                           {255, 255, 0, 0, "HI"}};
-    QTest::newRow("Honda Fahrenheit")
-        << "CanBus_Raise_Honda" << QByteArray("21 80 00 LL RR 00 00 00 00 00")
-        << Runs{{0, 0, 0, 0, "LO"}, {1, 254, 1, 1, "°F"}, {255, 255, 0, 0, "HI"}};
-    QTest::newRow("GM") << "CanBus_Raise_GM" << QByteArray("03 80 01 LL RR 00 00 02")
-                        << Runs{{0, 0, 0, 0, "LO"},          {1, 28, 17.0, 0.5, "°C"},
-                                {0x1D, 0x1D, 16.0, 0, "°C"}, {0x1E, 0x1E, 0, 0, "HI"},
-                                {0x1F, 0x1F, 16.5, 0, "°C"}, {0x20, 0x21, 15.0, 0.5, "°C"},
-                                {0x22, 0x22, 31.0, 0, "°C"}, {0x23, 0xFF, 0, 0, "--°C"}};
+    const auto row = [](const char *name, const char *car, const char *package, const Runs &runs) {
+        QTest::newRow(name) << QString(car) << QByteArray(package) << runs;
+    };
+    const Run low = {0, 0, 0, 0, "LO"};
+    const Runs fahrenheit = {low, {1, 254, 1, 1, "°F"}, {255, 255, 0, 0, "HI"}};
+    row("Toyota Celsius", "CanBus_Raise_Toyota", "28 80 00 LL RR 00",
+        {low, {1, 29, 18.0, 0.5, "°C"}, {0x1F, 0x1F, 0, 0, "HI"}, {0x20, 0x23, 16.0, 0.5, "°C"}});
+    row("Toyota Fahrenheit", "CanBus_Raise_Toyota", "28 80 00 LL RR 01", fahrenheit);
+    row("Honda Celsius", "CanBus_Raise_Honda", "21 80 00 LL RR 01 00 00 00 00",
+        {low, {1, 254, 0.5, 0.5, "°C"}, {255, 255, 0, 0, "HI"}});
+    row("Honda Fahrenheit", "CanBus_Raise_Honda", "21 80 00 LL RR 00 00 00 00 00", fahrenheit);
+    row("GM", "CanBus_Raise_GM", "03 80 01 LL RR 00 00 02",
+        {low,
+         {1, 28, 17.0, 0.5, "°C"},
+         {0x1D, 0x1D, 16.0, 0, "°C"},
+         {0x1E, 0x1E, 0, 0, "HI"},
+         {0x1F, 0x1F, 16.5, 0, "°C"},
+         {0x20, 0x21, 15.0, 0.5, "°C"},
+         {0x22, 0x22, 31.0, 0, "°C"},
+         {0x23, 0xFF, 0, 0, "--°C"}});
 }
 
 void CarTablesTest::temperatures()
