@@ -28,31 +28,47 @@ volkswagen) type=CanBus_Raise_Volkswagen ;;
 esac
 
 configure_and_build CanBus headunit decoderbox -- -DCANBUS_WORKBENCH=ON
-settings=$(mktemp -d)
-trap 'rm -rf "$settings"' EXIT
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 drive=$root/scenarios/$car.scn
 headunit() {
-    "$build/workbench/headunit/headunit" --can-bus-type "$type" --decoder-box "$drive" \
-        --settings-dir "$settings" "$@"
+    "$build/workbench/headunit/headunit" --can-bus-type "$type" --decoder-box "$drive" --settings-dir "$work" "$@"
 }
+
+# What somebody at the unit does once the drive is over, as script lines.
+at_the_end() {
+    [ "$car" = xinhang ] || return 0
+    echo "disk 1 1 \"$work/disk\""
+    echo "wait 2000"
+    echo "click btnOk"
+}
+if [ "$car" = xinhang ]; then
+    # A disk with new firmware for the box, and all the settings that the box knows.
+    mkdir "$work/disk"
+    head -c 100000 /dev/urandom >"$work/disk/can_xinhang.bin"
+    set -- --factory SettingItemTypes=128,129,130,131,132,133,134,135,136,137,138,144,145,146,147,148 "$@"
+fi
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     step "The head unit on the desk: $car (close the window to end)"
-    headunit "$@"
+    {
+        echo "wait 50000"
+        at_the_end
+        echo "wait 2000000000"
+    } >"$work/script"
+    headunit --script "$work/script" "$@" >/dev/null
     exit
 fi
 
 step "No display: the drive of $car runs offscreen, for about a minute; here is what the car reports"
 mkdir -p "$root/screenshots"
-# A picture every few seconds. The framer's own lines are left out of what is printed.
+# A picture every five seconds. The framer's own lines are left out of what is printed.
 script() {
-    picture=1
-    while [ $picture -le 12 ]; do
+    for picture in 01 02 03 04 05 06 07 08 09 10 11 12; do
         echo "wait 5000"
-        echo "screenshot \"$root/screenshots/$car-$(printf %02d $picture).png\""
-        picture=$((picture + 1))
+        echo "screenshot \"$root/screenshots/$car-$picture.png\""
+        [ $picture != 10 ] || at_the_end
     done
-    echo quit
 }
 script | QT_QPA_PLATFORM=offscreen headunit --trace - --script - "$@" | grep -v '"object": *"ProtocolUtils"'
 step "Screenshots are in screenshots/"

@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 # Sourced by run.sh and test.sh: installs what is missing, configures, builds.
 #
 # CANBUS_BUILD names the build folder (default: build). Says what it does, one line a step.
