@@ -54,7 +54,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     {
         echo "wait 50000"
         at_the_end
-        echo "wait 2000000000"
+        echo "wait 86400000"
     } >"$work/script"
     headunit --script "$work/script" "$@" >/dev/null
     exit
