@@ -82,6 +82,7 @@ extern "C" __attribute__((noinline)) void measuredEmit(Receiver *receiver, const
 }
 
 // Qt's containers and everything else on the heap come through here.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" void *__libc_malloc(size_t size);
 extern "C" void *malloc(size_t size)
 {
@@ -95,6 +96,7 @@ extern "C" void *realloc(void *memory, size_t size)
     ++allocations;
     return __libc_realloc(memory, size);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 int main(int argc, char **argv)
 {

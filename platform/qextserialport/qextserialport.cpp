@@ -13,7 +13,7 @@ QextSerialPort::QextSerialPort(const QString &name, const PortSettings &settings
 
 QextSerialPort::~QextSerialPort()
 {
-    close();
+    QextSerialPort::close();
 }
 
 bool QextSerialPort::open(OpenMode mode)

@@ -219,19 +219,19 @@ void ProtocolUtils::framePackages()
             }
             size = getPackageSize(cursor);
         }
-        if (size > LongestPackage || size < minimum) {
-            ++cursor;
-        } else if (recvBuffer.size() - cursor < size) {
+        const bool possible = size >= minimum && size <= LongestPackage;
+        if (possible && recvBuffer.size() - cursor < size) {
             p->candidateSize = size;
             p->needed = size;
             break;
-        } else if (!isAvaliablePackage(cursor, cursor + size - 1, size)) {
-            // A bad candidate costs its start byte only: a good package may lie inside it.
-            ++cursor;
-        } else {
+        }
+        if (possible && isAvaliablePackage(cursor, cursor + size - 1, size)) {
             p->cursor = cursor + size;
             emitPackage(recvBuffer.constData() + cursor, size);
             cursor = p->cursor;
+        } else {
+            // A bad candidate costs its start byte only: a good package may lie inside it.
+            ++cursor;
         }
         size = 0;
     }
