@@ -21,7 +21,7 @@ const int LongestPackage = 512;
 // net.
 const int BusyPollInterval = 4;
 const int IdlePollInterval = 8;
-const int AnnouncedPollInterval = 100;
+const int AnnouncedPollInterval = 250;
 const int BusyTime = 250;
 
 // No package pauses for so long in its middle.
