@@ -28,7 +28,6 @@ private Q_SLOTS:
     void updateStates_data();
     void updateStates();
     void updateIsAsked();
-    void updateMaySilentlyEnd_data();
     void updateMaySilentlyEnd();
     void languageChangesWhileOpen();
 
@@ -140,40 +139,27 @@ void TestDialogs::climateIsPutAwayByATap()
 
 void TestDialogs::updateStates_data()
 {
-    QTest::addColumn<UpdateCalls>("calls");
     QTest::addColumn<QString>("shown");
+    QTest::addColumn<UpdateCalls>("calls");
     typedef UpdateDialog D;
-    const auto add = [](const char *name, const UpdateCalls &calls, const char *shown) {
-        QTest::newRow(name) << calls << QString(shown);
+    const auto row = [](const char *name, const char *shown, const UpdateCalls &calls) {
+        QTest::newRow(name) << QString(shown) << calls;
     };
-    add(
-        "asks", [](D &) {}, "btnOk:Update btnCancel:Later");
-    add(
-        "runs", [](D &d) { d.updatePercent(42); }, "42");
-    add(
-        "below 0", [](D &d) { d.updatePercent(-1); }, "0");
-    add(
-        "above 100 is the end", [](D &d) { d.updatePercent(101); }, "btnCancel:Close");
-    add(
-        "second disk while it runs", [](D &d) { d.updatePercent(42), d.showUpdateDlg(1); }, "42");
-    add(
-        "disk out before the answer", [](D &d) { d.setUpdateFailed(2); }, "btnCancel:Close");
-    add(
-        "fails on the way", [](D &d) { d.updatePercent(42), d.setUpdateFailed(2); },
-        "btnOk:Try again btnCancel:Close");
-    add(
-        "goes on after a failure", [](D &d) { d.setUpdateFailed(2), d.updatePercent(50); }, "50");
-    add(
-        "disk out after the end", [](D &d) { d.updatePercent(100), d.setUpdateFailed(2); },
-        "btnCancel:Close");
-    add(
-        "asks again after a failure",
-        [](D &d) { d.updatePercent(4), d.setUpdateFailed(2), d.showUpdateDlg(1); },
-        "btnOk:Update btnCancel:Later");
-    add(
-        "later failure does not offer a try",
-        [](D &d) { d.updatePercent(4), d.setUpdateFailed(2), d.showUpdateDlg(1), d.setUpdateFailed(2); },
-        "btnCancel:Close");
+    const char asks[] = "btnOk:Update btnCancel:Later";
+    const char closes[] = "btnCancel:Close";
+    row("asks", asks, [](D &) {});
+    row("runs", "42", [](D &d) { d.updatePercent(42); });
+    row("below 0", "0", [](D &d) { d.updatePercent(-1); });
+    row("above 100 is the end", closes, [](D &d) { d.updatePercent(101); });
+    row("second disk while it runs", "42", [](D &d) { d.updatePercent(42), d.showUpdateDlg(1); });
+    row("disk out before the answer", closes, [](D &d) { d.setUpdateFailed(2); });
+    row("fails on the way", "btnOk:Try again btnCancel:Close",
+        [](D &d) { d.updatePercent(42), d.setUpdateFailed(2); });
+    row("goes on after a failure", "50", [](D &d) { d.setUpdateFailed(2), d.updatePercent(50); });
+    row("disk out after the end", closes, [](D &d) { d.updatePercent(100), d.setUpdateFailed(2); });
+    row("asks again after a failure", asks, [](D &d) { d.setUpdateFailed(2), d.showUpdateDlg(1); });
+    row("later failure does not offer a try", closes,
+        [](D &d) { d.updatePercent(4), d.setUpdateFailed(2), d.showUpdateDlg(1), d.setUpdateFailed(2); });
 }
 
 void TestDialogs::updateStates()
@@ -213,26 +199,19 @@ void TestDialogs::updateIsAsked()
     QCOMPARE(accepted.size(), 2);
 }
 
-void TestDialogs::updateMaySilentlyEnd_data()
-{
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("after the last packet") << 99 << "btnCancel:Close";
-    QTest::newRow("on the way") << 42 << "btnCancel:Close 42";
-}
-
 void TestDialogs::updateMaySilentlyEnd()
 {
-    QFETCH(int, percent);
-    QFETCH(QString, shown);
-    TestScreen screen;
-    UpdateDialog dialog;
-    dialog.findChild<QTimer *>("silence")->setInterval(10);
-    dialog.showUpdateDlg(1);
-    dialog.updatePercent(percent);
-    QTRY_COMPARE(summary(dialog), shown);
-    dialog.updatePercent(percent);
-    QCOMPARE(summary(dialog), QString::number(percent));
+    const QList<QPair<int, QString>> ends = {{99, "btnCancel:Close"}, {42, "btnCancel:Close 42"}};
+    for (const auto &end : ends) {
+        TestScreen screen;
+        UpdateDialog dialog;
+        dialog.findChild<QTimer *>("silence")->setInterval(10);
+        dialog.showUpdateDlg(1);
+        dialog.updatePercent(end.first);
+        QTRY_COMPARE(summary(dialog), end.second);
+        dialog.updatePercent(end.first);
+        QCOMPARE(summary(dialog), QString::number(end.first));
+    }
 }
 
 void TestDialogs::languageChangesWhileOpen()

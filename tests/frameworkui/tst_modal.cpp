@@ -51,22 +51,18 @@ void TestModal::scrimKeepsTouchesAway()
 
 void TestModal::execReturnsTheResult_data()
 {
-    QTest::addColumn<Action>("close");
     QTest::addColumn<int>("result");
-    const auto row = [](const char *name, const Action &close, int result) {
-        QTest::newRow(name) << close << result;
+    QTest::addColumn<Action>("close");
+    typedef HookedWindow W;
+    typedef PlainDialog D;
+    const auto row = [](const char *name, int result, const Action &close) {
+        QTest::newRow(name) << result << close;
     };
-    row(
-        "back", [](HookedWindow &, PlainDialog &d) { d.back(); }, 0);
-    row(
-        "done", [](HookedWindow &, PlainDialog &d) { d.done(5); }, 5);
-    row(
-        "hide", [](HookedWindow &, PlainDialog &d) { d.hide(); }, 0);
-    row(
-        "accept, then hide", [](HookedWindow &, PlainDialog &d) { d.accept(), d.hide(); }, 1);
-    row(
-        "screen goes",
-        [](HookedWindow &, PlainDialog &) { OrbHost::instance()->setScreen(nullptr, nullptr); }, 0);
+    row("back", 0, [](W &, D &d) { d.back(); });
+    row("done", 5, [](W &, D &d) { d.done(5); });
+    row("hide", 0, [](W &, D &d) { d.hide(); });
+    row("accept, then hide", 1, [](W &, D &d) { d.accept(), d.hide(); });
+    row("screen goes", 0, [](W &, D &) { OrbHost::instance()->setScreen(nullptr, nullptr); });
 }
 
 void TestModal::execReturnsTheResult()
