@@ -1,24 +1,37 @@
-# Puts translations into a library or program: each file NAME_LANGUAGE.ts becomes :/i18n/NAME_LANGUAGE.qm, the form
-# in which OrbHost looks for a language. The resource is called NAME (for Q_INIT_RESOURCE). Without lrelease the
-# target speaks English only.
-function(canbus_add_translations target name)
+# Compiles each NAME_LANGUAGE.ts to FOLDER/NAME_LANGUAGE.qm as part of building TARGET, and lists the results in OUT.
+# Without lrelease the target speaks English only.
+function(canbus_compile_translations target folder out)
   find_program(CANBUS_LRELEASE NAMES lrelease lrelease-qt${CANBUS_QT_VERSION}
                HINTS /usr/lib/qt${CANBUS_QT_VERSION}/bin)
-  set(qrc ${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc)
-  set(content "<RCC>\n    <qresource prefix=\"/i18n\">\n")
+  set(all_compiled "")
   if(CANBUS_LRELEASE)
+    file(MAKE_DIRECTORY ${folder})
     foreach(source IN LISTS ARGN)
       get_filename_component(stem ${source} NAME_WE)
-      set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${stem}.qm)
+      set(compiled ${folder}/${stem}.qm)
       add_custom_command(OUTPUT ${compiled}
         COMMAND ${CANBUS_LRELEASE} -silent ${CMAKE_CURRENT_SOURCE_DIR}/${source} -qm ${compiled}
         DEPENDS ${source} VERBATIM)
       list(APPEND all_compiled ${compiled})
-      string(APPEND content "        <file>${stem}.qm</file>\n")
     endforeach()
   else()
     message(STATUS "lrelease is missing: ${target} speaks English only")
   endif()
+  add_custom_target(${target}_translations ALL DEPENDS ${all_compiled})
+  add_dependencies(${target} ${target}_translations)
+  set(${out} ${all_compiled} PARENT_SCOPE)
+endfunction()
+
+# Puts translations into a library or program: each file NAME_LANGUAGE.ts becomes :/i18n/NAME_LANGUAGE.qm, the form
+# in which OrbHost looks for a language. The resource is called NAME (for Q_INIT_RESOURCE).
+function(canbus_add_translations target name)
+  canbus_compile_translations(${target} ${CMAKE_CURRENT_BINARY_DIR} all_compiled ${ARGN})
+  set(qrc ${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc)
+  set(content "<RCC>\n    <qresource prefix=\"/i18n\">\n")
+  foreach(compiled IN LISTS all_compiled)
+    get_filename_component(file_name ${compiled} NAME)
+    string(APPEND content "        <file>${file_name}</file>\n")
+  endforeach()
   string(APPEND content "    </qresource>\n</RCC>\n")
   set(before "")
   if(EXISTS ${qrc})
@@ -27,10 +40,8 @@ function(canbus_add_translations target name)
   if(NOT before STREQUAL content)
     file(WRITE ${qrc} "${content}")
   endif()
-  add_custom_target(${target}_translations DEPENDS ${all_compiled})
   target_sources(${target} PRIVATE ${qrc})
   set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${target}_translations)
-  add_dependencies(${target} ${target}_translations)
 endfunction()
 
 # Folder of the compiled translations that a host loads from outside (plug-in and framework). Installed they lie in
@@ -38,24 +49,8 @@ endfunction()
 set(CANBUS_TRANSLATION_DIR ${CMAKE_BINARY_DIR}/translations)
 set(CANBUS_TRANSLATION_INSTALL_DIR ${CMAKE_INSTALL_DATADIR}/orb/translations)
 
-# Compiles each NAME_LANGUAGE.ts to a file of that folder; NAME_translations is the target.
-function(canbus_translation_files name)
-  find_program(CANBUS_LRELEASE NAMES lrelease lrelease-qt${CANBUS_QT_VERSION}
-               HINTS /usr/lib/qt${CANBUS_QT_VERSION}/bin)
-  set(all_compiled "")
-  if(CANBUS_LRELEASE)
-    file(MAKE_DIRECTORY ${CANBUS_TRANSLATION_DIR})
-    foreach(source IN LISTS ARGN)
-      get_filename_component(stem ${source} NAME_WE)
-      set(compiled ${CANBUS_TRANSLATION_DIR}/${stem}.qm)
-      add_custom_command(OUTPUT ${compiled}
-        COMMAND ${CANBUS_LRELEASE} -silent ${CMAKE_CURRENT_SOURCE_DIR}/${source} -qm ${compiled}
-        DEPENDS ${source} VERBATIM)
-      list(APPEND all_compiled ${compiled})
-    endforeach()
-    install(FILES ${all_compiled} DESTINATION ${CANBUS_TRANSLATION_INSTALL_DIR})
-  else()
-    message(STATUS "lrelease is missing: no translations for ${name}")
-  endif()
-  add_custom_target(${name}_translations ALL DEPENDS ${all_compiled})
+# Compiles each NAME_LANGUAGE.ts to a file of that folder whenever the target is built.
+function(canbus_translation_files target)
+  canbus_compile_translations(${target} ${CANBUS_TRANSLATION_DIR} all_compiled ${ARGN})
+  install(FILES ${all_compiled} DESTINATION ${CANBUS_TRANSLATION_INSTALL_DIR})
 endfunction()
