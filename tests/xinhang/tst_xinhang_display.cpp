@@ -54,57 +54,43 @@ void TestXinHangDisplay::triggers_data()
     QTest::addColumn<QByteArray>("steps"); // package | state:STATE:MASK | long | show
     QTest::addColumn<QString>("calls");
     QTest::addColumn<int>("display");
-    const QVariantMap none;
+    const auto row = [](const char *name, int carType, const QVariantMap &settings, const QByteArray &steps,
+                        const QString &calls, int display) {
+        QTest::newRow(name) << carType << settings << steps << calls << display;
+    };
     const QVariantMap camera360{{"SetItem1", 1}};
-    const QVariantMap cameraAdded{{"SetItem1", 2}};
     const QVariantMap right{{"SetItem2", 1}};
     const QString camera = "send 83 01";
     const QString back = "send 83 02";
-
-    QTest::newRow("status: factory screen") << 1 << none << QByteArray("01 10 00 00 00") << QString() << 1;
-    QTest::newRow("status: own screen") << 1 << none << QByteArray("01 ef 00 00 00") << QString() << 2;
-    QTest::newRow("360, reversing") << 1 << camera360 << QByteArray("01 00 00 00 00 | 01 20 00 00 00")
-                                    << camera << 1;
-    QTest::newRow("360, right indicator") << 1 << camera360 << QByteArray("01 40 00 00 00") << camera << 1;
-    QTest::newRow("360, reversing, but the car has its screen")
-        << 1 << camera360 << QByteArray("01 30 00 00 00") << QString() << 1;
-    QTest::newRow("360, reversing twice")
-        << 1 << camera360 << QByteArray("01 20 00 00 00 | 01 20 00 00 01") << camera << 2;
-    QTest::newRow("360, reversing goes over into right")
-        << 1 << camera360 << QByteArray("01 20 00 00 00 | 01 50 00 00 00") << camera << 1;
-    QTest::newRow("quirk_xinhang_camera_return")
-        << 1 << camera360 << QByteArray("01 20 00 00 00 | 01 00 00 00 00 | 01 00 00 00 01")
-        << camera + "; " + back << 2;
-    QTest::newRow("360, manual switching waits for the end")
-        << 1 << camera360
-        << QByteArray("01 20 00 00 00 | show | long | state:1000000:1000000 | 01 10 00 00 00 | show")
-        << camera + "; " + back + "; " + ToFactory << 1;
-    QTest::newRow("right camera, indicator") << 1 << right << QByteArray("01 40 00 00 00") << camera << 1;
-    QTest::newRow("right camera, reversing") << 1 << right << QByteArray("01 20 00 00 00") << QString() << 2;
-    QTest::newRow("added camera") << 1 << cameraAdded << QByteArray("01 60 00 00 00") << QString() << 2;
-    QTest::newRow("car 4 has no camera bits")
-        << 4 << camera360 << QByteArray("01 60 00 00 00") << QString() << 2;
+    row("status: factory screen", 1, {}, "01 10 00 00 00", "", 1);
+    row("status: own screen", 1, {}, "01 ef 00 00 00", "", 2);
+    row("360, reversing", 1, camera360, "01 20 00 00 00", camera, 1);
+    row("360, right indicator", 1, camera360, "01 40 00 00 00", camera, 1);
+    row("360, reversing, but the car has its screen", 1, camera360, "01 30 00 00 00", "", 1);
+    row("360, reversing twice", 1, camera360, "01 20 00 00 00 | 01 20 00 00 01", camera, 2);
+    row("360, reversing goes over into right", 1, camera360, "01 20 00 00 00 | 01 50 00 00 00", camera, 1);
+    row("quirk_xinhang_camera_return", 1, camera360, "01 20 00 00 00 | 01 00 00 00 00 | 01 00 00 00 01",
+        camera + "; " + back, 2);
+    row("360, manual switching waits for the end", 1, camera360,
+        "01 20 00 00 00 | show | long | state:1000000:1000000 | 01 10 00 00 00 | show",
+        camera + "; " + back + "; " + ToFactory, 1);
+    row("right camera, indicator", 1, right, "01 40 00 00 00", camera, 1);
+    row("right camera, reversing", 1, right, "01 20 00 00 00", "", 2);
+    row("added camera", 1, {{"SetItem1", 2}}, "01 60 00 00 00", "", 2);
+    row("car 4 has no camera bits", 4, camera360, "01 60 00 00 00", "", 2);
 
     const QByteArray own("01 00 00 00 00 | ");
     const QByteArray factory("01 10 00 00 00 | ");
-    QTest::newRow("long press") << 2 << none << own + "long | long" << QString(ToFactory) + "; " + ToOwn << 2;
-    QTest::newRow("long press, bit 2") << 2 << none << own + "tag:4 | long" << QString() << 2;
-    QTest::newRow("long press, call") << 2 << none << own + "tag:1000000 | long" << QString() << 2;
-    QTest::newRow("long press, other bits")
-        << 2 << none << own + "tag:fcfffffb | long" << QString(ToFactory) << 1;
-    QTest::newRow("call on the factory screen")
-        << 2 << none << factory + "state:1000000:1000000 | state:0:1000000"
-        << QString(ToOwn) + "; " + ToFactory << 1;
-    QTest::newRow("call on the own screen")
-        << 2 << none << own + "state:2000000:2000000 | state:0:2000000" << QString() << 2;
-    QTest::newRow("quirk_xinhang_call_twice")
-        << 2 << none << factory + "state:1000000:1000000 | state:2000000:2000000 | state:0:2000000"
-        << QString(ToOwn) << 2;
-    QTest::newRow("state: both bits in one mask")
-        << 2 << none << factory + "state:3000000:3000000" << QString() << 1;
-    QTest::newRow("state: the bit of another mask")
-        << 2 << none << factory + "state:1000000:2000000" << QString(ToOwn) << 2;
-    QTest::newRow("shown already") << 2 << none << factory + "show" << QString() << 1;
+    row("long press, bit 2", 2, {}, own + "tag:4 | long", "", 2);
+    row("long press, other bits", 2, {}, own + "tag:fcfffffb | long", ToFactory, 1);
+    row("call on the factory screen", 2, {}, factory + "state:1000000:1000000 | state:0:1000000",
+        QString(ToOwn) + "; " + ToFactory, 1);
+    row("call on the own screen", 2, {}, own + "state:2000000:2000000 | state:0:2000000", "", 2);
+    row("quirk_xinhang_call_twice", 2, {},
+        factory + "state:1000000:1000000 | state:2000000:2000000 | state:0:2000000", ToOwn, 2);
+    row("state: both bits in one mask", 2, {}, factory + "state:3000000:3000000", "", 1);
+    row("state: the bit of another mask", 2, {}, factory + "state:1000000:2000000", ToOwn, 2);
+    row("shown already", 2, {}, factory + "show", "", 1);
 }
 
 void TestXinHangDisplay::triggers()
@@ -112,8 +98,6 @@ void TestXinHangDisplay::triggers()
     QFETCH(int, carType);
     QFETCH(QVariantMap, settings);
     QFETCH(QByteArray, steps);
-    QFETCH(QString, calls);
-    QFETCH(int, display);
     XinHangBench &bench = sharedBench(settings);
     bench.drive(carType, "own");
     QStringList done;
@@ -133,8 +117,8 @@ void TestXinHangDisplay::triggers()
         done << bench.calls();
     }
     OrbHost::instance()->setTag(0x10001, QVariant());
-    QCOMPARE(XinHang::joined(done), calls);
-    QCOMPARE(int(bench.adapter->getDisplay()), display);
+    QTEST(XinHang::joined(done), "calls");
+    QTEST(int(bench.adapter->getDisplay()), "display");
 }
 
 /// The bench of the test before, unless that had other settings.

@@ -9,13 +9,29 @@ namespace {
 
 const char Received[] = "ProtocolUtils.recvProtocolData(";
 
+// Command and data of the packages in \a sent, in hexadecimal ("83 02"). What is no good package appears as
+// "bad" with the rest.
+QByteArrayList parse(QByteArray sent)
+{
+    QByteArrayList packages;
+    while (!sent.isEmpty()) {
+        const QByteArray body = sent.mid(2, sent.size() > 1 ? quint8(sent.at(1)) : 0);
+        const QByteArray package = XinHangWire::frame(body.toHex());
+        if (!sent.startsWith(package))
+            return packages << "bad " + sent.toHex(' ');
+        packages << body.toHex(' ');
+        sent.remove(0, package.size());
+    }
+    return packages;
+}
+
 QString readable(const QString &line)
 {
     static const QRegularExpression write("^ProtocolUtils\\.writeDatas\\((\\w+)\\)$");
     static const QRegularExpression key("^OrbApplication\\.simulateKey\\((\\d+),(\\w+),(\\w+),0\\)$");
     QRegularExpressionMatch match = write.match(line);
     if (match.hasMatch())
-        return "send " + XinHangWire::parse(QByteArray::fromHex(match.captured(1).toLatin1())).join(" + ");
+        return "send " + parse(QByteArray::fromHex(match.captured(1).toLatin1())).join(" + ");
     match = key.match(line);
     if (!match.hasMatch())
         return line;
@@ -26,32 +42,22 @@ QString readable(const QString &line)
 
 } // namespace
 
-QByteArray XinHangWire::frame(const QByteArray &commandAndData)
-{
-    const QByteArray body = QByteArray::fromHex(commandAndData);
-    int sum = 0;
-    for (const char byte : body)
-        sum += quint8(byte);
-    return QByteArray("\xF0") + char(body.size()) + body + char(0xFF - sum % 256);
-}
-
-QByteArrayList XinHangWire::parse(QByteArray sent)
-{
-    QByteArrayList packages;
-    while (!sent.isEmpty()) {
-        const QByteArray body = sent.mid(2, sent.size() > 1 ? quint8(sent.at(1)) : 0);
-        const QByteArray package = frame(body.toHex());
-        if (!sent.startsWith(package))
-            return packages << "bad " + sent.toHex(' ');
-        packages << body.toHex(' ');
-        sent.remove(0, package.size());
-    }
-    return packages;
-}
-
 QString XinHang::joined(const QStringList &calls)
 {
     return calls.join("; ");
+}
+
+const QHash<int, int> &XinHang::unitKeys()
+{
+    static const QHash<int, int> keys = {
+        {0x01, 0x01000013}, {0x02, 0x01000015}, {0x03, 0x010000A7}, {0x04, 0x010000A8}, {0x05, 0x01000005},
+        {0x06, 0x01000061}, {0x07, 0x01000005}, {0x08, 0x01000082}, {0x09, 0x01000083}, {0x0A, 0x010000C5},
+        {0x0B, 0x01000102}, {0x0C, 0x01000070}, {0x0D, 0x01000072}, {0x0E, 0x01000071}, {0x0F, 0x01100004},
+        {0x10, 0x01100005}, {0x11, 0x0100117E}, {0x12, 0x01000010}, {0x13, 0x01100008}, {0x14, 0x01100008},
+        {0x15, 0x01100008}, {0x16, 0x01000010}, {0x17, 0x010000A2}, {0x18, 0x010000FF}, {0x19, 0x010000F3},
+        {0x1A, 0x01000071}, {0x1B, 0x010000FD}, {0x1D, 0x31},       {0x1E, 0x32},       {0x1F, 0x33},
+        {0x20, 0x34},       {0x21, 0x35},       {0x22, 0x36},       {0xFE, 0x01000012}, {0xFF, 0x01000014}};
+    return keys;
 }
 
 QString XinHang::settingsFile()

@@ -2,23 +2,12 @@
 #define XINHANGBENCH_H
 
 #include "adapterfixture.h"
+#include "xinhangwire.h"
 
 #include "orbhost.h"
 #include "xinhang/canbus_xinhang.h"
 
 #include <QTemporaryDir>
-
-/// The XinHang box's side of the line, written apart from the plug-in so that it can judge it.
-namespace XinHangWire {
-
-/// Whole package of "COMMAND DATA..." in hexadecimal.
-QByteArray frame(const QByteArray &commandAndData);
-
-/// Command and data of the packages in \a sent, in hexadecimal ("83 02"). What is no good package appears as
-/// "bad" with the rest.
-QByteArrayList parse(QByteArray sent);
-
-} // namespace XinHangWire
 
 /// A XinHang adapter on a pseudo-terminal with a settings folder of its own.
 class XinHangBench : public AdapterFixture
@@ -61,6 +50,9 @@ namespace XinHang {
 
 /// "a; b; c" of a list of calls, for comparison in one piece.
 QString joined(const QStringList &calls);
+
+/// The unit's key of each code of wheel and panel.
+const QHash<int, int> &unitKeys();
 
 /// The settings folder of the process, and the file in it.
 QString settingsFile();
