@@ -238,6 +238,10 @@ void UnitShell::showControls()
 void UnitShell::showFront()
 {
     QWidget *front = OrbHost::instance()->frontWindow();
+    if (front) {
+        // A window translates its title after the desk does, or changes it while it is open.
+        connect(front, &QWidget::windowTitleChanged, this, &UnitShell::showFront, Qt::UniqueConnection);
+    }
     m_statusBar->setApplication(front                    ? front->windowTitle()
                                 : m_appPage->isVisible() ? m_appPage->title()
                                                          : tr("Home"));
