@@ -25,17 +25,23 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *event) override
     {
-        write("press", event);
+        write("press", event, Qt::LeftButton, Qt::LeftButton);
         if (onPress)
             onPress();
     }
-    void mouseMoveEvent(QMouseEvent *event) override { write("move", event); }
-    void mouseReleaseEvent(QMouseEvent *event) override { write("release", event); }
+    void mouseMoveEvent(QMouseEvent *event) override { write("move", event, Qt::NoButton, Qt::LeftButton); }
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        write("release", event, Qt::LeftButton, Qt::NoButton);
+    }
 
 private:
-    void write(const char *what, QMouseEvent *event)
+    // With the buttons as from a mouse, which needs no mention.
+    void write(const char *what, QMouseEvent *event, Qt::MouseButton button, Qt::MouseButton held)
     {
         *m_log << QString("%1 %2 %3,%4").arg(m_name, what).arg(event->pos().x()).arg(event->pos().y());
+        if (event->button() != button || event->buttons() != Qt::MouseButtons(held))
+            m_log->last() += " with wrong buttons";
     }
 
     QString m_name;
