@@ -324,6 +324,7 @@ void TestXinHangUpdate::secondUpdate()
         QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00")); // the user starts anew
         QCOMPARE(XinHang::joined(bench.exchange("08 01")), QString("send 86 01 00 00 00 00 02"));
         bench.exchange("08 03");
+        QVERIFY(QFile::remove(bench.file(name))); // and the next one is elsewhere
     }
 }
 
