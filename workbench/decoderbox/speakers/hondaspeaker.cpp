@@ -23,16 +23,8 @@ HondaSpeaker::HondaSpeaker(SimulatedCar *car, QObject *parent) : RaiseSpeaker(ca
                {"steering.angle"},
                [](const SimulatedCar &c) { return littleEndian16(steering(c, 4608)); },
                true});
-    addReport({"radar rear",
-               0x22,
-               {"radar.rear."},
-               [](const SimulatedCar &c) { return radar(c, "rear", radarLevels); },
-               true});
-    addReport({"radar front",
-               0x23,
-               {"radar.front."},
-               [](const SimulatedCar &c) { return radar(c, "front", radarLevels); },
-               true});
+    addRadar("rear", 0x22, radarLevels);
+    addRadar("front", 0x23, radarLevels);
     addReport({"doors", 0x24, {"doors."}, doors, true});
 
     addKeys(BoxKey::Wheel, 0x20,

@@ -56,13 +56,16 @@ quint8 RaiseSpeaker::airFlow(const SimulatedCar &car)
                   bit(car.flag("climate.to_feet"), 5) | car.number("climate.fan"));
 }
 
-QByteArray RaiseSpeaker::radar(const SimulatedCar &car, const QString &side, const quint8 (&levels)[7])
+void RaiseSpeaker::addRadar(const QString &side, quint8 command, const quint8 (&levels)[7])
 {
-    QByteArray result;
-    for (int sensor = 1; sensor <= 4; ++sensor) {
-        result += char(levels[car.number(QString("radar.%1.%2").arg(side).arg(sensor))]);
-    }
-    return result;
+    const auto sensors = [side, &levels](const SimulatedCar &car) {
+        QByteArray result;
+        for (int sensor = 1; sensor <= 4; ++sensor) {
+            result += char(levels[car.number(QString("radar.%1.%2").arg(side).arg(sensor))]);
+        }
+        return result;
+    };
+    addReport({"radar " + side, command, {"radar." + side + "."}, sensors, true});
 }
 
 int RaiseSpeaker::nearerOf(const SimulatedCar &car, const QString &side, int one, int other)

@@ -19,6 +19,10 @@ protected:
     /// A key row: pressed, held and released go out as data (code, state).
     void addKeys(BoxKey::Source source, quint8 command, const QVector<QPair<quint8, const char *>> &rows);
 
+    /// Reports the four sensors of \a side, "front" or "rear", by \a levels, which has the box's level for
+    /// the car's levels 0 to 6 and lives as long as the program.
+    void addRadar(const QString &side, quint8 command, const quint8 (&levels)[7]);
+
     static quint8 bit(bool on, int place) { return on ? quint8(1 << place) : quint8(0); }
     static QByteArray bytes(std::initializer_list<int> values);
 
@@ -26,9 +30,6 @@ protected:
     static QByteArray doors(const SimulatedCar &car);
     /// Window, face and feet in bits 7, 6 and 5, the fan in bits 2..0.
     static quint8 airFlow(const SimulatedCar &car);
-    /// The four sensors of "front" or "rear" by \a levels, which has the box's level for the car's levels 0
-    /// to 6.
-    static QByteArray radar(const SimulatedCar &car, const QString &side, const quint8 (&levels)[7]);
     /// The nearer of what the sensors \a one and \a other of \a side see, in the car's levels.
     static int nearerOf(const SimulatedCar &car, const QString &side, int one, int other);
     /// The steering angle in units of which \a lock make the way from the middle to the right lock.

@@ -17,16 +17,8 @@ ToyotaSpeaker::ToyotaSpeaker(SimulatedCar *car, QObject *parent) : RaiseSpeaker(
                climate,
                true});
     addReport({"steering", 0x29, {"steering.angle"}, steeringAngle, true});
-    addReport({"radar front",
-               0x1D,
-               {"radar.front."},
-               [](const SimulatedCar &c) { return radar(c, "front", radarLevels); },
-               true});
-    addReport({"radar rear",
-               0x1E,
-               {"radar.rear."},
-               [](const SimulatedCar &c) { return radar(c, "rear", radarLevels); },
-               true});
+    addRadar("front", 0x1D, radarLevels);
+    addRadar("rear", 0x1E, radarLevels);
     addReport({"doors", 0x24, {"doors."}, doors, true});
     addReport({"360 view", 0x32, {"camera.view360"}, view360, false});
 
