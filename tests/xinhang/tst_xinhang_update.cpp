@@ -177,9 +177,11 @@ void TestXinHangUpdate::wholeUpdate_data()
     QTest::addColumn<int>("size");
     QTest::addColumn<quint32>("count");
     QTest::newRow("empty") << 0 << 0u;
+    QTest::newRow("one byte") << 1 << 1u;
+    QTest::newRow("one byte less than a packet") << 127 << 1u;
     QTest::newRow("one packet") << 128 << 1u;
     QTest::newRow("one byte more than a packet") << 129 << 2u;
-    QTest::newRow("more than 256 packets") << 40000 << 313u;
+    QTest::newRow("1 MiB") << 1024 * 1024 << 8192u;
 }
 
 void TestXinHangUpdate::wholeUpdate()
@@ -190,11 +192,35 @@ void TestXinHangUpdate::wholeUpdate()
     const QByteArray firmware = image(size);
     writeFile(bench.file(), firmware);
     bench.insert();
+    bench.box.takeUntilQuiet(20);
     QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00"));
-    const QByteArray counted = QByteArray::fromHex("860100" + hex32(count)).toHex(' ');
-    QCOMPARE(XinHang::joined(bench.exchange("08 01")), "send " + counted);
-    for (quint32 number = 0; number < count; ++number)
-        QCOMPARE(bench.ask(number).value(0), packetCall(firmware, number));
+    bench.exchange("08 01");
+    const QByteArray answers =
+        XinHangWire::frame("86 00 00") + XinHangWire::frame("86 01 00 " + hex32(count));
+    QVERIFY(bench.box.waitForBytes(int(answers.size())));
+    QCOMPARE(bench.box.take().toHex(' '), answers.toHex(' '));
+
+    // The box puts the image together from what comes over the line.
+    const int packageSize = 138;
+    QByteArray received;
+    for (quint32 number = 0; number < count;) {
+        QByteArray requests;
+        const quint32 from = number;
+        for (; number < count && number < from + 64; ++number)
+            requests += XinHangWire::frame("08 02 00 " + hex32(number));
+        bench.box.send(requests);
+        const int wanted = int(number - from) * packageSize;
+        QVERIFY(bench.box.waitForBytes(wanted));
+        const QByteArray sent = bench.box.take();
+        QCOMPARE(int(sent.size()), wanted);
+        for (quint32 i = from; i < number; ++i) {
+            const QByteArray package = sent.mid(int(i - from) * packageSize, packageSize);
+            QCOMPARE(package, XinHangWire::frame("86 02 00 " + hex32(i) + package.mid(9, 128).toHex()));
+            received += package.mid(9, 128);
+        }
+    }
+    QCOMPARE(received.left(size) == firmware, true);
+    QCOMPARE(received.mid(size), QByteArray(int(count) * 128 - size, '\xFF'));
     QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
 }
 

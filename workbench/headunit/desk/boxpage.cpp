@@ -175,12 +175,24 @@ void BoxPage::showState()
     m_state->setText(m_box->isUnitThere() ? text : tr("The unit has not opened the port"));
 }
 
+/// A long word (a checksum) that a label may break anywhere.
+QString BoxPage::breakable(const QString &text)
+{
+    const QChar zeroWidthSpace(0x200B);
+    QString result;
+    for (const QChar &letter : text) {
+        result += letter;
+        result += zeroWidthSpace;
+    }
+    return result;
+}
+
 void BoxPage::showObservations()
 {
     QStringList lines;
     const QMap<QString, QString> &all = m_box->observations();
     for (auto row = all.begin(); row != all.end(); ++row) {
-        lines << row.key() + QStringLiteral(": ") + row.value();
+        lines << row.key() + QStringLiteral(": ") + breakable(row.value());
     }
     m_observations->setText(lines.isEmpty() ? tr("Nothing yet") : lines.join(QLatin1Char('\n')));
 }

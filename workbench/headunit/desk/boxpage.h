@@ -36,6 +36,7 @@ private:
     void choose();
     void stopPlaying();
     void showState();
+    static QString breakable(const QString &text);
     void showObservations();
     void setTexts();
 
