@@ -26,11 +26,6 @@ public:
     /// Takes the data of an update package from the unit, at least one byte; returns what it means.
     QString take(const BoxPackage &package);
 
-    /// What has arrived, in whole packets; before the end, packets that are missing are zeros.
-    const QByteArray &image() const { return m_image; }
-    /// Whether all of the last image has arrived.
-    bool isComplete() const { return m_state == Complete; }
-
 signals:
     /// Data of an update package for the unit.
     void answerDue(const QByteArray &data, const QString &meaning);

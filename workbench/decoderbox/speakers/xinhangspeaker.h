@@ -18,8 +18,6 @@ public:
     BoxPackage touchPackage(Touch touch, int x, int y) const override;
     QVector<BoxPackage> keyPackages(const BoxKey &key, KeyState state) const override;
 
-    const FirmwareReceiver &firmware() const { return m_firmware; }
-
 private:
     void addReports();
     void addAllKeys();
