@@ -22,15 +22,11 @@ private Q_SLOTS:
     void steps();
     void checks_data();
     void checks();
-    void severalFlags();
-    void exclusiveChoiceMoves();
+    void choicesMove();
     void showsText();
-    void firstModeWins_data();
     void firstModeWins();
     void sizesAndRepeat();
-    void ends_data();
     void ends();
-    void hidesItsButtons();
     void flowWraps();
 
 private:
@@ -47,7 +43,6 @@ void TestSelectDialog::steps_data()
     QTest::newRow("starts at its value") << QList<int>{0, 10, 1, 4} << 0 << "4 km";
     QTest::newRow("starts at the maximum at most") << QList<int>{0, 10, 1, 20} << 0 << "10 km";
     QTest::newRow("starts at the minimum at least") << QList<int>{5, 10, 1, -3} << 0 << "5 km";
-    QTest::newRow("up") << QList<int>{0, 10, 3, 3} << 1 << "6 km";
     QTest::newRow("down") << QList<int>{0, 10, 3, 9} << -2 << "3 km";
     QTest::newRow("a step past the maximum lands on it") << QList<int>{0, 10, 3, 9} << 1 << "10 km";
     QTest::newRow("a step past the minimum lands on it") << QList<int>{1, 10, 3, 2} << -1 << "1 km";
@@ -80,11 +75,9 @@ void TestSelectDialog::checks_data()
     QTest::addColumn<QString>("checked");
     QTest::addColumn<int>("index");
     const QStringList items{"OFF", " Activated", "ESC sport "};
-    QTest::newRow("first") << items << "OFF" << 0;
     QTest::newRow("blanks around the checked text") << items << "  OFF " << 0;
     QTest::newRow("blanks around the items") << items << "ESC sport" << 2;
     QTest::newRow("unknown text") << items << "Sport" << -1;
-    QTest::newRow("nothing known") << items << "" << -1;
     QTest::newRow("no items") << QStringList() << "OFF" << -1;
 }
 
@@ -105,28 +98,23 @@ void TestSelectDialog::checks()
     }
 }
 
-void TestSelectDialog::severalFlags()
+void TestSelectDialog::choicesMove()
 {
-    SelectDialog dialog;
-    dialog.setCheckBoxListMode({"a", "b", "c"}, "c", false);
-    dialog.show();
-    VwBench::check(dialog, 1);
-    QCOMPARE(dialog.getCheckedIndex(), 1);
-    QVERIFY(dialog.findChildren<QCheckBox *>().at(2)->isChecked());
-    VwBench::check(dialog, 1);
-    VwBench::check(dialog, 2);
-    QCOMPARE(dialog.getCheckedIndex(), -1);
-}
+    SelectDialog several;
+    several.setCheckBoxListMode({"a", "b", "c"}, "c", false);
+    VwBench::check(several, 1);
+    QCOMPARE(several.getCheckedIndex(), 1);
+    QVERIFY(several.findChildren<QCheckBox *>().at(2)->isChecked());
+    VwBench::check(several, 1);
+    VwBench::check(several, 2);
+    QCOMPARE(several.getCheckedIndex(), -1);
 
-void TestSelectDialog::exclusiveChoiceMoves()
-{
-    SelectDialog dialog;
-    dialog.setCheckBoxListMode({"a", "b", "c"}, "c", true);
-    dialog.show();
-    VwBench::check(dialog, 0);
-    QCOMPARE(dialog.getCheckedIndex(), 0);
-    VwBench::check(dialog, 0);
-    QCOMPARE(dialog.getCheckedIndex(), 0);
+    SelectDialog exclusive;
+    exclusive.setCheckBoxListMode({"a", "b", "c"}, "c", true);
+    for (int i = 0; i < 2; ++i) { // a second tap leaves it checked
+        VwBench::check(exclusive, 0);
+        QCOMPARE(exclusive.getCheckedIndex(), 0);
+    }
 }
 
 void TestSelectDialog::showsText()
@@ -136,38 +124,32 @@ void TestSelectDialog::showsText()
     dialog.setContentText("Are you sure?");
     QCOMPARE(dialog.findChild<QLabel *>("txtTitle")->text(), QString("Factory settings"));
     QCOMPARE(static_cast<QDialog &>(dialog).windowTitle(), QString());
-    const QLabel *content = dialog.findChild<QLabel *>("labelContent");
-    QCOMPARE(content->text(), QString("Are you sure?"));
-    QVERIFY(content->wordWrap());
-    QCOMPARE(content->alignment(), Qt::AlignCenter);
-}
-
-void TestSelectDialog::firstModeWins_data()
-{
-    QTest::addColumn<int>("first");
-    QTest::newRow("text") << 0;
-    QTest::newRow("check boxes") << 1;
-    QTest::newRow("slider") << 2;
-    QTest::newRow("layout") << 3;
+    QCOMPARE(dialog.findChild<QLabel *>("labelContent")->text(), QString("Are you sure?"));
+    dialog.hideButtons();
+    dialog.show();
+    for (const char *name : {"lineBottom", "btnOk", "btnCancel"})
+        QVERIFY2(!dialog.findChild<QWidget *>(name)->isVisible(), name);
+    QVERIFY(dialog.findChild<QWidget *>("lineTop")->isVisible());
 }
 
 void TestSelectDialog::firstModeWins()
 {
-    QFETCH(int, first);
-    SelectDialog dialog;
-    for (int mode : {first, 0, 1, 2, 3}) {
-        if (mode == 0)
-            dialog.setContentText("text");
-        else if (mode == 1)
-            dialog.setCheckBoxListMode({"a", "b"}, "b", true);
-        else if (mode == 2)
-            dialog.setSliderMode(0, 10, 1, 5, "");
-        else
-            dialog.setContentLayout(new QHBoxLayout);
+    for (int first = 0; first < 4; ++first) {
+        SelectDialog dialog;
+        for (int mode : {first, 0, 1, 2, 3}) {
+            if (mode == 0)
+                dialog.setContentText("text");
+            else if (mode == 1)
+                dialog.setCheckBoxListMode({"a", "b"}, "b", true);
+            else if (mode == 2)
+                dialog.setSliderMode(0, 10, 1, 5, "");
+            else
+                dialog.setContentLayout(new QHBoxLayout);
+        }
+        QCOMPARE(dialog.findChild<QLabel *>("labelContent") != nullptr, first == 0);
+        QCOMPARE(dialog.getCheckedIndex(), first == 1 ? 1 : -1);
+        QCOMPARE(dialog.getSliderValue(), first == 2 ? 5 : -1);
     }
-    QCOMPARE(dialog.findChild<QLabel *>("labelContent") != nullptr, first == 0);
-    QCOMPARE(dialog.getCheckedIndex(), first == 1 ? 1 : -1);
-    QCOMPARE(dialog.getSliderValue(), first == 2 ? 5 : -1);
 }
 
 void TestSelectDialog::sizesAndRepeat()
@@ -189,52 +171,29 @@ void TestSelectDialog::sizesAndRepeat()
     for (const auto &expected : buttons) {
         const QPushButton *button = dialog.findChild<QPushButton *>(expected.name);
         QVERIFY2(button, expected.name);
-        QCOMPARE(button->minimumSize().expandedTo(expected.smallest), button->minimumSize());
         QVERIFY(button->size().expandedTo(expected.smallest) == button->size());
         QCOMPARE(button->autoRepeat(), expected.repeats);
         QCOMPARE(button->isEnabled(), expected.enabled);
-        if (expected.repeats) {
-            QCOMPARE(button->autoRepeatDelay(), 500);
-            QCOMPARE(button->autoRepeatInterval(), 200);
-        }
+        if (expected.repeats)
+            QCOMPARE(QPoint(button->autoRepeatDelay(), button->autoRepeatInterval()), QPoint(500, 200));
     }
     QVERIFY(dialog.findChild<QPushButton *>("btnDec")->x() < dialog.findChild<QPushButton *>("btnInc")->x());
 }
 
-void TestSelectDialog::ends_data()
-{
-    QTest::addColumn<QByteArray>("by");
-    QTest::addColumn<int>("result");
-    QTest::newRow("OK") << QByteArray("btnOk") << 1;
-    QTest::newRow("Cancel") << QByteArray("btnCancel") << 0;
-    QTest::newRow("the unit's Back key") << QByteArray() << 0;
-}
-
 void TestSelectDialog::ends()
 {
-    QFETCH(QByteArray, by);
-    QFETCH(int, result);
-    SelectDialog dialog;
-    dialog.setContentText("text");
-    QTimer::singleShot(0, &dialog, [&dialog, by] {
-        if (by.isEmpty())
-            dialog.back();
-        else
-            VwBench::click(dialog, by);
-    });
-    QCOMPARE(dialog.exec(), result);
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestSelectDialog::hidesItsButtons()
-{
-    SelectDialog dialog;
-    dialog.setContentText("text");
-    dialog.hideButtons();
-    dialog.show();
-    for (const char *name : {"lineBottom", "btnOk", "btnCancel"})
-        QVERIFY2(!dialog.findChild<QWidget *>(name)->isVisible(), name);
-    QVERIFY(dialog.findChild<QWidget *>("lineTop")->isVisible());
+    for (const char *by : {"btnOk", "btnCancel", "the unit's Back key"}) {
+        SelectDialog dialog;
+        dialog.setContentText("text");
+        QTimer::singleShot(0, &dialog, [&dialog, by] {
+            if (dialog.findChild<QWidget *>(by))
+                VwBench::click(dialog, by);
+            else
+                dialog.back();
+        });
+        QCOMPARE(dialog.exec(), int(qstrcmp(by, "btnOk") == 0));
+        QVERIFY(!dialog.isVisible());
+    }
 }
 
 void TestSelectDialog::flowWraps()

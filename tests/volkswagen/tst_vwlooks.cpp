@@ -1,6 +1,7 @@
 #include "adapterfixture.h"
 #include "unitscreen.h"
 #include "vwbench.h"
+#include "vwmenu.h"
 
 #include "volkswagen/figurelabel.h"
 #include "volkswagen/volkswagenwindow.h"
@@ -30,153 +31,90 @@ private Q_SLOTS:
 
 namespace {
 
-typedef std::unique_ptr<QWidget> (*Scene)(CanBus_Raise_Volkswagen &);
+const int Driving = 0;
+const int OptionDialog = 1;
+const int NumberDialog = 2;
+const int Question = 3;
 
-std::unique_ptr<QWidget> driving(CanBus_Raise_Volkswagen &adapter)
-{
-    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
-    window->show();
-    VwBench::feed(adapter, "50 10 01 08 02 00 00 | 50 61 00 3e 00 00 00 | 50 20 01 10 27 00 00 |"
-                           "50 30 00 4b 00 00 00 | 50 40 00 a4 01 00 00 | 50 50 5f 00 00 00 00");
-    return window;
-}
+const char *const Reports =
+    "40 10 02 | 40 20 01 78 01 | 40 30 03 01 | 40 31 0f 32 01 | 40 40 07 53 86 | 40 50 71 32 0f 1e |"
+    "40 51 07 1e 32 03 | 40 52 0a 14 03 64 | 40 60 1f | 40 70 21 1f 01 | 40 80 ff 03 | 40 90 32 21 |"
+    "40 b0 03 | 40 a0 03 21 12 | 60 06 01 02 09 0d 15 19 01 | 61 02 00 e8 03 ff ff | 62 03 01 06 0d |"
+    "63 00 57 56 57 5a 5a 5a 31 4b 5a 38 57 30 30 30 30 30 31 | 63 10 01 5a 00 | 63 11 02 96 00 |"
+    "63 20 02 0a 00 | 63 21 11 32 00 | 63 22 01";
 
-std::unique_ptr<QWidget> drivingLargest(CanBus_Raise_Volkswagen &adapter)
-{
-    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
-    window->show();
-    window->changeRangeIndex(1);
-    VwBench::feed(adapter, "50 10 01 ff ff 00 00 | 50 61 03 ff ff 00 00 | 50 21 00 ff ff ff ff |"
-                           "50 31 02 ff ff 00 00 | 50 41 01 ff ff 00 00 | 50 51 ff ff 00 00 00");
-    return window;
-}
-
-std::unique_ptr<QWidget> tyreWindow(CanBus_Raise_Volkswagen &adapter, const char *packages)
-{
-    std::unique_ptr<VolkswagenWindow> window(new VolkswagenWindow(&adapter));
-    window->show();
-    VwBench::click(*window, "btnTPMS");
-    VwBench::feed(adapter, packages);
-    return window;
-}
-
-std::unique_ptr<QWidget> tyreStates(CanBus_Raise_Volkswagen &adapter)
-{
-    return tyreWindow(adapter, "68 00 00 | 65 00 01 02 00");
-}
-
-std::unique_ptr<QWidget> tyreWarning(CanBus_Raise_Volkswagen &adapter)
-{
-    return tyreWindow(adapter, "65 00 01 02 00 | 68 02 02");
-}
-
-std::unique_ptr<QWidget> tyreBoth(CanBus_Raise_Volkswagen &adapter)
-{
-    return tyreWindow(adapter, "68 09 04 | 65 01 00 00 01");
-}
-
-template <unsigned int Page>
-std::unique_ptr<QWidget> page(CanBus_Raise_Volkswagen &adapter)
-{
-    std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(Page, &adapter));
-    window->show();
-    VwBench::feed(
-        adapter,
-        "40 10 02 | 40 20 01 78 01 | 40 30 03 01 | 40 31 0f 32 01 | 40 40 07 53 86 | 40 50 71 32 0f 1e |"
-        "40 51 07 1e 32 03 | 40 52 0a 14 03 64 | 40 60 1f | 40 70 21 1f 01 | 40 80 ff 03 | 40 90 32 21 |"
-        "40 b0 03 | 40 a0 03 21 12 | 60 06 01 02 09 0d 15 19 01 | 61 02 00 e8 03 ff ff | 62 03 01 06 0d |"
-        "63 00 57 56 57 5a 5a 5a 31 4b 5a 38 57 30 30 30 30 30 31 | 63 10 01 5a 00 | 63 11 02 96 00 |"
-        "63 20 02 0a 00 | 63 21 11 32 00 | 63 22 01");
-    return window;
-}
-
-std::unique_ptr<QWidget> emptyReports(CanBus_Raise_Volkswagen &adapter)
-{
-    std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(Vw::ReportsPage, &adapter));
-    window->show();
-    return window;
-}
-
-std::unique_ptr<QWidget> optionDialog(unsigned int pageId, int item, int chosen)
-{
-    const Vw::SettingPage *settings = Vw::settingPage(pageId);
-    for (int i = 0; i < settings->rowCount; ++i) {
-        const Vw::SettingRow &row = settings->rows[i];
-        if (row.item != item)
-            continue;
-        QStringList options;
-        for (int option = 0; option < row.optionCount(); ++option)
-            options << Vw::text(row.options[option]);
-        std::unique_ptr<SelectDialog> dialog(new SelectDialog);
-        dialog->setWindowTitle(Vw::text(row.label));
-        dialog->setCheckBoxListMode(options, options.value(chosen), true);
-        dialog->show();
-        return dialog;
-    }
-    return nullptr;
-}
-
-std::unique_ptr<QWidget> drivingModes(CanBus_Raise_Volkswagen &)
-{
-    return optionDialog(Vw::ProfilePage, Vw::DrivingModeItem, 3);
-}
-
-std::unique_ptr<QWidget> tyreLoads(CanBus_Raise_Volkswagen &)
-{
-    return optionDialog(Vw::TyresPage, 35, 0);
-}
-
-std::unique_ptr<QWidget> slider(CanBus_Raise_Volkswagen &)
-{
-    std::unique_ptr<SelectDialog> dialog(new SelectDialog);
-    dialog->setWindowTitle(Vw::text("Warning speed"));
-    dialog->setSliderMode(30, 240, 10, 120, " km/h");
-    dialog->show();
-    return dialog;
-}
-
-std::unique_ptr<QWidget> question(CanBus_Raise_Volkswagen &)
-{
-    std::unique_ptr<SelectDialog> dialog(new SelectDialog);
-    dialog->setWindowTitle(VWFunctionSetting::tr("Factory settings"));
-    dialog->setContentText(QString("%1 %2 %3 ?")
-                               .arg(VWFunctionSetting::tr("Are you sure restore"),
-                                    Vw::text("Parking and manoeuvring"), VWFunctionSetting::tr("settings")));
-    dialog->show();
-    return dialog;
-}
-
-const struct
+const struct Scene
 {
     const char *name;
-    Scene make;
+    int what; ///< a settings page, or one of the above
+    const char *button;
+    const char *packages;
 } scenes[] = {
-    {"driving", driving},
-    {"driving-largest", drivingLargest},
-    {"tyre-states", tyreStates},
-    {"tyre-warning", tyreWarning},
-    {"tyre-both", tyreBoth},
-    {"page-car-setting", page<Vw::CarSettingPage>},
-    {"page-tyres", page<Vw::TyresPage>},
-    {"page-assistance", page<Vw::DriverAssistancePage>},
-    {"page-parking", page<Vw::ParkingPage>},
-    {"page-light", page<Vw::LightPage>},
-    {"page-mirrors", page<Vw::MirrorsPage>},
-    {"page-opening", page<Vw::OpeningPage>},
-    {"page-display", page<Vw::DisplayPage>},
-    {"page-service", page<Vw::ServicePage>},
-    {"page-units", page<Vw::UnitsPage>},
-    {"page-factory", page<Vw::FactoryPage>},
-    {"page-start-stop", page<Vw::StartStopPage>},
-    {"page-reports", page<Vw::ReportsPage>},
-    {"page-profile", page<Vw::ProfilePage>},
-    {"page-consumers", page<Vw::ConsumersPage>},
-    {"page-nothing-reported", emptyReports},
-    {"dialog-driving-modes", drivingModes},
-    {"dialog-tyre-loads", tyreLoads},
-    {"dialog-slider", slider},
-    {"dialog-question", question},
+    {"driving", Driving, "btnRange",
+     "50 10 01 08 02 00 00 | 50 61 00 3e 00 00 00 | 50 20 01 10 27 00 00 |"
+     "50 30 00 4b 00 00 00 | 50 40 00 a4 01 00 00 | 50 50 5f 00 00 00 00"},
+    {"driving-largest", Driving, "btnRight",
+     "50 10 01 ff ff 00 00 | 50 61 03 ff ff 00 00 | 50 21 00 ff ff ff ff |"
+     "50 31 02 ff ff 00 00 | 50 41 01 ff ff 00 00 | 50 51 ff ff 00 00 00"},
+    {"tyre-states", Driving, "btnTPMS", "68 00 00 | 65 00 01 02 00"},
+    {"tyre-warning", Driving, "btnTPMS", "65 00 01 02 00 | 68 02 02"},
+    {"tyre-both", Driving, "btnTPMS", "68 09 04 | 65 01 00 00 01"},
+    {"page-car-setting", 782, "", Reports},
+    {"page-tyres", 771, "", Reports},
+    {"page-assistance", 773, "", Reports},
+    {"page-parking", 774, "", Reports},
+    {"page-light", 775, "", Reports},
+    {"page-mirrors", 776, "", Reports},
+    {"page-opening", 777, "", Reports},
+    {"page-display", 778, "", Reports},
+    {"page-service", 779, "", Reports},
+    {"page-units", 780, "", Reports},
+    {"page-factory", 781, "", Reports},
+    {"page-start-stop", 783, "", Reports},
+    {"page-reports", 784, "", Reports},
+    {"page-profile", 785, "", Reports},
+    {"page-consumers", 786, "", Reports},
+    {"page-nothing-reported", 784, "", "61 00 00"},
+    {"dialog-driving-modes", OptionDialog, "", ""},
+    {"dialog-slider", NumberDialog, "", ""},
+    {"dialog-question", Question, "", ""},
 };
+
+std::unique_ptr<QWidget> dialog(int what)
+{
+    std::unique_ptr<SelectDialog> dialog(new SelectDialog);
+    dialog->setWindowTitle(what == Question ? VWFunctionSetting::tr("Factory settings")
+                                            : Vw::text("Driving mode"));
+    if (what == OptionDialog) {
+        QStringList options;
+        for (const QString &option : VwMenu::rowsOf(785).last().options())
+            options << Vw::text(qPrintable(option));
+        dialog->setCheckBoxListMode(options, options.last(), true);
+    } else if (what == NumberDialog) {
+        dialog->setSliderMode(30, 240, 10, 120, " km/h");
+    } else {
+        const QString page = Vw::text("Parking and manoeuvring");
+        dialog->setContentText(VWFunctionSetting::tr("Are you sure restore") + ' ' + page + ' ' +
+                               VWFunctionSetting::tr("settings") + " ?");
+    }
+    dialog->show();
+    return dialog;
+}
+
+std::unique_ptr<QWidget> show(const Scene &scene, CanBus_Raise_Volkswagen &adapter)
+{
+    if (scene.what != Driving && scene.what <= Question)
+        return dialog(scene.what);
+    std::unique_ptr<QWidget> window;
+    if (scene.what == Driving)
+        window.reset(new VolkswagenWindow(&adapter));
+    else
+        window.reset(new VWFunctionSetting(unsigned(scene.what), &adapter));
+    window->show();
+    VwBench::click(*window, scene.button);
+    VwBench::feed(adapter, scene.packages);
+    return window;
+}
 
 /// The text's size where it is drawn, wrapped to the label's width where it wraps.
 QSize textSize(const QLabel *label)
@@ -271,7 +209,7 @@ void TestVwLooks::textsFit()
     TestScreen screen(size);
     CanBus_Raise_Volkswagen adapter;
     QVERIFY(OrbHost::instance()->setLanguage(language));
-    const std::unique_ptr<QWidget> shown = scenes[scene].make(adapter);
+    const std::unique_ptr<QWidget> shown = show(scenes[scene], adapter);
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
 

@@ -14,7 +14,6 @@ private Q_SLOTS:
     void quirk_vw_warning_speed();
     void individualModes_data();
     void individualModes();
-    void profileRowsFollowTheCar();
     void staleDialog_data();
     void staleDialog();
     void secondPageOfAKind();
@@ -56,6 +55,8 @@ void TestVwPages::individualModes_data()
     QTest::addColumn<int>("choice"); // -1: a row without a dialog
     QTest::addColumn<int>("code");
     QTest::addColumn<bool>("rowsGo");
+    QTest::newRow("another driving mode") << 3 << 208 << 1 << 1 << true;
+    QTest::newRow("the individual mode, until the car has taken it") << 3 << 208 << 3 << 3 << true;
     QTest::newRow("steering") << 3 << 209 << 1 << 1 << true;
     QTest::newRow("engine") << 3 << 210 << 2 << 2 << true;
     QTest::newRow("climate, first option") << 3 << 211 << 0 << 0 << false;
@@ -85,21 +86,6 @@ void TestVwPages::individualModes()
     QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rowsGo ? 3 : rows);
     bench.feed(reply);
     QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rows);
-}
-
-void TestVwPages::profileRowsFollowTheCar()
-{
-    Page bench(785);
-    bench.feed(QByteArray::fromHex("a0030000"));
-    QVERIFY(bench.rowOf(209) == 3);
-    QVERIFY(bench.tap(208, [](SelectDialog &dialog) { choose(dialog, 1); }));
-    QCOMPARE(bench.valueOf(208), QString("Sport"));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 3);
-    // Choosing the individual mode shows its rows once the car has taken it.
-    QVERIFY(bench.tap(208, [](SelectDialog &dialog) { choose(dialog, 3); }));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 3);
-    bench.feed(QByteArray::fromHex("a0030000"));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), 8);
 }
 
 void TestVwPages::staleDialog_data()
