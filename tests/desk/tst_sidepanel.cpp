@@ -4,8 +4,8 @@
 #include "boxspeaker.h"
 #include "carpage.h"
 #include "decoderbox.h"
+#include "desklooks.h"
 #include "propertyeditors.h"
-#include "screenshot.h"
 #include "sidepanel.h"
 #include "unitpage.h"
 
@@ -27,28 +27,20 @@ private slots:
     void initTestCase();
     void controlsFollowTheCar_data();
     void controlsFollowTheCar();
-    void everyPropertyHasAControl_data();
-    void everyPropertyHasAControl();
+    void panelOfEachBox_data();
+    void panelOfEachBox();
     void temperatureScaleHasItsEnds();
     void keysStayPressedWhileHeld();
     void scenarioErrorsAreShown();
     void diskIsPulledOutBeforeItsFolderChanges();
-    void nothingIsClipped_data();
-    void nothingIsClipped();
-    void unitAloneWithoutABox();
 
 private:
     static std::unique_ptr<DecoderBox> makeBox(int type);
-    static void eachBox();
-    static QPushButton *button(QWidget *in, const QString &text);
 };
 
 void TestSidePanel::initTestCase()
 {
-    Q_INIT_RESOURCE(desk);
-    QFile style(":/desk/desk.qss");
-    QVERIFY(style.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
+    QVERIFY(wearDeskStyle());
 }
 
 std::unique_ptr<DecoderBox> TestSidePanel::makeBox(int type)
@@ -57,47 +49,16 @@ std::unique_ptr<DecoderBox> TestSidePanel::makeBox(int type)
     return std::unique_ptr<DecoderBox>(BoxCatalog::createBox(type, nullptr, &error));
 }
 
-void TestSidePanel::eachBox()
-{
-    QTest::addColumn<int>("type");
-    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
-        if (row.makeSpeaker) {
-            QTest::newRow(row.className) << row.type;
-        }
-    }
-}
-
-QPushButton *TestSidePanel::button(QWidget *in, const QString &text)
-{
-    for (QPushButton *candidate : in->findChildren<QPushButton *>()) {
-        if (candidate->text() == text) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
-
 void TestSidePanel::controlsFollowTheCar_data()
 {
     QTest::addColumn<QString>("property");
     QTest::addColumn<QString>("value");
 
-    QTest::newRow("switch") << "doors.rear_left"
-                            << "on";
-    QTest::newRow("slider") << "climate.fan"
-                            << "6";
-    QTest::newRow("temperature") << "climate.left"
-                                 << "23.5";
-    QTest::newRow("coldest") << "climate.left"
-                             << "LO";
-    QTest::newRow("hottest") << "climate.right"
-                             << "HI";
-    QTest::newRow("choice") << "climate.circulation"
-                            << "auto";
-    QTest::newRow("text") << "box.version"
-                          << "1.2.3";
-    QTest::newRow("wheel") << "steering.angle"
-                           << "-200";
+    for (const char *row :
+         {"doors.rear_left on", "climate.fan 6", "climate.left 23.5", "climate.left LO", "climate.right HI",
+          "climate.circulation auto", "box.version 1.2.3", "steering.angle -200"}) {
+        QTest::newRow(row) << QString(row).section(' ', 0, 0) << QString(row).section(' ', 1);
+    }
 }
 
 // What the first control shows after the car has changed, a second control for another car can be set to;
@@ -124,12 +85,17 @@ void TestSidePanel::controlsFollowTheCar()
     QCOMPARE(same->grab().toImage(), shown);
 }
 
-void TestSidePanel::everyPropertyHasAControl_data()
+void TestSidePanel::panelOfEachBox_data()
 {
-    eachBox();
+    QTest::addColumn<int>("type");
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        if (row.makeSpeaker) {
+            QTest::newRow(row.className) << row.type;
+        }
+    }
 }
 
-void TestSidePanel::everyPropertyHasAControl()
+void TestSidePanel::panelOfEachBox()
 {
     QFETCH(int, type);
     const auto box = makeBox(type);
@@ -148,6 +114,24 @@ void TestSidePanel::everyPropertyHasAControl()
         }
     }
     QCOMPARE(spy.count(), switches);
+
+    // Nothing is clipped.
+    SidePanel panel(box.get());
+    panel.resize(panel.width(), 860);
+    panel.show();
+    for (int i = 0; i < panel.pageCount(); ++i) {
+        panel.showPage(i);
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        QCoreApplication::processEvents();
+        takeScreenshot(&panel, QString("desk-panel-%1-%2").arg(type).arg(i));
+        for (const QPushButton *chip : panel.findChildren<QPushButton *>()) {
+            if (chip->isVisible()) {
+                QVERIFY2(chip->fontMetrics().horizontalAdvance(chip->text()) <= chip->width(),
+                         qPrintable(chip->text()));
+                QVERIFY(chip->mapTo(&panel, QPoint(chip->width(), 0)).x() <= panel.width());
+            }
+        }
+    }
 }
 
 void TestSidePanel::temperatureScaleHasItsEnds()
@@ -185,7 +169,7 @@ void TestSidePanel::keysStayPressedWhileHeld()
     sent.clear();
 
     BoxKeysPage page(box.get());
-    QPushButton *key = button(&page, "Volume up");
+    QPushButton *key = buttonOf<QPushButton>(&page, "Volume up");
     QVERIFY(key);
     page.show();
     QTest::mousePress(key, Qt::LeftButton);
@@ -218,47 +202,13 @@ void TestSidePanel::diskIsPulledOutBeforeItsFolderChanges()
 {
     UnitPage page;
     QSignalSpy spy(&page, &UnitPage::diskChanged);
-    QVERIFY(!button(&page, "Put in")->isEnabled());
+    QVERIFY(!buttonOf<QPushButton>(&page, "Put in")->isEnabled());
     page.setDiskFolder("/one");
-    button(&page, "Put in")->click();
+    buttonOf<QPushButton>(&page, "Put in")->click();
     QCOMPARE(spy.takeFirst(), (QVariantList{true, "/one"}));
     page.setDiskFolder("/two");
     QCOMPARE(spy.takeFirst(), (QVariantList{false, "/one"}));
     QVERIFY(!page.isDiskIn());
-}
-
-void TestSidePanel::nothingIsClipped_data()
-{
-    eachBox();
-}
-
-void TestSidePanel::nothingIsClipped()
-{
-    QFETCH(int, type);
-    const auto box = makeBox(type);
-    SidePanel panel(box.get());
-    panel.resize(panel.width(), 860);
-    panel.show();
-    for (int page = 0; page < panel.pageCount(); ++page) {
-        panel.showPage(page);
-        QVERIFY(QTest::qWaitForWindowExposed(&panel));
-        QCoreApplication::processEvents();
-        takeScreenshot(&panel, QString("desk-panel-%1-%2").arg(type).arg(page));
-        for (const QPushButton *chip : panel.findChildren<QPushButton *>()) {
-            if (chip->isVisible()) {
-                QVERIFY2(chip->fontMetrics().horizontalAdvance(chip->text()) <= chip->width(),
-                         qPrintable(chip->text()));
-                QVERIFY(chip->mapTo(&panel, QPoint(chip->width(), 0)).x() <= panel.width());
-            }
-        }
-    }
-}
-
-void TestSidePanel::unitAloneWithoutABox()
-{
-    SidePanel panel(nullptr);
-    QCOMPARE(panel.pageCount(), 1);
-    QVERIFY(!panel.boxPage());
 }
 
 QTEST_MAIN(TestSidePanel)

@@ -13,7 +13,6 @@ class TestUnitControls : public QObject
 private slots:
     void volume();
     void modeKeyGoesRound();
-    void tracks_data();
     void tracks();
     void call_data();
     void call();
@@ -64,32 +63,25 @@ void TestUnitControls::modeKeyGoesRound()
     QVERIFY(spy.isEmpty());
 }
 
-void TestUnitControls::tracks_data()
-{
-    QTest::addColumn<int>("forward");
-    QTest::addColumn<int>("backward");
-
-    QTest::newRow("media keys") << int(Qt::Key_MediaNext) << int(Qt::Key_MediaPrevious);
-    QTest::newRow("wind keys") << int(Qt::Key_AudioForward) << int(Qt::Key_AudioRewind);
-    QTest::newRow("track keys of key sets") << UnitKeys::TrackNext << UnitKeys::TrackPrevious;
-}
-
 void TestUnitControls::tracks()
 {
-    QFETCH(int, forward);
-    QFETCH(int, backward);
-    UnitControls unit;
-    const QString first = unit.title();
-    tap(&unit, forward);
-    const QString second = unit.title();
-    QVERIFY(second != first);
-    tap(&unit, backward);
-    QCOMPARE(unit.title(), first);
-    tap(&unit, backward);
-    QVERIFY2(unit.title() != first && unit.title() != second, "before the first track comes the last");
-    unit.setMode(4);
-    tap(&unit, forward);
-    QVERIFY2(unit.title().isEmpty(), "navigation has no tracks");
+    const int pairs[][2] = {{Qt::Key_MediaNext, Qt::Key_MediaPrevious},
+                            {Qt::Key_AudioForward, Qt::Key_AudioRewind},
+                            {UnitKeys::TrackNext, UnitKeys::TrackPrevious}};
+    for (const auto &keys : pairs) {
+        UnitControls unit;
+        const QString first = unit.title();
+        tap(&unit, keys[0]);
+        const QString second = unit.title();
+        QVERIFY(second != first);
+        tap(&unit, keys[1]);
+        QCOMPARE(unit.title(), first);
+        tap(&unit, keys[1]);
+        QVERIFY2(unit.title() != first && unit.title() != second, "before the first track comes the last");
+        unit.setMode(4);
+        tap(&unit, keys[0]);
+        QVERIFY2(unit.title().isEmpty(), "navigation has no tracks");
+    }
 }
 
 void TestUnitControls::call_data()
@@ -101,21 +93,19 @@ void TestUnitControls::call_data()
     const int call = Qt::Key_Call;
     const int hangup = Qt::Key_Hangup;
     const int voice = Qt::Key_VoiceDial;
-    QTest::newRow("call") << QList<int>{call} << int(UnitControls::InCall) << QList<bool>{true};
-    QTest::newRow("call again") << QList<int>{call, call} << int(UnitControls::InCall) << QList<bool>{true};
-    QTest::newRow("call and hang up")
-        << QList<int>{call, hangup} << int(UnitControls::NoCall) << QList<bool>{true, false};
-    QTest::newRow("voice") << QList<int>{voice} << int(UnitControls::Listening) << QList<bool>{};
-    QTest::newRow("voice, then hang up")
-        << QList<int>{voice, hangup} << int(UnitControls::NoCall) << QList<bool>{};
-    QTest::newRow("voice twice dials")
-        << QList<int>{voice, voice} << int(UnitControls::InCall) << QList<bool>{true};
-    QTest::newRow("voice, then call")
-        << QList<int>{voice, call} << int(UnitControls::InCall) << QList<bool>{true};
-    QTest::newRow("voice in a call") << QList<int>{call, voice} << int(UnitControls::InCall)
-                                     << QList<bool>{true};
-    QTest::newRow("hang up without a call")
-        << QList<int>{hangup} << int(UnitControls::NoCall) << QList<bool>{};
+    const int none = UnitControls::NoCall;
+    const int inCall = UnitControls::InCall;
+    const auto row = [](const char *name, const QList<int> &keys, int state, const QList<bool> &reports) {
+        QTest::newRow(name) << keys << state << reports;
+    };
+    row("call again", {call, call}, inCall, {true});
+    row("call and hang up", {call, hangup}, none, {true, false});
+    row("voice", {voice}, UnitControls::Listening, {});
+    row("voice, then hang up", {voice, hangup}, none, {});
+    row("voice twice dials", {voice, voice}, inCall, {true});
+    row("voice, then call", {voice, call}, inCall, {true});
+    row("voice in a call", {call, voice}, inCall, {true});
+    row("hang up without a call", {hangup}, none, {});
 }
 
 void TestUnitControls::call()
