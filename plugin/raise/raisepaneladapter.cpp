@@ -35,8 +35,3 @@ void RaisePanelAdapter::processPanelKey(const unsigned char *d)
 {
     m_panelKeys->report(d[0], d[1]);
 }
-
-unsigned int RaisePanelAdapter::currentPanelKey() const
-{
-    return m_panelKeys->currentKey();
-}

@@ -17,9 +17,6 @@ public:
     /// One key of the panel: \a d[0] code, \a d[1] state (or detents of a knob).
     void processPanelKey(const unsigned char *d);
 
-    /// Key of the panel that was reported last, CarKeys::NoKey after an unknown one. One per car and process.
-    unsigned int currentPanelKey() const;
-
 protected:
     /// The key groups are static data.
     RaisePanelAdapter(KeySource *wheelKeys, KeySource *panelKeys);

@@ -37,8 +37,8 @@ bool isSeekKey(unsigned int key)
     return key == CarKeys::AudioForward || key == CarKeys::AudioRewind;
 }
 
-// The outer sensors of both groups count in steps of 10; the inner ones reach 27.5 times their level in front
-// and 20 times at the back.
+// The outer sensors of both groups count in steps of 10, the inner ones in steps of 27.5 (0x22) and 20
+// (0x23).
 const float OuterScale = 0.1f;
 const float InnerScale22 = 0.036363635f;
 const float InnerScale23 = 0.05f;

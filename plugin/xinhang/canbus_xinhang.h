@@ -93,7 +93,6 @@ private:
     void onCarType(const PackageView &d);
     void onAppRequest(const PackageView &d);
     void onCursorKey(const PackageView &d);
-    void showBoxScreen(unsigned int appId);
 
     static quint8 s_lastIllumination;
     static quint8 s_lastDoors;

@@ -29,7 +29,6 @@ public:
     /// Has the plug-in delete its object; the library stays, since its adapters live on. Does nothing without
     /// one.
     void unloadPlugin();
-    bool isPluginLoaded() const { return m_plugin != nullptr; }
 
     /// Posts \a event, which becomes the unit's, to the plug-in object: the handler runs from the event loop,
     /// so a dialog that it opens keeps no caller waiting. Without a plug-in the event is dropped.

@@ -24,8 +24,6 @@ public:
     /// The finger went up; true when it was a tap.
     bool release();
 
-    bool isDragging() const { return m_state == Dragging; }
-
 protected:
     void timerEvent(QTimerEvent *event) override;
 

@@ -27,7 +27,6 @@ public:
 
     UnitControls *controls() { return &m_controls; }
     HomePage *homePage() const { return m_homePage; }
-    StatusBar *statusBar() const { return m_statusBar; }
     /// What the plug-in has reported about the car.
     const CarState &carState() const { return m_carState; }
 
