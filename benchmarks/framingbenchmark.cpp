@@ -25,12 +25,13 @@ public:
 void frameStream(benchmark::State &state, const QByteArray &stream)
 {
     Receiver receiver;
-    MemoryDevice device(stream, static_cast<int>(state.range(0)));
+    MemoryDevice device(stream, int(state.range(0)));
     receiver.attachIODevice(&device);
     for (auto _ : state) {
         device.rewind();
-        while (device.arm())
+        while (device.arm()) {
             receiver.onReadDeviceDatas();
+        }
     }
     state.SetBytesProcessed(state.iterations() * stream.size());
     state.SetItemsProcessed(receiver.received);
@@ -71,7 +72,7 @@ void copyTheSameBytes(benchmark::State &state)
     const QByteArray stream = Streams::clean(PackageCount);
     QByteArray copy(stream.size(), '\0');
     for (auto _ : state) {
-        memcpy(copy.data(), stream.constData(), static_cast<size_t>(stream.size()));
+        memcpy(copy.data(), stream.constData(), size_t(stream.size()));
         benchmark::DoNotOptimize(copy.data());
         benchmark::ClobberMemory();
     }
@@ -84,8 +85,9 @@ void decodeAndDispatch(benchmark::State &state, const char *commandAndData)
 {
     CanBus_Raise_Toyota adapter;
     const QByteArray package = RaiseWire::frame(commandAndData);
-    for (auto _ : state)
+    for (auto _ : state) {
         adapter.onRecvMcuProtocol(package);
+    }
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK_CAPTURE(decodeAndDispatch, key, "20 01 01");
@@ -102,8 +104,9 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     OrbApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

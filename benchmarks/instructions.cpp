@@ -39,18 +39,22 @@ public:
 void receiveAll(Receiver *receiver, MemoryDevice *device)
 {
     receiver->attachIODevice(device);
-    while (device->arm())
+    while (device->arm()) {
         receiver->onReadDeviceDatas();
+    }
 }
 
 QByteArray streamOf(const QByteArray &work, int count)
 {
-    if (work == "corrupted" || work == "loss")
+    if (work == "corrupted" || work == "loss") {
         return Streams::corrupted(count, 20);
-    if (work == "startbytes")
+    }
+    if (work == "startbytes") {
         return Streams::startBytes(count);
-    if (work == "longlengths")
+    }
+    if (work == "longlengths") {
         return Streams::longLengths(count);
+    }
     return Streams::clean(count);
 }
 
@@ -67,9 +71,9 @@ extern "C" __attribute__((noinline)) qint64 measuredDevice(MemoryDevice *device,
 {
     qint64 total = 0;
     while (device->arm()) {
-        do
+        do {
             total += device->read(buffer, size);
-        while (device->bytesAvailable() > 0);
+        } while (device->bytesAvailable() > 0);
     }
     return total;
 }
@@ -77,8 +81,9 @@ extern "C" __attribute__((noinline)) qint64 measuredDevice(MemoryDevice *device,
 extern "C" __attribute__((noinline)) void measuredEmit(Receiver *receiver, const QByteArray *package,
                                                        int count)
 {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         Q_EMIT receiver->recvProtocolData(*package);
+    }
 }
 
 // Qt's containers and everything else on the heap come through here.
@@ -127,12 +132,12 @@ int main(int argc, char **argv)
         receiver.packages = 0;
         measuredReceive(&receiver, &device);
         if (work == "allocations") {
-            printf("%.4f\n", static_cast<double>(allocations) / count);
+            printf("%.4f\n", double(allocations) / count);
             return 0;
         }
         if (work == "loss") {
             const int corrupted = (count + 19) / 20;
-            printf("%.4f\n", static_cast<double>(count - corrupted - receiver.packages) / corrupted);
+            printf("%.4f\n", double(count - corrupted - receiver.packages) / corrupted);
             return 0;
         }
     }

@@ -23,7 +23,7 @@ const std::string KeyRelease("\x2E\x20\x02\x01\x00\xDC", 6);
 
 double percentile(const std::vector<double> &sorted, double share)
 {
-    return sorted[static_cast<size_t>(share * static_cast<double>(sorted.size() - 1))];
+    return sorted[size_t(share * double(sorted.size() - 1))];
 }
 
 void startToFirstPackage(benchmark::State &state)
@@ -31,8 +31,9 @@ void startToFirstPackage(benchmark::State &state)
     for (auto _ : state) {
         UnitProcess unit(unitPath);
         unsigned char byte = 0;
-        if (unit.waitForByte(&byte, 5) < 0 || byte != StartByte)
+        if (unit.waitForByte(&byte, 5) < 0 || byte != StartByte) {
             state.SkipWithError("no package came");
+        }
         state.SetIterationTime(unit.sinceStart());
     }
 }
@@ -55,8 +56,9 @@ void acknowledgement(benchmark::State &state)
         state.SetIterationTime(time);
         times.push_back(time * 1000);
     }
-    if (times.empty())
+    if (times.empty()) {
         return;
+    }
     std::sort(times.begin(), times.end());
     state.counters["median_ms"] = percentile(times, 0.5);
     state.counters["p99_ms"] = percentile(times, 0.99);
@@ -76,7 +78,7 @@ void idle(benchmark::State &state)
         const double used = unit.processorTime() - before;
         state.SetIterationTime(idleSeconds);
         state.counters["percent_of_a_core"] = used / idleSeconds * 100;
-        state.counters["resident_KiB"] = static_cast<double>(unit.residentMemory());
+        state.counters["resident_KiB"] = double(unit.residentMemory());
     }
 }
 BENCHMARK(idle)->UseManualTime()->Unit(benchmark::kSecond)->Iterations(1);
@@ -87,10 +89,11 @@ int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
     for (int i = 1; i < argc; ++i) {
-        if (strncmp(argv[i], "--unit=", 7) == 0)
+        if (strncmp(argv[i], "--unit=", 7) == 0) {
             unitPath = argv[i] + 7;
-        else if (strncmp(argv[i], "--idle=", 7) == 0)
+        } else if (strncmp(argv[i], "--idle=", 7) == 0) {
             idleSeconds = atoi(argv[i] + 7);
+        }
     }
     if (unitPath.empty() || idleSeconds <= 0) {
         fprintf(stderr, "usage: unitbenchmark --unit=PATH_OF_HEADUNIT [--idle=SECONDS]\n");

@@ -28,8 +28,9 @@ double now()
 
 UnitProcess::UnitProcess(const std::string &program) : m_master(posix_openpt(O_RDWR | O_NOCTTY))
 {
-    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0) {
         throw std::runtime_error("no pseudo-terminal");
+    }
     termios settings;
     tcgetattr(m_master, &settings);
     cfmakeraw(&settings);
@@ -45,8 +46,9 @@ UnitProcess::UnitProcess(const std::string &program) : m_master(posix_openpt(O_R
     const int failed =
         posix_spawn(&m_pid, program.c_str(), &files, nullptr, const_cast<char *const *>(arguments), environ);
     posix_spawn_file_actions_destroy(&files);
-    if (failed)
+    if (failed) {
         throw std::runtime_error("cannot start " + program);
+    }
 }
 
 UnitProcess::~UnitProcess()
@@ -60,8 +62,9 @@ double UnitProcess::waitForByte(unsigned char *byte, double timeout)
 {
     const double begin = now();
     pollfd ready = {m_master, POLLIN, 0};
-    if (poll(&ready, 1, static_cast<int>(timeout * 1000)) != 1 || read(m_master, byte, 1) != 1)
+    if (poll(&ready, 1, int(timeout * 1000)) != 1 || read(m_master, byte, 1) != 1) {
         return -1;
+    }
     return now() - begin;
 }
 
@@ -74,8 +77,9 @@ void UnitProcess::drain(double quiet)
 
 void UnitProcess::send(const std::string &bytes)
 {
-    if (write(m_master, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
+    if (write(m_master, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
         throw std::runtime_error("the line is full");
+    }
 }
 
 double UnitProcess::sinceStart() const
@@ -89,12 +93,13 @@ double UnitProcess::processorTime() const
     std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
     std::istringstream fields(text.substr(text.rfind(')') + 2));
     std::string skipped;
-    for (int i = 0; i < 11; ++i)
+    for (int i = 0; i < 11; ++i) {
         fields >> skipped;
+    }
     double user = 0;
     double system = 0;
     fields >> user >> system;
-    return (user + system) / static_cast<double>(sysconf(_SC_CLK_TCK));
+    return (user + system) / double(sysconf(_SC_CLK_TCK));
 }
 
 long UnitProcess::residentMemory() const
@@ -102,8 +107,9 @@ long UnitProcess::residentMemory() const
     std::ifstream file("/proc/" + std::to_string(m_pid) + "/status");
     std::string line;
     while (std::getline(file, line)) {
-        if (line.rfind("VmRSS:", 0) == 0)
+        if (line.rfind("VmRSS:", 0) == 0) {
             return atol(line.c_str() + 6);
+        }
     }
     return -1;
 }

@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     static std::unique_ptr<CanBusAdapter> adapters[16];
     if (!adapters[type])
         adapters[type] = HostileLine::adapter(type);
-    const QByteArray line(reinterpret_cast<const char *>(bytes) + 1, static_cast<int>(size) - 1);
+    const QByteArray line(reinterpret_cast<const char *>(bytes) + 1, int(size) - 1);
     HostileLine::decode(adapters[type].get(), type, line);
     HostileLine::receive(adapters[type].get(), line, 38);
     QCoreApplication::processEvents();

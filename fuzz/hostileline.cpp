@@ -44,11 +44,13 @@ const Creator Creators[] = {
 
 std::unique_ptr<CanBusAdapter> HostileLine::adapter(CanBusType type)
 {
-    if (type < 1 || type > sizeof Creators / sizeof Creators[0])
+    if (type < 1 || type > sizeof Creators / sizeof Creators[0]) {
         return nullptr;
+    }
     std::unique_ptr<CanBusAdapter> adapter(Creators[type - 1]());
-    if (type == CanBusTypeRaiseVolkswagen)
+    if (type == CanBusTypeRaiseVolkswagen) {
         adapter->showApp(VolkswagenApp);
+    }
     return adapter;
 }
 
@@ -56,30 +58,33 @@ void HostileLine::receive(CanBusAdapter *adapter, const QByteArray &bytes, int r
 {
     MemoryDevice device(bytes, readSize);
     adapter->attachIODevice(&device);
-    while (device.arm())
+    while (device.arm()) {
         adapter->onReadDeviceDatas();
+    }
     adapter->attachIODevice(nullptr);
 }
 
 QByteArray HostileLine::package(CanBusType type, quint8 command, const QByteArray &data)
 {
-    if (type != CanBusTypeXinHang)
+    if (type != CanBusTypeXinHang) {
         return RaiseWire::frame(command, data.left(255));
+    }
     QByteArray package("\xF0");
-    package += static_cast<char>(qMin<int>(data.size(), 254) + 1);
-    package += static_cast<char>(command);
+    package += char(qMin<int>(data.size(), 254) + 1);
+    package += char(command);
     package += data.left(254);
     unsigned int sum = 0;
-    for (int i = 2; i < package.size(); ++i)
-        sum += static_cast<quint8>(package.at(i));
-    return package + static_cast<char>(~sum);
+    for (int i = 2; i < package.size(); ++i) {
+        sum += quint8(package.at(i));
+    }
+    return package + char(~sum);
 }
 
 void HostileLine::decode(CanBusAdapter *adapter, CanBusType type, const QByteArray &bytes)
 {
     for (int at = 0; at + 2 <= bytes.size();) {
-        const int n = static_cast<quint8>(bytes.at(at + 1));
-        adapter->onRecvMcuProtocol(package(type, static_cast<quint8>(bytes.at(at)), bytes.mid(at + 2, n)));
+        const int n = quint8(bytes.at(at + 1));
+        adapter->onRecvMcuProtocol(package(type, quint8(bytes.at(at)), bytes.mid(at + 2, n)));
         at += 2 + n;
     }
 }

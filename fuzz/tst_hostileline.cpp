@@ -23,8 +23,9 @@ private:
     void everyType()
     {
         QTest::addColumn<int>("type");
-        for (int type = 1; type <= 15; ++type)
+        for (int type = 1; type <= 15; ++type) {
             QTest::newRow(qPrintable(QString("type %1").arg(type))) << type;
+        }
     }
 };
 
@@ -38,9 +39,10 @@ void TestHostileLine::everyCommandOfEveryLength()
     for (int command = 0; command < 256; ++command) {
         for (int n : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 16, 254, 255}) {
             QByteArray data(n, '\0');
-            for (char &byte : data)
-                byte = static_cast<char>(random());
-            adapter->onRecvMcuProtocol(HostileLine::package(boxType, static_cast<quint8>(command), data));
+            for (char &byte : data) {
+                byte = char(random());
+            }
+            adapter->onRecvMcuProtocol(HostileLine::package(boxType, quint8(command), data));
         }
         trace.take();
     }
@@ -57,13 +59,11 @@ void TestHostileLine::randomBytes()
     for (char &byte : bytes) {
         // Start bytes and small lengths more often than chance has them, so that candidates come up.
         const unsigned int kind = random() % 4;
-        byte = kind == 0   ? '\x2E'
-               : kind == 1 ? '\xF0'
-               : kind == 2 ? static_cast<char>(random() % 9)
-                           : static_cast<char>(random());
+        byte = kind == 0 ? '\x2E' : kind == 1 ? '\xF0' : kind == 2 ? char(random() % 9) : char(random());
     }
-    for (int readSize : {1, 38, 4096})
+    for (int readSize : {1, 38, 4096}) {
         HostileLine::receive(adapter.get(), bytes.left(readSize == 1 ? 5000 : bytes.size()), readSize);
+    }
 
     // Room for whatever was begun, then a package that every acknowledging box gets its answer for.
     TraceRecorder trace;
@@ -80,10 +80,11 @@ void TestHostileLine::malformedArrays()
     const std::unique_ptr<CanBusAdapter> adapter = HostileLine::adapter(static_cast<CanBusType>(type));
     // The slot is public: arrays that no framer would deliver, shorter than their length bytes say.
     for (int command = 0; command < 256; ++command) {
-        const QByteArray whole = QByteArray("\x2E") + static_cast<char>(command) + "\xFF\x01\x02";
-        for (int size = 0; size <= whole.size(); ++size)
+        const QByteArray whole = QByteArray("\x2E") + char(command) + "\xFF\x01\x02";
+        for (int size = 0; size <= whole.size(); ++size) {
             adapter->onRecvMcuProtocol(whole.left(size));
-        adapter->onRecvMcuProtocol(QByteArray("\xF0\xFF") + static_cast<char>(command));
+        }
+        adapter->onRecvMcuProtocol(QByteArray("\xF0\xFF") + char(command));
     }
     adapter->onRecvAppProtocol(QByteArray(5000, '\xFF'));
     QCoreApplication::processEvents();

@@ -27,12 +27,13 @@ CanBusAdapter *CanBusAdapter::getAdapterInstance(CanBusType type)
 {
     if (!s_instance) {
         CanBusAdapter *const adapter = createAdapter(type);
-        if (!adapter)
+        if (!adapter) {
             return nullptr;
+        }
         adapter->canBusType = type;
         s_instance = adapter;
         const char *const className = adapter->metaObject()->className();
-        qDebug() << "CanBusAdapter:" << className << static_cast<int>(type);
+        qDebug() << "CanBusAdapter:" << className << int(type);
         adapter->setDebugMode(QLatin1String(className), QFile::exists(QLatin1String("/data/mcudebug_flag")));
         adapter->initAdapter();
     }
@@ -72,8 +73,9 @@ void CanBusAdapter::initAdapter()
         serialPort = nullptr;
     }
     PortSettings settings;
-    if (!getPortSettings(settings) || name.isEmpty())
+    if (!getPortSettings(settings) || name.isEmpty()) {
         return;
+    }
 
     serialPort = new QextSerialPort(name, settings, QextSerialPort::Polling);
     const bool opened = serialPort->open(QIODevice::ReadWrite);
@@ -84,8 +86,9 @@ void CanBusAdapter::initAdapter()
 
 void CanBusAdapter::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != initTimerId)
+    if (event->timerId() != initTimerId) {
         return;
+    }
     killTimer(initTimerId);
     initTimerId = 0;
     onInited();

@@ -42,8 +42,9 @@ OrbMainWindow *CanBusPlugin::createMainWindow()
 void CanBusPlugin::customEvent(QEvent *event)
 {
     OrbEvent *const orbEvent = dynamic_cast<OrbEvent *>(event);
-    if (!orbEvent)
+    if (!orbEvent) {
         return;
+    }
     const int type = orbEvent->type();
     const unsigned int param = orbEvent->getParam();
     const unsigned int param2 = orbEvent->getParam2();
@@ -53,8 +54,9 @@ void CanBusPlugin::customEvent(QEvent *event)
         keyRedefAdapter->onKeyEvent(param, param2 != KeyReleased, param2 == KeyAutoRepeat);
         return;
     }
-    if (!canBusAdapter)
+    if (!canBusAdapter) {
         return;
+    }
     switch (type) {
     case OrbEvent::ShowAppType:
         canBusAdapter->showApp(param);
@@ -66,10 +68,11 @@ void CanBusPlugin::customEvent(QEvent *event)
         canBusAdapter->onKeyEvent(param, param2 != KeyReleased, param2 == KeyAutoRepeat);
         break;
     case OrbEvent::NotifyType:
-        if (param == LanguageChanged)
+        if (param == LanguageChanged) {
             canBusAdapter->translateApp();
-        else
+        } else {
             canBusAdapter->orbAppNotify(orbEvent);
+        }
         break;
     case OrbEvent::AppStateType:
         canBusAdapter->orbAppStateChange(param, param2);

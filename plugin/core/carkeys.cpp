@@ -7,15 +7,16 @@
 unsigned int CarKeys::keyFor(const KeyTable &table, quint8 code, unsigned int otherwise)
 {
     for (int i = 0; i < table.count; ++i) {
-        if (table.rows[i].code == code)
+        if (table.rows[i].code == code) {
             return table.rows[i].key;
+        }
     }
     return otherwise;
 }
 
 void CarKeys::simulate(unsigned int key, int state, int last)
 {
-    OrbApplication::simulateKey(static_cast<int>(key), state != Released, state == Held, last);
+    OrbApplication::simulateKey(int(key), state != Released, state == Held, last);
 }
 
 void CarKeys::tap(unsigned int key, int last)
@@ -26,8 +27,9 @@ void CarKeys::tap(unsigned int key, int last)
 
 void CarKeys::turn(unsigned int key, int count)
 {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         tap(key);
+    }
 }
 
 bool CarKeys::isCallPresent()

@@ -11,15 +11,17 @@ namespace Framing {
 /// Index of the next \a startByte in \a buffer at or after \a from, or -1.
 inline int findStart(const QByteArray &buffer, int from, char startByte)
 {
-    const int size = static_cast<int>(buffer.size());
-    if (from < 0 || from >= size)
+    const int size = int(buffer.size());
+    if (from < 0 || from >= size) {
         return -1;
+    }
     const char *const bytes = buffer.constData();
     // Between good packages the start byte is the byte at hand.
-    if (bytes[from] == startByte)
+    if (bytes[from] == startByte) {
         return from;
-    const void *const found = memchr(bytes + from, startByte, static_cast<size_t>(size - from));
-    return found ? static_cast<int>(static_cast<const char *>(found) - bytes) : -1;
+    }
+    const void *const found = memchr(bytes + from, startByte, size_t(size - from));
+    return found ? int(static_cast<const char *>(found) - bytes) : -1;
 }
 
 /// Sum of \a count bytes from \a at; only its low eight bits mean something.
@@ -39,8 +41,9 @@ inline unsigned int byteSum(const char *at, int count)
         } while (end - at >= 8);
         sum = static_cast<unsigned int>((lanes * Q_UINT64_C(0x0001000100010001)) >> 48);
     }
-    for (; at != end; ++at)
-        sum += static_cast<uchar>(*at);
+    for (; at != end; ++at) {
+        sum += uchar(*at);
+    }
     return sum;
 }
 
@@ -48,9 +51,10 @@ inline unsigned int byteSum(const char *at, int count)
 /// the array.
 inline quint8 checkSum(const QByteArray &bytes, int start, int count)
 {
-    if (start < 0 || count <= 0 || count > bytes.size() - start)
+    if (start < 0 || count <= 0 || count > bytes.size() - start) {
         return 0xFF;
-    return static_cast<quint8>(~byteSum(bytes.constData() + start, count));
+    }
+    return quint8(~byteSum(bytes.constData() + start, count));
 }
 
 } // namespace Framing

@@ -10,8 +10,9 @@ KeyRedefAdapter::KeyRedefAdapter() : keyRedefType(NoKeyRedef) {}
 
 KeyRedefAdapter *KeyRedefAdapter::getAdapterInstance(KeyRedefType type)
 {
-    if (!s_instance)
+    if (!s_instance) {
         s_instance = createAdapter(type);
+    }
     return s_instance;
 }
 

@@ -49,16 +49,18 @@ bool longFired = false; // one for both keys with a long action
 const HudKey &keyOf(unsigned int code)
 {
     for (const HudKey &key : HudKeys) {
-        if (key.code == code)
+        if (key.code == code) {
             return key;
+        }
     }
     return UnknownKey;
 }
 
 void tapKey(unsigned int key)
 {
-    if (key != None)
+    if (key != None) {
         CarKeys::tap(key);
+    }
 }
 
 } // namespace
@@ -79,14 +81,16 @@ void KeyRedefAdapter_HUD::onKeyEvent(unsigned int keyCode, bool isPress, bool is
 {
     const HudKey &key = keyOf(keyCode);
     if (!isPress) {
-        if (!longFired)
+        if (!longFired) {
             tapKey(key.releaseKey);
+        }
         longFired = false;
         return;
     }
     const quint64 now = GetTickCountMs();
-    if (!isAutoRepeat)
+    if (!isAutoRepeat) {
         pressTime = now;
+    }
     if (key.longKey != None && !longFired && now - pressTime > LongPress) {
         longFired = true;
         tapKey(key.longKey);

@@ -51,27 +51,31 @@ HeldKey held = {CarKeys::NoKey, CarKeys::NoKey, 0, 0, false};
 void KeyRedefAdapter_LianBaoLai::onKeyEvent(unsigned int keyCode, bool isPress, bool isAutoRepeat)
 {
     const unsigned int frontApp = OrbWindowManager::getCurWindowAppId();
-    if (isPress)
+    if (isPress) {
         onPress(keyCode, isAutoRepeat, frontApp);
-    else if (held.shortKey != CarKeys::NoKey)
+    } else if (held.shortKey != CarKeys::NoKey) {
         onRelease();
+    }
 }
 
 void KeyRedefAdapter_LianBaoLai::onPress(unsigned int keyCode, bool isAutoRepeat, unsigned int frontApp)
 {
     const quint64 now = GetTickCountMs();
-    if (!isAutoRepeat)
+    if (!isAutoRepeat) {
         held.pressTime = now;
+    }
     if (held.longKey != CarKeys::NoKey && now - held.pressTime >= held.longThreshold && !held.longFired) {
         held.longFired = true;
         CarKeys::tap(held.longKey);
     }
     // QUIRK lianbaolai-held-key: while a key is held every press counts as that key's, whatever its code.
-    if (held.shortKey == CarKeys::NoKey)
+    if (held.shortKey == CarKeys::NoKey) {
         beginKey(keyCode, frontApp);
+    }
     // What a key with a long action means is known at its release only.
-    if (held.shortKey != CarKeys::NoKey && held.longKey == CarKeys::NoKey)
+    if (held.shortKey != CarKeys::NoKey && held.longKey == CarKeys::NoKey) {
         CarKeys::simulate(held.shortKey, isAutoRepeat ? CarKeys::Held : CarKeys::Pressed, 0);
+    }
 }
 
 void KeyRedefAdapter_LianBaoLai::beginKey(unsigned int keyCode, unsigned int frontApp)
@@ -84,18 +88,20 @@ void KeyRedefAdapter_LianBaoLai::beginKey(unsigned int keyCode, unsigned int fro
         }
     }
     for (const TrackKey &key : TrackKeys) {
-        if (key.code == keyCode)
+        if (key.code == keyCode) {
             held.shortKey = isCallState()             ? key.callKey
                             : isMediaKeyApp(frontApp) ? key.mediaKey
                                                       : key.otherKey;
+        }
     }
 }
 
 void KeyRedefAdapter_LianBaoLai::onRelease()
 {
     if (!held.longFired) {
-        if (held.longKey != CarKeys::NoKey)
+        if (held.longKey != CarKeys::NoKey) {
             CarKeys::simulate(held.shortKey, CarKeys::Pressed, 0);
+        }
         CarKeys::simulate(held.shortKey, CarKeys::Released, 0);
     }
     held.shortKey = CarKeys::NoKey;

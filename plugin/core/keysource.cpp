@@ -8,8 +8,10 @@ void KeySource::report(quint8 code, quint8 state)
         return;
     }
     m_currentKey = CarKeys::keyFor(m_keys, code);
-    if (m_currentKey == CarKeys::PhoneKey)
+    if (m_currentKey == CarKeys::PhoneKey) {
         m_currentKey = CarKeys::phoneKey();
-    if (m_currentKey != CarKeys::NoKey)
+    }
+    if (m_currentKey != CarKeys::NoKey) {
         CarKeys::simulate(m_currentKey, state, m_last);
+    }
 }

@@ -15,8 +15,9 @@ template <int Rows>
 quint8 mapByte(const ByteMapping (&table)[Rows], unsigned int from, quint8 otherwise = 0)
 {
     for (int i = 0; i < Rows; ++i) {
-        if (table[i].from == from)
+        if (table[i].from == from) {
             return table[i].to;
+        }
     }
     return otherwise;
 }
@@ -25,8 +26,9 @@ quint8 mapByte(const ByteMapping (&table)[Rows], unsigned int from, quint8 other
 template <int Rows>
 QByteArray mapBytes(const ByteMapping (&table)[Rows], QByteArray codes, quint8 otherwise = 0)
 {
-    for (int i = 0; i < codes.size(); ++i)
-        codes[i] = static_cast<char>(mapByte(table, static_cast<quint8>(codes.at(i)), otherwise));
+    for (int i = 0; i < codes.size(); ++i) {
+        codes[i] = char(mapByte(table, quint8(codes.at(i)), otherwise));
+    }
     return codes;
 }
 

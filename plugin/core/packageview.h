@@ -43,11 +43,11 @@ public:
     int bits(int i, int high, int low) const { return (d(i) >> low) & ((1 << (high - low + 1)) - 1); }
 
     /// 16- and 32-bit numbers that begin at data byte \a i.
-    quint16 u16le(int i) const { return static_cast<quint16>(d(i) | d(i + 1) << 8); }
-    quint16 u16be(int i) const { return static_cast<quint16>(d(i) << 8 | d(i + 1)); }
-    qint16 s16le(int i) const { return static_cast<qint16>(u16le(i)); }
-    quint32 u32le(int i) const { return u16le(i) | static_cast<quint32>(u16le(i + 2)) << 16; }
-    quint32 u32be(int i) const { return static_cast<quint32>(u16be(i)) << 16 | u16be(i + 2); }
+    quint16 u16le(int i) const { return quint16(d(i) | d(i + 1) << 8); }
+    quint16 u16be(int i) const { return quint16(d(i) << 8 | d(i + 1)); }
+    qint16 s16le(int i) const { return qint16(u16le(i)); }
+    quint32 u32le(int i) const { return u16le(i) | quint32(u16le(i + 2)) << 16; }
+    quint32 u32be(int i) const { return quint32(u16be(i)) << 16 | u16be(i + 2); }
 
     /// The data bytes, of which n() may be read; valid as long as the package.
     const uchar *data() const { return m_bytes + qMin(m_dataAt, m_size); }

@@ -41,7 +41,7 @@ void UnitLink::sendSteeringAngle(float degrees)
 {
     OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
     event.setParams(SteeringAngle, 0);
-    event.setVariantParam(static_cast<int>(static_cast<qint16>(truncated(degrees))));
+    event.setVariantParam(int(qint16(truncated(degrees))));
     dispatch(&event);
 }
 
@@ -75,12 +75,13 @@ QByteArray UnitLink::versionCommand(const QByteArray &version)
 {
     QByteArray text;
     for (int i = 0; i < version.size() && version.at(i) != '\0'; ++i) {
-        const uchar byte = static_cast<uchar>(version.at(i));
+        const uchar byte = uchar(version.at(i));
         const bool control = byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
-        if (byte == '\'')
+        if (byte == '\'') {
             text += "'\\''";
-        else if (!control)
-            text += QString(QLatin1Char(static_cast<char>(byte))).toUtf8();
+        } else if (!control) {
+            text += QString(QLatin1Char(char(byte))).toUtf8();
+        }
     }
     return "echo '" + text + "' > /tmp/can_version";
 }
@@ -88,18 +89,22 @@ QByteArray UnitLink::versionCommand(const QByteArray &version)
 void UnitLink::publishVersion(const QByteArray &version)
 {
     const QByteArray command = versionCommand(version);
-    if (system(command.constData()) != 0)
+    if (system(command.constData()) != 0) {
         qWarning("The decoder's version could not be written to /tmp/can_version");
+    }
 }
 
 int UnitLink::truncated(float value)
 {
-    if (value != value)
+    if (value != value) {
         return 0;
+    }
     // 2147483648 is the nearest float above the largest int.
-    if (value >= 2147483648.0f)
+    if (value >= 2147483648.0f) {
         return std::numeric_limits<int>::max();
-    if (value <= -2147483648.0f)
+    }
+    if (value <= -2147483648.0f) {
         return std::numeric_limits<int>::min();
-    return static_cast<int>(value);
+    }
+    return int(value);
 }

@@ -76,8 +76,9 @@ void CanBus_XBS_Mazda::onRadar(const PackageView &d)
 {
     // d[0] unknown, d[1]..d[6] one sensor each
     QByteArray levels;
-    for (unsigned int i = 0; i < sizeof RadarBytes / sizeof RadarBytes[0]; ++i)
-        levels += static_cast<char>(d.d(RadarBytes[i]));
+    for (unsigned int i = 0; i < sizeof RadarBytes / sizeof RadarBytes[0]; ++i) {
+        levels += char(d.d(RadarBytes[i]));
+    }
     UnitLink::sendRadarLevels(UnitLink::Radar5018, mapBytes(FourRadarLevels, levels));
 }
 

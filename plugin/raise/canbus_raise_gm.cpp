@@ -61,12 +61,15 @@ const ByteMapping SpecialTemperatures[] = {{0x1D, 32}, {0x1F, 33}, {0x20, 30}, {
 
 QString temperatureText(quint8 value)
 {
-    if (value == 0)
+    if (value == 0) {
         return TemperatureText::low();
-    if (value == 0x1E)
+    }
+    if (value == 0x1E) {
         return TemperatureText::high();
-    if (value <= 0x1C)
+    }
+    if (value <= 0x1C) {
         return TemperatureText::celsius(17.0 + (value - 1) * 0.5);
+    }
     const quint8 halfDegrees = mapByte(SpecialTemperatures, value);
     return halfDegrees ? TemperatureText::celsius(halfDegrees / 2.0) : QString::fromUtf8("--°C");
 }
@@ -104,8 +107,9 @@ void CanBus_Raise_GM::onClimate(const PackageView &d)
     // d[6]: 7..2 unknown, 1 auto, 0 fan speed chosen by the car; d[4], d[5] unknown
     const bool automatic = d.bit(6, 1);
     m_climate.setAutoModeEnable(automatic);
-    if (!automatic)
+    if (!automatic) {
         m_climate.setAirVolume(d.bit(6, 0) ? 0xFF : d.bits(0, 2, 0));
+    }
     // d[2] left, d[3] right temperature
     m_climate.setTemperature(temperatureText(d.d(2)), temperatureText(d.d(3)));
     m_climate.setVisible(true);
@@ -114,10 +118,11 @@ void CanBus_Raise_GM::onClimate(const PackageView &d)
 void CanBus_Raise_GM::setWindDirection(int code)
 {
     const quint8 direction = mapByte(WindDirections, static_cast<unsigned int>(code), NoDirection);
-    if (code == DefrostingCode)
+    if (code == DefrostingCode) {
         m_climate.setDefrostingMode();
-    else if (direction != NoDirection)
+    } else if (direction != NoDirection) {
         m_climate.setWindDirectEx(direction);
+    }
 }
 
 void CanBus_Raise_GM::onRadar22(const PackageView &d)
@@ -134,5 +139,5 @@ void CanBus_Raise_GM::onSteeringAngle(const PackageView &d)
 {
     // d[0], d[1]: signed, sixteenths of a degree at the wheel; the rest of the division is cut toward zero
     const int wheelDegrees = d.s16le(0) / 16;
-    UnitLink::sendSteeringAngle(static_cast<float>(wheelDegrees) / 540.0f * 40.0f);
+    UnitLink::sendSteeringAngle(float(wheelDegrees) / 540.0f * 40.0f);
 }

@@ -41,10 +41,12 @@ const ByteMapping ModeCodes[] = {{2, 4}, {3, 6},  {4, 7},  {5, 7},  {6, 1}, {7, 
 
 QString temperatureText(quint8 value, bool celsius)
 {
-    if (value == 0)
+    if (value == 0) {
         return TemperatureText::low();
-    if (value == 0xFF)
+    }
+    if (value == 0xFF) {
         return TemperatureText::high();
+    }
     return celsius ? TemperatureText::celsius(value / 2.0) : TemperatureText::fahrenheit(value);
 }
 
@@ -93,8 +95,9 @@ void CanBus_Raise_Honda::onClimate(const PackageView &d)
     m_climate.setAirVolume(d.bits(1, 2, 0));
     m_climate.setCirculationMode(d.bit(0, 5));
     // d[4]: 7 defrosting, 6 display on, 5..1 unknown, 0 Celsius
-    if (d.bit(4, 7))
+    if (d.bit(4, 7)) {
         m_climate.setDefrostingMode();
+    }
     // d[2] left, d[3] right temperature; d[5]..d[8] unknown
     const bool celsius = d.bit(4, 0);
     m_climate.setTemperature(temperatureText(d.d(2), celsius), temperatureText(d.d(3), celsius));
@@ -130,7 +133,7 @@ void CanBus_Raise_Honda::onRadar23(const PackageView &d)
 void CanBus_Raise_Honda::writeSettingData(unsigned char item, const char *data, unsigned char len)
 {
     QByteArray setting(data, qMin<int>(len, LongestSetting));
-    setting.prepend(static_cast<char>(item));
+    setting.prepend(char(item));
     writeCanBusData(SettingCommand, reinterpret_cast<const unsigned char *>(setting.constData()),
                     static_cast<unsigned char>(setting.size()));
 }
@@ -139,8 +142,7 @@ QByteArray CanBus_Raise_Honda::clockData(const QTime &time, bool twelveHours)
 {
     // QUIRK honda-hour-plus-one: the box wants every hour of a 12-hour clock one too high (00:xx as 1).
     const int hour = twelveHours ? TwelveHourMark | (time.hour() % 12 + 1) : time.hour();
-    const char data[] = {static_cast<char>(hour), static_cast<char>(time.minute()),
-                         static_cast<char>(time.second())};
+    const char data[] = {char(hour), char(time.minute()), char(time.second())};
     return QByteArray(data, sizeof data);
 }
 

@@ -43,19 +43,23 @@ const ByteMapping ModeCodes[] = {{2, 0x04}, {3, 0x05},  {4, 0x04},  {5, 0x04},  
 
 QString celsiusText(quint8 value)
 {
-    if (value >= 1 && value <= 0x1D)
+    if (value >= 1 && value <= 0x1D) {
         return TemperatureText::celsius(18.0 + (value - 1) * 0.5);
-    if (value >= 0x20 && value <= 0x23)
+    }
+    if (value >= 0x20 && value <= 0x23) {
         return TemperatureText::celsius(16.0 + (value - 0x20) * 0.5);
+    }
     return value == 0x1F ? TemperatureText::high() : QString();
 }
 
 QString temperatureText(quint8 value, bool fahrenheit)
 {
-    if (value == 0)
+    if (value == 0) {
         return TemperatureText::low();
-    if (!fahrenheit)
+    }
+    if (!fahrenheit) {
         return celsiusText(value);
+    }
     return value == 0xFF ? TemperatureText::high() : TemperatureText::fahrenheit(value);
 }
 
@@ -75,8 +79,9 @@ void CanBus_Raise_Toyota::onInited()
     sendReady(3);
     AppendAppTitle(View360App, QLatin1String("360"));
     periodicTimer()->stop();
-    if (m_enableOemSound)
+    if (m_enableOemSound) {
         enableOEMSound(true);
+    }
     connect(OrbApplication::instance(), SIGNAL(modeAppChanged(uint, uint)), this,
             SLOT(onModeAppChange(uint, uint)));
 }
@@ -125,8 +130,9 @@ void CanBus_Raise_Toyota::onClimate(const PackageView &d)
     m_climate.setAirVolume(d.bits(1, 2, 0));
     // d[4]: 7..6 unknown, 5 circulation chosen by the car, 4..1 unknown, 0 Fahrenheit
     m_climate.setCirculationMode(d.bit(4, 5) ? 0xFF : d.bit(0, 5));
-    if (d.bit(0, 1))
+    if (d.bit(0, 1)) {
         m_climate.setDefrostingMode();
+    }
     // d[2] left, d[3] right temperature
     const bool fahrenheit = d.bit(4, 0);
     m_climate.setTemperature(temperatureText(d.d(2), fahrenheit), temperatureText(d.d(3), fahrenheit));
@@ -145,20 +151,21 @@ void CanBus_Raise_Toyota::onSteeringAngle(const PackageView &d)
     const int raw = d.d(0) | d.bits(1, 3, 0) << 8;
     // QUIRK toyota-angle-sign: either direction gives a negative angle, since the box counts on past the
     // middle.
-    const float angle = d.bit(1, 3) ? (static_cast<float>(-raw) / 380.0f) * 40.0f
-                                    : (static_cast<float>(raw) / 380.0f) * -40.0f;
+    const float angle = d.bit(1, 3) ? (float(-raw) / 380.0f) * 40.0f : (float(raw) / 380.0f) * -40.0f;
     UnitLink::sendSteeringAngle(angle);
 }
 
 void CanBus_Raise_Toyota::on360View(const PackageView &d)
 {
     // d[0]: 7..4 unknown, 3 shown, 2 valid, 1..0 unknown
-    if (!d.bit(0, 2))
+    if (!d.bit(0, 2)) {
         return;
-    if (d.bit(0, 3))
+    }
+    if (d.bit(0, 3)) {
         UnitLink::requestApp(OrbEvent::ShowAppType, 0, View360App);
-    else
+    } else {
         UnitLink::requestApp(OrbEvent::ReturnType);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- sent
@@ -171,8 +178,9 @@ void CanBus_Raise_Toyota::enableOEMSound(bool on)
         writeCanBusData(OemSoundCommand, switchOff, sizeof switchOff);
         return;
     }
-    for (unsigned int i = 0; i < sizeof switchOn / sizeof switchOn[0]; ++i)
+    for (unsigned int i = 0; i < sizeof switchOn / sizeof switchOn[0]; ++i) {
         writeCanBusData(OemSoundCommand, switchOn[i], sizeof switchOn[i]);
+    }
 }
 
 void CanBus_Raise_Toyota::onModeAppChange(uint mode, uint)

@@ -49,13 +49,12 @@ int RaiseAdapter::findPackageStartSig(int from)
 
 int RaiseAdapter::getPackageSize(int start)
 {
-    return static_cast<quint8>(recvBuffer.at(start + LengthAt)) + Overhead;
+    return quint8(recvBuffer.at(start + LengthAt)) + Overhead;
 }
 
 bool RaiseAdapter::isAvaliablePackage(int start, int last, int size)
 {
-    return getPackageCheckSum(recvBuffer, start + CommandAt, size - 2) ==
-           static_cast<quint8>(recvBuffer.at(last));
+    return getPackageCheckSum(recvBuffer, start + CommandAt, size - 2) == quint8(recvBuffer.at(last));
 }
 
 unsigned char RaiseAdapter::getPackageCheckSum(const QByteArray &data, int start, int len)
@@ -67,11 +66,12 @@ QByteArray RaiseAdapter::makeCanBusProtocol(unsigned short cmd, const unsigned c
 {
     QByteArray frame(len + Overhead, '\0');
     frame[0] = StartByte;
-    frame[CommandAt] = static_cast<char>(cmd & 0xFF);
-    frame[LengthAt] = static_cast<char>(len);
-    if (data)
+    frame[CommandAt] = char(cmd & 0xFF);
+    frame[LengthAt] = char(len);
+    if (data) {
         memcpy(frame.data() + DataAt, data, len);
-    frame[frame.size() - 1] = static_cast<char>(getPackageCheckSum(frame, CommandAt, frame.size() - 2));
+    }
+    frame[frame.size() - 1] = char(getPackageCheckSum(frame, CommandAt, frame.size() - 2));
     return frame;
 }
 
@@ -93,7 +93,7 @@ void RaiseAdapter::onRecvMcuProtocol(const QByteArray &byteArray)
     // The box waits 10 ms for this byte: it goes first, and past the queue.
     writeDatas_direct(QByteArray(1, Acknowledgement));
 
-    const quint8 n = byteArray.size() > LengthAt ? static_cast<quint8>(byteArray.at(LengthAt)) : 0;
+    const quint8 n = byteArray.size() > LengthAt ? quint8(byteArray.at(LengthAt)) : 0;
     const PackageView package(byteArray, CommandAt, DataAt, n);
     const CommandTable table = commands();
     for (int i = 0; i < table.count; ++i) {
@@ -120,14 +120,16 @@ void RaiseAdapter::onKeyEvent(unsigned int, bool, bool) {}
 
 void RaiseAdapter::orbAppStateChange(unsigned long state, unsigned long mask)
 {
-    if (mask == AppStateMask)
+    if (mask == AppStateMask) {
         m_appState = state & AppStateMask;
+    }
 }
 
 void RaiseAdapter::onVersion(const PackageView &d)
 {
-    if (m_readyTimer)
+    if (m_readyTimer) {
         m_readyTimer->stop();
+    }
     UnitLink::publishVersion(d.bytes());
 }
 
@@ -145,8 +147,9 @@ void RaiseAdapter::onSteeringWheelKey(const PackageView &d)
 
 void RaiseAdapter::processSWCKey(const unsigned char *d)
 {
-    if (m_wheelKeys)
+    if (m_wheelKeys) {
         m_wheelKeys->report(d[0], d[1]);
+    }
 }
 
 unsigned int RaiseAdapter::currentKey() const
@@ -156,7 +159,7 @@ unsigned int RaiseAdapter::currentKey() const
 
 void RaiseAdapter::onSignedSteeringAngle(const PackageView &d)
 {
-    UnitLink::sendSteeringAngle(static_cast<float>(d.s16le(0)) / 4608.0f * 40.0f);
+    UnitLink::sendSteeringAngle(float(d.s16le(0)) / 4608.0f * 40.0f);
 }
 
 // ---------------------------------------------------------------------------------------------- sending
@@ -187,6 +190,7 @@ void RaiseAdapter::onSendReadyTimer()
 
 void RaiseAdapter::sendReady(int times)
 {
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         onSendReadyTimer();
+    }
 }

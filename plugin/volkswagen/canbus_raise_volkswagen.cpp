@@ -45,7 +45,7 @@ const float InnerScale23 = 0.05f;
 
 char radarLevel(quint8 distance, float scale)
 {
-    return static_cast<char>(std::ceil(static_cast<float>(distance) * scale));
+    return char(std::ceil(float(distance) * scale));
 }
 
 void sendRadar(UnitLink::CarData what, const PackageView &d, float innerScale)
@@ -57,10 +57,12 @@ void sendRadar(UnitLink::CarData what, const PackageView &d, float innerScale)
 
 QString temperatureText(quint8 value, bool fahrenheit)
 {
-    if (value == 0)
+    if (value == 0) {
         return TemperatureText::low();
-    if (value > 30)
+    }
+    if (value > 30) {
         return TemperatureText::high();
+    }
     return fahrenheit ? TemperatureText::fahrenheit(value + 59)
                       : TemperatureText::celsius(16.0 + (value - 1) * 0.5);
 }
@@ -111,10 +113,11 @@ void CanBus_Raise_Volkswagen::processFKKey20(const PackageView &d)
 {
     const unsigned int released = s_wheelKey;
     s_wheelKey = CarKeys::keyFor(WheelKeys, d.d(0));
-    if (s_wheelKey != CarKeys::NoKey)
+    if (s_wheelKey != CarKeys::NoKey) {
         CarKeys::simulate(s_wheelKey, d.d(1), 1);
-    else if (d.d(0) == WheelKeyReleased && released != CarKeys::NoKey)
+    } else if (d.d(0) == WheelKeyReleased && released != CarKeys::NoKey) {
         CarKeys::simulate(released, CarKeys::Released, 0);
+    }
 }
 
 void CanBus_Raise_Volkswagen::onClimate(const PackageView &d)
@@ -127,16 +130,19 @@ void CanBus_Raise_Volkswagen::onClimate(const PackageView &d)
     const int fanSpeed = d.bits(1, 2, 0);
     m_climate.setAirVolume(fanSpeed);
     // Without the fan the climate is off, whatever the box says about it.
-    if (fanSpeed == 0)
+    if (fanSpeed == 0) {
         m_climate.setAirConditionEnable(false);
+    }
     // d[4]: 7..6 unknown, 5 circulation chosen by the car, 4..1 unknown, 0 Fahrenheit
     m_climate.setCirculationMode(d.bit(4, 5) ? 0xFF : d.bit(0, 5));
     const bool autoMode = d.bit(0, 3) || d.bit(0, 4);
     m_climate.setAutoModeEnable(autoMode);
-    if (autoMode)
+    if (autoMode) {
         m_climate.setWindDirect(0xFF);
-    if (d.bit(0, 1))
+    }
+    if (d.bit(0, 1)) {
         m_climate.setDefrostingMode();
+    }
     // d[2] left, d[3] right temperature
     const bool fahrenheit = d.bit(4, 0);
     m_climate.setTemperature(temperatureText(d.d(2), fahrenheit), temperatureText(d.d(3), fahrenheit));
@@ -161,16 +167,18 @@ void CanBus_Raise_Volkswagen::processFKKey2F(const PackageView &d)
         return;
     }
     s_functionKey = CarKeys::keyFor(FunctionKeys, d.d(0));
-    if (isSeekKey(s_functionKey))
+    if (isSeekKey(s_functionKey)) {
         CarKeys::simulate(s_functionKey, CarKeys::Pressed, 1);
-    else if (s_functionKey != CarKeys::NoKey)
+    } else if (s_functionKey != CarKeys::NoKey) {
         CarKeys::tap(s_functionKey, 1);
+    }
 }
 
 void CanBus_Raise_Volkswagen::releaseFunctionKey()
 {
-    if (s_functionKey == CarKeys::NoKey)
+    if (s_functionKey == CarKeys::NoKey) {
         return;
+    }
     if (!isSeekKey(s_functionKey)) {
         // QUIRK vw-release-taps-again: the release that follows a tapped key is a second tap of it.
         CarKeys::tap(s_functionKey, 1);
@@ -183,19 +191,21 @@ void CanBus_Raise_Volkswagen::releaseFunctionKey()
 void CanBus_Raise_Volkswagen::onOtherPackage(const PackageView &package)
 {
     keepReport(package);
-    Q_EMIT recvCanDatas(package.command(), package.data(), static_cast<quint8>(package.n()));
+    Q_EMIT recvCanDatas(package.command(), package.data(), quint8(package.n()));
 }
 
 void CanBus_Raise_Volkswagen::keepReport(const PackageView &package)
 {
     const quint8 command = package.command();
-    if (!Vw::isUnaskedReport(command))
+    if (!Vw::isUnaskedReport(command)) {
         return;
-    for (int i = m_lastReports.size() - 1; i >= 0; --i) {
-        if (static_cast<quint8>(m_lastReports.at(i).at(0)) == command)
-            m_lastReports.removeAt(i);
     }
-    m_lastReports.append(QByteArray(1, static_cast<char>(command)) + package.bytes());
+    for (int i = m_lastReports.size() - 1; i >= 0; --i) {
+        if (quint8(m_lastReports.at(i).at(0)) == command) {
+            m_lastReports.removeAt(i);
+        }
+    }
+    m_lastReports.append(QByteArray(1, char(command)) + package.bytes());
 }
 
 // ---------------------------------------------------------------------------------------------- sent
@@ -221,10 +231,12 @@ void CanBus_Raise_Volkswagen::writeSettingData(unsigned char item, unsigned char
 
 void CanBus_Raise_Volkswagen::showApp(unsigned int appId)
 {
-    if (appId != CarInfosApp)
+    if (appId != CarInfosApp) {
         return;
-    if (!s_window)
+    }
+    if (!s_window) {
         s_window = new VolkswagenWindow(this);
+    }
     s_window->setVisible(true);
 }
 

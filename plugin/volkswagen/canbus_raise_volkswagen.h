@@ -44,7 +44,7 @@ public:
         for (int i = 0; i < m_lastReports.size(); ++i) {
             const QByteArray &report = m_lastReports.at(i);
             const quint8 *const bytes = reinterpret_cast<const quint8 *>(report.constData());
-            screen->onRecvCanDatas(bytes[0], bytes + 1, static_cast<quint8>(report.size() - 1));
+            screen->onRecvCanDatas(bytes[0], bytes + 1, quint8(report.size() - 1));
         }
     }
 

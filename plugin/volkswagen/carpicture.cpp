@@ -19,8 +19,9 @@ const Place TyreCentres[Vw::TyreCount] = {{0.115, 0.225}, {0.885, 0.225}, {0.115
 
 CarPicture::CarPicture(QWidget *parent) : QWidget(parent), m_car(QLatin1String(":/dazhong/car.png"))
 {
-    for (int i = 0; i < Vw::TyreCount; ++i)
+    for (int i = 0; i < Vw::TyreCount; ++i) {
         m_frames[i] = nullptr;
+    }
 }
 
 void CarPicture::setTyreFrame(Vw::Tyre tyre, QWidget *frame)
@@ -63,8 +64,9 @@ void CarPicture::placeFrames()
 {
     const QRect picture = pictureRect();
     for (int i = 0; i < Vw::TyreCount; ++i) {
-        if (!m_frames[i])
+        if (!m_frames[i]) {
             continue;
+        }
         QRect frame(QPoint(0, 0), tyreFrameSize());
         frame.moveCenter(picture.topLeft() + QPoint(qRound(picture.width() * TyreCentres[i].x),
                                                     qRound(picture.height() * TyreCentres[i].y)));

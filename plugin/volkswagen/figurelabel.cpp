@@ -58,8 +58,9 @@ void FigureLabel::paintEvent(QPaintEvent *)
 {
     const QRect area = contentsRect();
     int size = qBound(SmallestFigure, area.height() * 3 / 4, LargestFigure);
-    while (size > SmallestFigure && widthAt(size) > area.width())
+    while (size > SmallestFigure && widthAt(size) > area.width()) {
         --size;
+    }
 
     const QString figure = figureOf(text());
     const QFont figureFont = fontOf(size);

@@ -56,8 +56,9 @@ QSize FlowLayout::sizeHint() const
 QSize FlowLayout::minimumSize() const
 {
     QSize largest;
-    for (int i = 0; i < m_items.size(); ++i)
+    for (int i = 0; i < m_items.size(); ++i) {
         largest = largest.expandedTo(m_items.at(i)->minimumSize());
+    }
     const QMargins margins = contentsMargins();
     return largest + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
 }
@@ -84,8 +85,9 @@ int FlowLayout::layOut(const QRect &rect, bool apply) const
             y += lineHeight + m_verticalSpacing;
             lineHeight = 0;
         }
-        if (apply)
+        if (apply) {
             item->setGeometry(QRect(QPoint(x, y), size));
+        }
         x += size.width() + m_horizontalSpacing;
         lineHeight = qMax(lineHeight, size.height());
     }

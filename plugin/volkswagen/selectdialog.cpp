@@ -58,8 +58,9 @@ void SelectDialog::setContentLayout(QLayout *layout)
 
 void SelectDialog::setContentText(const QString &text)
 {
-    if (m_contentLayout)
+    if (m_contentLayout) {
         return;
+    }
     QLabel *const label = new QLabel(text, m_ui->widgetContent);
     label->setObjectName(QLatin1String("labelContent"));
     label->setAlignment(Qt::AlignCenter);
@@ -74,8 +75,9 @@ void SelectDialog::setContentText(const QString &text)
 
 void SelectDialog::setCheckBoxListMode(const QStringList &items, const QString &checkedText, bool exclusive)
 {
-    if (m_contentLayout)
+    if (m_contentLayout) {
         return;
+    }
     m_checkBoxGroup = new QButtonGroup(this);
     FlowLayout *const layout = new FlowLayout(Spacing, Spacing, Spacing);
     for (int i = 0; i < items.size(); ++i) {
@@ -92,11 +94,13 @@ void SelectDialog::setCheckBoxListMode(const QStringList &items, const QString &
 
 int SelectDialog::getCheckedIndex() const
 {
-    if (!m_checkBoxGroup)
+    if (!m_checkBoxGroup) {
         return -1;
+    }
     for (int i = 0; m_checkBoxGroup->button(i); ++i) {
-        if (m_checkBoxGroup->button(i)->isChecked())
+        if (m_checkBoxGroup->button(i)->isChecked()) {
             return i;
+        }
     }
     return -1;
 }
@@ -105,8 +109,9 @@ int SelectDialog::getCheckedIndex() const
 
 void SelectDialog::setSliderMode(int minimum, int maximum, int step, int value, const QString &unit)
 {
-    if (m_contentLayout)
+    if (m_contentLayout) {
         return;
+    }
     m_minimum = minimum;
     m_maximum = qMax(minimum, maximum);
     m_step = step;
@@ -141,18 +146,18 @@ void SelectDialog::addStepButton(QLayout *layout, const QString &text, const QSt
 // 64 bits: a step past the limit must not overflow.
 void SelectDialog::setValue(qint64 value)
 {
-    m_value = static_cast<int>(qBound(static_cast<qint64>(m_minimum), value, static_cast<qint64>(m_maximum)));
+    m_value = int(qBound(qint64(m_minimum), value, qint64(m_maximum)));
     m_valueButton->setText(QString::number(m_value) + m_unit);
 }
 
 void SelectDialog::onSliderIncButtonClicked()
 {
-    setValue(static_cast<qint64>(m_value) + m_step);
+    setValue(qint64(m_value) + m_step);
 }
 
 void SelectDialog::onSliderDecButtonClicked()
 {
-    setValue(static_cast<qint64>(m_value) - m_step);
+    setValue(qint64(m_value) - m_step);
 }
 
 QString SelectDialog::getSliderValueText() const
@@ -179,8 +184,9 @@ QSize SelectDialog::sizeHint() const
 void SelectDialog::changeEvent(QEvent *event)
 {
     OrbDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+    }
 }
 
 void SelectDialog::on_btnOk_clicked()

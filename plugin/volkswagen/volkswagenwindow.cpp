@@ -67,8 +67,9 @@ VolkswagenWindow::VolkswagenWindow(CanBus_Raise_Volkswagen *adapter, QWidget *pa
     m_figures[Vw::TripValue::Distance] = m_ui->labelDistance;
     m_figures[Vw::TripValue::AverageSpeed] = m_ui->labelAverageSpeed;
     m_figures[Vw::TripValue::DrivingTime] = m_ui->labelDrivingTime;
-    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind)
+    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
         m_values[kind].kind = Vw::TripValue::NoValue;
+    }
 
     m_tyreLabels[Vw::LeftFront] = m_ui->labelTyreLeftFront;
     m_tyreLabels[Vw::RightFront] = m_ui->labelTyreRightFront;
@@ -101,15 +102,17 @@ void VolkswagenWindow::onLoadUiSkin()
 
 void VolkswagenWindow::onVisibleChange(bool visible)
 {
-    if (visible)
+    if (visible) {
         m_adapter->syncData(Vw::TripReply, Vw::RangeRequest);
+    }
 }
 
 void VolkswagenWindow::changeEvent(QEvent *event)
 {
     OrbMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         retranslate();
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- buttons
@@ -150,15 +153,15 @@ void VolkswagenWindow::showTab(QWidget *tab)
     m_ui->btnTPMS->setChecked(tab == m_ui->tabTPMS);
 }
 
-// ---------------------------------------------------------------------------------------------- trip
-// computer
+// ---------------------------------------------------------------------------------------------- trip computer
 
 void VolkswagenWindow::changeRangeIndex(int index)
 {
-    if (index < 0)
+    if (index < 0) {
         m_page = Vw::TripPageCount - 1;
-    else
+    } else {
         m_page = index < Vw::TripPageCount ? index : 0;
+    }
 
     // What the page before showed means nothing here.
     for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
@@ -173,18 +176,21 @@ void VolkswagenWindow::changeRangeIndex(int index)
 
 void VolkswagenWindow::syncDrivingData(int page)
 {
-    if (page < 0 || page >= Vw::TripPageCount)
+    if (page < 0 || page >= Vw::TripPageCount) {
         return;
-    for (int i = 0; i < Vw::TripRequestCount; ++i)
-        m_adapter->syncData(Vw::TripReply, static_cast<quint8>(Vw::TripRequests[i] + page));
+    }
+    for (int i = 0; i < Vw::TripRequestCount; ++i) {
+        m_adapter->syncData(Vw::TripReply, quint8(Vw::TripRequests[i] + page));
+    }
 }
 
 void VolkswagenWindow::showPageTitle()
 {
     m_ui->labelPageTitle->setText(tr(PageTitles[m_page]));
     QFrame *const dots[Vw::TripPageCount] = {m_ui->dotSinceStart, m_ui->dotSinceRefueling, m_ui->dotLongTerm};
-    for (int i = 0; i < Vw::TripPageCount; ++i)
+    for (int i = 0; i < Vw::TripPageCount; ++i) {
         dots[i]->setStyleSheet(QLatin1String(i == m_page ? CurrentDotStyle : OtherDotStyle));
+    }
 }
 
 void VolkswagenWindow::showFigure(int kind)
@@ -193,16 +199,18 @@ void VolkswagenWindow::showFigure(int kind)
     QString text = QLatin1String(NoFigure);
     if (value.kind != Vw::TripValue::NoValue) {
         text = value.figure;
-        if (value.unit)
+        if (value.unit) {
             text += QLatin1Char(' ') + tr(value.unit);
+        }
     }
     m_figures[kind]->setText(text);
 }
 
 void VolkswagenWindow::showTripValue(const Vw::TripValue &value)
 {
-    if (!value.isOn(m_page))
+    if (!value.isOn(m_page)) {
         return;
+    }
     m_values[value.kind] = value;
     showFigure(value.kind);
 }
@@ -211,8 +219,9 @@ void VolkswagenWindow::showTripValue(const Vw::TripValue &value)
 
 void VolkswagenWindow::showTyreStates(const Vw::TyreStates &states)
 {
-    if (!states.valid)
+    if (!states.valid) {
         return;
+    }
     m_tyres = states;
     showTyreTexts();
     for (int i = 0; i < Vw::TyreCount; ++i) {
@@ -226,8 +235,9 @@ void VolkswagenWindow::showTyreStates(const Vw::TyreStates &states)
 // A warning replaces the texts of the single tyres until the next package with their states.
 void VolkswagenWindow::showTyreWarning(const Vw::TyreWarning &warning)
 {
-    if (!warning.valid)
+    if (!warning.valid) {
         return;
+    }
     for (int i = 0; i < Vw::TyreCount; ++i) {
         m_tyreLabels[i]->hide();
         QFrame *const frame = m_tyreFrames[i];
@@ -243,8 +253,9 @@ void VolkswagenWindow::showTyreWarning(const Vw::TyreWarning &warning)
 void VolkswagenWindow::showTyreTexts()
 {
     if (m_tyres.valid) {
-        for (int i = 0; i < Vw::TyreCount; ++i)
+        for (int i = 0; i < Vw::TyreCount; ++i) {
             m_tyreLabels[i]->setText(tr(TyreStateTexts[m_tyres.state[i]]));
+        }
     }
     const bool known =
         m_tyreMessage >= 0 && m_tyreMessage < TyreMessageCount && TyreMessages[m_tyreMessage] != nullptr;
@@ -257,19 +268,21 @@ void VolkswagenWindow::showTyreTexts()
 void VolkswagenWindow::onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen)
 {
     const PackageView package(cmd, datas, dataLen);
-    if (cmd == Vw::TripReply)
+    if (cmd == Vw::TripReply) {
         showTripValue(Vw::tripValue(package));
-    else if (cmd == Vw::TyreStatesReply)
+    } else if (cmd == Vw::TyreStatesReply) {
         showTyreStates(Vw::tyreStates(package));
-    else if (cmd == Vw::TyreWarningReply)
+    } else if (cmd == Vw::TyreWarningReply) {
         showTyreWarning(Vw::tyreWarning(package));
+    }
 }
 
 void VolkswagenWindow::retranslate()
 {
     m_ui->retranslateUi(this);
     showPageTitle();
-    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind)
+    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
         showFigure(kind);
+    }
     showTyreTexts();
 }

@@ -43,14 +43,16 @@ void VWFunctionSetting::onLoadUiSkin()
 void VWFunctionSetting::sendRequests()
 {
     const Vw::SettingPage *const page = Vw::settingPage(appId());
-    for (int i = 0; page && i < page->requestCount; ++i)
+    for (int i = 0; page && i < page->requestCount; ++i) {
         m_adapter->syncData(page->requestCommand, page->requests[i]);
+    }
 }
 
 void VWFunctionSetting::onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen)
 {
-    if (m_state.take(PackageView(cmd, datas, dataLen)))
+    if (m_state.take(PackageView(cmd, datas, dataLen))) {
         refresh();
+    }
 }
 
 void VWFunctionSetting::refresh()
@@ -59,16 +61,17 @@ void VWFunctionSetting::refresh()
     const int present = m_model->rowCount();
     m_model->removeItemDatas(rows.size(), present - rows.size());
     for (int i = 0; i < rows.size(); ++i) {
-        if (i < present)
+        if (i < present) {
             m_model->setItemDatas(i, rows.at(i));
-        else
+        } else {
             m_model->appendItemDatas(rows.at(i));
+        }
     }
 }
 
 void VWFunctionSetting::send(int item, int value)
 {
-    m_adapter->writeSettingData(static_cast<quint8>(item), static_cast<quint8>(value));
+    m_adapter->writeSettingData(quint8(item), quint8(value));
 }
 
 // ---------------------------------------------------------------------------------------------- clicks
@@ -76,12 +79,14 @@ void VWFunctionSetting::send(int item, int value)
 void VWFunctionSetting::onItemColumnClicked(QAbstractItemModel *, const QModelIndex &index)
 {
     const Vw::SettingRow *const row = m_state.row(index.row());
-    if (m_dialog || m_left || !row)
+    if (m_dialog || m_left || !row) {
         return;
-    if (row->kind != Vw::SettingRow::Switch)
+    }
+    if (row->kind != Vw::SettingRow::Switch) {
         onItemClicked(index);
-    else if (index.column() == TableViewItemDatas::ValueColumn)
+    } else if (index.column() == TableViewItemDatas::ValueColumn) {
         toggleSwitch(*row);
+    }
 }
 
 void VWFunctionSetting::onItemClicked(const QModelIndex &index)
@@ -117,8 +122,9 @@ void VWFunctionSetting::toggleSwitch(const Vw::SettingRow &row)
     const int value = m_state.value(item, 0) == 0 ? 1 : 0;
     m_state.setValue(item, value);
     refresh();
-    if (item != Vw::NoItem)
+    if (item != Vw::NoItem) {
         send(item, value);
+    }
 }
 
 void VWFunctionSetting::openPage(unsigned int appId)
@@ -132,12 +138,14 @@ void VWFunctionSetting::chooseOption(const Vw::SettingRow &row, const QModelInde
     const QPointer<VWFunctionSetting> self(this);
     const QStringList options = index.data(Vw::OptionsRole).toStringList();
     const int chosen = showSelectCheckBoxModeDialog(options, m_state.value(row.item, -1), index);
-    if (!self || m_left || row.codeOf(chosen) < 0)
+    if (!self || m_left || row.codeOf(chosen) < 0) {
         return;
+    }
     send(row.item, row.codeOf(chosen));
     m_state.setValue(row.item, chosen);
-    if (Vw::dropsProfileRows(appId(), row.item))
+    if (Vw::dropsProfileRows(appId(), row.item)) {
         m_state.dropProfileRows();
+    }
     refresh();
 }
 
@@ -149,14 +157,16 @@ void VWFunctionSetting::chooseNumber(const Vw::SettingRow &row, const QModelInde
     const int chosen =
         showSelectSliderModeDialog(range.width(), range.height(), index.data(Vw::StepRole).toInt(), unit,
                                    index.data(Vw::ValueRole).toInt(), index);
-    if (!self || m_left)
+    if (!self || m_left) {
         return;
+    }
     if (chosen >= 0) {
         m_state.setValue(row.item, chosen);
         refresh();
     }
-    if (chosen >= 0 || (Vw::sendsWhenCancelled(row.item) && m_state.isKnown(row.item)))
+    if (chosen >= 0 || (Vw::sendsWhenCancelled(row.item) && m_state.isKnown(row.item))) {
         send(row.item, m_state.value(row.item, 0));
+    }
 }
 
 void VWFunctionSetting::confirmAction(const Vw::SettingRow &row)
@@ -164,14 +174,16 @@ void VWFunctionSetting::confirmAction(const Vw::SettingRow &row)
     const QPointer<VWFunctionSetting> self(this);
     const QString label = Vw::text(row.label);
     bool confirmed;
-    if (appId() == Vw::FactoryPage)
+    if (appId() == Vw::FactoryPage) {
         confirmed = showConfirmDialog(
             tr("Factory settings"),
             QString::fromLatin1("%1 %2 %3 ?").arg(tr("Are you sure restore"), label, tr("settings")));
-    else
+    } else {
         confirmed = showConfirmDialog(tr("Driving data"), tr("Are you sure ") + label + QLatin1Char('?'));
-    if (self && !m_left && confirmed)
+    }
+    if (self && !m_left && confirmed) {
         send(row.item, 1);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- dialogs
@@ -192,8 +204,9 @@ int VWFunctionSetting::showSelectCheckBoxModeDialog(const QStringList &options, 
     const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
     dialog->setCheckBoxListMode(options, options.value(current), true);
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
+    if (!dialog) {
         return -1;
+    }
     const int chosen = accepted ? dialog->getCheckedIndex() : -1;
     delete dialog;
     return chosen;
@@ -205,8 +218,9 @@ int VWFunctionSetting::showSelectSliderModeDialog(int minimum, int maximum, int 
     const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
     dialog->setSliderMode(minimum, maximum, step, value, unit);
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
+    if (!dialog) {
         return -1;
+    }
     const int chosen = accepted ? dialog->getSliderValue() : -1;
     delete dialog;
     return chosen;
@@ -217,8 +231,9 @@ bool VWFunctionSetting::showConfirmDialog(const QString &title, const QString &t
     const QPointer<SelectDialog> dialog(newDialog(title));
     dialog->setContentText(text);
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
+    if (!dialog) {
         return false;
+    }
     delete dialog;
     return accepted;
 }
@@ -238,8 +253,9 @@ void VWFunctionSetting::onHomeEvent()
 void VWFunctionSetting::leave()
 {
     m_left = true;
-    if (m_dialog)
+    if (m_dialog) {
         m_dialog->reject();
+    }
     deleteLater();
 }
 
@@ -248,8 +264,9 @@ void VWFunctionSetting::leave()
 void VWFunctionSetting::changeEvent(QEvent *event)
 {
     OrbMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         retranslate();
+    }
 }
 
 void VWFunctionSetting::retranslate()

@@ -41,16 +41,18 @@ TableViewItemDatas reportItem(const QString &label, const char *icon, const QStr
 // The report's lines, or one that says that there are none.
 QList<TableViewItemDatas> orNoEntries(const QList<TableViewItemDatas> &items)
 {
-    if (!items.isEmpty())
+    if (!items.isEmpty()) {
         return items;
+    }
     return QList<TableViewItemDatas>() << reportItem(text(NoEntries), InfoIcon);
 }
 
 QStringList optionTexts(const SettingRow &row)
 {
     QStringList texts;
-    for (int i = 0; i < row.optionCount(); ++i)
+    for (int i = 0; i < row.optionCount(); ++i) {
         texts.append(text(row.options[i]));
+    }
     return texts;
 }
 
@@ -83,8 +85,9 @@ PageState::PageState(unsigned int page)
     , m_startStop(StartStopReport())
     , m_numbers(NumbersReport())
 {
-    for (int i = 0; m_page && i < m_page->rowCount; ++i)
+    for (int i = 0; m_page && i < m_page->rowCount; ++i) {
         m_rows.append(m_page->rows[i]);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- replies
@@ -93,19 +96,22 @@ bool PageState::take(const PackageView &d)
 {
     if (m_id == StartStopPage && d.command() == StartStopReply) {
         const StartStopReport report = startStopReport(d);
-        if (report.valid)
+        if (report.valid) {
             m_startStop = report;
+        }
         return report.valid;
     }
     if ((m_id == ReportsPage && d.command() == ReportsReply) ||
         (m_id == ConsumersPage && d.command() == ConsumersReply)) {
         const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
-        if (report.valid)
+        if (report.valid) {
             m_numbers = report;
+        }
         return report.valid;
     }
-    if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0)
+    if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0) {
         return false;
+    }
     takeSettings(d);
     return true;
 }
@@ -114,33 +120,40 @@ void PageState::takeSettings(const PackageView &d)
 {
     if (d.command() == ServiceReply) {
         const ServiceReading reading = serviceReading(d);
-        if (reading.form != ServiceReading::Absent)
+        if (reading.form != ServiceReading::Absent) {
             m_readings.insert(reading.item, reading);
+        }
     }
-    if (m_id == TyresPage && WarningSpeedUnitField.isIn(d))
+    if (m_id == TyresPage && WarningSpeedUnitField.isIn(d)) {
         m_speedInMph = WarningSpeedUnitField.valueIn(d) != 0;
+    }
 
     for (int i = 0; i < m_rows.size(); ++i) {
         // A new driving mode changes the rows behind it, which this reply then fills as well.
         const SettingRow row = m_rows.at(i);
         takeField(row, row.field, d);
-        if (row.item == DrivingModeItem)
+        if (row.item == DrivingModeItem) {
             takeField(row, SecondDrivingModeField, d);
+        }
     }
 }
 
 void PageState::takeField(const SettingRow &row, const ReplyField &field, const PackageView &d)
 {
-    if (!field.isIn(d))
+    if (!field.isIn(d)) {
         return;
+    }
     int value = field.valueIn(d);
-    if (row.kind == SettingRow::Options)
+    if (row.kind == SettingRow::Options) {
         value = row.optionOf(value);
-    if (value < 0)
+    }
+    if (value < 0) {
         return;
+    }
     m_values.insert(row.item, value);
-    if (row.item == DrivingModeItem)
+    if (row.item == DrivingModeItem) {
         showProfileRows();
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- profile
@@ -153,8 +166,9 @@ void PageState::showProfileRows()
 
 void PageState::dropProfileRows()
 {
-    while (m_page && m_rows.size() > m_page->rowCount)
+    while (m_page && m_rows.size() > m_page->rowCount) {
         m_rows.removeLast();
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- rows
@@ -171,15 +185,19 @@ NumberRange PageState::rangeOf(const SettingRow &row) const
 
 QList<TableViewItemDatas> PageState::rows() const
 {
-    if (m_id == StartStopPage)
+    if (m_id == StartStopPage) {
         return startStopRows();
-    if (m_id == ReportsPage)
+    }
+    if (m_id == ReportsPage) {
         return reportRows();
-    if (m_id == ConsumersPage)
+    }
+    if (m_id == ConsumersPage) {
         return consumerRows();
+    }
     QList<TableViewItemDatas> items;
-    for (int i = 0; i < m_rows.size(); ++i)
+    for (int i = 0; i < m_rows.size(); ++i) {
         items.append(itemOf(m_rows.at(i)));
+    }
     return items;
 }
 
@@ -193,8 +211,9 @@ TableViewItemDatas PageState::itemOf(const SettingRow &row) const
         return item;
     }
     item.setValue(TableViewItemDatas::ValueColumn, valueText(row));
-    if (row.kind == SettingRow::Link)
+    if (row.kind == SettingRow::Link) {
         item.setMark(QLatin1String(OpenMark));
+    }
     if (row.kind == SettingRow::Options) {
         item.setBindData(OptionsRole, optionTexts(row));
         item.setMark(QLatin1String(DropDownMark));
@@ -210,13 +229,16 @@ TableViewItemDatas PageState::itemOf(const SettingRow &row) const
 
 QString PageState::valueText(const SettingRow &row) const
 {
-    if (row.kind == SettingRow::Reading)
+    if (row.kind == SettingRow::Reading) {
         return m_readings.contains(row.item) ? readingText(m_readings.value(row.item))
                                              : QString::fromLatin1(NoReading);
-    if (!isKnown(row.item))
+    }
+    if (!isKnown(row.item)) {
         return QString();
-    if (row.kind == SettingRow::Options)
+    }
+    if (row.kind == SettingRow::Options) {
         return text(row.options[value(row.item, 0)]);
+    }
     return row.kind == SettingRow::Number ? numberText(value(row.item, 0), text(rangeOf(row).unit))
                                           : QString();
 }
@@ -226,22 +248,25 @@ QList<TableViewItemDatas> PageState::startStopRows() const
     QList<TableViewItemDatas> reasons;
     for (int i = 0; i < m_startStop.texts.size(); ++i) {
         const QString reason = getStartStopInfo(m_startStop.texts.at(i));
-        if (!reason.isEmpty())
+        if (!reason.isEmpty()) {
             reasons.append(reportItem(reason, InfoIcon));
+        }
     }
     QList<TableViewItemDatas> items;
-    if (m_startStop.valid && !m_startStop.active)
+    if (m_startStop.valid && !m_startStop.active) {
         items.append(reportItem(text(StartStopOff), "startstop.png"));
-    else if (m_startStop.valid && reasons.isEmpty())
+    } else if (m_startStop.valid && reasons.isEmpty()) {
         items.append(reportItem(text(StartStopOn), "startstop.png"));
+    }
     return orNoEntries(items + reasons);
 }
 
 QList<TableViewItemDatas> PageState::reportRows() const
 {
     QList<TableViewItemDatas> items;
-    for (int i = 0; i < m_numbers.numbers.size(); ++i)
+    for (int i = 0; i < m_numbers.numbers.size(); ++i) {
         items.append(reportItem(text(ReportCode), ReportIcon, QString::number(m_numbers.numbers.at(i))));
+    }
     return orNoEntries(items);
 }
 
@@ -250,8 +275,9 @@ QList<TableViewItemDatas> PageState::consumerRows() const
     QList<TableViewItemDatas> items;
     for (int i = 0; i < m_numbers.numbers.size(); ++i) {
         const QString consumer = getConvConsumerInfo(m_numbers.numbers.at(i));
-        if (!consumer.isEmpty())
+        if (!consumer.isEmpty()) {
             items.append(reportItem(consumer, ConsumerIcon));
+        }
     }
     return orNoEntries(items);
 }

@@ -22,16 +22,18 @@ QString vehicleNumber(const PackageView &d)
 {
     QString number;
     for (int i = 1; i < d.n() && d.d(i) != 0 && number.size() < MaximumVehicleNumber; ++i) {
-        if (d.d(i) >= 0x20 && d.d(i) < 0x7F)
-            number += QLatin1Char(static_cast<char>(d.d(i)));
+        if (d.d(i) >= 0x20 && d.d(i) < 0x7F) {
+            number += QLatin1Char(char(d.d(i)));
+        }
     }
     return number.trimmed();
 }
 
 ServiceReading::Form counterForm(int code)
 {
-    if (code == 1)
+    if (code == 1) {
         return ServiceReading::Count;
+    }
     return code == 2 ? ServiceReading::Overdue : ServiceReading::Unknown;
 }
 
@@ -48,10 +50,11 @@ ServiceReading serviceReading(const PackageView &d)
         const bool distance = d.bit(0, 0);
         reading.form = counterForm(d.bits(1, 2, 0));
         reading.count = d.u16le(2) * (distance ? DistanceScale : 1);
-        if (!distance)
+        if (!distance) {
             reading.unit = QT_TR_NOOP("days");
-        else
+        } else {
             reading.unit = d.bits(1, 6, 4) != 0 ? QT_TR_NOOP("mi") : QT_TR_NOOP("km");
+        }
     }
     return reading;
 }
@@ -60,8 +63,9 @@ ServiceReading serviceReading(const PackageView &d)
 StartStopReport startStopReport(const PackageView &d)
 {
     StartStopReport report = {d.n() >= 8, d.bit(7, 0), QList<int>()};
-    for (int i = 0; i < qMin<int>(d.d(0), MaximumStartStopTexts); ++i)
+    for (int i = 0; i < qMin<int>(d.d(0), MaximumStartStopTexts); ++i) {
         report.texts.append(d.d(1 + i));
+    }
     return report;
 }
 
@@ -70,8 +74,9 @@ NumbersReport vehicleReports(const PackageView &d)
 {
     NumbersReport report = {d.n() >= 2, QList<int>()};
     const int count = qMin(qMin<int>(d.u16le(0), MaximumReports), (d.n() - 2) / 2);
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         report.numbers.append(d.u16le(2 + 2 * i));
+    }
     return report;
 }
 
@@ -79,8 +84,9 @@ NumbersReport vehicleReports(const PackageView &d)
 NumbersReport consumersReport(const PackageView &d)
 {
     NumbersReport report = {d.n() >= 4, QList<int>()};
-    for (int i = 0; i < qMin<int>(d.d(0), MaximumConsumers); ++i)
+    for (int i = 0; i < qMin<int>(d.d(0), MaximumConsumers); ++i) {
         report.numbers.append(d.d(1 + i));
+    }
     return report;
 }
 

@@ -346,8 +346,9 @@ template <int Rows>
 QList<SettingRow> listOf(const Row (&rows)[Rows])
 {
     QList<SettingRow> list;
-    for (int i = 0; i < Rows; ++i)
+    for (int i = 0; i < Rows; ++i) {
         list.append(rows[i]);
+    }
     return list;
 }
 
@@ -360,18 +361,21 @@ const NumberRange WarningSpeedMph = {20, 150, 5, QT_TR_NOOP("mph")};
 const SettingPage *settingPage(unsigned int id)
 {
     for (int i = 0; i < PageCount; ++i) {
-        if (Pages[i].id == id)
+        if (Pages[i].id == id) {
             return &Pages[i];
+        }
     }
     return nullptr;
 }
 
 QList<SettingRow> profileRows(int mode)
 {
-    if (mode == IndividualMode)
+    if (mode == IndividualMode) {
         return listOf(IndividualRows);
-    if (mode == OffRoadIndividualMode)
+    }
+    if (mode == OffRoadIndividualMode) {
         return listOf(OffRoadIndividualRows);
+    }
     return QList<SettingRow>();
 }
 
@@ -389,23 +393,26 @@ bool sendsWhenCancelled(int item)
 int SettingRow::optionCount() const
 {
     int count = 0;
-    while (options && options[count])
+    while (options && options[count]) {
         ++count;
+    }
     return count;
 }
 
 int SettingRow::codeOf(int index) const
 {
-    if (index < 0 || index >= optionCount())
+    if (index < 0 || index >= optionCount()) {
         return -1;
+    }
     return codes ? codes[index] : index;
 }
 
 int SettingRow::optionOf(int code) const
 {
     for (int index = optionCount() - 1; index >= 0; --index) {
-        if (codeOf(index) == code)
+        if (codeOf(index) == code) {
             return index;
+        }
     }
     return -1;
 }

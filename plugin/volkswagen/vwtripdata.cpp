@@ -24,8 +24,9 @@ Vw::TripValue makeValue(Vw::TripValue::Kind kind, int page, const QString &figur
 QString tenthsText(int tenths)
 {
     QString text = QString::number(tenths);
-    if (text.size() == 1)
+    if (text.size() == 1) {
         return QLatin1String("0.") + text;
+    }
     return text.insert(text.size() - 1, QLatin1Char('.'));
 }
 
@@ -38,18 +39,22 @@ const quint8 Vw::TripRequests[TripRequestCount] = {0x20, 0x30, 0x40, 0x50};
 Vw::TripValue Vw::tripValue(const PackageView &d)
 {
     const TripValue none = makeValue(TripValue::NoValue, -1, QString(), nullptr);
-    if (d.n() < TripMinimumN)
+    if (d.n() < TripMinimumN) {
         return none;
+    }
 
-    if (d.d(0) == 0x10)
+    if (d.d(0) == 0x10) {
         return makeValue(TripValue::Range, -1, QString::number(d.u16le(2)), DistanceUnits[d.bit(1, 0)]);
-    if (d.d(0) == 0x61)
+    }
+    if (d.d(0) == 0x61) {
         return makeValue(TripValue::Consumption, -1, QString::number(d.u16le(2) / 10),
                          ConsumptionUnits[d.bits(1, 1, 0)]);
+    }
 
     const int page = d.bits(0, 3, 0);
-    if (page >= TripPageCount)
+    if (page >= TripPageCount) {
         return none;
+    }
     switch (d.bits(0, 7, 4)) {
     case 0x2:
         return makeValue(TripValue::Distance, page, QString::number(d.u32le(2) / 10),
@@ -73,15 +78,17 @@ Vw::TripValue Vw::tripValue(const PackageView &d)
 Vw::TyreStates Vw::tyreStates(const PackageView &d)
 {
     TyreStates states = {d.n() >= TyreCount, {0, 0, 0, 0}};
-    for (int i = 0; i < TyreCount; ++i)
+    for (int i = 0; i < TyreCount; ++i) {
         states.state[i] = qMin<int>(d.d(i), 2);
+    }
     return states;
 }
 
 Vw::TyreWarning Vw::tyreWarning(const PackageView &d)
 {
     TyreWarning warning = {d.n() >= 2, {false, false, false, false}, d.d(1)};
-    for (int i = 0; i < TyreCount; ++i)
+    for (int i = 0; i < TyreCount; ++i) {
         warning.marked[i] = d.bit(0, i);
+    }
     return warning;
 }

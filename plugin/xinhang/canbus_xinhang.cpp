@@ -107,16 +107,18 @@ CanBus_XinHang::CanBus_XinHang(QObject *parent)
 
 CanBus_XinHang::~CanBus_XinHang()
 {
-    if (OrbApplication::instance())
+    if (OrbApplication::instance()) {
         OrbApplication::instance()->removeKeyFilter(this);
+    }
     delete m_settingsWindow.data();
 }
 
 void CanBus_XinHang::onInited()
 {
     m_settings.appendConfiguredItems();
-    if (m_settingsWindow)
+    if (m_settingsWindow) {
         m_settingsWindow->resetListTexts();
+    }
     m_readyTimer->start();
 }
 
@@ -134,13 +136,12 @@ int CanBus_XinHang::findPackageStartSig(int from)
 
 int CanBus_XinHang::getPackageSize(int start)
 {
-    return static_cast<quint8>(recvBuffer.at(start + LengthAt)) + Overhead;
+    return quint8(recvBuffer.at(start + LengthAt)) + Overhead;
 }
 
 bool CanBus_XinHang::isAvaliablePackage(int start, int last, int size)
 {
-    return getPackageCheckSum(recvBuffer, start + CommandAt, size - Overhead) ==
-           static_cast<quint8>(recvBuffer.at(last));
+    return getPackageCheckSum(recvBuffer, start + CommandAt, size - Overhead) == quint8(recvBuffer.at(last));
 }
 
 quint8 CanBus_XinHang::getPackageCheckSum(const QByteArray &bytes, int start, int count)
@@ -158,11 +159,12 @@ QByteArray CanBus_XinHang::makeMcuProtocol(quint8 command, const unsigned char *
     const int n = qBound(0, length, MaximumN);
     QByteArray package(n + 1 + Overhead, '\0');
     package[0] = StartByte;
-    package[LengthAt] = static_cast<char>(n + 1);
-    package[CommandAt] = static_cast<char>(command);
-    if (data)
-        memcpy(package.data() + DataAt, data, static_cast<size_t>(n));
-    package[package.size() - 1] = static_cast<char>(makeMcuProtocolCheckSum(package, CommandAt, n + 1));
+    package[LengthAt] = char(n + 1);
+    package[CommandAt] = char(command);
+    if (data) {
+        memcpy(package.data() + DataAt, data, size_t(n));
+    }
+    package[package.size() - 1] = char(makeMcuProtocolCheckSum(package, CommandAt, n + 1));
     return package;
 }
 
@@ -185,7 +187,7 @@ void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
         {PanelKeyCommand, 0, &Box::onKey}, {0x0C, 0, &Box::onAppRequest},
         {0x87, 0, &Box::onCursorKey},
     };
-    const int length = byteArray.size() > LengthAt ? static_cast<quint8>(byteArray.at(LengthAt)) : 0;
+    const int length = byteArray.size() > LengthAt ? quint8(byteArray.at(LengthAt)) : 0;
     const PackageView package(byteArray, CommandAt, DataAt, length - 1);
     for (unsigned int i = 0; i < sizeof commands / sizeof commands[0]; ++i) {
         const Command &row = commands[i];
@@ -198,11 +200,11 @@ void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
 
 void CanBus_XinHang::onStatus(const PackageView &d)
 {
-    const char bytes[] = {static_cast<char>(d.d(0)), static_cast<char>(d.d(1)), static_cast<char>(d.d(2)),
-                          static_cast<char>(d.d(3))};
+    const char bytes[] = {char(d.d(0)), char(d.d(1)), char(d.d(2)), char(d.d(3))};
     const QByteArray status(bytes, sizeof bytes);
-    if (status == m_lastStatus)
+    if (status == m_lastStatus) {
         return;
+    }
     m_lastStatus = status;
 
     // d[0] display and cameras
@@ -224,21 +226,23 @@ void CanBus_XinHang::onRadarAndSteering(const PackageView &d)
 {
     // d[1..8] radar levels
     QByteArray levels(RadarSensors, '\0');
-    for (int i = 0; i < RadarSensors; ++i)
-        levels[i] = static_cast<char>(transRadarLevel(i, d.d(1 + i)));
+    for (int i = 0; i < RadarSensors; ++i) {
+        levels[i] = char(transRadarLevel(i, d.d(1 + i)));
+    }
     UnitLink::sendRadarLevels(UnitLink::Radar5018, levels);
     // d[0]: 7 positive, 6..0 magnitude
-    const float angle = static_cast<float>(d.bits(0, 6, 0)) / SteeringUnit * SteeringFactor;
+    const float angle = float(d.bits(0, 6, 0)) / SteeringUnit * SteeringFactor;
     UnitLink::sendSteeringAngle(d.bit(0, 7) ? angle : -angle);
 }
 
 quint8 CanBus_XinHang::transRadarLevel(int sensor, quint8 raw) const
 {
-    if (sensor < 0 || sensor >= RadarSensors || raw == 0)
+    if (sensor < 0 || sensor >= RadarSensors || raw == 0) {
         return 0;
+    }
     // A maximum of 0 gives infinity, which is converted like any other level that is too large.
-    const float share = static_cast<float>(raw) / static_cast<float>(m_radarMaximums[sensor]);
-    return static_cast<quint8>(UnitLink::truncated(std::ceil(share * RadarLevels)));
+    const float share = float(raw) / float(m_radarMaximums[sensor]);
+    return quint8(UnitLink::truncated(std::ceil(share * RadarLevels)));
 }
 
 // d[0] state: 0 released, 1 pressed, 2 held; d[1] key
@@ -247,21 +251,24 @@ void CanBus_XinHang::onKey(const PackageView &d)
     const int state = d.d(0);
     const unsigned int key = CarKeys::keyFor(Keys, d.d(1), UnknownKey);
     qDebug() << "recv key:" << d.d(1) << key << state << d.command();
-    if (key == UnknownKey || state > CarKeys::Held)
+    if (key == UnknownKey || state > CarKeys::Held) {
         return;
+    }
     const bool pressed = state != CarKeys::Released;
     const bool held = state == CarKeys::Held;
     const bool consumed = d.command() == PanelKeyCommand ? m_keyFilter.filterPanelKey(key, pressed, held)
                                                          : filterKey(key, pressed, held);
-    if (!consumed)
+    if (!consumed) {
         CarKeys::simulate(key, state, 0);
+    }
 }
 
 // d[0] state, d[1..2] x, d[3..4] y
 void CanBus_XinHang::onTouch(const PackageView &d)
 {
-    if (d.d(0) < TouchStates)
+    if (d.d(0) < TouchStates) {
         OrbApplication::simulateMouse(TouchTypes[d.d(0)], d.u16be(1), d.u16be(3));
+    }
 }
 
 void CanBus_XinHang::onVersion(const PackageView &d)
@@ -280,7 +287,7 @@ void CanBus_XinHang::onRadarMaximums(const PackageView &d)
     QByteArray text;
     for (int i = 0; i < RadarSensors; ++i) {
         m_radarMaximums[i] = d.d(i);
-        text += QByteArray(1, static_cast<char>(d.d(i))).toHex().toUpper();
+        text += QByteArray(1, char(d.d(i))).toHex().toUpper();
     }
     qDebug() << "Recv Radar Max Levels:" << text.constData();
 }
@@ -321,8 +328,9 @@ void CanBus_XinHang::onAppRequest(const PackageView &d)
 void CanBus_XinHang::onCursorKey(const PackageView &d)
 {
     const unsigned int key = CarKeys::keyFor(CursorKeys, d.d(0), UnknownKey);
-    if (key != UnknownKey)
+    if (key != UnknownKey) {
         CarKeys::tap(key);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- sent
@@ -338,8 +346,9 @@ void CanBus_XinHang::onSendReadyTimeout()
     send(ReadyCommand, QByteArray(2, 0x01));
     // QUIRK xinhang-ready-count: the count is the process's and never starts again, so that a unit without
     // its box falls silent for good after 51 sendings.
-    if (++s_readyCount >= MaximumReadyCount)
+    if (++s_readyCount >= MaximumReadyCount) {
         m_readyTimer->stop();
+    }
 }
 
 bool CanBus_XinHang::filterKey(unsigned int key, bool pressed, bool held)
@@ -378,10 +387,12 @@ void CanBus_XinHang::orbAppStateChange(unsigned long state, unsigned long mask)
 
 void CanBus_XinHang::orbAppNotify(OrbEvent *event)
 {
-    if (!event)
+    if (!event) {
         return;
-    if (event->getParam() == BrightnessChanged)
-        send(BrightnessCommand, QByteArray(1, static_cast<char>(event->getParam2())));
-    else if (event->getParam() == Notification5024 && event->getParam2() != 1)
+    }
+    if (event->getParam() == BrightnessChanged) {
+        send(BrightnessCommand, QByteArray(1, char(event->getParam2())));
+    } else if (event->getParam() == Notification5024 && event->getParam2() != 1) {
         send(BoxScreenCommand, QByteArray(1, 0x00));
+    }
 }

@@ -53,12 +53,14 @@ XinHangDisplay::XinHangDisplay(XinHangBox &box, QObject *parent)
 void XinHangDisplay::switchDisplay(quint8 source, bool setGpio)
 {
     m_switchTimer->stop();
-    if (source == m_source || m_autoSwitched)
+    if (source == m_source || m_autoSwitched) {
         return;
+    }
     m_source = source;
-    m_box.send(DisplayCommand, QByteArray(1, static_cast<char>(source)));
-    if (setGpio)
+    m_box.send(DisplayCommand, QByteArray(1, char(source)));
+    if (setGpio) {
         m_sourceLine.setValue(source == OwnScreen);
+    }
     qDebug() << "switch display source:" << source;
 }
 
@@ -66,8 +68,9 @@ void XinHangDisplay::switchDisplay(quint8 source, bool setGpio)
 void XinHangDisplay::onStatus(const PackageView &d)
 {
     m_source = d.bit(0, 4) ? FactoryScreen : OwnScreen;
-    if (m_box.carType() != CameraCarType)
+    if (m_box.carType() != CameraCarType) {
         return;
+    }
     if (isCameraWanted(d)) {
         if (!m_autoSwitched && isOwnScreen()) {
             switchDisplay(FactoryScreen, false);
@@ -84,24 +87,28 @@ void XinHangDisplay::onStatus(const PackageView &d)
 
 bool XinHangDisplay::isCameraWanted(const PackageView &d) const
 {
-    if (m_reversingCameraMode == Camera360 && (d.bit(0, 5) || d.bit(0, 6)))
+    if (m_reversingCameraMode == Camera360 && (d.bit(0, 5) || d.bit(0, 6))) {
         return true;
+    }
     return m_rightCameraOn && d.bit(0, 6);
 }
 
 void XinHangDisplay::pressSwitchKey(bool held)
 {
-    if (!held)
+    if (!held) {
         m_longPressServed = false;
-    if (!m_longPressServed && !m_switchTimer->isActive())
+    }
+    if (!m_longPressServed && !m_switchTimer->isActive()) {
         m_switchTimer->start();
+    }
 }
 
 bool XinHangDisplay::releaseSwitchKey()
 {
     m_longPressServed = false;
-    if (!m_switchTimer->isActive())
+    if (!m_switchTimer->isActive()) {
         return false;
+    }
     m_switchTimer->stop();
     return true;
 }
@@ -110,8 +117,9 @@ void XinHangDisplay::onSwitchDisplayTimer()
 {
     m_switchTimer->stop();
     m_longPressServed = true;
-    if (UnitLink::statusWord() & (UnitLink::CallPresent | AppState))
+    if (UnitLink::statusWord() & (UnitLink::CallPresent | AppState)) {
         return;
+    }
     switchDisplay(isOwnScreen() ? FactoryScreen : OwnScreen, true);
 }
 
@@ -130,14 +138,16 @@ void XinHangDisplay::onCallSwitchDisplay(bool inCall)
 
 void XinHangDisplay::orbAppStateChange(unsigned long state, unsigned long mask)
 {
-    if (mask == CallState1 || mask == CallState2)
+    if (mask == CallState1 || mask == CallState2) {
         onCallSwitchDisplay(state & mask);
-    else if (mask == AppState)
+    } else if (mask == AppState) {
         m_appState = state & AppState;
+    }
 }
 
 void XinHangDisplay::onModeAppChange(uint mode, uint)
 {
-    if (std::find(std::begin(PictureModes), std::end(PictureModes), mode) != std::end(PictureModes))
+    if (std::find(std::begin(PictureModes), std::end(PictureModes), mode) != std::end(PictureModes)) {
         switchDisplay(OwnScreen, true);
+    }
 }

@@ -95,11 +95,13 @@ bool XinHangKeyFilter::filterPanelKey(unsigned int key, bool pressed, bool held)
 bool XinHangKeyFilter::apply(const Rule *rules, int count, unsigned int key, bool pressed, bool held)
 {
     const quint16 carType = m_box.carType();
-    if (carType == 0)
+    if (carType == 0) {
         return true;
+    }
     for (int i = 0; i < count; ++i) {
-        if (rules[i].carType == carType && rules[i].key == key)
+        if (rules[i].carType == carType && rules[i].key == key) {
             return obey(rules[i], pressed, held);
+        }
     }
     return !m_display.isOwnScreen();
 }
@@ -111,33 +113,39 @@ bool XinHangKeyFilter::obey(const Rule &rule, bool pressed, bool held)
     case Rule::Consume:
         break;
     case Rule::Replace:
-        OrbApplication::simulateKey(static_cast<int>(rule.other), pressed, held, 0);
+        OrbApplication::simulateKey(int(rule.other), pressed, held, 0);
         break;
     case Rule::ReplaceOnOwnScreen:
-        if (ownScreen)
-            OrbApplication::simulateKey(static_cast<int>(rule.other), pressed, held, 0);
+        if (ownScreen) {
+            OrbApplication::simulateKey(int(rule.other), pressed, held, 0);
+        }
         break;
     case Rule::Debounce:
         return !ownScreen || isBouncing();
     case Rule::ShowFactoryScreen:
-        if (!pressed)
+        if (!pressed) {
             m_display.switchDisplay(XinHangDisplay::FactoryScreen, true);
+        }
         break;
     case Rule::PhoneKey:
-        if (ownScreen && pressed && !held)
+        if (ownScreen && pressed && !held) {
             CarKeys::tap(CarKeys::phoneKey());
+        }
         break;
     case Rule::LongPressElseTap:
-        if (endsShortPress(pressed, held))
+        if (endsShortPress(pressed, held)) {
             CarKeys::tap(rule.other);
+        }
         break;
     case Rule::LongPressElseTapOnOwnScreen:
-        if (endsShortPress(pressed, held) && ownScreen)
+        if (endsShortPress(pressed, held) && ownScreen) {
             CarKeys::tap(rule.other);
+        }
         break;
     case Rule::LongPressElsePhoneKey:
-        if (endsShortPress(pressed, held) && ownScreen)
+        if (endsShortPress(pressed, held) && ownScreen) {
             CarKeys::tap(CarKeys::phoneKey());
+        }
         break;
     }
     return true;
@@ -145,8 +153,9 @@ bool XinHangKeyFilter::obey(const Rule &rule, bool pressed, bool held)
 
 bool XinHangKeyFilter::endsShortPress(bool pressed, bool held)
 {
-    if (!pressed)
+    if (!pressed) {
         return m_display.releaseSwitchKey();
+    }
     m_display.pressSwitchKey(held);
     return false;
 }
@@ -156,8 +165,9 @@ bool XinHangKeyFilter::isBouncing()
     // QUIRK xinhang-arrow-bounce: presses, repeats and releases of both arrows count alike, so that a release
     // right after its press is lost.
     const quint64 now = GetTickCountMs();
-    if (m_arrowSeen && now - m_arrowTime <= BounceTime)
+    if (m_arrowSeen && now - m_arrowTime <= BounceTime) {
         return true;
+    }
     m_arrowSeen = true;
     m_arrowTime = now;
     return false;

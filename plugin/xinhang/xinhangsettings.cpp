@@ -96,8 +96,9 @@ const Item Items[] = {
 const Item *findItem(int number)
 {
     for (unsigned int i = 0; i < sizeof Items / sizeof Items[0]; ++i) {
-        if (Items[i].number == number)
+        if (Items[i].number == number) {
             return &Items[i];
+        }
     }
     return nullptr;
 }
@@ -122,10 +123,11 @@ QHash<int, int> readDefaults()
         bool isIndex = false;
         const int item = parts.first().toInt(&isItem);
         const int index = parts.last().toInt(&isIndex);
-        if (parts.size() == 2 && isItem && isIndex && hasValue(findItem(item), index))
+        if (parts.size() == 2 && isItem && isIndex && hasValue(findItem(item), index)) {
             defaults.insert(item, index);
-        else
+        } else {
             qWarning() << "CarSetDefValue: no item and value of it:" << entries.at(i);
+        }
     }
     return defaults;
 }
@@ -151,10 +153,11 @@ void XinHangSettings::appendConfiguredItems()
     for (int i = 0; i < configured.size(); ++i) {
         bool ok = false;
         const int item = itemNumber(configured.at(i), &ok);
-        if (!ok)
+        if (!ok) {
             qWarning() << "SettingItemTypes: no item number:" << configured.at(i);
-        else if (!m_items.contains(item))
+        } else if (!m_items.contains(item)) {
             m_items.append(item);
+        }
     }
 }
 
@@ -168,8 +171,9 @@ QStringList XinHangSettings::getSetItemValueTexts(int item)
 {
     QStringList texts;
     const Item *const found = findItem(item);
-    if (!found)
+    if (!found) {
         return texts;
+    }
     const ValueTexts &values = *found->values;
     for (int i = 0; i < values.count; ++i) {
         texts.append(values.kind == ValueTexts::Plain
@@ -194,8 +198,9 @@ int XinHangSettings::getSetItemValueIndex(int item) const
 
 void XinHangSettings::choose(int item, int index)
 {
-    if (!hasValue(findItem(item), index))
+    if (!hasValue(findItem(item), index)) {
         return;
+    }
     m_config.setValue(itemKey(item), index);
     syncSettingDataToMcu(item);
 }
@@ -203,8 +208,9 @@ void XinHangSettings::choose(int item, int index)
 void XinHangSettings::syncSettingDataToMcu(int item)
 {
     const Item *const found = findItem(item);
-    if (!found || !m_items.contains(item))
+    if (!found || !m_items.contains(item)) {
         return;
+    }
     const int value = getSetItemValueIndex(item) * found->values->step;
     switch (found->effect) {
     case StoredOnly:
@@ -222,7 +228,7 @@ void XinHangSettings::syncSettingDataToMcu(int item)
         UnitLink::sendSwitch(UnitLink::RadarSwitch, value == 1);
         break;
     case BoxSetting: {
-        const char data[] = {static_cast<char>(found->boxSetting), static_cast<char>(value)};
+        const char data[] = {char(found->boxSetting), char(value)};
         m_box.send(SettingCommand, QByteArray(data, sizeof data));
         break;
     }
@@ -234,16 +240,19 @@ void XinHangSettings::sendReversingCamera(int value)
     m_display.setReversingCameraMode(value);
     // 7 not used, 6 the car's own camera, 5..1 not used, 0 a camera was added
     char flags = 0;
-    if (value == XinHangDisplay::AddedCamera)
+    if (value == XinHangDisplay::AddedCamera) {
         flags |= 0x01;
-    if (value == XinHangDisplay::OriginalCamera && m_box.carType() == FactoryCameraCarType)
+    }
+    if (value == XinHangDisplay::OriginalCamera && m_box.carType() == FactoryCameraCarType) {
         flags |= 0x40;
+    }
     const char data[] = {flags, 0x00};
     m_box.send(CameraCommand, QByteArray(data, sizeof data));
 }
 
 void XinHangSettings::onSyncSettingDatas()
 {
-    for (int i = 0; i < m_items.size(); ++i)
+    for (int i = 0; i < m_items.size(); ++i) {
         syncSettingDataToMcu(m_items.at(i));
+    }
 }

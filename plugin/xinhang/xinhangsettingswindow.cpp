@@ -39,17 +39,19 @@ void XinHangSettingsWindow::resetListTexts()
                            values.value(m_settings.getSetItemValueIndex(item)));
             datas.setMark(QLatin1String(DropDownMark));
         }
-        if (row < m_model->rowCount())
+        if (row < m_model->rowCount()) {
             m_model->setItemDatas(row, datas);
-        else
+        } else {
             m_model->appendItemDatas(datas);
+        }
     }
 }
 
 void XinHangSettingsWindow::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         resetListTexts();
+    }
     OrbMainWindow::changeEvent(event);
 }
 
@@ -57,14 +59,16 @@ void XinHangSettingsWindow::onItemListViewClicked(const QModelIndex &index)
 {
     const int item = m_model->itemDatas(index.row()).getItemId();
     const QStringList texts = XinHangSettings::getSetItemValueTexts(item);
-    if (texts.isEmpty())
+    if (texts.isEmpty()) {
         return;
+    }
     // The unit may take its screen, and this window with it, away while the dialog is open.
     const QPointer<XinHangSettingsWindow> self(this);
     const int chosen =
         showSelectDialog(XinHangSettings::getSetItemText(item), texts, m_settings.getSetItemValueIndex(item));
-    if (!self || chosen < 0)
+    if (!self || chosen < 0) {
         return;
+    }
     m_settings.choose(item, chosen);
     resetListTexts();
 }

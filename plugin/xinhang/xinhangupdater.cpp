@@ -31,7 +31,7 @@ const int FailureCode = 2;
 
 QByteArray message(Step step)
 {
-    const char data[] = {static_cast<char>(step), 0x00};
+    const char data[] = {char(step), 0x00};
     return QByteArray(data, sizeof data);
 }
 
@@ -65,13 +65,16 @@ void XinHangUpdater::onDiskStatusChange(int disk, int status)
         showFailure();
         return;
     }
-    if (status != DiskPresent)
+    if (status != DiskPresent) {
         return;
+    }
     // QUIRK xinhang-path-kept: a path once found stays until the box reports the end of an update.
-    if (m_filePath.isEmpty())
+    if (m_filePath.isEmpty()) {
         m_filePath = findUpdateFile(disk);
-    if (m_filePath.isEmpty())
+    }
+    if (m_filePath.isEmpty()) {
         return;
+    }
     if (!m_dialog) {
         m_dialog = new UpdateDialog;
         connect(m_dialog, SIGNAL(acceptUpdate()), this, SLOT(onStartUpdateMCU()));
@@ -81,8 +84,9 @@ void XinHangUpdater::onDiskStatusChange(int disk, int status)
 
 QString XinHangUpdater::findUpdateFile(int disk) const
 {
-    if (m_fileName.isEmpty())
+    if (m_fileName.isEmpty()) {
         return QString();
+    }
     const QStringList partitions = FileSystemService::getDiskPartitionPaths(disk);
     for (int i = 0; i < partitions.size(); ++i) {
         const QString path = partitions.at(i) + QLatin1Char('/') + m_fileName;
@@ -142,7 +146,7 @@ void XinHangUpdater::sendPacketCount()
         return;
     }
     m_fileSize = m_file->size();
-    m_packetCount = static_cast<quint32>((m_fileSize + PacketSize - 1) / PacketSize);
+    m_packetCount = quint32((m_fileSize + PacketSize - 1) / PacketSize);
     qDebug() << "update file size:" << m_fileSize;
     qDebug() << "update package count:" << m_packetCount;
     m_box.send(UpdateCommand, message(Ready) + bigEndian(m_packetCount));
@@ -163,17 +167,18 @@ void XinHangUpdater::onPacketRequest(quint32 number)
         return;
     }
     m_box.send(UpdateCommand, message(Packet) + bigEndian(number) + packet);
-    const float progress = static_cast<float>(number) / static_cast<float>(m_packetCount) * 100.0f;
+    const float progress = float(number) / float(m_packetCount) * 100.0f;
     const int percent = UnitLink::truncated(progress);
-    if (m_dialog)
+    if (m_dialog) {
         m_dialog->updatePercent(percent);
+    }
     qDebug() << "update percent:" << percent;
 }
 
 /// False also for a file that holds less than was announced: the box must not take padding for firmware.
 bool XinHangUpdater::readPacket(quint32 number, QByteArray *packet)
 {
-    const qint64 position = static_cast<qint64>(number) * PacketSize;
+    const qint64 position = qint64(number) * PacketSize;
     const qint64 length = qMin<qint64>(PacketSize, m_fileSize - position);
     packet->fill(Padding, PacketSize);
     return m_file->isOpen() && m_file->seek(position) && m_file->read(packet->data(), length) == length;
@@ -190,6 +195,7 @@ void XinHangUpdater::finish()
 
 void XinHangUpdater::showFailure()
 {
-    if (m_dialog)
+    if (m_dialog) {
         m_dialog->setUpdateFailed(FailureCode);
+    }
 }

@@ -24,17 +24,19 @@ void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 int factoryMain(const QString &port, const QStringList &types)
 {
     qInstallMessageHandler(printMessage);
-    if (port != "-")
+    if (port != "-") {
         OrbHost::instance()->setProductValue("CANPortName", port == "empty" ? QString() : port);
+    }
     CanBusAdapter *first = nullptr;
     for (const QString &type : types) {
         CanBusAdapter *const adapter = instanceOf(type);
         first = first ? first : adapter;
-        if (!adapter)
+        if (!adapter) {
             printf("%s none\n", qPrintable(type));
-        else
+        } else {
             printf("%s %s inited=%d type=%u%s\n", qPrintable(type), adapter->metaObject()->className(),
                    adapter->isInited(), adapter->getCanBusType(), adapter == first ? "" : " another");
+        }
     }
     TraceRecorder trace;
     QTest::qWait(300);
@@ -157,8 +159,9 @@ int main(int argc, char **argv)
 {
     OrbApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == "--factory")
+    if (arguments.value(1) == "--factory") {
         return factoryMain(arguments.value(2), arguments.mid(3));
+    }
     AdapterFactoryTest test;
     return QTest::qExec(&test, argc, argv);
 }

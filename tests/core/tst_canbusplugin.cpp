@@ -86,8 +86,9 @@ void CanBusPluginTest::noAdapter()
     QTest::ignoreMessage(QtDebugMsg, "CanBusPlugin 16 0");
     CanBusPlugin plugin;
     QVERIFY(!plugin.createMainWindow());
-    for (int type = 50999; type <= 51016; ++type)
+    for (int type = 50999; type <= 51016; ++type) {
         sendEvent(&plugin, type, 20486, 1);
+    }
     QCOMPARE(asked, QStringList());
 }
 
@@ -137,8 +138,9 @@ void CanBusPluginTest::foreignEvents()
     for (int type = 50998; type <= 51017; ++type) {
         QEvent event(static_cast<QEvent::Type>(type));
         QCoreApplication::sendEvent(&plugin, &event);
-        if (!QList<int>({51001, 51005, 51006, 51007, 51011}).contains(type))
+        if (!QList<int>({51001, 51005, 51006, 51007, 51011}).contains(type)) {
             sendEvent(&plugin, type, 20486, 1);
+        }
     }
     QCOMPARE(asked, QStringList());
 }

@@ -152,8 +152,9 @@ void KeyRedefTest::hud()
 
 void KeyRedefTest::mediaKeyApps()
 {
-    for (unsigned int appId = 0; appId < 1000; ++appId)
+    for (unsigned int appId = 0; appId < 1000; ++appId) {
         QCOMPARE(KeyRedefAdapter::isMediaKeyApp(appId), appId != 3 && appId != 5 && appId != 13);
+    }
 }
 
 // The rest needs a process each, since the adapter that is built first stays.
@@ -216,8 +217,9 @@ int main(int argc, char **argv)
 {
     OrbApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == "--factory")
+    if (arguments.value(1) == "--factory") {
         return factoryMain(arguments.mid(2));
+    }
     KeyRedefTest test;
     return QTest::qExec(&test, argc, argv);
 }

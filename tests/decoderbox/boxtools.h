@@ -18,4 +18,4 @@ QByteArray reportLike(const DecoderBox &box, const QByteArray &package);
 /// Command and data of what the box sends for a key, in hex; empty for nothing.
 QByteArray keyData(const DecoderBox &box, const QString &key, BoxSpeaker::KeyState state);
 
-#endif
+#endif // BOXTOOLS_H

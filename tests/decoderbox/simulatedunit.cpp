@@ -81,7 +81,7 @@ void SimulatedUnit::read()
             m_acknowledgements = qMax(-1, m_acknowledgements - 1);
             write(QByteArray(1, '\xFF'));
         }
-        emit arrived(m_packages.last().bytes);
+        Q_EMIT arrived(m_packages.last().bytes);
     }
 }
 

@@ -44,7 +44,7 @@ public:
     const QByteArray &singleBytes() const { return m_singleBytes; }
     void forget();
 
-signals:
+Q_SIGNALS:
     void arrived(const QByteArray &frame);
 
 private:
@@ -72,4 +72,4 @@ struct Conversation
     SimulatedUnit unit;
 };
 
-#endif
+#endif // SIMULATEDUNIT_H

@@ -9,7 +9,7 @@ class TestBoxCar : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void values_data();
     void values();
     void initialValuesFit();

@@ -10,8 +10,8 @@
 
 namespace {
 
-const int xinHang = 4;
-const int packetSize = 128;
+const int XinHang = 4;
+const int PacketSize = 128;
 
 QByteArray hex32(quint32 number)
 {
@@ -30,8 +30,8 @@ QByteArray makeFirmware(int size)
 // Of the image that a box puts together from it.
 QString hashOf(const QByteArray &firmware)
 {
-    const int packets = (int(firmware.size()) + packetSize - 1) / packetSize;
-    const QByteArray image = firmware.leftJustified(packets * packetSize, '\xFF');
+    const int packets = (int(firmware.size()) + PacketSize - 1) / PacketSize;
+    const QByteArray image = firmware.leftJustified(packets * PacketSize, '\xFF');
     return QCryptographicHash::hash(image, QCryptographicHash::Sha256).toHex();
 }
 
@@ -58,17 +58,17 @@ private:
     void answer(const QByteArray &request)
     {
         if (request.at(0) == 1) {
-            const quint32 count = quint32((m_firmware.size() + packetSize - 1) / packetSize);
+            const quint32 count = quint32((m_firmware.size() + PacketSize - 1) / PacketSize);
             m_unit.write(XinHangWire::frame("86 01 00" + hex32(count)));
         } else if (request.at(0) == 2) {
             const quint32 number = request.mid(2, 4).toHex().toUInt(nullptr, 16);
             m_asked << number;
-            const QByteArray packet = m_firmware.mid(int(number) * packetSize, packetSize);
+            const QByteArray packet = m_firmware.mid(int(number) * PacketSize, PacketSize);
             if (int(number) == m_lost) {
                 m_lost = -1;
             } else if (!packet.isEmpty()) {
                 m_unit.write(XinHangWire::frame("86 02 00" + hex32(number) +
-                                                packet.leftJustified(packetSize, '\xFF').toHex()));
+                                                packet.leftJustified(PacketSize, '\xFF').toHex()));
             }
         } else if (request.at(0) == 3) {
             m_unit.write(XinHangWire::frame("86 03 00"));
@@ -87,7 +87,7 @@ class TestBoxFirmware : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void updates_data();
     void updates();
     void wrongStepsDoNoHarm_data();
@@ -123,7 +123,7 @@ void TestBoxFirmware::updates()
     QFETCH(int, size);
     QFETCH(int, lost);
     const QByteArray firmware = makeFirmware(size);
-    const auto box = openBox(xinHang);
+    const auto box = openBox(XinHang);
     box->car()->setValue("firmware.fault", fault);
     Updater updater(box.get(), firmware, lost);
     const bool stops = fault == "stop";
@@ -139,7 +139,7 @@ void TestBoxFirmware::wrongStepsDoNoHarm_data()
     const auto row = [](const char *name, const QByteArray &packages, const char *observation) {
         QTest::newRow(name) << packages << QString(observation);
     };
-    const QByteArray data = QByteArray(packetSize, 'x').toHex();
+    const QByteArray data = QByteArray(PacketSize, 'x').toHex();
     row("count before start", "86 01 00 00 00 00 01", "");
     row("packet before start", "86 02 00 00 00 00 00" + data, "");
     row("count cut short", "86 00 00 | 86 01 00 00", "ready");
@@ -154,7 +154,7 @@ void TestBoxFirmware::wrongStepsDoNoHarm_data()
 void TestBoxFirmware::wrongStepsDoNoHarm()
 {
     QFETCH(QByteArray, packages);
-    const auto box = openBox(xinHang);
+    const auto box = openBox(XinHang);
     SimulatedUnit unit(*box);
     box->start();
     for (const QByteArray &package : (packages + "| 89 01").split('|')) {

@@ -7,8 +7,8 @@
 
 namespace {
 
-const int toyota = 9;
-const int toyotaStateReports = 6;
+const int Toyota = 9;
+const int ToyotaStateReports = 6;
 
 QVector<QByteArray> frames(const QByteArrayList &packages)
 {
@@ -25,7 +25,7 @@ class TestBoxManners : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void nothingIsSaidBeforeTheUnitIsReady();
     void sendsStateOnceAndIgnoresFurtherReadies();
     void resendsThreeTimesThenFallsSilent();
@@ -47,7 +47,7 @@ private slots:
 
 void TestBoxManners::nothingIsSaidBeforeTheUnitIsReady()
 {
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     // A unit that goes and comes back is a new one.
     for (int visit = 0; visit < 2; ++visit) {
         QTRY_VERIFY(!box->isUnitThere());
@@ -59,27 +59,27 @@ void TestBoxManners::nothingIsSaidBeforeTheUnitIsReady()
         QTest::qWait(20);
         QCOMPARE(int(unit.packages().size()), 0);
         unit.writeReady();
-        QTRY_COMPARE(int(unit.packages().size()), toyotaStateReports);
+        QTRY_COMPARE(int(unit.packages().size()), ToyotaStateReports);
         QCOMPARE(unit.frames().last(), RaiseWire::frame(visit == 0 ? "24 40" : "24 00"));
     }
 }
 
 void TestBoxManners::sendsStateOnceAndIgnoresFurtherReadies()
 {
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     SimulatedUnit unit(*box);
     unit.writeReady();
     unit.writeReady();
-    QTRY_COMPARE(int(unit.packages().size()), toyotaStateReports);
+    QTRY_COMPARE(int(unit.packages().size()), ToyotaStateReports);
     unit.writeReady();
     QTRY_COMPARE(unit.singleBytes(), QByteArray("\xff\xff\xff"));
     QTest::qWait(150);
-    QCOMPARE(int(unit.packages().size()), toyotaStateReports);
+    QCOMPARE(int(unit.packages().size()), ToyotaStateReports);
 }
 
 void TestBoxManners::resendsThreeTimesThenFallsSilent()
 {
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     SimulatedUnit unit(*box, 0);
     unit.writeReady();
     QTRY_COMPARE(box->state(), DecoderBox::Silent);
@@ -95,12 +95,12 @@ void TestBoxManners::resendsThreeTimesThenFallsSilent()
     QCOMPARE(int(unit.packages().size()), 4);
     unit.setAcknowledgements(-1);
     unit.writeReady();
-    QTRY_COMPARE(int(unit.packages().size()), 4 + toyotaStateReports);
+    QTRY_COMPARE(int(unit.packages().size()), 4 + ToyotaStateReports);
 }
 
 void TestBoxManners::endStopsTheBox()
 {
-    Conversation talk(toyota);
+    Conversation talk(Toyota);
     talk.unit.write(RaiseWire::frame("81 00"));
     QTRY_COMPARE(talk.box->state(), DecoderBox::WaitsForReady);
     talk.box->car()->setValue("climate.fan", 5);
@@ -128,7 +128,7 @@ void TestBoxManners::answers()
 {
     QFETCH(QByteArray, sent);
     QFETCH(QByteArray, answered);
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     SimulatedUnit unit(*box);
     unit.write(sent);
     QTRY_COMPARE(unit.singleBytes(), answered);
@@ -139,7 +139,7 @@ void TestBoxManners::answers()
 // A false start may or may not be answered; what counts is that the good package is.
 void TestBoxManners::badPackageHidesNoGoodOne()
 {
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     SimulatedUnit unit(*box);
     unit.write(QByteArray::fromHex("2e5507") + RaiseWire::frame("81 01") + QByteArray(3, '\0'));
     QTRY_COMPARE(box->state(), DecoderBox::Talks);
@@ -148,7 +148,7 @@ void TestBoxManners::badPackageHidesNoGoodOne()
 
 void TestBoxManners::waitingReportTellsTheNewestState()
 {
-    Conversation talk(toyota);
+    Conversation talk(Toyota);
     talk.unit.setAcknowledgements(0);
     change(talk.box.get(), "doors.front_left on; climate.fan 3; climate.fan 4; climate.fan 5");
     QTRY_COMPARE(int(talk.unit.packages().size()), 1);
@@ -161,7 +161,7 @@ void TestBoxManners::waitingReportTellsTheNewestState()
 
 void TestBoxManners::heldKeyRepeats()
 {
-    Conversation talk(toyota);
+    Conversation talk(Toyota);
     QVERIFY(!talk.box->pressKey("ejector_seat") && !talk.box->releaseKey("ejector_seat"));
     QVERIFY(!talk.box->turnKnob("next", 1) && !talk.box->touch(BoxSpeaker::TouchPressed, 1, 1));
     QVERIFY(talk.box->pressKey("next"));
@@ -178,7 +178,7 @@ void TestBoxManners::spoiltPackageIsSentAgain()
 {
     const QString whole = RaiseWire::frame("24 80").toHex();
     for (const DecoderBox::Fault fault : {DecoderBox::CutNext, DecoderBox::CorruptNext}) {
-        Conversation talk(toyota);
+        Conversation talk(Toyota);
         talk.unit.setAcknowledgements(0);
         QStringList sent;
         connect(talk.box.get(), &DecoderBox::logLine, this,
@@ -193,7 +193,7 @@ void TestBoxManners::spoiltPackageIsSentAgain()
 
 void TestBoxManners::silenceHoldsPackagesBack()
 {
-    Conversation talk(toyota);
+    Conversation talk(Toyota);
     talk.box->holdTongue(120);
     talk.box->car()->setValue("doors.front_right", true);
     talk.unit.write(RaiseWire::frame("84 08 01"));
@@ -208,7 +208,7 @@ void TestBoxManners::noiseIsTheSameEachRun()
 {
     QString noise[2];
     for (QString &sent : noise) {
-        const auto box = openBox(toyota);
+        const auto box = openBox(Toyota);
         connect(box.get(), &DecoderBox::logLine, this,
                 [&sent](const QString &line) { sent = line.simplified().section(' ', 2, 2); });
         box->sendNoise(16);
@@ -219,7 +219,7 @@ void TestBoxManners::noiseIsTheSameEachRun()
 
 void TestBoxManners::queueIsBounded()
 {
-    const auto box = openBox(toyota);
+    const auto box = openBox(Toyota);
     SimulatedUnit unit(*box, 0);
     unit.writeReady();
     QTRY_COMPARE(int(unit.packages().size()), 1);
@@ -237,8 +237,8 @@ void TestBoxManners::hostileUnitIsEndured_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QByteArray>("piece");
-    QTest::newRow("start bytes") << toyota << QByteArray(4096, '\x2E');
-    QTest::newRow("lying lengths") << toyota << QByteArray("\x2E\x81\xFF").repeated(1300);
+    QTest::newRow("start bytes") << Toyota << QByteArray(4096, '\x2E');
+    QTest::newRow("lying lengths") << Toyota << QByteArray("\x2E\x81\xFF").repeated(1300);
     QTest::newRow("start bytes, other frame") << 4 << QByteArray(4096, '\xF0');
     QTest::newRow("no lengths, other frame") << 4 << QByteArray("\xF0\x00", 2).repeated(2000);
 }
@@ -258,7 +258,7 @@ void TestBoxManners::hostileUnitIsEndured()
     }
     QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
     QTest::qWait(120);
-    unit.write(type == toyota ? RaiseWire::frame("81 01") : XinHangWire::frame("81 01"));
+    unit.write(type == Toyota ? RaiseWire::frame("81 01") : XinHangWire::frame("81 01"));
     QTRY_COMPARE(box->state(), DecoderBox::Talks);
 }
 

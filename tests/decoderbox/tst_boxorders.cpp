@@ -28,7 +28,7 @@ class TestBoxOrders : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void wrongScenario_data();
     void wrongScenario();
     void shippedScenarios_data();

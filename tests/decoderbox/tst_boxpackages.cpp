@@ -16,7 +16,7 @@ const struct
     const char *name;
     const char *changes;
     const char *package;
-} reportRows[] = {
+} ReportRows[] = {
     {9, "version ends in NULs", "box.version AB",
      "30 41 42 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"},
     {9, "climate off", "climate.power off; climate.to_face off; climate.fan 0", "28 00 00 07 07 00"},
@@ -154,7 +154,7 @@ class TestBoxPackages : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void reports_data();
     void reports();
     void keys_data();
@@ -172,7 +172,7 @@ void TestBoxPackages::reports_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("changes");
     QTest::addColumn<QByteArray>("package");
-    for (const auto &row : reportRows) {
+    for (const auto &row : ReportRows) {
         QTest::addRow("type %d: %s", row.type, row.name)
             << row.type << QString(row.changes) << QByteArray(row.package);
     }

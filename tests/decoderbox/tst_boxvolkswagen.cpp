@@ -6,14 +6,14 @@
 #include <QtTest>
 
 namespace {
-const int volkswagen = 3;
+const int Volkswagen = 3;
 }
 
 class TestBoxVolkswagen : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void settingsPages_data();
     void settingsPages();
     void requests_data();
@@ -59,7 +59,7 @@ void TestBoxVolkswagen::settingsPages()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, writes);
-    const auto box = makeBox(volkswagen);
+    const auto box = makeBox(Volkswagen);
     QCOMPARE(reportLike(*box, before), before);
     for (const QByteArray &write : writes.split(' ')) {
         QString meaning;
@@ -93,7 +93,7 @@ void TestBoxVolkswagen::requests()
 {
     QFETCH(QByteArray, request);
     QFETCH(QByteArray, answer);
-    Conversation talk(volkswagen);
+    Conversation talk(Volkswagen);
     talk.unit.write(RaiseWire::frame(request));
     QTRY_COMPARE(talk.unit.singleBytes(), QByteArray("\xff"));
     QTest::qWait(answer.isEmpty() ? 10 : 0);
@@ -135,7 +135,7 @@ void TestBoxVolkswagen::writes()
     QFETCH(int, item);
     QFETCH(int, value);
     QFETCH(QString, property);
-    const auto box = makeBox(volkswagen);
+    const auto box = makeBox(Volkswagen);
     change(box.get(), "tyres.front_left low; trip.since_start.time 61; service.inspection.days -3; "
                       "settings.light.head 90");
     QString meaning;
@@ -147,7 +147,7 @@ void TestBoxVolkswagen::writes()
 
 void TestBoxVolkswagen::writeIsAnsweredWithTheNewState()
 {
-    Conversation talk(volkswagen);
+    Conversation talk(Volkswagen);
     // New, the same once more, and one that the car does not take.
     for (const char *write : {"c6 70 02", "c6 70 02", "c6 70 09"}) {
         talk.unit.forget();
@@ -158,7 +158,7 @@ void TestBoxVolkswagen::writeIsAnsweredWithTheNewState()
 
 void TestBoxVolkswagen::unitsReachWhatIsShownInThem()
 {
-    Conversation talk(volkswagen);
+    Conversation talk(Volkswagen);
     talk.unit.write(RaiseWire::frame("c6 91 01"));
     for (const char *report : {"40 90 02 01", "50 41 01 50 01 00 00", "40 20 02 78 01"}) {
         QTRY_VERIFY2(talk.unit.frames().contains(RaiseWire::frame(report)), report);
@@ -168,7 +168,7 @@ void TestBoxVolkswagen::unitsReachWhatIsShownInThem()
 // A warning hides the states on the unit, so the states have to come last.
 void TestBoxVolkswagen::tyresAreToldAfterTheWarning()
 {
-    Conversation talk(volkswagen);
+    Conversation talk(Volkswagen);
     change(talk.box.get(), "tyres.front_left low; tyres.warning.front_left on; tyres.message low");
     talk.unit.write(RaiseWire::frame("c6 22 01"));
     const QVector<QByteArray> expected = {RaiseWire::frame("68 00 00"), RaiseWire::frame("65 00 00 00 00")};

@@ -39,4 +39,4 @@ inline void takeScreenshot(QWidget *widget, const QString &name)
     }
 }
 
-#endif
+#endif // DESKLOOKS_H

@@ -9,7 +9,7 @@ class TestCarState : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void radar_data();
     void radar();
     void steering_data();
@@ -58,8 +58,8 @@ void TestCarState::radar()
     QFETCH(uint, what);
     QFETCH(QByteArray, bytes);
     CarState state;
-    std::fill(state.front, state.front + CarState::sensors, quint8(6));
-    std::fill(state.rear, state.rear + CarState::sensors, quint8(6));
+    std::fill(state.front, state.front + CarState::Sensors, quint8(6));
+    std::fill(state.rear, state.rear + CarState::Sensors, quint8(6));
     OrbEvent event = carData(what);
     event.setByteArrayParams(QByteArray::fromHex(bytes));
     QVERIFY(state.take(event));

@@ -11,7 +11,7 @@ class TestDeskPaint : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void bandsLieApartAndInOrder();
     void trackBends();
     void everythingStaysInside();
@@ -25,8 +25,8 @@ void TestDeskPaint::bandsLieApartAndInOrder()
     for (const RadarArcs::Side side : {RadarArcs::Front, RadarArcs::Rear}) {
         const RadarArcs arcs(side, m_car, 100);
         const int away = side == RadarArcs::Front ? -1 : 1;
-        for (int sensor = 0; sensor < CarState::sensors; ++sensor) {
-            for (int level = 1; level <= CarState::farthestLevel; ++level) {
+        for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
+            for (int level = 1; level <= CarState::FarthestLevel; ++level) {
                 const QPainterPath band = arcs.band(sensor, level);
                 const QPointF middle = band.boundingRect().center();
                 if (level > 1) {

@@ -21,7 +21,7 @@ class TestDeskWidgets : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void heldKeyRepeats();
     void keySetsAddTheirRawKeys();
@@ -73,7 +73,7 @@ void TestDeskWidgets::heldKeyRepeats()
     QTest::mouseRelease(key, Qt::LeftButton);
     QCOMPARE(phases.last(), int(KeyStrip::Release));
     const int count = phases.size();
-    QTest::qWait(KeyStrip::repeatInterval * 3 / 2);
+    QTest::qWait(KeyStrip::RepeatInterval * 3 / 2);
     QCOMPARE(phases.size(), count);
     // A key that is left behind is released.
     QTest::mousePress(key, Qt::LeftButton);

@@ -23,7 +23,7 @@ class TestSidePanel : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void controlsFollowTheCar_data();
     void controlsFollowTheCar();

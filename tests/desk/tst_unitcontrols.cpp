@@ -10,7 +10,7 @@ class TestUnitControls : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void volume();
     void modeKeyGoesRound();
     void tracks();
@@ -44,7 +44,7 @@ void TestUnitControls::volume()
     for (int i = 0; i < 100; ++i) {
         unit.key(Qt::Key_VolumeUp, true, true);
     }
-    QCOMPARE(unit.volume(), int(UnitControls::loudest));
+    QCOMPARE(unit.volume(), int(UnitControls::Loudest));
 }
 
 void TestUnitControls::modeKeyGoesRound()

@@ -31,7 +31,7 @@ class TestUnitShell : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void reportsShowOnTheCar();
@@ -234,9 +234,9 @@ void TestUnitShell::diskReachesTheFileService()
 {
     QSignalSpy spy(OrbApplication::instance(), &OrbApplication::diskDeviceStatusChange);
     UnitPage *page = m_desk->sidePanel()->unitPage();
-    emit page->diskChanged(true, "/somewhere");
+    Q_EMIT page->diskChanged(true, "/somewhere");
     QCOMPARE(spy.takeFirst(), (QVariantList{0, 1}));
-    emit page->diskChanged(false, "/somewhere");
+    Q_EMIT page->diskChanged(false, "/somewhere");
     QCOMPARE(spy.takeFirst(), (QVariantList{0, 0}));
 }
 
@@ -265,7 +265,7 @@ void TestUnitShell::speaksEachLanguage()
 {
     const QStringList languages = UnitPage::languages() << "en"; // back to what the other tests expect
     for (const QString &language : languages) {
-        emit m_desk->sidePanel()->unitPage()->languageChosen(language);
+        Q_EMIT m_desk->sidePanel()->unitPage()->languageChosen(language);
         QCOMPARE(OrbHost::instance()->language(), language);
         QCoreApplication::processEvents();
         QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");

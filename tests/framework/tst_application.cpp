@@ -15,8 +15,9 @@ public:
     bool filterKey(unsigned int key, bool pressed, bool held) override
     {
         *m_log << QString("%1 %2 %3 %4").arg(name).arg(key).arg(pressed).arg(held);
-        if (onKey)
+        if (onKey) {
             onKey();
+        }
         return consumes;
     }
 
@@ -34,7 +35,7 @@ class TestApplication : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { m_trace.take(); }
     void eventTypeRange();
     void eventsAreTracedThenSignalled_data();
@@ -120,8 +121,9 @@ void TestApplication::keyFiltersAreAskedOnceInOrderUntilOneConsumes()
     KeyFilter first("first", &log), second("second", &log), third("third", &log);
     second.consumes = true;
     QVERIFY(!host()->filterKey(1, true, false));
-    for (KeyFilter *filter : {&first, &second, &third, &first})
+    for (KeyFilter *filter : {&first, &second, &third, &first}) {
         app()->addKeyFilter(filter);
+    }
     app()->addKeyFilter(nullptr);
     QVERIFY(host()->filterKey(0x01100004, true, true));
     QCOMPARE(log, QStringList({"first 17825796 1 1", "second 17825796 1 1"}));

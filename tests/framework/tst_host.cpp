@@ -14,7 +14,7 @@ class TestHost : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void cleanup();
     void tickCount();
     void gpioInMemory();

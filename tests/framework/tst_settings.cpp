@@ -26,8 +26,9 @@ void writeWithoutAPause(int round, int finished)
 {
     OrbIniConfig config("car.ini", "Car");
     while (config.setValue("payload", payloadOf(round)) &&
-           ::write(finished, &round, sizeof round) == sizeof round)
+           ::write(finished, &round, sizeof round) == sizeof round) {
         ++round;
+    }
     ::_exit(1);
 }
 
@@ -37,7 +38,7 @@ class TestSettings : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void missingFileIsEmpty();
@@ -255,8 +256,9 @@ void TestSettings::writeThatStopsAtAnyByte()
         }
         int status = 0;
         QCOMPARE(::waitpid(child, &status, 0), child);
-        if (status != 0)
+        if (status != 0) {
             ++stopped;
+        }
         DebugLog log;
         QVERIFY(read("payload") == (status != 0 ? "second" : large));
         const QString before = OrbIniConfig("car.ini.bak", "Car").value("payload").toString();
@@ -277,8 +279,9 @@ void TestSettings::killedWhileWriting()
         QCOMPARE(::pipe(finished), 0);
         const pid_t child = ::fork();
         QVERIFY(child >= 0);
-        if (child == 0)
+        if (child == 0) {
             writeWithoutAPause(lastRound + 1, finished[1]);
+        }
         ::close(finished[1]);
         // The first round is waited for, so that every child is killed while it writes.
         int round = 0;

@@ -26,8 +26,9 @@ protected:
     void mousePressEvent(QMouseEvent *event) override
     {
         write("press", event, Qt::LeftButton, Qt::LeftButton);
-        if (onPress)
+        if (onPress) {
             onPress();
+        }
     }
     void mouseMoveEvent(QMouseEvent *event) override { write("move", event, Qt::NoButton, Qt::LeftButton); }
     void mouseReleaseEvent(QMouseEvent *event) override
@@ -40,8 +41,9 @@ private:
     void write(const char *what, QMouseEvent *event, Qt::MouseButton button, Qt::MouseButton held)
     {
         *m_log << QString("%1 %2 %3,%4").arg(m_name, what).arg(event->pos().x()).arg(event->pos().y());
-        if (event->button() != button || event->buttons() != Qt::MouseButtons(held))
+        if (event->button() != button || event->buttons() != Qt::MouseButtons(held)) {
             m_log->last() += " with wrong buttons";
+        }
     }
 
     QString m_name;
@@ -63,7 +65,7 @@ class TestTouch : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void touchReachesTheWidgetUnderIt_data();
@@ -78,8 +80,9 @@ private slots:
 private:
     void inject(const QList<Touch> &touches)
     {
-        for (const Touch &touch : touches)
+        for (const Touch &touch : touches) {
             OrbApplication::simulateMouse(touch.type, touch.x, touch.y);
+        }
     }
 
     QWidget *m_screen = nullptr;

@@ -28,14 +28,16 @@ protected:
     void onBackEvent() override
     {
         hooks << "back";
-        if (hideOnBack)
+        if (hideOnBack) {
             hide();
+        }
     }
     void onHomeEvent() override
     {
         hooks << "home";
-        if (deleteOnHome)
+        if (deleteOnHome) {
             deleteLater();
+        }
     }
 };
 

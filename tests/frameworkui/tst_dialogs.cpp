@@ -48,12 +48,14 @@ QString summary(const UpdateDialog &dialog)
     QStringList parts;
     for (const char *name : {"btnOk", "btnCancel"}) {
         const QPushButton *button = dialog.findChild<QPushButton *>(name);
-        if (!button->isHidden())
+        if (!button->isHidden()) {
             parts << QString(name) + ':' + button->text();
+        }
     }
     const QProgressBar *bar = dialog.findChild<QProgressBar *>();
-    if (!bar->isHidden())
+    if (!bar->isHidden()) {
         parts << QString::number(bar->value());
+    }
     return parts.join(' ');
 }
 
@@ -120,8 +122,9 @@ void TestDialogs::climateShowsItsState()
     calls(dialog);
     const QImage picture = dialog.grab().toImage();
     QCOMPARE(m_pictures.key(picture), sameAs);
-    if (sameAs.isEmpty())
+    if (sameAs.isEmpty()) {
         m_pictures.insert(QTest::currentDataTag(), picture);
+    }
 }
 
 void TestDialogs::climateIsPutAwayByATap()

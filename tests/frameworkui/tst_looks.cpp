@@ -59,8 +59,9 @@ std::unique_ptr<UpdateDialog> update(int percent)
 {
     std::unique_ptr<UpdateDialog> dialog(new UpdateDialog);
     dialog->showUpdateDlg(1);
-    if (percent >= 0)
+    if (percent >= 0) {
         dialog->updatePercent(percent);
+    }
     return dialog;
 }
 
@@ -81,8 +82,9 @@ std::unique_ptr<QWidget> choiceOf(const QStringList &texts)
 QStringList profiles()
 {
     QStringList texts;
-    for (int i = 1; i <= 12; ++i)
+    for (int i = 1; i <= 12; ++i) {
         texts << QString("Profile %1 of the driver").arg(i);
+    }
     return texts;
 }
 
@@ -110,8 +112,9 @@ std::unique_ptr<QWidget> list()
     model->appendItemDatas(
         row(4, "Start-stop system requires engine to be running because it is cold", "Far"));
     model->appendItemDatas(row(5, "Inspection distance", "overdue by 1200 kilometres on the clock", mark));
-    for (int i = 6; i < 14; ++i)
+    for (int i = 6; i < 14; ++i) {
         model->appendItemDatas(row(i, QString("Interior lighting %1").arg(i), QString("%1 %").arg(i), mark));
+    }
     view->setModel(model);
     window->setCentralWidget(view);
     window->show();
@@ -122,7 +125,7 @@ const struct
 {
     const char *name;
     Scene make;
-} scenes[] = {
+} Scenes[] = {
     {"climate-on", [] { return std::unique_ptr<QWidget>(climate(true, 4, 3, "21.5°C", "18.0°C")); }},
     {"climate-auto", [] { return std::unique_ptr<QWidget>(climate(true, 0xFF, 0xFF, "LO", "HI")); }},
     {"climate-off", [] { return std::unique_ptr<QWidget>(climate(false, 0, 0, "21.5°C", "")); }},
@@ -150,8 +153,9 @@ QSize textSize(const QLabel *label)
 bool fits(const QWidget *widget)
 {
     const QRect onParent = widget->parentWidget()->rect();
-    if (!onParent.contains(widget->geometry()))
+    if (!onParent.contains(widget->geometry())) {
         return false;
+    }
     if (const QLabel *label = qobject_cast<const QLabel *>(widget)) {
         const QSize size = textSize(label);
         return size.width() <= label->contentsRect().width() &&
@@ -170,11 +174,12 @@ void TestLooks::textsFit_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("language");
     const QSize sizes[] = {QSize(1024, 600), QSize(800, 480)};
-    for (int scene = 0; scene < int(std::size(scenes)); ++scene) {
+    for (int scene = 0; scene < int(std::size(Scenes)); ++scene) {
         for (const QSize &size : sizes) {
-            for (const char *language : {"en", "de", "zh_CN"})
-                QTest::addRow("%s-%d-%s", scenes[scene].name, size.width(), language)
+            for (const char *language : {"en", "de", "zh_CN"}) {
+                QTest::addRow("%s-%d-%s", Scenes[scene].name, size.width(), language)
                     << scene << size << QString(language);
+            }
         }
     }
 }
@@ -185,7 +190,7 @@ void TestLooks::textsFit()
     QFETCH(QSize, size);
     QFETCH(QString, language);
     TestScreen screen(size);
-    const std::unique_ptr<QWidget> shown = scenes[scene].make();
+    const std::unique_ptr<QWidget> shown = Scenes[scene].make();
     // The language changes while the screen is open.
     OrbHost::instance()->addTranslationDir(TRANSLATION_FOLDER);
     QVERIFY(OrbHost::instance()->setLanguage(language));
@@ -194,15 +199,17 @@ void TestLooks::textsFit()
 
     const QPixmap picture = screen.grab();
     const QString folder = qEnvironmentVariable("ORB_SCREENSHOTS");
-    if (!folder.isEmpty() && QDir().mkpath(folder))
+    if (!folder.isEmpty() && QDir().mkpath(folder)) {
         QVERIFY(picture.save(QDir(folder).filePath(QString("%1.png").arg(QTest::currentDataTag()))));
+    }
     QVERIFY(screen.area()->rect().contains(shown->geometry()));
     int checked = 0;
     for (const QWidget *widget : shown->findChildren<QWidget *>()) {
         const bool hasText =
             qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget);
-        if (!hasText || !widget->isVisible())
+        if (!hasText || !widget->isVisible()) {
             continue;
+        }
         ++checked;
         QVERIFY2(fits(widget), qPrintable(widget->objectName() + ": " + widget->property("text").toString()));
     }

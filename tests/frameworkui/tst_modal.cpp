@@ -146,8 +146,9 @@ void TestModal::longChoiceScrollsUnderTheFinger()
 {
     TestScreen screen;
     QStringList texts;
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 12; ++i) {
         texts << QString("Profile %1").arg(i);
+    }
     OrbChoiceDialog dialog("Profiles", texts, 9);
     dialog.show();
     QCoreApplication::processEvents();

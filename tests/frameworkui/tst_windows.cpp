@@ -240,8 +240,9 @@ static int leaveOpen(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    if (argc == 2 && qstrcmp(argv[1], "--leave-open") == 0)
+    if (argc == 2 && qstrcmp(argv[1], "--leave-open") == 0) {
         return leaveOpen(argc, argv);
+    }
     OrbApplication application(argc, argv);
     TestWindows test;
     return QTest::qExec(&test, argc, argv);

@@ -53,8 +53,9 @@ void TestScreen::drag(QWidget *widget, const QPoint &from, const QPoint &to)
     QWidget *hit = under(widget, &at);
     const int steps = 8;
     send(hit, QEvent::MouseButtonPress, at, Qt::LeftButton);
-    for (int i = 1; i <= steps; ++i)
+    for (int i = 1; i <= steps; ++i) {
         send(hit, QEvent::MouseMove, at + (to - from) * i / steps, Qt::LeftButton);
+    }
     send(hit, QEvent::MouseButtonRelease, at + (to - from), Qt::NoButton);
 }
 

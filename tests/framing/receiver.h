@@ -14,8 +14,9 @@ public:
     void onRecvMcuProtocol(const QByteArray &package) override
     {
         packages.append(QByteArray(package.constData(), package.size()));
-        if (onPackage)
+        if (onPackage) {
             onPackage(package);
+        }
     }
 
     int bufferSize() const { return recvBuffer.size(); }

@@ -24,16 +24,18 @@ QByteArrayList delivered(const QByteArray &stream, int readSize)
         receiver.onReadDeviceDatas();
         largest = qMax(largest, receiver.bufferSize());
     }
-    if (largest > qMin(readSize, LongestRead) + LongestUnfinished)
+    if (largest > qMin(readSize, LongestRead) + LongestUnfinished) {
         receiver.packages.append("buffer grew to " + QByteArray::number(largest));
+    }
     return receiver.packages;
 }
 
 QByteArrayList times(int count, const QByteArray &package)
 {
     QByteArrayList list;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         list.append(package);
+    }
     return list;
 }
 
@@ -99,8 +101,9 @@ void TestFraming::garbledStreams()
 {
     QFETCH(QByteArray, stream);
     QFETCH(QByteArrayList, packages);
-    for (int readSize : ReadSizes)
+    for (int readSize : ReadSizes) {
         QCOMPARE(delivered(stream, readSize), packages);
+    }
 }
 
 void TestFraming::everySplit()
@@ -126,13 +129,14 @@ void TestFraming::everyCorruptByte()
     for (int at = 0; at < package.size(); ++at) {
         for (int value = 0; value < 256; ++value) {
             QByteArray corrupt = package;
-            corrupt[at] = static_cast<char>(value);
+            corrupt[at] = char(value);
             // Room behind, so that a length byte that lies is found out.
             const QByteArrayList packages = delivered(corrupt + next + QByteArray(260, '\0'), 4096);
             QVERIFY2(packages.contains(next) || packages.size() == 1, package.toHex());
             QCOMPARE(packages.contains(package), corrupt == package);
-            for (const QByteArray &one : packages)
+            for (const QByteArray &one : packages) {
                 QVERIFY(isGood(one));
+            }
         }
     }
 }
@@ -141,15 +145,17 @@ void TestFraming::anyReadSizeDeliversTheSame()
 {
     std::mt19937 random(7);
     QByteArray wild(20000, '\0');
-    for (int i = 0; i < wild.size(); ++i)
-        wild[i] = random() % 3 ? static_cast<char>(random()) : '\x2E';
+    for (int i = 0; i < wild.size(); ++i) {
+        wild[i] = random() % 3 ? char(random()) : '\x2E';
+    }
     const QByteArray streams[] = {Streams::corrupted(2000, 3), Streams::noisy(2000),
                                   wild + Streams::clean(10)};
     for (const QByteArray &stream : streams) {
         const QByteArrayList packages = delivered(stream, 1);
         QVERIFY(!packages.isEmpty());
-        for (int readSize : ReadSizes)
+        for (int readSize : ReadSizes) {
             QCOMPARE(delivered(stream, readSize), packages);
+        }
     }
 }
 
@@ -164,8 +170,9 @@ void TestFraming::lossPerCorruptedByte()
     int good = 0;
     int at = 0;
     for (int i = 0; i < count; ++i) {
-        if (i % distance == 0)
+        if (i % distance == 0) {
             continue;
+        }
         const int found = packages.indexOf(sent.at(i), at);
         if (found >= 0 && found < at + 8) {
             ++good;
@@ -243,8 +250,9 @@ void TestFraming::nestedReadKeepsOrderAndContents()
         receiver.onReadDeviceDatas();
         afterNested.append(QByteArray(package.constData(), package.size()));
     };
-    while (device.arm())
+    while (device.arm()) {
         receiver.onReadDeviceDatas();
+    }
     QCOMPARE(receiver.packages, sent);
     std::sort(afterNested.begin(), afterNested.end());
     QByteArrayList sorted = sent;
@@ -259,8 +267,9 @@ void TestFraming::keptPackagesStayAsTheyWere()
     receiver.attachIODevice(&device);
     QByteArrayList kept;
     receiver.onPackage = [&](const QByteArray &package) { kept.append(package); };
-    while (device.arm())
+    while (device.arm()) {
         receiver.onReadDeviceDatas();
+    }
     QCOMPARE(kept, Streams::packages(50));
 }
 
@@ -294,8 +303,9 @@ void TestFraming::silentDeviceIsPolled()
     MemoryDevice device(Streams::clean(5), 16);
     receiver.attachIODevice(&device);
     QTest::qWait(400);
-    while (device.arm())
+    while (device.arm()) {
         QTest::qWait(20);
+    }
     QCOMPARE(receiver.packages, Streams::packages(5));
 }
 

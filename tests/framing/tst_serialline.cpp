@@ -68,8 +68,9 @@ void TestSerialLine::queuedCommandsKeepTheirDistance()
     Receiver *const receiver = fixture.start<Receiver>();
     QElapsedTimer timer;
     timer.start();
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         receiver->onSendReadyTimer();
+    }
     QVERIFY(fixture.box.waitForBytes(4 * Ready.size()));
     QVERIFY2(timer.elapsed() >= 3 * 30 - 3, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(fixture.box.take(), Ready.repeated(4));
@@ -90,8 +91,9 @@ void TestSerialLine::theQueueIsBounded()
 {
     Receiver receiver;
     receiver.setWritePackageIntval(0);
-    for (int i = 0; i < 5000; ++i)
+    for (int i = 0; i < 5000; ++i) {
         receiver.writeDatas(QByteArray::number(i) + ' ');
+    }
     QCOMPARE(messages.filter("refused").size(), 1);
 
     PtyBox box;
@@ -164,9 +166,10 @@ void TestSerialLine::portThatIsMissing()
     QCOMPARE(receiver->isInited(), hasPort);
     const QStringList opened = messages.filter("Open CanBus Serial Port");
     QCOMPARE(opened.size(), hasPort ? 1 : 0);
-    if (hasPort)
+    if (hasPort) {
         QVERIFY2(opened.first().startsWith("Open CanBus Serial Port  \"" + path + "\"  Ret: false \""),
                  qPrintable(opened.first()));
+    }
     // An attempt to open it again later, nothing has been said about it.
     QTest::qWait(1100);
     QVERIFY(messages.size() <= 2);

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int patience = 5000; // ms
+constexpr int Patience = 5000; // ms
 
 } // namespace
 
@@ -49,7 +49,7 @@ QJsonObject HeadUnitRun::waitFor(const QString &object, const QString &call)
                 return line;
             }
         }
-    } while (readLines(int(patience - clock.elapsed())));
+    } while (readLines(int(Patience - clock.elapsed())));
     return {};
 }
 

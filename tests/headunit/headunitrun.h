@@ -46,4 +46,4 @@ private:
     int m_passed = 0; // lines that a wait has passed
 };
 
-#endif
+#endif // HEADUNITRUN_H

@@ -11,7 +11,7 @@ class TestEndToEnd : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void climate();
     void modeReachesTheBox();
     void lineThatHangsUp();

@@ -9,7 +9,7 @@ class TestOptions : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void settings();
     void boxMayLackItsScenario_data();
     void boxMayLackItsScenario();

@@ -9,7 +9,7 @@ class TestScript : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void words_data();
     void words();
     void reachesThePlugin_data();

@@ -19,7 +19,7 @@ class TestTrace : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void values_data();
     void values();
     void events();

@@ -8,13 +8,17 @@
 
 RaiseAdapter *CarBench::useByName(const QString &name)
 {
-    if (name == "CanBus_Raise_Toyota")
+    if (name == "CanBus_Raise_Toyota") {
         return use<CanBus_Raise_Toyota>();
-    if (name == "CanBus_Raise_Honda")
+    }
+    if (name == "CanBus_Raise_Honda") {
         return use<CanBus_Raise_Honda>();
-    if (name == "CanBus_Raise_GM")
+    }
+    if (name == "CanBus_Raise_GM") {
         return use<CanBus_Raise_GM>();
-    if (name == "CanBus_Raise_Jeep")
+    }
+    if (name == "CanBus_Raise_Jeep") {
         return use<CanBus_Raise_Jeep>();
+    }
     return use<CanBus_XBS_Mazda>();
 }

@@ -18,8 +18,9 @@ public:
     Car *use()
     {
         Car *const same = dynamic_cast<Car *>(m_car);
-        if (same)
+        if (same) {
             return same;
+        }
         m_fixture.reset();
         m_fixture.reset(new AdapterFixture);
         Car *const car = m_fixture->construct<Car>();
@@ -28,8 +29,9 @@ public:
         m_fixture->settle();
         // What a car repeats by itself must not show up between a row's calls.
         for (QTimer *timer : car->template findChildren<QTimer *>()) {
-            if (timer->interval() == 200 || timer->interval() >= 10000)
+            if (timer->interval() == 200 || timer->interval() >= 10000) {
                 timer->stop();
+            }
         }
         return car;
     }

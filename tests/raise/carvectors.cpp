@@ -31,8 +31,9 @@ QStringList Expect::released(int key, int last)
 QStringList Expect::angles(const QList<int> &degrees)
 {
     QStringList lines;
-    for (const int angle : degrees)
+    for (const int angle : degrees) {
         lines += carData(0x501C, 0, QString(",variant=%1").arg(angle));
+    }
     return lines;
 }
 
@@ -44,8 +45,9 @@ QStringList Expect::radar(int what, const char *levels)
 QStringList Expect::status(const QList<int> &bits)
 {
     QStringList lines;
-    for (const int value : bits)
+    for (const int value : bits) {
         lines += carData(0x501B, value);
+    }
     return lines;
 }
 

@@ -32,9 +32,10 @@ void CarsTest::vectors_data()
     QTest::addColumn<QByteArray>("packages");
     QTest::addColumn<QStringList>("trace");
     for (const auto &car : allVectors()) {
-        for (const CarVector &vector : car.second)
+        for (const CarVector &vector : car.second) {
             QTest::addRow("%s, %s", car.first, vector.name)
                 << QString(car.first) << QByteArray(vector.setup) << vector.packages << vector.trace;
+        }
     }
 }
 
@@ -45,8 +46,9 @@ void CarsTest::vectors()
     QFETCH(QByteArray, packages);
     QFETCH(QStringList, trace);
     m_bench.useByName(car);
-    if (!setup.isEmpty())
+    if (!setup.isEmpty()) {
         m_bench.fixture().exchange(setup.constData());
+    }
     QCOMPARE(m_bench.fixture().exchange(packages.constData()), trace);
 }
 
@@ -72,8 +74,9 @@ void CarsTest::commandTables_data()
     QTest::addColumn<QByteArray>("packages");
     for (const auto &car : allVectors()) {
         QByteArrayList packages;
-        for (const CarVector &vector : car.second)
+        for (const CarVector &vector : car.second) {
             packages << vector.packages;
+        }
         QTest::newRow(car.first) << packages.join('|');
     }
 }
@@ -87,8 +90,9 @@ void CarsTest::commandTables()
     for (const QByteArray &package : packages.split('|')) {
         const QByteArray bytes = QByteArray::fromHex(package);
         for (int i = 0; i < table.count; ++i) {
-            if (quint8(bytes.at(0)) == table.rows[i].command && bytes.size() > table.rows[i].minimumN)
+            if (quint8(bytes.at(0)) == table.rows[i].command && bytes.size() > table.rows[i].minimumN) {
                 reached << table.rows[i].command;
+            }
         }
     }
     QVERIFY(table.count > 0);
@@ -110,8 +114,9 @@ void CarsTest::cutPackages()
     for (int command = 0; command < 256; ++command) {
         const QByteArray whole = QByteArray("\x2E") + char(command) + QByteArray(14, '\xFF');
         // The version would run the shell each time.
-        for (int size = 0; size <= whole.size() && command != 0x30 && command != 0x7F; ++size)
+        for (int size = 0; size <= whole.size() && command != 0x30 && command != 0x7F; ++size) {
             car->onRecvMcuProtocol(QByteArray(whole.constData(), size));
+        }
     }
     QStringList sent = m_bench.fixture().trace.linesOf("ProtocolUtils");
     sent.removeDuplicates();

@@ -35,8 +35,9 @@ QByteArrayList CarSendsTest::queued()
 {
     QByteArray sent;
     for (const QString &line : m_bench.fixture().trace.take()) {
-        if (line.startsWith("ProtocolUtils.writeDatas("))
+        if (line.startsWith("ProtocolUtils.writeDatas(")) {
             sent += QByteArray::fromHex(line.section('(', 1).toLatin1());
+        }
     }
     return RaiseWire::parse(sent).packages;
 }
@@ -149,8 +150,9 @@ void CarSendsTest::hondaKeepsTheClock()
     CanBus_Raise_Honda *const car = fixture.start<CanBus_Raise_Honda>();
     fixture.exchange("30 31");
     bool clockRuns = false;
-    for (const QTimer *timer : car->findChildren<QTimer *>())
+    for (const QTimer *timer : car->findChildren<QTimer *>()) {
         clockRuns = clockRuns || (timer->interval() == 10000 && timer->isActive());
+    }
     QVERIFY(clockRuns);
 }
 

@@ -29,8 +29,9 @@ static Codes codesOf(const char *text)
     Codes codes;
     for (const QByteArray &entry : QByteArray(text).split(' ')) {
         const QByteArrayList sides = entry.split('=');
-        for (const QByteArray &code : sides.value(1).split(','))
+        for (const QByteArray &code : sides.value(1).split(',')) {
             codes.insert(code.toInt(nullptr, 16), sides.at(0).toInt(nullptr, 16));
+        }
     }
     return codes;
 }
@@ -82,10 +83,11 @@ void CarTablesTest::keys()
     QStringList expected;
     for (int code = 0; code < 256; ++code) {
         packages << RaiseWire::frame(quint8(command), QByteArray(1, char(code)) + '\x01');
-        if (keys.contains(code))
+        if (keys.contains(code)) {
             expected << TestSupport::key(keys.value(code), true, false, last);
-        else if (knobs.contains(code))
+        } else if (knobs.contains(code)) {
             expected << TestSupport::taps(knobs.value(code));
+        }
     }
     QCOMPARE(m_bench.fixture().exchange(packages), expected);
     // The current key belongs to the process: an adapter built later has it too.
@@ -134,12 +136,14 @@ void CarTablesTest::radarLevels()
     QStringList expected;
     for (int first = 0; first < 256; ++first) {
         QByteArray data;
-        for (int i = 0; i < (sensors.size() > 4 ? 7 : 4); ++i)
+        for (int i = 0; i < (sensors.size() > 4 ? 7 : 4); ++i) {
             data.append(char(first + i * 37));
+        }
         packages << RaiseWire::frame(quint8(command), data);
         QByteArray radar;
-        for (const char sensor : sensors)
+        for (const char sensor : sensors) {
             radar.append(sensor == '-' ? '\0' : char(levels.value(quint8(data.at(sensor - '0')), otherwise)));
+        }
         expected
             << QString("dispatchOrbEvent(400,12,51007,%1,0,bytes=%2)").arg(what).arg(QString(radar.toHex()));
     }
@@ -161,11 +165,13 @@ Q_DECLARE_METATYPE(Runs)
 static QString textOf(const Runs &runs, int value)
 {
     for (const Run &run : runs) {
-        if (value < run.first || value > run.last)
+        if (value < run.first || value > run.last) {
             continue;
+        }
         const QString unit = QString::fromUtf8(run.unit);
-        if (unit.isEmpty() || !unit.startsWith(QChar(0xB0)))
+        if (unit.isEmpty() || !unit.startsWith(QChar(0xB0))) {
             return unit;
+        }
         return QString::number(run.start + (value - run.first) * run.step, 'f', unit.endsWith('C') ? 1 : 0) +
                unit;
     }

@@ -102,8 +102,9 @@ void HandshakeTest::start()
     QCOMPARE(traffic.faults, QByteArrayList());
     QCOMPARE(traffic.acknowledgements, 0);
     QByteArrayList packages;
-    for (const QByteArray &package : traffic.packages)
+    for (const QByteArray &package : traffic.packages) {
         packages << (package.startsWith("c6 50") ? package.left(5) : package);
+    }
     QCOMPARE(packages.join('|'), sent);
 
     int interval = 0;
@@ -144,8 +145,9 @@ void HandshakeTest::readyTimer()
     QVERIFY(PtyBox::waitUntil([&] { return readies() == 1; }));
     QElapsedTimer clock;
     clock.start();
-    if (!other.isEmpty())
+    if (!other.isEmpty()) {
         QVERIFY(fixture.box.send(RaiseWire::frame(other)));
+    }
     QVERIFY(PtyBox::waitUntil([&] { return readies() == 3; }));
     QVERIFY2(clock.elapsed() >= 350 && clock.elapsed() < 700, qPrintable(QString::number(clock.elapsed())));
     fixture.exchange(ends.constData());

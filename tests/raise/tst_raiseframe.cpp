@@ -26,7 +26,7 @@ void RaiseFrameTest::makeCanBusProtocol()
             const QByteArray data(size, '\xFD');
             QCOMPARE(RaiseAdapter::makeCanBusProtocol(static_cast<unsigned short>(command),
                                                       reinterpret_cast<const uchar *>(data.constData()),
-                                                      static_cast<uchar>(size)),
+                                                      uchar(size)),
                      RaiseWire::frame(quint8(command), data));
         }
         // Without data the bytes are zeros.
@@ -43,8 +43,9 @@ void RaiseFrameTest::checkSum()
         int start, length, sum;
     } ranges[] = {{0, 11, 0xF5}, {1, 3, 0x0A},  {10, 1, 0xF9}, {1, 0, 0xFF},         {1, -1, 0xFF},
                   {1, 11, 0xFF}, {11, 1, 0xFF}, {-1, 2, 0xFF}, {2, 0x7FFFFFFF, 0xFF}};
-    for (const auto &range : ranges)
+    for (const auto &range : ranges) {
         QCOMPARE(int(RaiseAdapter::getPackageCheckSum(bytes, range.start, range.length)), range.sum);
+    }
 }
 
 void RaiseFrameTest::line_data()

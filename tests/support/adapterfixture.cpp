@@ -20,8 +20,9 @@ AdapterFixture::AdapterFixture()
 
 AdapterFixture::~AdapterFixture()
 {
-    if (!m_adapter)
+    if (!m_adapter) {
         return;
+    }
     // Without a port name the adapter lets go of the line.
     setPort(QString());
     m_adapter->initAdapter();
@@ -54,22 +55,25 @@ QStringList AdapterFixture::exchange(const QByteArrayList &packages)
     box.take();
     trace.take();
     QStringList faults;
-    if (!box.send(packages.join()))
+    if (!box.send(packages.join())) {
         faults << "the line is full";
+    }
     RaiseWire::Traffic traffic;
     PtyBox::waitUntil([&] { return RaiseWire::parse(box.received()).acknowledgements >= wanted; });
     traffic = RaiseWire::parse(box.take());
-    if (traffic.acknowledgements != wanted || !traffic.faults.isEmpty())
+    if (traffic.acknowledgements != wanted || !traffic.faults.isEmpty()) {
         faults << QString("%1 acknowledgements, faults: ").arg(traffic.acknowledgements) +
                       traffic.faults.join(", ");
+    }
 
     QStringList lines = trace.take();
     for (const QByteArray &package : packages) {
         const int at = int(lines.indexOf("ProtocolUtils.recvProtocolData(" + package.toHex() + ')'));
-        if (at < 0 || lines.value(at + 1) != "ProtocolUtils.writeDatas_direct(ff)")
+        if (at < 0 || lines.value(at + 1) != "ProtocolUtils.writeDatas_direct(ff)") {
             faults << "not acknowledged first: " + package.toHex(' ');
-        else
+        } else {
             lines.erase(lines.begin() + at, lines.begin() + at + 2);
+        }
     }
     return lines + faults;
 }
@@ -77,16 +81,18 @@ QStringList AdapterFixture::exchange(const QByteArrayList &packages)
 QStringList AdapterFixture::exchange(const char *packages)
 {
     QByteArrayList frames;
-    for (const QByteArray &package : QByteArray(packages).split('|'))
+    for (const QByteArray &package : QByteArray(packages).split('|')) {
         frames << RaiseWire::frame(package);
+    }
     return exchange(frames);
 }
 
 QStringList TestSupport::words(const QString &prefix, const QString &text)
 {
     QStringList lines;
-    for (const QString &word : text.split(' ', Qt::SkipEmptyParts))
+    for (const QString &word : text.split(' ', Qt::SkipEmptyParts)) {
         lines << prefix + word;
+    }
     return lines;
 }
 
@@ -101,7 +107,8 @@ QString TestSupport::key(int code, bool press, bool autoRepeat, int last)
 QStringList TestSupport::taps(int code, int count, int last)
 {
     QStringList lines;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         lines << key(code, true, false, last) << key(code, false, false, last);
+    }
     return lines;
 }

@@ -33,10 +33,11 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
     {
         DebugLog *log = current();
-        if (type == QtDebugMsg)
+        if (type == QtDebugMsg) {
             log->m_lines << message;
-        else if (log->m_previous)
+        } else if (log->m_previous) {
             log->m_previous(type, context, message);
+        }
     }
 
     DebugLog *m_outer;

@@ -36,8 +36,8 @@ public:
 protected:
     qint64 readData(char *data, qint64 maxSize) override
     {
-        const int count = static_cast<int>(qMin<qint64>(maxSize, m_arrived - m_at));
-        memcpy(data, m_stream.constData() + m_at, static_cast<size_t>(count));
+        const int count = int(qMin<qint64>(maxSize, m_arrived - m_at));
+        memcpy(data, m_stream.constData() + m_at, size_t(count));
         m_at += count;
         return count;
     }

@@ -11,8 +11,9 @@
 
 PtyBox::PtyBox() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
 {
-    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0) {
         return;
+    }
     m_path = QFile::decodeName(ptsname(m_master));
     m_slave = open(ptsname(m_master), O_RDWR | O_NOCTTY | O_CLOEXEC);
     termios line;
@@ -23,10 +24,12 @@ PtyBox::PtyBox() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOE
 
 PtyBox::~PtyBox()
 {
-    if (m_slave >= 0)
+    if (m_slave >= 0) {
         close(m_slave);
-    if (m_master >= 0)
+    }
+    if (m_master >= 0) {
         close(m_master);
+    }
 }
 
 bool PtyBox::waitUntil(const std::function<bool()> &condition, int timeout)
@@ -34,8 +37,9 @@ bool PtyBox::waitUntil(const std::function<bool()> &condition, int timeout)
     QElapsedTimer clock;
     clock.start();
     while (!condition()) {
-        if (clock.elapsed() > timeout)
+        if (clock.elapsed() > timeout) {
             return false;
+        }
         QTest::qWait(1);
     }
     return true;
@@ -56,8 +60,9 @@ bool PtyBox::send(const QByteArray &bytes)
 QByteArray PtyBox::received()
 {
     char buffer[4096];
-    for (ssize_t count; (count = read(m_master, buffer, sizeof buffer)) > 0;)
+    for (ssize_t count; (count = read(m_master, buffer, sizeof buffer)) > 0;) {
         m_received.append(buffer, int(count));
+    }
     return m_received;
 }
 

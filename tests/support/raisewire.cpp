@@ -5,9 +5,10 @@ namespace {
 quint8 checksum(const QByteArray &commandLengthData)
 {
     int sum = 0;
-    for (const char byte : commandLengthData)
-        sum += static_cast<quint8>(byte);
-    return static_cast<quint8>(0xFF - sum % 256);
+    for (const char byte : commandLengthData) {
+        sum += quint8(byte);
+    }
+    return quint8(0xFF - sum % 256);
 }
 
 } // namespace
@@ -32,13 +33,14 @@ RaiseWire::Traffic RaiseWire::parse(const QByteArray &sent)
         const int size = sent.at(at) == '.' && sent.size() - at >= 4 ? quint8(sent.at(at + 2)) + 4 : 1;
         const QByteArray piece = sent.mid(at, size);
         at += size;
-        if (piece == "\xFF")
+        if (piece == "\xFF") {
             ++traffic.acknowledgements;
-        else if (piece.size() == size && size > 1 &&
-                 piece == frame(quint8(piece.at(1)), piece.mid(3, size - 4)))
+        } else if (piece.size() == size && size > 1 &&
+                   piece == frame(quint8(piece.at(1)), piece.mid(3, size - 4))) {
             traffic.packages << (piece.mid(1, 1) + piece.mid(3, size - 4)).toHex(' ');
-        else
+        } else {
             traffic.faults << piece.toHex(' ');
+        }
     }
     return traffic;
 }

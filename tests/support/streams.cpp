@@ -9,8 +9,9 @@ namespace {
 QByteArray joined(const QList<QByteArray> &packages)
 {
     QByteArray stream;
-    for (const QByteArray &package : packages)
+    for (const QByteArray &package : packages) {
         stream += package;
+    }
     return stream;
 }
 
@@ -22,9 +23,10 @@ QList<QByteArray> Streams::packages(int count, int dataBytes)
     QList<QByteArray> packages;
     for (int i = 0; i < count; ++i) {
         QByteArray data(dataBytes, '\0');
-        for (int j = 0; j < dataBytes; ++j)
-            data[j] = random() % 2 ? static_cast<char>(random()) : '\0';
-        packages.append(RaiseWire::frame(static_cast<quint8>(random() % 0x60 + 0x30), data));
+        for (int j = 0; j < dataBytes; ++j) {
+            data[j] = random() % 2 ? char(random()) : '\0';
+        }
+        packages.append(RaiseWire::frame(quint8(random() % 0x60 + 0x30), data));
     }
     return packages;
 }
@@ -40,8 +42,8 @@ QByteArray Streams::corrupted(int count, int distance)
     QList<QByteArray> all = packages(count);
     for (int i = 0; i < all.size(); i += distance) {
         QByteArray &package = all[i];
-        const int at = static_cast<int>(random() % static_cast<unsigned int>(package.size()));
-        package[at] = static_cast<char>(package.at(at) ^ static_cast<char>(random() % 255 + 1));
+        const int at = int(random() % static_cast<unsigned int>(package.size()));
+        package[at] = char(package.at(at) ^ char(random() % 255 + 1));
     }
     return joined(all);
 }
@@ -54,8 +56,9 @@ QByteArray Streams::noisy(int count)
     for (const QByteArray &package : packages(count)) {
         stream += package;
         stream += answers[random() % 4];
-        for (unsigned int i = random() % 8; i > 0; --i)
-            stream += static_cast<char>(random());
+        for (unsigned int i = random() % 8; i > 0; --i) {
+            stream += char(random());
+        }
     }
     return stream;
 }

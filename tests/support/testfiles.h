@@ -16,8 +16,9 @@ inline QByteArray contentOf(const QString &path)
 inline void writeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
         qFatal("cannot write %s", qPrintable(path));
+    }
 }
 
 } // namespace TestSupport

@@ -7,8 +7,9 @@ int broken = 0;
 
 void watchMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (text.startsWith("Object::connect:") || text.startsWith("QObject::connect:"))
+    if (text.startsWith("Object::connect:") || text.startsWith("QObject::connect:")) {
         ++broken;
+    }
     nextHandler(type, context, text);
 }
 
@@ -18,8 +19,9 @@ void TestSupport::watchConnects()
 {
     // Qt Test installs a handler of its own for each program; stay in front of it.
     const QtMessageHandler before = qInstallMessageHandler(watchMessage);
-    if (before != watchMessage)
+    if (before != watchMessage) {
         nextHandler = before;
+    }
 }
 
 int TestSupport::brokenConnects()

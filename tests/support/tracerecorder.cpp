@@ -10,17 +10,20 @@ namespace {
 QString keySetText(const CtrlKeyList &list)
 {
     QStringList records;
-    for (const CtrlKeyPair &pair : list)
+    for (const CtrlKeyPair &pair : list) {
         records << QString::number(pair.keyCode, 16) + ':' + QString::number(pair.ctrlValue, 16);
+    }
     return '[' + records.join(',') + ']';
 }
 
 QString valueText(const QVariant &value)
 {
-    if (value.userType() == QMetaType::QByteArray)
+    if (value.userType() == QMetaType::QByteArray) {
         return QString::fromLatin1(value.toByteArray().toHex());
-    if (value.userType() == QMetaType::VoidStar)
+    }
+    if (value.userType() == QMetaType::VoidStar) {
         return keySetText(*static_cast<const CtrlKeyList *>(value.value<void *>()));
+    }
     return value.toString();
 }
 
@@ -42,8 +45,9 @@ QStringList TraceRecorder::linesOf(const QString &prefix) const
 {
     QStringList found;
     for (const QString &line : m_lines) {
-        if (line.startsWith(prefix + '.') || line.startsWith(prefix + '('))
+        if (line.startsWith(prefix + '.') || line.startsWith(prefix + '(')) {
             found << line;
+        }
     }
     return found;
 }
@@ -51,8 +55,9 @@ QStringList TraceRecorder::linesOf(const QString &prefix) const
 void TraceRecorder::called(const QString &object, const QString &call, const QVariantList &args)
 {
     QStringList texts;
-    for (const QVariant &argument : args)
+    for (const QVariant &argument : args) {
         texts << valueText(argument);
+    }
     m_lines << object + '.' + call + '(' + texts.join(',') + ')';
 }
 
@@ -60,13 +65,17 @@ void TraceRecorder::eventCalled(const QString &call, const OrbEvent &event)
 {
     QStringList texts;
     for (const unsigned int number :
-         {event.getSource(), event.getId(), unsigned(event.type()), event.getParam(), event.getParam2()})
+         {event.getSource(), event.getId(), unsigned(event.type()), event.getParam(), event.getParam2()}) {
         texts << QString::number(number);
-    if (!event.getByteArrayParam().isNull())
+    }
+    if (!event.getByteArrayParam().isNull()) {
         texts << "bytes=" + valueText(event.getByteArrayParam());
-    if (!event.getStringParam().isNull())
+    }
+    if (!event.getStringParam().isNull()) {
         texts << "string=" + event.getStringParam();
-    if (event.getVariantParam().isValid())
+    }
+    if (event.getVariantParam().isValid()) {
         texts << "variant=" + valueText(event.getVariantParam());
+    }
     m_lines << call + '(' + texts.join(',') + ')';
 }

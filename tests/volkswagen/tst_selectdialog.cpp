@@ -127,8 +127,9 @@ void TestSelectDialog::showsText()
     QCOMPARE(dialog.findChild<QLabel *>("labelContent")->text(), QString("Are you sure?"));
     dialog.hideButtons();
     dialog.show();
-    for (const char *name : {"lineBottom", "btnOk", "btnCancel"})
+    for (const char *name : {"lineBottom", "btnOk", "btnCancel"}) {
         QVERIFY2(!dialog.findChild<QWidget *>(name)->isVisible(), name);
+    }
     QVERIFY(dialog.findChild<QWidget *>("lineTop")->isVisible());
 }
 
@@ -137,14 +138,15 @@ void TestSelectDialog::firstModeWins()
     for (int first = 0; first < 4; ++first) {
         SelectDialog dialog;
         for (int mode : {first, 0, 1, 2, 3}) {
-            if (mode == 0)
+            if (mode == 0) {
                 dialog.setContentText("text");
-            else if (mode == 1)
+            } else if (mode == 1) {
                 dialog.setCheckBoxListMode({"a", "b"}, "b", true);
-            else if (mode == 2)
+            } else if (mode == 2) {
                 dialog.setSliderMode(0, 10, 1, 5, "");
-            else
+            } else {
                 dialog.setContentLayout(new QHBoxLayout);
+            }
         }
         QCOMPARE(dialog.findChild<QLabel *>("labelContent") != nullptr, first == 0);
         QCOMPARE(dialog.getCheckedIndex(), first == 1 ? 1 : -1);
@@ -174,8 +176,9 @@ void TestSelectDialog::sizesAndRepeat()
         QVERIFY(button->size().expandedTo(expected.smallest) == button->size());
         QCOMPARE(button->autoRepeat(), expected.repeats);
         QCOMPARE(button->isEnabled(), expected.enabled);
-        if (expected.repeats)
+        if (expected.repeats) {
             QCOMPARE(QPoint(button->autoRepeatDelay(), button->autoRepeatInterval()), QPoint(500, 200));
+        }
     }
     QVERIFY(dialog.findChild<QPushButton *>("btnDec")->x() < dialog.findChild<QPushButton *>("btnInc")->x());
 }
@@ -186,10 +189,11 @@ void TestSelectDialog::ends()
         SelectDialog dialog;
         dialog.setContentText("text");
         QTimer::singleShot(0, &dialog, [&dialog, by] {
-            if (dialog.findChild<QWidget *>(by))
+            if (dialog.findChild<QWidget *>(by)) {
                 VwBench::click(dialog, by);
-            else
+            } else {
                 dialog.back();
+            }
         });
         QCOMPARE(dialog.exec(), int(qstrcmp(by, "btnOk") == 0));
         QVERIFY(!dialog.isVisible());

@@ -184,9 +184,10 @@ void TestVwAdapter::keys_data()
     row("function: release without a key", "2f 00 | 2f 05", {});
     row("quirk_vw_release_taps_again", "2f 00 | 2f 01 | 2f 05 | 2f 05",
         tap(Previous) + tap(Previous) + tap(Previous));
-    for (const QByteArray code : {"06", "10", "13", "00", "ff"})
+    for (const QByteArray code : {"06", "10", "13", "00", "ff"}) {
         row(("function: " + code + " forgets the held key").constData(),
             ("2f 03 | 2f " + code + " | 2f 05").constData(), {down(Forward)});
+    }
 }
 
 void TestVwAdapter::keys()
@@ -207,8 +208,9 @@ void TestVwAdapter::temperatures()
         const int halfDegrees = 31 + value;
         QString celsius = QString("%1.%2°C").arg(halfDegrees / 2).arg(halfDegrees % 2 ? 5 : 0);
         QString fahrenheit = QString("%1°F").arg(59 + value);
-        if (value == 0 || value > 30)
+        if (value == 0 || value > 30) {
             celsius = fahrenheit = value == 0 ? "LO" : "HI";
+        }
         QCOMPARE(m_unit->trace.linesOf("AirConditionDlg.setTemperature"),
                  QStringList() << QString("AirConditionDlg.setTemperature(%1,%1)").arg(celsius)
                                << QString("AirConditionDlg.setTemperature(%1,%1)").arg(fahrenheit));

@@ -40,8 +40,9 @@ QWidget *climateDisplay()
 {
     const QList<QWidget *> windows = OrbHost::instance()->windows();
     for (QWidget *window : windows) {
-        if (qobject_cast<AirConditionDlg *>(window))
+        if (qobject_cast<AirConditionDlg *>(window)) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -89,8 +90,9 @@ void TestVwBox::initTestCase()
 void TestVwBox::cleanupTestCase()
 {
     OrbHost::instance()->setProductValue("CANPortName", QString());
-    if (m_adapter)
+    if (m_adapter) {
         m_adapter->initAdapter();
+    }
     m_adapter.reset();
     OrbHost::instance()->setProductValue("CANPortName", QVariant());
 }
@@ -98,8 +100,9 @@ void TestVwBox::cleanupTestCase()
 void TestVwBox::carKeepsSettings_data()
 {
     QTest::addColumn<int>("page");
-    for (int page : {782, 771, 773, 774, 775, 776, 777, 778, 780, 785})
+    for (int page : {782, 771, 773, 774, 775, 776, 777, 778, 780, 785}) {
         QTest::addRow("%d", page) << page;
+    }
 }
 
 void TestVwBox::carKeepsSettings()
@@ -111,8 +114,9 @@ void TestVwBox::carKeepsSettings()
         window.show();
         QTest::qWait(SettleTime);
         for (const VwMenu::Row &row : VwMenu::rowsOf(page)) {
-            if (row.width > 0)
+            if (row.width > 0) {
                 chosen.insert(row.item, change(window, row));
+            }
         }
         QTest::qWait(SettleTime);
     }
@@ -120,8 +124,9 @@ void TestVwBox::carKeepsSettings()
     // A page that opens later asks the car.
     VWFunctionSetting window(page, m_adapter.get());
     window.show();
-    for (auto it = chosen.cbegin(); it != chosen.cend(); ++it)
+    for (auto it = chosen.cbegin(); it != chosen.cend(); ++it) {
         QTRY_COMPARE(VwBench::valueOf(window, VwBench::rowOf(window, it.key())), it.value());
+    }
 }
 
 void TestVwBox::carChangesTheScreen()

@@ -49,7 +49,7 @@ const struct Scene
     int what; ///< a settings page, or one of the above
     const char *button;
     const char *packages;
-} scenes[] = {
+} Scenes[] = {
     {"driving", Driving, "btnRange",
      "50 10 01 08 02 00 00 | 50 61 00 3e 00 00 00 | 50 20 01 10 27 00 00 |"
      "50 30 00 4b 00 00 00 | 50 40 00 a4 01 00 00 | 50 50 5f 00 00 00 00"},
@@ -87,8 +87,9 @@ std::unique_ptr<QWidget> dialog(int what)
                                             : Vw::text("Driving mode"));
     if (what == OptionDialog) {
         QStringList options;
-        for (const QString &option : VwMenu::rowsOf(785).last().options())
+        for (const QString &option : VwMenu::rowsOf(785).last().options()) {
             options << Vw::text(qPrintable(option));
+        }
         dialog->setCheckBoxListMode(options, options.last(), true);
     } else if (what == NumberDialog) {
         dialog->setSliderMode(30, 240, 10, 120, " km/h");
@@ -103,13 +104,15 @@ std::unique_ptr<QWidget> dialog(int what)
 
 std::unique_ptr<QWidget> show(const Scene &scene, CanBus_Raise_Volkswagen &adapter)
 {
-    if (scene.what != Driving && scene.what <= Question)
+    if (scene.what != Driving && scene.what <= Question) {
         return dialog(scene.what);
+    }
     std::unique_ptr<QWidget> window;
-    if (scene.what == Driving)
+    if (scene.what == Driving) {
         window.reset(new VolkswagenWindow(&adapter));
-    else
+    } else {
         window.reset(new VWFunctionSetting(unsigned(scene.what), &adapter));
+    }
     window->show();
     VwBench::click(*window, scene.button);
     VwBench::feed(adapter, scene.packages);
@@ -126,10 +129,12 @@ QSize textSize(const QLabel *label)
 
 bool fits(const QWidget *widget)
 {
-    if (!widget->parentWidget()->rect().contains(widget->geometry()))
+    if (!widget->parentWidget()->rect().contains(widget->geometry())) {
         return false;
-    if (const FigureLabel *figure = qobject_cast<const FigureLabel *>(widget))
+    }
+    if (const FigureLabel *figure = qobject_cast<const FigureLabel *>(widget)) {
         return figure->contentsRect().width() >= figure->minimumSizeHint().width();
+    }
     if (const QLabel *label = qobject_cast<const QLabel *>(widget)) {
         const QSize size = textSize(label);
         return size.width() <= label->contentsRect().width() &&
@@ -151,8 +156,9 @@ bool fitsCell(const QString &text, int width, int taken)
     layout.setTextOption(wrapping);
     layout.beginLayout();
     int lines = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), ++lines)
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), ++lines) {
         line.setLineWidth(width - taken);
+    }
     layout.endLayout();
     return lines <= 2;
 }
@@ -163,12 +169,15 @@ QString clippedRow(const VWFunctionSetting &page)
     for (int row = 0; row < list->model()->rowCount(); ++row) {
         const TableViewItemDatas datas = VwBench::modelOf(page)->itemDatas(row);
         const QString value = datas.isSwitch() ? QString() : datas.value(2).toString();
-        if (!fitsCell(datas.text(), list->columnWidth(0), 80) || !fitsCell(value, list->columnWidth(2), 60))
+        if (!fitsCell(datas.text(), list->columnWidth(0), 80) || !fitsCell(value, list->columnWidth(2), 60)) {
             return datas.text() + ": " + value;
-        if (!datas.isHeading() && QPixmap(datas.icon()).isNull())
+        }
+        if (!datas.isHeading() && QPixmap(datas.icon()).isNull()) {
             return datas.text() + ": no icon";
-        if (!datas.mark().isEmpty() && QPixmap(datas.mark()).isNull())
+        }
+        if (!datas.mark().isEmpty() && QPixmap(datas.mark()).isNull()) {
             return datas.text() + ": no mark";
+        }
     }
     return QString();
 }
@@ -192,11 +201,12 @@ void TestVwLooks::textsFit_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("language");
     const QSize sizes[] = {QSize(1024, 600), QSize(800, 480)};
-    for (int scene = 0; scene < int(std::size(scenes)); ++scene) {
+    for (int scene = 0; scene < int(std::size(Scenes)); ++scene) {
         for (const QSize &size : sizes) {
-            for (const char *language : {"en", "de", "zh_CN"})
-                QTest::addRow("%s-%d-%s", scenes[scene].name, size.width(), language)
+            for (const char *language : {"en", "de", "zh_CN"}) {
+                QTest::addRow("%s-%d-%s", Scenes[scene].name, size.width(), language)
                     << scene << size << QString(language);
+            }
         }
     }
 }
@@ -209,27 +219,30 @@ void TestVwLooks::textsFit()
     TestScreen screen(size);
     CanBus_Raise_Volkswagen adapter;
     QVERIFY(OrbHost::instance()->setLanguage(language));
-    const std::unique_ptr<QWidget> shown = show(scenes[scene], adapter);
+    const std::unique_ptr<QWidget> shown = show(Scenes[scene], adapter);
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
 
     const QPixmap picture = screen.grab();
     const QString folder = qEnvironmentVariable("ORB_SCREENSHOTS");
-    if (!folder.isEmpty() && QDir().mkpath(folder))
+    if (!folder.isEmpty() && QDir().mkpath(folder)) {
         QVERIFY(picture.save(QDir(folder).filePath(QString("%1.png").arg(QTest::currentDataTag()))));
+    }
     QVERIFY(screen.area()->rect().contains(shown->geometry()));
     int checked = 0;
     for (const QWidget *widget : shown->findChildren<QWidget *>()) {
         const bool hasText =
             qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget);
-        if (!hasText || !widget->isVisible())
+        if (!hasText || !widget->isVisible()) {
             continue;
+        }
         ++checked;
         QVERIFY2(fits(widget), qPrintable(widget->objectName() + ": " + widget->property("text").toString()));
     }
     QVERIFY(checked > 0);
-    if (const VWFunctionSetting *page = qobject_cast<const VWFunctionSetting *>(shown.get()))
+    if (const VWFunctionSetting *page = qobject_cast<const VWFunctionSetting *>(shown.get())) {
         QCOMPARE(clippedRow(*page), QString());
+    }
 }
 
 CANBUS_TEST_MAIN(TestVwLooks)

@@ -65,8 +65,9 @@ void walkOptions(Page &bench, const Row &row)
         QVERIFY(bench.tap(row.item, [&](SelectDialog &dialog) {
             QCOMPARE(titleOf(dialog), QString(row.label));
             QStringList shown;
-            for (const QCheckBox *box : dialog.findChildren<QCheckBox *>())
+            for (const QCheckBox *box : dialog.findChildren<QCheckBox *>()) {
                 shown << box->text();
+            }
             QCOMPARE(shown, options);
             QCOMPARE(dialog.getCheckedIndex(), other);
             choose(dialog, i);
@@ -104,8 +105,9 @@ void walkNumber(Page &bench, const Row &row)
         QCOMPARE(bench.sent(), commands(row.item, move.after));
         QCOMPARE(bench.valueOf(row.item), QString::number(move.after) + unit);
     }
-    if (row.item == 33)
+    if (row.item == 33) {
         return;
+    }
     QVERIFY(bench.tap(row.item, [](SelectDialog &dialog) {
         VwBench::step(dialog, -1);
         cancel(dialog);
@@ -187,8 +189,9 @@ void TestVwMenu::pages()
     window.show();
     QCOMPARE(VwBench::sent(trace).join('|'), requests);
     QCOMPARE(window.windowTitle(), title);
-    if (page == 783 || page == 784 || page == 786)
+    if (page == 783 || page == 784 || page == 786) {
         return;
+    }
 
     const QList<Row> expected = VwMenu::rowsOf(page);
     QCOMPARE(VwBench::modelOf(window)->rowCount(), int(expected.size()));
@@ -238,8 +241,9 @@ void TestVwMenu::rows()
         break;
     case VwMenu::Heading:
     case VwMenu::Reading:
-        for (int column : {0, 2})
+        for (int column : {0, 2}) {
             QVERIFY(!VwBench::tap(*bench.page, VwBench::rowOf(*bench.page, QString(row.label)), column));
+        }
         QCOMPARE(bench.sent(), QStringList());
         break;
     }

@@ -100,9 +100,10 @@ void TestVwPages::staleDialog_data()
             int page, item;
         } rows[] = {
             {"options", 782, 16}, {"number", 775, 83}, {"warning speed", 771, 33}, {"question", 781, 199}};
-        for (const auto &row : rows)
+        for (const auto &row : rows) {
             QTest::addRow("%s while a page is left: %s", row.name, happens)
                 << row.page << row.item << QByteArray(happens);
+        }
     }
     QTest::newRow("row goes while its dialog is open") << 785 << 209 << QByteArray("mode");
     QTest::newRow("replies arrive while a dialog is open") << 782 << 16 << QByteArray("replies");
@@ -180,8 +181,9 @@ void TestVwPages::reportRowsDoNothing()
     for (unsigned int page : {783u, 784u, 786u}) {
         Page bench(page);
         VwBench::feed(*bench.adapter, "60 02 01 02 00 00 00 00 01 | 61 01 00 05 00 | 62 01 03 00 00");
-        for (int column : {0, 2})
+        for (int column : {0, 2}) {
             QVERIFY(!VwBench::tap(*bench.page, 0, column));
+        }
         QCOMPARE(bench.sent(), QStringList());
     }
 }

@@ -39,8 +39,9 @@ QList<Row> reportedRows()
 {
     QList<Row> found;
     for (const Row &row : VwMenu::rows()) {
-        if (row.width > 0)
+        if (row.width > 0) {
             found << row;
+        }
     }
     const VwMenu::Kind kind = VwMenu::Options;
     const char *const modes = "Normal|Sport|ECO|Individual|Snow|Off-road|Off-road individual";
@@ -56,8 +57,9 @@ QList<Row> reportedRows()
 QString textAfter(const Row &row, const QByteArray &data, const QString &before)
 {
     const int value = quint8(data.at(row.byte)) >> row.shift & ((1 << row.width) - 1);
-    if (row.kind == VwMenu::Switch)
+    if (row.kind == VwMenu::Switch) {
         return value ? "on" : "off";
+    }
     if (row.kind == VwMenu::Number) {
         const bool mph = row.item == 33 && data.at(1) & 2;
         return QString("%1 %2").arg(value).arg(mph ? QString("mph") : row.options().at(3)).trimmed();
@@ -76,8 +78,9 @@ void TestVwReplies::fields_data()
     QSet<int> seen;
     for (const Row &row : reportedRows()) {
         const int place = row.subType << 8 | row.byte;
-        if (!seen.contains(place))
+        if (!seen.contains(place)) {
             QTest::addRow("reply %x, byte %d", row.subType, row.byte) << row.page << row.subType << row.byte;
+        }
         seen << place;
     }
 }
@@ -91,27 +94,31 @@ void TestVwReplies::fields()
     Page bench(page);
     QByteArray data(5, '\0');
     data[0] = char(subType);
-    if (page == 785)
+    if (page == 785) {
         data[1] = 3; // the rows of an individual mode need that mode
+    }
     bench.feed(data);
     const QList<Row> rows = reportedRows();
     QMap<int, QString> expected;
     for (const Row &row : rows) {
-        if (row.page == page)
+        if (row.page == page) {
             expected[row.item] = bench.rowOf(row.item) < 0 ? QString() : bench.valueOf(row.item);
+        }
     }
     for (int value = 0; value <= 255; ++value) {
         data[byte] = char(value);
         bench.feed(data);
         for (const Row &row : rows) {
-            if (row.subType == subType)
+            if (row.subType == subType) {
                 expected[row.item] = textAfter(row, data, expected[row.item]);
+            }
         }
         for (const int item : expected.keys()) {
             const bool isThere = bench.rowOf(item) >= 0;
             QVERIFY(isThere || (page == 785 && (subType != 0xA0 || data.at(1) != 3)));
-            if (isThere)
+            if (isThere) {
                 QCOMPARE(bench.valueOf(item), expected[item]);
+            }
         }
     }
 }
@@ -230,8 +237,9 @@ void TestVwReplies::individualRowsComeAndGo()
     Page bench(785);
     const auto items = [&bench] {
         QStringList result;
-        for (int row = 0; row < VwBench::modelOf(*bench.page)->rowCount(); ++row)
+        for (int row = 0; row < VwBench::modelOf(*bench.page)->rowCount(); ++row) {
             result << QString::number(VwBench::modelOf(*bench.page)->itemDatas(row).getItemId());
+        }
         return result.join(' ');
     };
     QCOMPARE(items(), QString("202 203 208"));
@@ -253,8 +261,9 @@ void TestVwReplies::individualRowsComeAndGo()
 void TestVwReplies::shortReplies()
 {
     for (const Row &row : VwMenu::rows()) {
-        if (row.width == 0)
+        if (row.width == 0) {
             continue;
+        }
         Page bench(row.page);
         const QString untouched = bench.valueOf(row.item);
         const QByteArray whole = row.reply(row.code(1));
@@ -274,12 +283,14 @@ void TestVwReplies::pagesIgnoreOthersReplies()
         Page bench(page);
         const QStringList untouched = bench.rows();
         for (const Row &row : VwMenu::rows()) {
-            if (row.width > 0 && row.page != page)
+            if (row.width > 0 && row.page != page) {
                 bench.feed(row.reply(1));
+            }
         }
         VwBench::feed(*bench.adapter, "40 ff ff ff ff ff ff | 99 10 01 01 01 01");
-        if (page != 779)
+        if (page != 779) {
             VwBench::feed(*bench.adapter, "63 10 01 5a 00 | 63 22 01");
+        }
         QCOMPARE(bench.rows(), untouched);
     }
 }
@@ -291,13 +302,16 @@ void TestVwReplies::textTables()
     QCOMPARE(Vw::getStartStopInfo(20), QString("Wndscreen heating is switched on"));
     QCOMPARE(Vw::getStartStopInfo(28), Vw::getStartStopInfo(13));
     QCOMPARE(Vw::getConvConsumerInfo(13), QString("Steering whell heating"));
-    for (int number : {-1, 34, 255, 1 << 30})
+    for (int number : {-1, 34, 255, 1 << 30}) {
         QCOMPARE(Vw::getStartStopInfo(number), QString());
-    for (int number : {-1, 0, 19, 255})
+    }
+    for (int number : {-1, 0, 19, 255}) {
         QCOMPARE(Vw::getConvConsumerInfo(number), QString());
+    }
     QCOMPARE(VWFunctionSetting::getAppTitleFromId(783), QString("Vehice Start-stop"));
-    for (unsigned int page : {0u, 770u, 772u, 787u})
+    for (unsigned int page : {0u, 770u, 772u, 787u}) {
         QCOMPARE(VWFunctionSetting::getAppTitleFromId(page), QString());
+    }
 }
 
 void TestVwReplies::laterPageKnowsTheReports()

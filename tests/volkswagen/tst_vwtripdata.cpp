@@ -104,8 +104,9 @@ void TestVwTripData::figures()
     Bench bench;
     bench.window.changeRangeIndex(page);
     VwBench::feed(bench.adapter, package);
-    for (const char *figure : Figures)
+    for (const char *figure : Figures) {
         QCOMPARE(bench.text(figure), figure == label ? text : QString("--"));
+    }
 }
 
 void TestVwTripData::figuresOfOtherPagesStayAway()
@@ -133,8 +134,9 @@ void TestVwTripData::pagesGoRound()
     for (const auto &row : rows) {
         bench.window.changeRangeIndex(row.index);
         QStringList requests;
-        for (const int base : {0x20, 0x30, 0x40, 0x50})
+        for (const int base : {0x20, 0x30, 0x40, 0x50}) {
             requests << "90 50 " + QString::number(base + row.page, 16);
+        }
         QCOMPARE(bench.sent(), requests);
         QCOMPARE(bench.text("labelPageTitle"), QString(titles[row.page]));
     }
@@ -232,8 +234,9 @@ void TestVwTripData::shortPackagesChangeNothing()
     Bench bench;
     VwBench::feed(bench.adapter,
                   "50 | 50 10 | 50 10 01 08 02 00 | 50 61 00 3e 00 | 65 01 01 01 | 65 | 68 0f | 68");
-    for (const char *figure : Figures)
+    for (const char *figure : Figures) {
         QCOMPARE(bench.text(figure), QString("--"));
+    }
     for (int i = 0; i < 4; ++i) {
         QVERIFY(bench.widget(TyreLabels[i])->isHidden());
         QVERIFY(bench.widget(TyreFrames[i])->isHidden());

@@ -13,8 +13,9 @@ namespace VwBench {
 
 void feed(CanBus_Raise_Volkswagen &adapter, const char *packages)
 {
-    for (const QByteArray &package : QByteArray(packages).split('|'))
+    for (const QByteArray &package : QByteArray(packages).split('|')) {
         adapter.onRecvMcuProtocol(RaiseWire::frame(package));
+    }
 }
 
 TableListView *listOf(const VWFunctionSetting &page)
@@ -36,8 +37,9 @@ int rowOf(const VWFunctionSetting &page, const QString &label)
 {
     const TableViewModel *model = modelOf(page);
     for (int row = 0; row < model->rowCount(); ++row) {
-        if (model->itemDatas(row).text() == label)
+        if (model->itemDatas(row).text() == label) {
             return row;
+        }
     }
     return -1;
 }
@@ -46,8 +48,9 @@ QString valueOf(const VWFunctionSetting &page, int row)
 {
     const TableViewItemDatas datas = modelOf(page)->itemDatas(row);
     const QVariant value = datas.value(TableViewItemDatas::ValueColumn);
-    if (datas.isSwitch())
+    if (datas.isSwitch()) {
         return value.toBool() ? "on" : "off";
+    }
     return value.toString();
 }
 
@@ -57,11 +60,13 @@ bool tap(VWFunctionSetting &page, int row, int column, const std::function<void(
     QTimer::singleShot(0, qApp, [&] {
         if (SelectDialog *dialog = openDialog()) {
             answered = true;
-            if (answer)
+            if (answer) {
                 answer(*dialog);
+            }
             // Whatever the answer was, the test goes on.
-            if (SelectDialog *open = openDialog())
+            if (SelectDialog *open = openDialog()) {
                 open->reject();
+            }
         }
     });
     TableListView *list = listOf(page);
@@ -91,8 +96,9 @@ SelectDialog *openDialog()
     const QList<QWidget *> windows = OrbHost::instance()->windows();
     for (QWidget *window : windows) {
         SelectDialog *dialog = qobject_cast<SelectDialog *>(window);
-        if (dialog && dialog->isVisible())
+        if (dialog && dialog->isVisible()) {
             return dialog;
+        }
     }
     return nullptr;
 }
@@ -100,20 +106,23 @@ SelectDialog *openDialog()
 void check(SelectDialog &dialog, int index)
 {
     const QList<QCheckBox *> boxes = dialog.findChildren<QCheckBox *>();
-    if (index < boxes.size())
+    if (index < boxes.size()) {
         boxes.at(index)->click();
+    }
 }
 
 void step(SelectDialog &dialog, int steps)
 {
-    for (int i = 0; i < qAbs(steps); ++i)
+    for (int i = 0; i < qAbs(steps); ++i) {
         click(dialog, steps > 0 ? "btnInc" : "btnDec");
+    }
 }
 
 void click(const QWidget &window, const char *button)
 {
-    if (QAbstractButton *found = window.findChild<QAbstractButton *>(button))
+    if (QAbstractButton *found = window.findChild<QAbstractButton *>(button)) {
         found->click();
+    }
 }
 
 void cancel(SelectDialog &dialog)
@@ -148,8 +157,9 @@ Page::~Page()
 QStringList Page::rows() const
 {
     QStringList rows;
-    for (int row = 0; row < modelOf(*page)->rowCount(); ++row)
+    for (int row = 0; row < modelOf(*page)->rowCount(); ++row) {
         rows << modelOf(*page)->itemDatas(row).text() + '=' + VwBench::valueOf(*page, row);
+    }
     return rows;
 }
 

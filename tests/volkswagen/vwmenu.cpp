@@ -38,8 +38,9 @@ QString Row::textOf(int code) const
 {
     const QStringList all = options();
     for (int i = 0; i < all.size(); ++i) {
-        if (this->code(i) == code)
+        if (this->code(i) == code) {
             return all.at(i);
+        }
     }
     return QString();
 }
@@ -178,8 +179,9 @@ QList<Row> rowsOf(int page)
 {
     QList<Row> found;
     for (const Row &row : rows()) {
-        if (row.page == page)
+        if (row.page == page) {
             found << row;
+        }
     }
     return found;
 }

@@ -11,7 +11,7 @@ class TestXinHangDisplay : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void callEndsBeforeAnyBegan();
     void construction();
     void triggers_data();
@@ -103,17 +103,18 @@ void TestXinHangDisplay::triggers()
     QStringList done;
     for (const QByteArray &step : steps.split('|')) {
         const QByteArrayList parts = step.trimmed().split(':');
-        if (parts.first() == "tag")
+        if (parts.first() == "tag") {
             OrbHost::instance()->setTag(0x10001, parts.at(1).toUInt(nullptr, 16));
-        else if (parts.first() == "state")
+        } else if (parts.first() == "state") {
             bench.adapter->orbAppStateChange(parts.at(1).toULong(nullptr, 16),
                                              parts.at(2).toULong(nullptr, 16));
-        else if (parts.first() == "long")
+        } else if (parts.first() == "long") {
             bench.adapter->onSwitchDisplayTimer();
-        else if (parts.first() == "show")
+        } else if (parts.first() == "show") {
             bench.adapter->showApp(769);
-        else
+        } else {
             done << bench.exchange(step);
+        }
         done << bench.calls();
     }
     OrbHost::instance()->setTag(0x10001, QVariant());
@@ -139,8 +140,9 @@ void TestXinHangDisplay::modes()
     for (uint mode = 0; mode < 20; ++mode) {
         bench.drive(2, "factory");
         Q_EMIT OrbApplication::instance()->modeAppChanged(mode, 0);
-        if (XinHang::joined(bench.calls()) == ToOwn)
+        if (XinHang::joined(bench.calls()) == ToOwn) {
             switching << mode;
+        }
     }
     const QList<uint> expected = {2, 4, 5, 7, 13};
     QCOMPARE(switching, expected);

@@ -20,7 +20,7 @@ class TestXinHangKeys : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_bench.reset(new XinHangBench); }
     void cleanupTestCase() { m_bench.reset(); }
     void passing_data();
@@ -65,10 +65,12 @@ void TestXinHangKeys::passing()
         QVERIFY2(filter.filterKey(key, true, false), name.constData());
         QVERIFY2(filter.filterPanelKey(key, true, false), name.constData());
         display.switchDisplay(XinHangDisplay::OwnScreen, false);
-        if (filter.filterKey(key, true, false))
+        if (filter.filterKey(key, true, false)) {
             unit << name;
-        if (filter.filterPanelKey(key, true, false))
+        }
+        if (filter.filterPanelKey(key, true, false)) {
             panel << name;
+        }
     }
     const auto summary = [](const QByteArrayList &keys) {
         return keys.size() == Codes.size() ? QByteArray("*") : keys.join(' ');

@@ -12,7 +12,7 @@ class TestXinHangLink : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase() { m_bench.reset(); }
     void quirk_xinhang_ready_count();
@@ -130,8 +130,9 @@ void TestXinHangLink::commands()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, packages);
-    if (!before.isEmpty())
+    if (!before.isEmpty()) {
         m_bench->exchange(before);
+    }
     QTEST(XinHang::joined(m_bench->exchange(packages)), "calls");
 }
 
@@ -174,8 +175,9 @@ void TestXinHangLink::keys()
         QByteArrayList packages;
         QStringList calls;
         for (int code = 0; code < 256; ++code) {
-            for (const char *const state : {"1 ", "2 ", "0 ", "3 "})
+            for (const char *const state : {"1 ", "2 ", "0 ", "3 "}) {
                 packages << command + state + QByteArray(1, char(code)).toHex();
+            }
             if (XinHang::unitKeys().contains(code)) {
                 calls << QString("key %1 press; key %1 held; key %1 release")
                              .arg(XinHang::unitKeys().value(code), 0, 16);
@@ -213,12 +215,13 @@ void TestXinHangLink::unitCalls()
     m_bench->drive(2, "own");
     OrbEvent event(1, 1, OrbEvent::NotifyType);
     event.setParams(unsigned(first), unsigned(second));
-    if (call == "notify")
+    if (call == "notify") {
         m_bench->adapter->orbAppNotify(&event);
-    else if (call == "show")
+    } else if (call == "show") {
         m_bench->adapter->showApp(unsigned(first));
-    else
+    } else {
         m_bench->adapter->translateApp();
+    }
     QTEST(XinHang::joined(m_bench->calls()), "calls");
 }
 
@@ -235,8 +238,9 @@ void TestXinHangLink::versionFile()
     const QByteArray written = file.readAll();
     file.close();
     file.remove();
-    if (existed && file.open(QIODevice::WriteOnly))
+    if (existed && file.open(QIODevice::WriteOnly)) {
         file.write(before);
+    }
     QCOMPARE(written, QByteArray("xh_5_V1.2 'x'; rm -r\n"));
 }
 
@@ -244,12 +248,14 @@ void TestXinHangLink::hostileBytes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QByteArray shortPackages;
-    for (int command = 0; command < 256; ++command)
+    for (int command = 0; command < 256; ++command) {
         shortPackages += XinHangWire::frame(QByteArray(1, char(command)).toHex());
+    }
     QByteArray noise(20000, '\0');
     QRandomGenerator random(4);
-    for (char &byte : noise)
+    for (char &byte : noise) {
         byte = random.bounded(8) == 0 ? '\xF0' : char(random.bounded(256));
+    }
     // A shell command could be in the noise; the version command is not.
     noise.replace('\x05', '\x04');
     QTest::newRow("length 0") << QByteArray::fromHex("f000ff f000ff f00000");

@@ -58,7 +58,7 @@ class TestXinHangSettings : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void texts();
     void shownItems_data();
@@ -169,8 +169,9 @@ void TestXinHangSettings::effects_data()
     boxRow("car type", 128, 7, "; send 8b 04 07");
     boxRow("display type", 129, 1, "; send 8b 05 01");
     boxRow("sound type", 130, 0, "; send 8b 06 00");
-    for (const int item : {134, 136, 137, 138, 139, 144, 145, 146})
+    for (const int item : {134, 136, 137, 138, 139, 144, 145, 146}) {
         boxRow("nothing for the box: " + QByteArray::number(item), item, 1, "");
+    }
     row("a known item that is not listed", 2, {}, {{"SetItem132", 3}}, basics);
 }
 
@@ -261,12 +262,14 @@ void TestXinHangSettings::window()
     answer.setInterval(5);
     connect(&answer, &QTimer::timeout, this, [&] {
         auto *const dialog = qobject_cast<OrbChoiceDialog *>(OrbHost::instance()->frontWindow());
-        if (!dialog)
+        if (!dialog) {
             return;
+        }
         asked = true;
         answer.stop();
-        if (choice >= 0)
+        if (choice >= 0) {
             dialog->findChildren<QCheckBox *>().at(choice)->click();
+        }
         dialog->findChild<QAbstractButton *>(choice >= 0 ? "btnOk" : "btnCancel")->click();
     });
     answer.start();
@@ -339,8 +342,9 @@ int writeSettings(const QString &folder)
 int main(int argc, char **argv)
 {
     OrbApplication application(argc, argv);
-    if (argc == 3 && QByteArray(argv[1]) == Writer)
+    if (argc == 3 && QByteArray(argv[1]) == Writer) {
         return writeSettings(argv[2]);
+    }
     TestXinHangSettings test;
     const int result = QTest::qExec(&test, argc, argv);
     return result != 0 ? result : TestSupport::brokenConnects();

@@ -21,8 +21,9 @@ QByteArray image(int size)
 {
     QByteArray bytes(size, '\0');
     QRandomGenerator random(quint32(size) + 1);
-    for (char &byte : bytes)
+    for (char &byte : bytes) {
         byte = char(random.bounded(256));
+    }
     return bytes;
 }
 
@@ -88,8 +89,9 @@ public:
     {
         calls();
         for (QWidget *window : OrbHost::instance()->windows()) {
-            if (auto *const dialog = qobject_cast<UpdateDialog *>(window))
+            if (auto *const dialog = qobject_cast<UpdateDialog *>(window)) {
                 dialog->findChild<QAbstractButton *>("btnOk")->click();
+            }
         }
         return calls();
     }
@@ -103,7 +105,7 @@ class TestXinHangUpdate : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void search_data();
     void search();
     void quirk_xinhang_path_kept();
@@ -206,8 +208,9 @@ void TestXinHangUpdate::wholeUpdate()
     for (quint32 number = 0; number < count;) {
         QByteArray requests;
         const quint32 from = number;
-        for (; number < count && number < from + 64; ++number)
+        for (; number < count && number < from + 64; ++number) {
             requests += XinHangWire::frame("08 02 00 " + hex32(number));
+        }
         bench.box.send(requests);
         const int wanted = int(number - from) * packageSize;
         QVERIFY(bench.box.waitForBytes(wanted));
@@ -240,8 +243,9 @@ void TestXinHangUpdate::anyOrder()
 void TestXinHangUpdate::refusedFiles_data()
 {
     QTest::addColumn<QString>("kind");
-    for (const char *kind : {"gone", "pipe", "folder", "too large"})
+    for (const char *kind : {"gone", "pipe", "folder", "too large"}) {
         QTest::newRow(kind) << kind;
+    }
 }
 
 void TestXinHangUpdate::refusedFiles()
@@ -256,10 +260,11 @@ void TestXinHangUpdate::refusedFiles()
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^update file too large:"));
     } else {
         file.remove();
-        if (kind == "pipe")
+        if (kind == "pipe") {
             QCOMPARE(mkfifo(QFile::encodeName(bench.file()).constData(), 0600), 0);
-        else if (kind == "folder")
+        } else if (kind == "folder") {
             QVERIFY(QDir().mkdir(bench.file()));
+        }
     }
     QCOMPARE(bench.accept(), QStringList(Fails));
     QCOMPARE(bench.exchange("08 01"), QStringList(Fails));
@@ -311,8 +316,9 @@ void TestXinHangUpdate::failedRequests()
 void TestXinHangUpdate::changedFile_data()
 {
     QTest::addColumn<QString>("kind");
-    for (const char *kind : {"shrinks", "vanishes", "disk pulled"})
+    for (const char *kind : {"shrinks", "vanishes", "disk pulled"}) {
         QTest::newRow(kind) << kind;
+    }
 }
 
 // The file is harmed in the middle of an update, comes back, and the box asks again.
@@ -323,20 +329,24 @@ void TestXinHangUpdate::changedFile()
     const QByteArray firmware = image(1000);
     bench.begin(firmware);
     QVERIFY(bench.answers(0));
-    if (kind == "disk pulled")
+    if (kind == "disk pulled") {
         QCOMPARE(bench.pull(), QStringList(Fails));
+    }
     QVERIFY(QFile(bench.file()).resize(300));
-    if (kind == "vanishes")
+    if (kind == "vanishes") {
         QVERIFY(QFile::remove(bench.file()));
+    }
     QCOMPARE(bench.ask(2), QStringList(Fails)); // never padding in place of firmware
     QCOMPARE(bench.ask(7), QStringList(Fails));
     QFile::remove(bench.file());
     writeFile(bench.file(), firmware);
-    if (kind == "disk pulled")
+    if (kind == "disk pulled") {
         QCOMPARE(bench.insert(), QStringList(Offers));
+    }
     bench.ask(2); // may fail still, but then the file is opened anew
-    for (const quint32 number : {1u, 2u, 3u, 4u, 5u, 6u, 7u})
+    for (const quint32 number : {1u, 2u, 3u, 4u, 5u, 6u, 7u}) {
         QVERIFY(bench.answers(number));
+    }
     QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
 }
 

@@ -17,8 +17,9 @@ QByteArrayList parse(QByteArray sent)
     while (!sent.isEmpty()) {
         const QByteArray body = sent.mid(2, sent.size() > 1 ? quint8(sent.at(1)) : 0);
         const QByteArray package = XinHangWire::frame(body.toHex());
-        if (!sent.startsWith(package))
+        if (!sent.startsWith(package)) {
             return packages << "bad " + sent.toHex(' ');
+        }
         packages << body.toHex(' ');
         sent.remove(0, package.size());
     }
@@ -30,11 +31,13 @@ QString readable(const QString &line)
     static const QRegularExpression write("^ProtocolUtils\\.writeDatas\\((\\w+)\\)$");
     static const QRegularExpression key("^OrbApplication\\.simulateKey\\((\\d+),(\\w+),(\\w+),0\\)$");
     QRegularExpressionMatch match = write.match(line);
-    if (match.hasMatch())
+    if (match.hasMatch()) {
         return "send " + parse(QByteArray::fromHex(match.captured(1).toLatin1())).join(" + ");
+    }
     match = key.match(line);
-    if (!match.hasMatch())
+    if (!match.hasMatch()) {
         return line;
+    }
     const QString phase = match.captured(2) == "false" ? "release" : "press";
     return "key " + QString::number(match.captured(1).toInt(), 16) + ' ' +
            (match.captured(3) == "true" ? "held" : phase);
@@ -72,8 +75,9 @@ XinHangBench::XinHangBench(const QVariantMap &settings)
     const QString file = XinHang::settingsFile();
     QDir(QFileInfo(file).path()).removeRecursively();
     OrbIniConfig config("carsetting.ini", "CarSetting");
-    for (auto at = settings.begin(); at != settings.end(); ++at)
+    for (auto at = settings.begin(); at != settings.end(); ++at) {
         config.setValue(at.key(), at.value());
+    }
     adapter = construct<CanBus_XinHang>();
     open();
     const QTimer *const ready = adapter->findChild<QTimer *>("sendReadyTimer");
@@ -93,8 +97,9 @@ QStringList XinHangBench::exchange(const QByteArray &packages)
     box.send(bytes);
     PtyBox::waitUntil([&] {
         int received = 0;
-        for (const QString &line : trace.lines())
+        for (const QString &line : trace.lines()) {
             received += line.startsWith(Received);
+        }
         return received == wanted;
     });
     return calls();
@@ -104,8 +109,9 @@ QStringList XinHangBench::calls()
 {
     QStringList calls;
     for (const QString &line : trace.take()) {
-        if (!line.startsWith(Received))
+        if (!line.startsWith(Received)) {
             calls << readable(line);
+        }
     }
     return calls;
 }
@@ -121,8 +127,9 @@ void XinHangBench::drive(int carType, const QByteArray &screen)
 bool XinHangBench::passLongPress()
 {
     QTimer *const timer = adapter->findChild<QTimer *>("switchDisplayTimer");
-    if (!timer->isActive())
+    if (!timer->isActive()) {
         return false;
+    }
     timer->start(0);
     PtyBox::waitUntil([timer] { return !timer->isActive(); });
     timer->setInterval(1500);

@@ -31,4 +31,4 @@ public:
     static DecoderBox *createBox(int type, QObject *parent, QString *error);
 };
 
-#endif
+#endif // BOXCATALOG_H

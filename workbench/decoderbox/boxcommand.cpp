@@ -4,8 +4,8 @@
 
 namespace {
 
-const int tapMs = 50;
-const int longestMs = 600000;
+const int TapMs = 50;
+const int LongestMs = 600000;
 
 bool readNumber(const QString &text, int least, int most, int *number)
 {
@@ -61,7 +61,7 @@ bool BoxCommand::parseKey(const QStringList &words, const DecoderBox &box, QStri
     static const QHash<QString, Action> actions = {
         {"press", Press}, {"hold", Press}, {"release", Release}, {"tap", Tap}};
     m_name = words.value(1);
-    m_number = tapMs;
+    m_number = TapMs;
     const BoxKey *key = box.speaker()->findKey(m_name);
     if (!key || key->source == BoxKey::Knob) {
         *error = QString("unknown key '%1'").arg(m_name);
@@ -69,7 +69,7 @@ bool BoxCommand::parseKey(const QStringList &words, const DecoderBox &box, QStri
     }
     const bool hasTime = words.size() == 4 && words.at(2) == "tap";
     if (!actions.contains(words.value(2)) || (words.size() != 3 && !hasTime) ||
-        (hasTime && !readNumber(words.at(3), 0, longestMs, &m_number))) {
+        (hasTime && !readNumber(words.at(3), 0, LongestMs, &m_number))) {
         *error = "expected: key NAME press|hold|release|tap [MS]";
         return false;
     }
@@ -132,7 +132,7 @@ bool BoxCommand::parseFault(const QStringList &words, QString *error)
         return true;
     }
     if (words.size() != 3 || !actions.contains(words.at(1)) ||
-        !readNumber(words.at(2), 0, longestMs, &m_number)) {
+        !readNumber(words.at(2), 0, LongestMs, &m_number)) {
         *error = "expected: fault noise N, fault cut N, fault corrupt or fault silence MS";
         return false;
     }

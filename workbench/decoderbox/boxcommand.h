@@ -66,4 +66,4 @@ private:
     QByteArray m_bytes;
 };
 
-#endif
+#endif // BOXCOMMAND_H

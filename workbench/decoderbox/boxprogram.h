@@ -36,4 +36,4 @@ private:
     QFile m_script;
 };
 
-#endif
+#endif // BOXPROGRAM_H

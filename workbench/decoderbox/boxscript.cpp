@@ -4,7 +4,7 @@
 #include "decoderbox.h"
 
 namespace {
-const int longestWaitMs = 600000;
+const int LongestWaitMs = 600000;
 } // namespace
 
 BoxScript::BoxScript(DecoderBox *box, int descriptor, QObject *parent)
@@ -22,15 +22,15 @@ void BoxScript::work()
         const bool isWhole = m_lines.takeLine(&line);
         line = line.trimmed();
         if (!isWhole) {
-            emit answered("error: line too long");
+            Q_EMIT answered("error: line too long");
         } else if (line == "quit") {
             m_lines.stop();
         } else if (!line.isEmpty() && !line.startsWith('#')) {
-            emit answered(answer(line));
+            Q_EMIT answered(answer(line));
         }
     }
     if (m_lines.isAtEnd() && !m_waitTimer.isActive()) {
-        emit finished();
+        Q_EMIT finished();
     }
 }
 
@@ -53,7 +53,7 @@ QString BoxScript::answer(const QString &line)
     if (verb == "wait") {
         bool ok = false;
         const int ms = rest.toInt(&ok);
-        if (!ok || ms < 0 || ms > longestWaitMs) {
+        if (!ok || ms < 0 || ms > LongestWaitMs) {
             return "error: expected: wait MS";
         }
         m_waitTimer.start(ms);

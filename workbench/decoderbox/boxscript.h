@@ -26,7 +26,7 @@ public:
     /// \a box must outlive the script; \a descriptor stays open and the caller's.
     BoxScript(DecoderBox *box, int descriptor, QObject *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     void answered(const QString &line);
     void finished();
 
@@ -39,4 +39,4 @@ private:
     QTimer m_waitTimer;
 };
 
-#endif
+#endif // BOXSCRIPT_H

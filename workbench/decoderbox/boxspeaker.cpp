@@ -93,14 +93,14 @@ void BoxSpeaker::answerWith(const QString &property)
 {
     for (int i = 0; i < m_reports.size(); ++i) {
         if (m_reports.at(i).isAbout(property)) {
-            emit reportDue(i);
+            Q_EMIT reportDue(i);
         }
     }
 }
 
 QString BoxSpeaker::observe(const QString &topic, const QString &value)
 {
-    emit observed(topic, value);
+    Q_EMIT observed(topic, value);
     return topic + ' ' + value;
 }
 

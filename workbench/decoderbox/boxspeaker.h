@@ -84,7 +84,7 @@ public:
     /// Takes a good package from the unit; \a meaning becomes what it says, for logs.
     Understanding receive(const BoxPackage &package, QString *meaning);
 
-signals:
+Q_SIGNALS:
     /// The unit is ready for packages.
     void readyReceived();
     /// The unit wants no more packages.
@@ -129,4 +129,4 @@ private:
     QStringList m_moreProperties;
 };
 
-#endif
+#endif // BOXSPEAKER_H

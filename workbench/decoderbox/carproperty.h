@@ -19,8 +19,7 @@
 /// Temperature | double (°C) or "LO" or "HI"  | decimal with a point, LO, HI
 /// Choice      | QString, one of choices      | the choice
 /// Text        | QString, at most maximum     | the text, Latin-1 characters only
-/// NumberList  | QString "3,5,17"             | at most `step` numbers, each minimum..maximum; "-" or "" for
-/// none
+/// NumberList  | QString "3,5,17"             | at most `step` numbers, each minimum..maximum; "-" or "": none
 struct CarProperty
 {
     enum Kind { Switch, Integer, Real, Temperature, Choice, Text, NumberList };
@@ -52,4 +51,4 @@ struct CarProperty
     static const CarProperty *find(const QString &name);
 };
 
-#endif
+#endif // CARPROPERTY_H

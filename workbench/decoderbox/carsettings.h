@@ -7,4 +7,4 @@
 /// driving data, tyres, messages, service. Part of CarProperty::all().
 QVector<CarProperty> carSettings();
 
-#endif
+#endif // CARSETTINGS_H

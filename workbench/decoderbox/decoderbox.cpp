@@ -4,27 +4,27 @@
 
 namespace {
 
-const int acknowledgementMs = 100;
-const int mostResends = 3;
-const int heldKeyMs = 200;
-const int mostQueued = 256;
-const int mostNoise = 65536;
-const quint32 noiseSeed = 20;
+const int AcknowledgementMs = 100;
+const int MostResends = 3;
+const int HeldKeyMs = 200;
+const int MostQueued = 256;
+const int MostNoise = 65536;
+const quint32 NoiseSeed = 20;
 
-const quint8 goodAnswer = 0xFF;
-const quint8 badChecksumAnswer = 0xF0;
-const quint8 unknownCommandAnswer = 0xF3;
+const quint8 GoodAnswer = 0xFF;
+const quint8 BadChecksumAnswer = 0xF0;
+const quint8 UnknownCommandAnswer = 0xF3;
 
 } // namespace
 
 DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
-    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format()), m_noise(noiseSeed)
+    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format()), m_noise(NoiseSeed)
 {
     m_car->setParent(this);
     m_speaker->setParent(this);
     m_acknowledgementTimer.setSingleShot(true);
     m_acknowledgementTimer.setTimerType(Qt::PreciseTimer);
-    m_heldKeyTimer.setInterval(heldKeyMs);
+    m_heldKeyTimer.setInterval(HeldKeyMs);
     m_heldKeyTimer.setTimerType(Qt::PreciseTimer);
     m_tongueTimer.setSingleShot(true);
     m_clock.start();
@@ -115,7 +115,7 @@ void DecoderBox::sendRaw(const QByteArray &bytes)
 void DecoderBox::sendNoise(int count)
 {
     QByteArray bytes;
-    for (int i = 0; i < qMin(count, mostNoise); ++i) {
+    for (int i = 0; i < qMin(count, MostNoise); ++i) {
         bytes += char(m_noise.bounded(256));
     }
     sendRaw(bytes);
@@ -137,7 +137,7 @@ void DecoderBox::onUnitLeft()
     m_receiver.clear();
     stopTalking();
     setState(WaitsForReady);
-    emit unitLeft();
+    Q_EMIT unitLeft();
 }
 
 void DecoderBox::onReady()
@@ -170,14 +170,14 @@ void DecoderBox::onPackage(const BoxPackage &package, const QByteArray &frame)
     m_isListening = false;
     log("unit>box", frame, meaning);
     // The answer leaves before what the package has brought about.
-    answer(understanding == BoxSpeaker::UnknownCommand ? unknownCommandAnswer : goodAnswer);
+    answer(understanding == BoxSpeaker::UnknownCommand ? UnknownCommandAnswer : GoodAnswer);
     sendNext();
 }
 
 void DecoderBox::onBadChecksum(const QByteArray &frame)
 {
     log("unit>box", frame, "bad checksum");
-    answer(badChecksumAnswer);
+    answer(BadChecksumAnswer);
 }
 
 void DecoderBox::onAcknowledged()
@@ -192,10 +192,10 @@ void DecoderBox::onAcknowledged()
 void DecoderBox::onAcknowledgementMissing()
 {
     if (m_tongueTimer.isActive()) {
-        m_acknowledgementTimer.start(acknowledgementMs);
+        m_acknowledgementTimer.start(AcknowledgementMs);
         return;
     }
-    if (m_resends < mostResends) {
+    if (m_resends < MostResends) {
         ++m_resends;
         transmit();
         return;
@@ -208,7 +208,7 @@ void DecoderBox::onAcknowledgementMissing()
 void DecoderBox::onObserved(const QString &topic, const QString &value)
 {
     m_observations.insert(topic, value);
-    emit observed(topic, value);
+    Q_EMIT observed(topic, value);
 }
 
 void DecoderBox::repeatHeldKeys()
@@ -222,7 +222,7 @@ void DecoderBox::setState(State state)
 {
     if (m_state != state) {
         m_state = state;
-        emit stateChanged(state);
+        Q_EMIT stateChanged(state);
     }
 }
 
@@ -264,7 +264,7 @@ void DecoderBox::enqueue(const BoxPackage &package, const QString &meaning)
     if (m_state != Talks) {
         return;
     }
-    if (m_queue.size() >= mostQueued) {
+    if (m_queue.size() >= MostQueued) {
         log("box", {}, "too much to send, dropped: " + meaning);
         return;
     }
@@ -299,7 +299,7 @@ void DecoderBox::sendNext()
 void DecoderBox::transmit()
 {
     if (m_speaker->usesAcknowledgement()) {
-        m_acknowledgementTimer.start(acknowledgementMs);
+        m_acknowledgementTimer.start(AcknowledgementMs);
     }
     QString meaning = m_frameMeaning;
     if (m_resends > 0) {
@@ -331,7 +331,7 @@ void DecoderBox::answer(quint8 byte)
     if (m_speaker->usesAcknowledgement() && !m_tongueTimer.isActive()) {
         m_terminal.write(QByteArray(1, char(byte)));
     }
-    if (byte != goodAnswer && m_speaker->usesAcknowledgement()) {
+    if (byte != GoodAnswer && m_speaker->usesAcknowledgement()) {
         log("box>unit", QByteArray(1, char(byte)), "refused");
     }
 }
@@ -343,5 +343,5 @@ void DecoderBox::log(const QString &direction, const QByteArray &bytes, const QS
     if (!bytes.isEmpty()) {
         parts << QString::fromLatin1(bytes.toHex());
     }
-    emit logLine((parts << meaning).join(' '));
+    Q_EMIT logLine((parts << meaning).join(' '));
 }

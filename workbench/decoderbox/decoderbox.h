@@ -13,11 +13,9 @@
 /// opens as its serial port, and the manners of real boxes:
 ///
 /// - It says nothing before the unit's ready. Then it sends the car's state, and afterwards what changes. A
-/// second
-///   ready is ignored while it talks; one after an end or after it fell silent starts it again.
+///   second ready is ignored while it talks; one after an end or after it fell silent starts it again.
 /// - It sends one package at a time and waits for the unit's acknowledgement. 100 ms without one and it sends
-/// the
-///   package again; after the third resend it falls silent until it is started again.
+///   the package again; after the third resend it falls silent until it is started again.
 /// - It answers 0xFF to a good package, 0xF0 to a bad checksum, 0xF3 to a command that it does not know.
 /// - A held key is reported every 200 ms.
 ///
@@ -79,7 +77,7 @@ public:
     /// Says nothing at all for \a ms; what is to be sent waits.
     void holdTongue(int ms);
 
-signals:
+Q_SIGNALS:
     void unitCame();
     void unitLeft();
     void stateChanged(DecoderBox::State state);
@@ -144,4 +142,4 @@ private:
     QElapsedTimer m_clock;
 };
 
-#endif
+#endif // DECODERBOX_H

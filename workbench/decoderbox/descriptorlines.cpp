@@ -42,7 +42,7 @@ void DescriptorLines::read()
     }
     split();
     m_notifier.setEnabled(!m_isAtEnd && m_lines.isEmpty());
-    emit arrived();
+    Q_EMIT arrived();
 }
 
 void DescriptorLines::split()
@@ -54,7 +54,7 @@ void DescriptorLines::split()
         begin = end + 1;
     }
     m_unread.remove(0, begin);
-    if (m_unread.size() > longestLine) {
+    if (m_unread.size() > LongestLine) {
         m_unread.clear();
         m_isSkipping = true;
     }

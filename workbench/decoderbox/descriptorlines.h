@@ -15,7 +15,7 @@ class DescriptorLines : public QObject
 
 public:
     /// Bytes of the longest line.
-    static constexpr int longestLine = 64 * 1024;
+    static constexpr int LongestLine = 64 * 1024;
 
     /// \a descriptor stays the caller's and must outlive the object.
     explicit DescriptorLines(int descriptor, QObject *parent = nullptr);
@@ -30,7 +30,7 @@ public:
     /// Reads no further: what is left of the input counts as its end.
     void stop();
 
-signals:
+Q_SIGNALS:
     /// hasLine() or isAtEnd() may have become true.
     void arrived();
 
@@ -52,4 +52,4 @@ private:
     QSocketNotifier m_notifier;
 };
 
-#endif
+#endif // DESCRIPTORLINES_H

@@ -44,4 +44,4 @@ private:
     quint8 checksum(const char *frame, int size) const;
 };
 
-#endif
+#endif // FRAMEFORMAT_H

@@ -1,14 +1,14 @@
 #include "framereceiver.h"
 
 namespace {
-const int candidateLifetimeMs = 100; // the longest package takes 67 ms on the slowest line
-const quint8 acknowledgement = 0xFF;
+const int CandidateLifetimeMs = 100; // the longest package takes 67 ms on the slowest line
+const quint8 Acknowledgement = 0xFF;
 } // namespace
 
 FrameReceiver::FrameReceiver(const FrameFormat &format, QObject *parent) : QObject(parent), m_format(format)
 {
     m_patience.setSingleShot(true);
-    m_patience.setInterval(candidateLifetimeMs);
+    m_patience.setInterval(CandidateLifetimeMs);
     connect(&m_patience, &QTimer::timeout, this, &FrameReceiver::giveUpWaiting);
 }
 
@@ -49,10 +49,10 @@ void FrameReceiver::work()
 
 void FrameReceiver::takeByteBetweenPackages()
 {
-    const bool isNews = m_rejected == 0 && quint8(m_buffer.at(m_front)) == acknowledgement;
+    const bool isNews = m_rejected == 0 && quint8(m_buffer.at(m_front)) == Acknowledgement;
     pass(1);
     if (isNews) {
-        emit acknowledged();
+        Q_EMIT acknowledged();
     }
 }
 
@@ -82,13 +82,13 @@ bool FrameReceiver::takeCandidate()
     const QByteArray frame = isGood || isNews ? QByteArray(front, size) : QByteArray();
     if (isGood) {
         pass(size);
-        emit packageReceived(m_format.package(frame), frame);
+        Q_EMIT packageReceived(m_format.package(frame), frame);
         return true;
     }
     m_rejected = qMax(m_rejected, size);
     pass(1);
     if (isNews) {
-        emit badChecksum(frame);
+        Q_EMIT badChecksum(frame);
     }
     return true;
 }

@@ -22,7 +22,7 @@ public:
     /// Forgets what is not yet whole.
     void clear();
 
-signals:
+Q_SIGNALS:
     void packageReceived(const BoxPackage &package, const QByteArray &frame);
     /// Once per bad package, with the bytes that should have been one.
     void badChecksum(const QByteArray &frame);
@@ -44,4 +44,4 @@ private:
     QTimer m_patience;  // for the rest of the candidate at the front
 };
 
-#endif
+#endif // FRAMERECEIVER_H

@@ -14,8 +14,8 @@
 
 namespace {
 
-const int lookIntervalMs = 20;
-const int mostUnsentBytes = 64 * 1024;
+const int LookIntervalMs = 20;
+const int MostUnsentBytes = 64 * 1024;
 
 QString systemError(const char *what)
 {
@@ -43,7 +43,7 @@ bool makeRaw(const char *device)
 
 PseudoTerminal::PseudoTerminal(QObject *parent) : QObject(parent)
 {
-    m_lookTimer.setInterval(lookIntervalMs);
+    m_lookTimer.setInterval(LookIntervalMs);
     connect(&m_lookTimer, &QTimer::timeout, this, &PseudoTerminal::lookForUnit);
 }
 
@@ -127,7 +127,7 @@ void PseudoTerminal::drain()
     // One read per turn of the event loop, so that a unit that never stops sending starves nobody.
     const ssize_t count = ::read(m_master, bytes, sizeof bytes);
     if (count > 0) {
-        emit received(QByteArray(bytes, int(count)));
+        Q_EMIT received(QByteArray(bytes, int(count)));
     } else if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
         setUnitThere(false);
     }
@@ -138,7 +138,7 @@ bool PseudoTerminal::write(const QByteArray &bytes)
     if (m_master >= 0 && !m_unitThere) {
         lookForUnit();
     }
-    if (!m_unitThere || m_unsent.size() + bytes.size() > mostUnsentBytes) {
+    if (!m_unitThere || m_unsent.size() + bytes.size() > MostUnsentBytes) {
         return false;
     }
     m_unsent += bytes;
@@ -169,9 +169,9 @@ void PseudoTerminal::setUnitThere(bool there)
     m_writeNotifier->setEnabled(false);
     if (there) {
         m_lookTimer.stop();
-        emit unitCame();
+        Q_EMIT unitCame();
     } else {
         m_lookTimer.start();
-        emit unitLeft();
+        Q_EMIT unitLeft();
     }
 }

@@ -33,7 +33,7 @@ public:
     /// unit has let 64 KiB pile up.
     bool write(const QByteArray &bytes);
 
-signals:
+Q_SIGNALS:
     void received(const QByteArray &bytes);
     void unitCame();
     void unitLeft();
@@ -56,4 +56,4 @@ private:
     std::unique_ptr<QSocketNotifier> m_writeNotifier;
 };
 
-#endif
+#endif // PSEUDOTERMINAL_H

@@ -7,4 +7,4 @@ class QObject;
 /// cleans up, and SIGPIPE is ignored. Once per process; the watch goes with \a parent.
 void quitOnSignals(QObject *parent);
 
-#endif
+#endif // QUITONSIGNALS_H

@@ -5,7 +5,7 @@
 #include <cmath>
 
 namespace {
-const double longestSeconds = 24 * 3600;
+const double LongestSeconds = 24 * 3600;
 }
 
 bool Scenario::load(const QString &path, const DecoderBox &box, QString *error)
@@ -37,7 +37,7 @@ bool Scenario::readStep(const QString &line, const DecoderBox &box, QString *err
     const QString order = line.mid(line.indexOf(time) + time.size()).trimmed();
     bool ok = false;
     const double seconds = time.toDouble(&ok);
-    if (!ok || !std::isfinite(seconds) || seconds < 0 || seconds > longestSeconds) {
+    if (!ok || !std::isfinite(seconds) || seconds < 0 || seconds > LongestSeconds) {
         *error = QString("'%1' is no time in seconds").arg(time);
         return false;
     }

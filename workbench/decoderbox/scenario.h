@@ -31,4 +31,4 @@ private:
     bool readStep(const QString &line, const DecoderBox &box, QString *error);
 };
 
-#endif
+#endif // SCENARIO_H

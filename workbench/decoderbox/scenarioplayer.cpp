@@ -34,5 +34,5 @@ void ScenarioPlayer::playDue()
         steps.at(m_next++).command.carryOut(m_box);
     }
     m_isPlaying = false;
-    emit finished(!steps.isEmpty() && steps.last().command.isEnd());
+    Q_EMIT finished(!steps.isEmpty() && steps.last().command.isEnd());
 }

@@ -21,7 +21,7 @@ public:
     void stop();
     bool isPlaying() const { return m_isPlaying; }
 
-signals:
+Q_SIGNALS:
     /// After the last order, with \a byOrder true when it was `end`.
     void finished(bool byOrder);
 
@@ -36,4 +36,4 @@ private:
     QTimer m_timer;
 };
 
-#endif
+#endif // SCENARIOPLAYER_H

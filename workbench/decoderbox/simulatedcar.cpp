@@ -87,7 +87,7 @@ bool SimulatedCar::setValue(const QString &name, const QVariant &value, QString 
     }
     if (m_values.value(name) != fitting) {
         m_values.insert(name, fitting);
-        emit changed(name);
+        Q_EMIT changed(name);
     }
     return true;
 }

@@ -60,7 +60,7 @@ public:
     /// Every property whose name begins with \a prefix goes back to its initial value.
     void reset(const QString &prefix);
 
-signals:
+Q_SIGNALS:
     void changed(const QString &name);
 
 private:
@@ -69,4 +69,4 @@ private:
     QHash<QString, QVariant> m_values;
 };
 
-#endif
+#endif // SIMULATEDCAR_H

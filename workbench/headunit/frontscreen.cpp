@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int listColumns = 3;
+constexpr int ListColumns = 3;
 
 void postMouse(QWidget *receiver, QEvent::Type type, const QPoint &position)
 {
@@ -167,7 +167,7 @@ bool FrontScreen::rows(QVariantList *rows, QString *error)
     }
     for (int row = 0; row < view->model()->rowCount(); ++row) {
         QVariantList cells;
-        for (int column = 0; column < listColumns; ++column) {
+        for (int column = 0; column < ListColumns; ++column) {
             cells << cell(view->model(), row, column);
         }
         rows->append(QVariant(cells));

@@ -38,4 +38,4 @@ bool clickCell(int row, int column, QString *error);
 
 } // namespace FrontScreen
 
-#endif
+#endif // FRONTSCREEN_H

@@ -71,14 +71,14 @@ bool HeadUnit::key(uint code, KeyPhase phase)
 void HeadUnit::setMode(uint mode, uint other)
 {
     m_mode = mode;
-    emit modeChanged(mode);
-    emit OrbApplication::instance()->modeAppChanged(mode, other);
+    Q_EMIT modeChanged(mode);
+    Q_EMIT OrbApplication::instance()->modeAppChanged(mode, other);
 }
 
 void HeadUnit::setDisk(int disk, int status, const QStringList &partitions)
 {
     OrbHost::instance()->setDiskPartitions(disk, partitions);
-    emit OrbApplication::instance()->diskDeviceStatusChange(disk, status);
+    Q_EMIT OrbApplication::instance()->diskDeviceStatusChange(disk, status);
 }
 
 void HeadUnit::postNumbers(int type, uint param, uint param2)

@@ -55,7 +55,7 @@ public:
     /// A removable disk comes (\a status 1, with the mount points of its partitions) or goes (0).
     void setDisk(int disk, int status, const QStringList &partitions);
 
-signals:
+Q_SIGNALS:
     void modeChanged(uint mode);
 
 private:
@@ -66,4 +66,4 @@ private:
     uint m_mode = 0;
 };
 
-#endif
+#endif // HEADUNIT_H

@@ -10,7 +10,7 @@
 
 namespace {
 
-const char *const boxOption = "--decoder-box";
+const char *const BoxOption = "--decoder-box";
 
 void addOptions(QCommandLineParser *parser)
 {
@@ -39,12 +39,12 @@ QStringList withBoxValueTied(const QStringList &arguments)
 {
     QStringList tied;
     for (int i = 0; i < arguments.size(); ++i) {
-        if (arguments.at(i) != boxOption) {
+        if (arguments.at(i) != BoxOption) {
             tied << arguments.at(i);
         } else if (i + 1 < arguments.size() && !isOption(arguments.at(i + 1))) {
-            tied << QString("%1=%2").arg(boxOption, arguments.at(++i));
+            tied << QString("%1=%2").arg(BoxOption, arguments.at(++i));
         } else {
-            tied << QString(boxOption) + '=';
+            tied << QString(BoxOption) + '=';
         }
     }
     return tied;
@@ -94,14 +94,14 @@ bool readTypes(const QCommandLineParser &parser, HeadUnitOptions *options, QStri
             *error = QString("--can-bus-type takes a number or a class name, not '%1'").arg(typeText);
             return false;
         }
-        options->tags.insert(HeadUnitOptions::canBusTypeTag, number);
+        options->tags.insert(HeadUnitOptions::CanBusTypeTag, number);
     }
     if (parser.isSet("key-redef")) {
         if (!NumberText::read(parser.value("key-redef"), &number)) {
             *error = QString("--key-redef takes a number, not '%1'").arg(parser.value("key-redef"));
             return false;
         }
-        options->tags.insert(HeadUnitOptions::keyRedefTag, number);
+        options->tags.insert(HeadUnitOptions::KeyRedefTag, number);
     }
     return true;
 }

@@ -9,8 +9,8 @@
 /// What the command line of `headunit` asks for.
 struct HeadUnitOptions
 {
-    static constexpr uint canBusTypeTag = 0x10008;
-    static constexpr uint keyRedefTag = 0x1000c;
+    static constexpr uint CanBusTypeTag = 0x10008;
+    static constexpr uint KeyRedefTag = 0x1000c;
 
     QMap<uint, QVariant> tags;
     QMap<QString, QVariant> productValues;
@@ -32,7 +32,7 @@ struct HeadUnitOptions
     static QString usage();
 
     /// The decoder type that the plug-in will read; 0 for none.
-    uint canBusType() const { return tags.value(canBusTypeTag).toUInt(); }
+    uint canBusType() const { return tags.value(CanBusTypeTag).toUInt(); }
 };
 
-#endif
+#endif // HEADUNITOPTIONS_H

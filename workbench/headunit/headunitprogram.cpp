@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int lastPackagesMs = 500; // what the end of a scenario has brought about is still on its way
+constexpr int LastPackagesMs = 500; // what the end of a scenario has brought about is still on its way
 
 // A path on the command line: relative ones are relative to the current folder, "-" is \a standard.
 bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, QString *error)
@@ -166,7 +166,7 @@ bool HeadUnitProgram::openScenario(QString *error)
     connect(m_box.get(), &DecoderBox::unitCame, this, &HeadUnitProgram::playOnce);
     if (m_options.isHeadless && m_options.script.isEmpty()) {
         connect(m_player, &ScenarioPlayer::finished, this,
-                [] { QTimer::singleShot(lastPackagesMs, qApp, &QCoreApplication::quit); });
+                [] { QTimer::singleShot(LastPackagesMs, qApp, &QCoreApplication::quit); });
     }
     return true;
 }

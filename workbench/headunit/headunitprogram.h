@@ -55,4 +55,4 @@ private:
     std::unique_ptr<ScriptRunner> m_script;
 };
 
-#endif
+#endif // HEADUNITPROGRAM_H

@@ -19,4 +19,4 @@ QByteArray fromEvent(const OrbEvent &event);
 
 } // namespace JsonText
 
-#endif
+#endif // JSONTEXT_H

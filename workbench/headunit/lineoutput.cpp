@@ -32,7 +32,7 @@ void LineOutput::writeLine(const QByteArray &line)
     if (!m_isOpen) {
         return;
     }
-    if (m_waiting.size() + line.size() >= capacity) {
+    if (m_waiting.size() + line.size() >= Capacity) {
         if (!m_hasLostLines) {
             std::fputs("headunit: nobody reads the trace, lines are lost\n", stderr);
         }

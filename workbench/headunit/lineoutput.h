@@ -13,7 +13,7 @@ class LineOutput : public QObject
 
 public:
     /// Bytes that may wait for a slow reader.
-    static constexpr int capacity = 16 * 1024 * 1024;
+    static constexpr int Capacity = 16 * 1024 * 1024;
 
     /// \a descriptor, open for writing, stays the caller's and must outlive the output. The process has to
     /// ignore SIGPIPE.
@@ -40,4 +40,4 @@ private:
     QSocketNotifier m_notifier;
 };
 
-#endif
+#endif // LINEOUTPUT_H

@@ -16,4 +16,4 @@ QVariant value(const QString &text);
 
 } // namespace NumberText
 
-#endif
+#endif // NUMBERTEXT_H

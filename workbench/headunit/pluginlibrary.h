@@ -23,4 +23,4 @@ private:
     OrbPluginDestroyFunction m_destroy = nullptr;
 };
 
-#endif
+#endif // PLUGINLIBRARY_H

@@ -15,10 +15,10 @@
 
 namespace {
 
-constexpr int manyTexts = 64;
-constexpr quint32 longestWaitMs = 24 * 3600 * 1000;
-constexpr quint32 firstEventType = QEvent::User; // the types below act on any object, whatever it is
-constexpr quint32 lastEventType = QEvent::MaxUser;
+constexpr int ManyTexts = 64;
+constexpr quint32 LongestWaitMs = 24 * 3600 * 1000;
+constexpr quint32 FirstEventType = QEvent::User; // the types below act on any object, whatever it is
+constexpr quint32 LastEventType = QEvent::MaxUser;
 
 // "0a1B"; false for anything but whole bytes.
 bool readHex(const QString &text, QByteArray *bytes)
@@ -60,12 +60,12 @@ const QVector<ScriptCommands::Row> &ScriptCommands::rows()
         {"state", "STATE MASK", 2, 2, 0, 0, &C::state},
         {"key", "CODE press|repeat|release", 1, 1, 1, 1, &C::key},
         {"mode", "MODE [OTHER]", 1, 2, 0, 0, &C::mode},
-        {"disk", "DISK STATUS [PATH...]", 2, 2, 0, manyTexts, &C::disk},
+        {"disk", "DISK STATUS [PATH...]", 2, 2, 0, ManyTexts, &C::disk},
         {"tag", "ID VALUE", 1, 1, 1, 1, &C::tag},
         {"product", "KEY VALUE", 0, 0, 2, 2, &C::product},
         {"front", "APPID", 1, 1, 0, 0, &C::front},
         {"windows", "", 0, 0, 0, 0, &C::windows},
-        {"open", "TITLE", 0, 0, 1, manyTexts, &C::open},
+        {"open", "TITLE", 0, 0, 1, ManyTexts, &C::open},
         {"text", "NAME", 0, 0, 1, 1, &C::textOf},
         {"style", "NAME", 0, 0, 1, 1, &C::styleOf},
         {"click", "NAME", 0, 0, 1, 1, &C::click},
@@ -108,8 +108,8 @@ bool ScriptCommands::readArguments(const Row &row, const QStringList &arguments)
 
 ScriptCommands::Outcome ScriptCommands::appEvent()
 {
-    if (number(0) < firstEventType || number(0) > lastEventType) {
-        return fail(QString("event types are %1 to %2").arg(firstEventType).arg(lastEventType));
+    if (number(0) < FirstEventType || number(0) > LastEventType) {
+        return fail(QString("event types are %1 to %2").arg(FirstEventType).arg(LastEventType));
     }
     std::unique_ptr<OrbEvent> event(new OrbEvent(0, 0, int(number(0))));
     event->setParams(number(1), number(2));
@@ -241,8 +241,8 @@ ScriptCommands::Outcome ScriptCommands::row()
 
 ScriptCommands::Outcome ScriptCommands::wait()
 {
-    if (number(0) > longestWaitMs) {
-        return fail(QString("the longest wait is %1 ms").arg(longestWaitMs));
+    if (number(0) > LongestWaitMs) {
+        return fail(QString("the longest wait is %1 ms").arg(LongestWaitMs));
     }
     m_waitMs = int(number(0));
     return Waits;

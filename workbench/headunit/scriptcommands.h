@@ -88,4 +88,4 @@ private:
     int m_waitMs = 0;
 };
 
-#endif
+#endif // SCRIPTCOMMANDS_H

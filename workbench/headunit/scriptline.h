@@ -12,4 +12,4 @@ bool split(const QString &line, QStringList *words);
 
 } // namespace ScriptLine
 
-#endif
+#endif // SCRIPTLINE_H

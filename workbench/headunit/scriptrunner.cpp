@@ -7,7 +7,7 @@ namespace {
 
 // Rounds through the posted events until a command has taken effect: its own event is in the first, what that
 // one posts is in the second.
-constexpr int settlingRounds = 2;
+constexpr int SettlingRounds = 2;
 
 } // namespace
 
@@ -32,7 +32,7 @@ void ScriptRunner::work()
     }
     if (!m_isBusy && !m_isOver && m_lines.isAtEnd()) {
         m_isOver = true;
-        emit finished();
+        Q_EMIT finished();
     }
 }
 
@@ -57,7 +57,7 @@ void ScriptRunner::carryOut(const QString &line)
         answer();
         break;
     case ScriptCommands::Posted:
-        settle(settlingRounds);
+        settle(SettlingRounds);
         break;
     case ScriptCommands::Waits:
         m_waitTimer.start(m_commands.waitMs());

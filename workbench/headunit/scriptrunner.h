@@ -23,7 +23,7 @@ public:
     /// Reads from \a descriptor, which stays the caller's. \a unit and \a writer must outlive the runner.
     ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, QObject *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     /// After `quit` or the end of the input; nothing is carried out any more.
     void finished();
 
@@ -43,4 +43,4 @@ private:
     bool m_isOver = false;
 };
 
-#endif
+#endif // SCRIPTRUNNER_H

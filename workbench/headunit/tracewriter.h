@@ -28,4 +28,4 @@ private:
     QElapsedTimer m_clock;
 };
 
-#endif
+#endif // TRACEWRITER_H

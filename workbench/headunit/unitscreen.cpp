@@ -10,8 +10,8 @@ UnitScreen::UnitScreen(const QSize &size, QWidget *parent)
 {
     setObjectName("unitScreen");
     setFixedSize(size);
-    m_statusArea->setGeometry(0, 0, size.width(), statusHeight);
-    m_windowArea->setGeometry(0, statusHeight, size.width(), size.height() - statusHeight);
+    m_statusArea->setGeometry(0, 0, size.width(), StatusHeight);
+    m_windowArea->setGeometry(0, StatusHeight, size.width(), size.height() - StatusHeight);
     QPalette dark = palette();
     dark.setColor(QPalette::Window, QColor("#0E1116"));
     setPalette(dark);

@@ -10,7 +10,7 @@ class UnitScreen : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int statusHeight = 48;
+    static constexpr int StatusHeight = 48;
     static constexpr QSize standardSize() { return QSize(1024, 600); }
 
     /// \a size in pixels, fixed from then on.
@@ -31,4 +31,4 @@ private:
     QWidget *m_windowArea;
 };
 
-#endif
+#endif // UNITSCREEN_H

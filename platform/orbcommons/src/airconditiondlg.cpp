@@ -15,8 +15,9 @@ const int DisplayHeight = 190;
 
 void trace(const char *call, const QVariantList &args)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called(QLatin1String("AirConditionDlg"), QLatin1String(call), args);
+    }
 }
 
 } // namespace
@@ -47,8 +48,9 @@ void AirConditionDlg::setPTCModeVisible(bool visible)
 void AirConditionDlg::setTemperatureRange(double minimum, double maximum)
 {
     trace("setTemperatureRange", QVariantList() << minimum << maximum);
-    if (!(minimum < maximum))
+    if (!(minimum < maximum)) {
         return;
+    }
     d->state.minimum = minimum;
     d->state.maximum = maximum;
     update();
@@ -139,13 +141,15 @@ void AirConditionDlg::mousePressEvent(QMouseEvent *event)
 
 void AirConditionDlg::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (rect().contains(OrbQt::mousePos(event)))
+    if (rect().contains(OrbQt::mousePos(event))) {
         reject();
+    }
 }
 
 void AirConditionDlg::changeEvent(QEvent *event)
 {
     OrbDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         update();
+    }
 }

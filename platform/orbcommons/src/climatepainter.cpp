@@ -66,19 +66,24 @@ void ClimateState::setDirection(int bits)
 
 double scalePosition(const QString &text, double minimum, double maximum)
 {
-    if (text == QLatin1String("LO"))
+    if (text == QLatin1String("LO")) {
         return 0;
-    if (text == QLatin1String("HI"))
+    }
+    if (text == QLatin1String("HI")) {
         return 1;
+    }
     int digits = 0;
-    while (digits < text.size() && (text.at(digits).isDigit() || QString("+-.").contains(text.at(digits))))
+    while (digits < text.size() && (text.at(digits).isDigit() || QString("+-.").contains(text.at(digits)))) {
         ++digits;
+    }
     bool isNumber = false;
     double degrees = text.left(digits).toDouble(&isNumber);
-    if (!isNumber)
+    if (!isNumber) {
         return -1;
-    if (text.endsWith(QLatin1Char('F')))
+    }
+    if (text.endsWith(QLatin1Char('F'))) {
         degrees = (degrees - 32) * 5 / 9;
+    }
     return qBound(0.0, (degrees - minimum) / (maximum - minimum), 1.0);
 }
 
@@ -128,8 +133,9 @@ void ClimatePainter::paintScale(const QRect &room, double position)
     m_painter->setPen(Qt::NoPen);
     m_painter->setBrush(OrbPalette::raised());
     m_painter->drawRoundedRect(room, 4, 4);
-    if (position < 0)
+    if (position < 0) {
         return;
+    }
     QLinearGradient colours(room.topLeft(), room.topRight());
     colours.setColorAt(0, OrbPalette::accent());
     colours.setColorAt(1, OrbPalette::error());
@@ -145,12 +151,13 @@ void ClimatePainter::paintFan(const QRect &room, const ClimateState &state)
     paintIcon(QRect(room.left(), room.top(), 64, room.height()), picture(":/orb/climate/fan.png"), 1);
     const QRect rest = room.adjusted(80, 0, -16, 0);
     m_painter->setPen(OrbPalette::text());
-    if (!state.on)
+    if (!state.on) {
         paintFitted(rest, tr("OFF"), 36, QFont::Bold, Qt::AlignLeft | Qt::AlignVCenter);
-    else if (state.fan == ClimateState::ChosenByCar)
+    } else if (state.fan == ClimateState::ChosenByCar) {
         paintFitted(rest, tr("AUTO"), 36, QFont::Bold, Qt::AlignLeft | Qt::AlignVCenter);
-    else
+    } else {
         paintFanBars(rest, state.fan);
+    }
 }
 
 void ClimatePainter::paintFanBars(const QRect &room, int level)
@@ -196,8 +203,9 @@ void ClimatePainter::paintMarks(const QRect &room, const ClimateState &state)
                                   : ":/orb/climate/air-recirculation.png";
     paintIconChip(chip.translated(2 * pitch, 0), state.circulation != 0, circulation);
     paintIconChip(chip.translated(3 * pitch, 0), state.defrosting, ":/orb/climate/defrost.png");
-    if (state.heaterMark)
+    if (state.heaterMark) {
         paintChip(chip.translated(4 * pitch, 0), false, tr("PTC"));
+    }
 }
 
 void ClimatePainter::paintChip(const QRect &room, bool lit, const QString &text)
@@ -226,8 +234,9 @@ void ClimatePainter::paintFitted(const QRect &room, const QString &text, int lar
     font.setWeight(static_cast<QFont::Weight>(weight));
     int size = largest;
     font.setPixelSize(size);
-    while (size > SmallestFont && OrbQt::textWidth(QFontMetrics(font), text) > room.width())
+    while (size > SmallestFont && OrbQt::textWidth(QFontMetrics(font), text) > room.width()) {
         font.setPixelSize(--size);
+    }
     m_painter->setFont(font);
     m_painter->drawText(room, alignment | Qt::TextDontClip, text);
 }

@@ -35,11 +35,13 @@ bool DragScroller::press(int y)
 
 bool DragScroller::move(int y)
 {
-    if (m_state == Idle)
+    if (m_state == Idle) {
         return false;
+    }
     if (m_state != Dragging) {
-        if (qAbs(y - m_pressY) < DragThreshold)
+        if (qAbs(y - m_pressY) < DragThreshold) {
             return false;
+        }
         m_state = Dragging;
     }
     const int step = m_lastY - y;
@@ -64,12 +66,14 @@ bool DragScroller::release()
 
 void DragScroller::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_glide.timerId())
+    if (event->timerId() != m_glide.timerId()) {
         return;
+    }
     m_place += m_speed * GlideStep;
     m_speed *= GlideFriction;
     m_bar->setValue(qRound(m_place));
     const bool atEnd = m_place <= m_bar->minimum() || m_place >= m_bar->maximum();
-    if (atEnd || std::fabs(m_speed) < SlowestGlide)
+    if (atEnd || std::fabs(m_speed) < SlowestGlide) {
         m_glide.stop();
+    }
 }

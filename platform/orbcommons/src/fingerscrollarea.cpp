@@ -17,8 +17,9 @@ FingerScrollArea::FingerScrollArea(QWidget *content, QWidget *parent)
     setWidget(content);
     content->installEventFilter(this);
     const QList<QAbstractButton *> buttons = content->findChildren<QAbstractButton *>();
-    for (int i = 0; i < buttons.size(); ++i)
+    for (int i = 0; i < buttons.size(); ++i) {
         buttons.at(i)->installEventFilter(this);
+    }
 }
 
 QSize FingerScrollArea::sizeHint() const
@@ -29,20 +30,23 @@ QSize FingerScrollArea::sizeHint() const
 bool FingerScrollArea::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease)
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease) {
         return QScrollArea::eventFilter(watched, event);
+    }
 
     QAbstractButton *button = qobject_cast<QAbstractButton *>(watched);
     const int y = OrbQt::mouseGlobalPos(static_cast<QMouseEvent *>(event)).y();
     bool taken = false;
-    if (type == QEvent::MouseButtonPress)
+    if (type == QEvent::MouseButtonPress) {
         taken = m_scroller->press(y);
-    else if (type == QEvent::MouseMove)
+    } else if (type == QEvent::MouseMove) {
         taken = m_scroller->move(y);
-    else
+    } else {
         taken = !m_scroller->release();
-    if (taken && button)
+    }
+    if (taken && button) {
         button->setDown(false);
+    }
     // What the content itself gets goes no further: the dialog is not to be dragged or tapped through it.
     return taken || !button;
 }

@@ -19,8 +19,9 @@ bool writeExisting(const QString &path, const QByteArray &text)
 {
     QFile file(path);
     if (file.exists() && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-        file.write(text) == text.size())
+        file.write(text) == text.size()) {
         return true;
+    }
     qDebug("GPIO: cannot write \"%s\" to %s", text.constData(), qPrintable(path));
     return false;
 }
@@ -29,10 +30,12 @@ bool writeExisting(const QString &path, const QByteArray &text)
 void writeLineFile(int line, const char *name, const QByteArray &text)
 {
     const QString root = OrbHostPrivate::get()->gpioRoot;
-    if (root.isEmpty())
+    if (root.isEmpty()) {
         return;
-    if (QDir(lineFolder(line)).exists() || writeExisting(root + "/export", QByteArray::number(line)))
+    }
+    if (QDir(lineFolder(line)).exists() || writeExisting(root + "/export", QByteArray::number(line))) {
         writeExisting(lineFolder(line) + '/' + name, text);
+    }
 }
 
 } // namespace
@@ -41,10 +44,12 @@ GPIOOperater::GPIOOperater(int line) : m_line(line) {}
 
 void GPIOOperater::setDirection(const QString &direction)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("GPIOOperater", "setDirection", QVariantList() << m_line << direction);
-    if (m_line < 0 || (direction != "in" && direction != "out"))
+    }
+    if (m_line < 0 || (direction != "in" && direction != "out")) {
         return;
+    }
     writeLineFile(m_line, "direction", direction.toLatin1());
     OrbHostPrivate::GpioLine state = OrbHostPrivate::get()->gpioLines.value(m_line);
     state.direction = direction;
@@ -58,10 +63,12 @@ QString GPIOOperater::direction() const
 
 void GPIOOperater::setValue(int value)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("GPIOOperater", "setValue", QVariantList() << m_line << value);
-    if (m_line < 0)
+    }
+    if (m_line < 0) {
         return;
+    }
     writeLineFile(m_line, "value", value ? "1" : "0");
     OrbHostPrivate::GpioLine state = OrbHostPrivate::get()->gpioLines.value(m_line);
     state.value = value ? 1 : 0;
@@ -72,7 +79,8 @@ int GPIOOperater::value() const
 {
     // What an input is at, only its file knows.
     QFile file(lineFolder(m_line) + "/value");
-    if (!OrbHostPrivate::get()->gpioRoot.isEmpty() && direction() == "in" && file.open(QIODevice::ReadOnly))
+    if (!OrbHostPrivate::get()->gpioRoot.isEmpty() && direction() == "in" && file.open(QIODevice::ReadOnly)) {
         return file.read(1) == "1" ? 1 : 0;
+    }
     return OrbHostPrivate::get()->gpioLines.value(m_line).value;
 }

@@ -9,20 +9,21 @@
 namespace {
 
 /// Settings are a few hundred bytes; anything as large as this is none of our files.
-const int maxFileBytes = 1024 * 1024;
+const int MaxFileBytes = 1024 * 1024;
 
 } // namespace
 
 IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
 {
-    if (!QFile::exists(path))
+    if (!QFile::exists(path)) {
         return;
-    const QByteArray content = SafeFile::read(path, maxFileBytes);
+    }
+    const QByteArray content = SafeFile::read(path, MaxFileBytes);
     if (IniText::read(content, &m_sections)) {
         m_content = content;
         return;
     }
-    const bool found = IniText::read(SafeFile::read(predecessor(), maxFileBytes), &m_sections);
+    const bool found = IniText::read(SafeFile::read(predecessor(), MaxFileBytes), &m_sections);
     qDebug("Settings: %s is damaged, %s", qPrintable(path),
            found ? "its predecessor is used" : "it counts as empty");
 }
@@ -50,8 +51,9 @@ QString IniFile::value(const QString &section, const QString &key) const
 
 bool IniFile::setValue(const QString &section, const QString &key, const QString &text)
 {
-    if (contains(section, key) && value(section, key) == text && !m_unsaved)
+    if (contains(section, key) && value(section, key) == text && !m_unsaved) {
         return true;
+    }
     m_sections[section].insert(key, text);
     m_unsaved = !save();
     return !m_unsaved;
@@ -60,15 +62,17 @@ bool IniFile::setValue(const QString &section, const QString &key, const QString
 bool IniFile::save()
 {
     const QByteArray content = IniText::write(m_sections);
-    if (content.size() > maxFileBytes) {
-        qDebug("Settings: %s would grow past %d bytes", qPrintable(m_path), maxFileBytes);
+    if (content.size() > MaxFileBytes) {
+        qDebug("Settings: %s would grow past %d bytes", qPrintable(m_path), MaxFileBytes);
         return false;
     }
     // The predecessor is renewed first: from here on one of the two files is good at any moment.
-    if (!m_content.isNull() && !SafeFile::replace(predecessor(), m_content))
+    if (!m_content.isNull() && !SafeFile::replace(predecessor(), m_content)) {
         return false;
-    if (!SafeFile::replace(m_path, content))
+    }
+    if (!SafeFile::replace(m_path, content)) {
         return false;
+    }
     m_content = content;
     return true;
 }

@@ -5,13 +5,13 @@
 
 namespace {
 
-const char headLine[] =
+const char HeadLine[] =
     "; Kept by the head unit. Remove this line and the last one to edit the file by hand.\n";
-const char checksumMark[] = "; sha1=";
+const char ChecksumMark[] = "; sha1=";
 
 QByteArray checksumLine(const QByteArray &content)
 {
-    return checksumMark + QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex() + '\n';
+    return ChecksumMark + QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex() + '\n';
 }
 
 QString hexEscape(QChar c)
@@ -31,12 +31,13 @@ QString escaped(const QString &text, const QString &special)
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text.at(i);
         const bool trimmedAway = c.isSpace() && (i == 0 || i == text.size() - 1);
-        if (c == QChar('\\'))
+        if (c == QChar('\\')) {
             result += "\\\\";
-        else if (isControl(c) || special.contains(c) || trimmedAway)
+        } else if (isControl(c) || special.contains(c) || trimmedAway) {
             result += hexEscape(c);
-        else
+        } else {
             result += c;
+        }
     }
     return result;
 }
@@ -64,30 +65,35 @@ QString unescaped(const QString &text)
 /// Whether a file that bears our first or last line, or a piece of the first, is as it was written.
 bool isWhole(const QByteArray &bytes)
 {
-    const QByteArray head(headLine);
-    if (head.startsWith(bytes))
+    const QByteArray head(HeadLine);
+    if (head.startsWith(bytes)) {
         return false;
+    }
     const int lastLine = int(bytes.lastIndexOf('\n', bytes.size() - 2)) + 1;
-    if (!bytes.startsWith(head) && !bytes.mid(lastLine).startsWith(checksumMark))
+    if (!bytes.startsWith(head) && !bytes.mid(lastLine).startsWith(ChecksumMark)) {
         return true;
+    }
     return bytes.startsWith(head) && bytes.mid(lastLine) == checksumLine(bytes.left(lastLine));
 }
 
 /// One line without blanks at its ends; false when it means nothing.
 bool readLine(const QString &line, QString *section, IniText::Sections *sections)
 {
-    if (line.isEmpty() || line.startsWith(';') || line.startsWith('#'))
+    if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) {
         return true;
+    }
     if (line.startsWith('[') && line.endsWith(']')) {
         *section = unescaped(line.mid(1, line.size() - 2).trimmed());
         return true;
     }
     const int equals = int(line.indexOf('='));
-    if (equals <= 0)
+    if (equals <= 0) {
         return false;
+    }
     QString value = line.mid(equals + 1).trimmed();
-    if (value.size() > 1 && value.startsWith('"') && value.endsWith('"'))
+    if (value.size() > 1 && value.startsWith('"') && value.endsWith('"')) {
         value = value.mid(1, value.size() - 2);
+    }
     (*sections)[*section].insert(unescaped(line.left(equals).trimmed()), unescaped(value));
     return true;
 }
@@ -96,37 +102,43 @@ bool readLine(const QString &line, QString *section, IniText::Sections *sections
 
 QByteArray IniText::write(const Sections &sections)
 {
-    QByteArray bytes(headLine);
+    QByteArray bytes(HeadLine);
     for (Sections::const_iterator s = sections.constBegin(); s != sections.constEnd(); ++s) {
         // The section without a name sorts first, where it needs no heading.
-        if (!s.key().isEmpty())
+        if (!s.key().isEmpty()) {
             bytes += '[' + escaped(s.key(), "[]").toUtf8() + "]\n";
-        for (Section::const_iterator v = s.value().constBegin(); v != s.value().constEnd(); ++v)
+        }
+        for (Section::const_iterator v = s.value().constBegin(); v != s.value().constEnd(); ++v) {
             bytes += escaped(v.key(), "=[;#").toUtf8() + '=' + escaped(v.value(), "\"").toUtf8() + '\n';
+        }
     }
     return bytes + checksumLine(bytes);
 }
 
 bool IniText::read(const QByteArray &bytes, Sections *sections)
 {
-    if (!isWhole(bytes))
+    if (!isWhole(bytes)) {
         return false;
+    }
     // A mark that some editors put before the text.
     const QByteArray utf8 = bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes;
     const QString text = QString::fromUtf8(utf8.constData(), int(utf8.size()));
-    if (text.toUtf8() != utf8)
+    if (text.toUtf8() != utf8) {
         return false;
+    }
     Sections found;
     QString section;
     const QStringList lines = text.split('\n');
     for (int i = 0; i < lines.size(); ++i) {
         const QString line = lines.at(i).trimmed();
         for (int k = 0; k < line.size(); ++k) {
-            if (isControl(line.at(k)) && line.at(k) != QChar('\t'))
+            if (isControl(line.at(k)) && line.at(k) != QChar('\t')) {
                 return false;
+            }
         }
-        if (!readLine(line, &section, &found))
+        if (!readLine(line, &section, &found)) {
             return false;
+        }
     }
     *sections = found;
     return true;

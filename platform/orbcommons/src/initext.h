@@ -9,10 +9,9 @@
 /// that a file was cut short, and takes a comma for a list.)
 ///
 /// UTF-8, `[section]` and `key=value` lines in alphabetical order, `;` and `#` comments. A backslash is
-/// written
-/// `\\`, a control character and whatever else a line would lose `\uHHHH`. The first line says that the file
-/// is kept by the head unit, the last one bears the checksum of all before it; a file with either must have
-/// both right. One with neither was written by hand and needs to parse.
+/// written `\\`, a control character and whatever else a line would lose `\uHHHH`. The first line says that
+/// the file is kept by the head unit, the last one bears the checksum of all before it; a file with either
+/// must have both right. One with neither was written by hand and needs to parse.
 namespace IniText {
 
 typedef QMap<QString, QString> Section;

@@ -38,36 +38,43 @@ QStringList OrbApplication::getFactorySetting(const QString &key)
 
 void OrbApplication::simulateKey(int key, bool press, bool autoRepeat, int last)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("OrbApplication", "simulateKey",
                                    QVariantList() << key << press << autoRepeat << last);
-    if (OrbApplication *application = instance())
+    }
+    if (OrbApplication *application = instance()) {
         Q_EMIT application->keySimulated(key, press, autoRepeat, last);
+    }
 }
 
 void OrbApplication::simulateMouse(int type, int x, int y)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("OrbApplication", "simulateMouse", QVariantList() << type << x << y);
+    }
     OrbHostPrivate::get()->touch->inject(type, x, y);
 }
 
 void OrbApplication::dispatchOrbEvent(OrbEvent *event)
 {
-    if (!event)
+    if (!event) {
         return;
-    if (OrbTrace::listener)
+    }
+    if (OrbTrace::listener) {
         OrbTrace::listener->eventCalled("dispatchOrbEvent", *event);
-    if (int(event->type()) == OrbEvent::AppIconType)
+    }
+    if (int(event->type()) == OrbEvent::AppIconType) {
         OrbHostPrivate::get()->setAppIcons(event->getParam(), event->getStringParam());
+    }
     Q_EMIT orbEventDispatched(event);
 }
 
 void OrbApplication::addKeyFilter(OrbKeyFilter *filter)
 {
     QList<OrbKeyFilter *> &filters = OrbHostPrivate::get()->keyFilters;
-    if (filter && !filters.contains(filter))
+    if (filter && !filters.contains(filter)) {
         filters.append(filter);
+    }
 }
 
 void OrbApplication::removeKeyFilter(OrbKeyFilter *filter)
@@ -78,10 +85,12 @@ void OrbApplication::removeKeyFilter(OrbKeyFilter *filter)
 bool OrbApplication::event(QEvent *event)
 {
     const OrbEvent *orbEvent = dynamic_cast<OrbEvent *>(event);
-    if (!orbEvent)
+    if (!orbEvent) {
         return QApplication::event(event);
-    if (OrbTrace::listener)
+    }
+    if (OrbTrace::listener) {
         OrbTrace::listener->eventCalled("event", *orbEvent);
+    }
     Q_EMIT orbEventReceived(orbEvent);
     return true;
 }

@@ -106,15 +106,17 @@ int OrbChoiceDialog::choose(const QString &title, const QStringList &texts, int 
 void OrbChoiceDialog::showEvent(QShowEvent *event)
 {
     OrbDialog::showEvent(event);
-    if (QAbstractButton *chosen = m_group->checkedButton())
+    if (QAbstractButton *chosen = m_group->checkedButton()) {
         findChild<QScrollArea *>()->ensureWidgetVisible(chosen, 0, RowHeight / 2);
+    }
 }
 
 void OrbChoiceDialog::changeEvent(QEvent *event)
 {
     OrbDialog::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
+    if (event->type() != QEvent::LanguageChange) {
         return;
+    }
     findChild<QPushButton *>(QLatin1String("btnOk"))->setText(tr("OK"));
     findChild<QPushButton *>(QLatin1String("btnCancel"))->setText(tr("Cancel"));
 }

@@ -15,7 +15,7 @@ struct OwnTitle
 };
 
 /// Titles of the framework's own applications.
-const OwnTitle ownTitles[] = {
+const OwnTitle OwnTitles[] = {
     {1, QT_TRANSLATE_NOOP("OrbCommons", "Radio")},
     {2, QT_TRANSLATE_NOOP("OrbCommons", "Music")},
     {3, QT_TRANSLATE_NOOP("OrbCommons", "Video")},
@@ -27,8 +27,9 @@ const OwnTitle ownTitles[] = {
 
 void registerTitle(const char *call, unsigned int appId, const QString &title)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("OrbCommons", call, QVariantList() << appId << title);
+    }
     OrbHostPrivate::get()->setAppTitle(appId, title);
 }
 
@@ -47,11 +48,13 @@ void TranslateAppTitle(unsigned int appId, const QString &title)
 QString AppTitleFromAppId(unsigned int appId)
 {
     const QHash<unsigned int, QString> &titles = OrbHostPrivate::get()->titles;
-    if (titles.contains(appId))
+    if (titles.contains(appId)) {
         return titles.value(appId);
-    for (size_t i = 0; i < sizeof ownTitles / sizeof ownTitles[0]; ++i) {
-        if (ownTitles[i].appId == appId)
-            return QCoreApplication::translate("OrbCommons", ownTitles[i].title);
+    }
+    for (size_t i = 0; i < sizeof OwnTitles / sizeof OwnTitles[0]; ++i) {
+        if (OwnTitles[i].appId == appId) {
+            return QCoreApplication::translate("OrbCommons", OwnTitles[i].title);
+        }
     }
     return QString();
 }
@@ -59,8 +62,9 @@ QString AppTitleFromAppId(unsigned int appId)
 quint64 GetTickCountMs()
 {
     const OrbHostPrivate *host = OrbHostPrivate::get();
-    if (host->tickHeld)
+    if (host->tickHeld) {
         return host->heldTick;
+    }
     // Counted from the machine's start, not from the first call: a difference to 0, the value of a time that
     // was never taken, has to be large.
     QElapsedTimer timer;

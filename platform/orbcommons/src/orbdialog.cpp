@@ -33,13 +33,15 @@ void OrbDialog::setVisible(bool visible)
 {
     WindowStack *stack = WindowStack::instance();
     stack->traceVisibility(this, visible);
-    if (visible)
+    if (visible) {
         stack->place(this);
+    }
     QDialog::setVisible(visible);
-    if (visible)
+    if (visible) {
         stack->shown(this);
-    else
+    } else {
         stack->hidden(this);
+    }
 }
 
 void OrbDialog::done(int result)

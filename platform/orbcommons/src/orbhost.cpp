@@ -17,10 +17,11 @@ OrbHost *theHost = nullptr;
 template <typename Key, typename Value>
 void setOrRemove(QHash<Key, Value> *table, const Key &key, const Value &value, bool empty)
 {
-    if (empty)
+    if (empty) {
         table->remove(key);
-    else
+    } else {
         table->insert(key, value);
+    }
 }
 
 /// A language name becomes part of a file pattern: letters, digits and underscores only.
@@ -28,8 +29,9 @@ bool isLanguageName(const QString &language)
 {
     for (int i = 0; i < language.size(); ++i) {
         const QChar c = language.at(i);
-        if (!c.isLetterOrNumber() && c != QLatin1Char('_'))
+        if (!c.isLetterOrNumber() && c != QLatin1Char('_')) {
             return false;
+        }
     }
     return !language.isEmpty();
 }
@@ -54,8 +56,9 @@ OrbHostPrivate::~OrbHostPrivate()
 
 void OrbHostPrivate::destroy()
 {
-    if (theHost)
+    if (theHost) {
         theHost->d->windowStack->leaveArea();
+    }
     OrbHost *host = theHost;
     theHost = nullptr;
     delete host;
@@ -63,10 +66,12 @@ void OrbHostPrivate::destroy()
 
 void OrbHostPrivate::setAppTitle(unsigned int appId, const QString &title)
 {
-    if (titles.contains(appId) && titles.value(appId) == title)
+    if (titles.contains(appId) && titles.value(appId) == title) {
         return;
-    if (!titles.contains(appId))
+    }
+    if (!titles.contains(appId)) {
         titleOrder.append(appId);
+    }
     titles.insert(appId, title);
     Q_EMIT q->appTitleChanged(appId, title);
 }
@@ -79,8 +84,9 @@ void OrbHostPrivate::setAppIcons(unsigned int appId, const QString &normalAndHig
         const QString highlighted = normalAndHighlighted.section(',', 1, 1).trimmed();
         paths << normal << (highlighted.isEmpty() ? normal : highlighted);
     }
-    if (icons.value(appId) == paths)
+    if (icons.value(appId) == paths) {
         return;
+    }
     setOrRemove(&icons, appId, paths, paths.isEmpty());
     Q_EMIT q->appIconsChanged(appId);
 }
@@ -89,24 +95,27 @@ void OrbHostPrivate::setGpioLine(int line, const GpioLine &state)
 {
     const GpioLine before = gpioLines.value(line);
     gpioLines.insert(line, state);
-    if (before.direction != state.direction || before.value != state.value)
+    if (before.direction != state.direction || before.value != state.value) {
         Q_EMIT q->gpioChanged(line, state.direction, state.value);
+    }
 }
 
 QList<QTranslator *> OrbHostPrivate::loadTranslators(const QString &wanted) const
 {
     QList<QTranslator *> loaded;
-    if (!isLanguageName(wanted))
+    if (!isLanguageName(wanted)) {
         return loaded;
+    }
     for (int i = 0; i < translationDirs.size(); ++i) {
         const QDir dir(translationDirs.at(i));
         const QStringList files = dir.entryList(QStringList("*_" + wanted + ".qm"), QDir::Files, QDir::Name);
         for (int k = 0; k < files.size(); ++k) {
             QTranslator *translator = new QTranslator;
-            if (translator->load(dir.filePath(files.at(k))))
+            if (translator->load(dir.filePath(files.at(k)))) {
                 loaded.append(translator);
-            else
+            } else {
                 delete translator;
+            }
         }
     }
     return loaded;
@@ -124,8 +133,9 @@ OrbHost::~OrbHost()
 
 OrbHost *OrbHost::instance()
 {
-    if (!theHost)
+    if (!theHost) {
         theHost = new OrbHost;
+    }
     return theHost;
 }
 
@@ -211,8 +221,9 @@ bool OrbHost::filterKey(unsigned int key, bool pressed, bool held)
     // A filter may add and remove filters while it is asked: ask those that were there, as long as they are.
     const QList<OrbKeyFilter *> asked = d->keyFilters;
     for (int i = 0; i < asked.size(); ++i) {
-        if (d->keyFilters.contains(asked.at(i)) && asked.at(i)->filterKey(key, pressed, held))
+        if (d->keyFilters.contains(asked.at(i)) && asked.at(i)->filterKey(key, pressed, held)) {
             return true;
+        }
     }
     return false;
 }
@@ -230,15 +241,18 @@ QStringList OrbHost::appIcons(unsigned int appId) const
 bool OrbHost::setLanguage(const QString &language)
 {
     const QList<QTranslator *> loaded = d->loadTranslators(language);
-    if (loaded.isEmpty() && language != "en")
+    if (loaded.isEmpty() && language != "en") {
         return false;
+    }
     const QList<QTranslator *> before = d->translators;
     d->translators = loaded;
     d->language = language;
-    for (int i = 0; i < before.size(); ++i)
+    for (int i = 0; i < before.size(); ++i) {
         QCoreApplication::removeTranslator(before.at(i));
-    for (int i = 0; i < loaded.size(); ++i)
+    }
+    for (int i = 0; i < loaded.size(); ++i) {
         QCoreApplication::installTranslator(loaded.at(i));
+    }
     qDeleteAll(before);
     return true;
 }
@@ -250,8 +264,9 @@ QString OrbHost::language() const
 
 void OrbHost::addTranslationDir(const QString &path)
 {
-    if (!d->translationDirs.contains(path))
+    if (!d->translationDirs.contains(path)) {
         d->translationDirs.append(path);
+    }
 }
 
 void OrbHost::holdTickCount(quint64 milliseconds)

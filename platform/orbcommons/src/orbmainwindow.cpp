@@ -46,13 +46,15 @@ void OrbMainWindow::setVisible(bool visible)
         d->skinLoaded = true;
         onLoadUiSkin();
     }
-    if (visible)
+    if (visible) {
         stack->place(this);
+    }
     QMainWindow::setVisible(visible);
-    if (visible)
+    if (visible) {
         stack->shown(this);
-    else
+    } else {
         stack->hidden(this);
+    }
     if (visible != d->visible) {
         d->visible = visible;
         onVisibleChange(visible);
@@ -63,16 +65,18 @@ void OrbMainWindow::back()
 {
     const QPointer<OrbMainWindow> guard(this);
     onBackEvent();
-    if (guard && !isHidden())
+    if (guard && !isHidden()) {
         setVisible(false);
+    }
 }
 
 void OrbMainWindow::home()
 {
     const QPointer<OrbMainWindow> guard(this);
     onHomeEvent();
-    if (guard && !isHidden())
+    if (guard && !isHidden()) {
         setVisible(false);
+    }
 }
 
 void OrbMainWindow::onLoadUiSkin() {}
@@ -86,6 +90,7 @@ void OrbMainWindow::onHomeEvent() {}
 void OrbMainWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowTitleChange && d->titleBar)
+    if (event->type() == QEvent::WindowTitleChange && d->titleBar) {
         d->titleBar->setTitle(windowTitle());
+    }
 }

@@ -37,13 +37,15 @@ void applyOrbSkin(QApplication &application)
 {
     Q_INIT_RESOURCE(orbskin);
     // One base style everywhere, so that the style sheet meets no surprises; a Qt without it keeps its own.
-    if (QStyle *style = QStyleFactory::create(QLatin1String("Fusion")))
+    if (QStyle *style = QStyleFactory::create(QLatin1String("Fusion"))) {
         application.setStyle(style);
+    }
     application.setPalette(darkPalette());
     QFont font(QLatin1String("Noto Sans"));
     font.setPixelSize(20);
     application.setFont(font);
     QFile sheet(QLatin1String(":/orb/skin.qss"));
-    if (sheet.open(QIODevice::ReadOnly))
+    if (sheet.open(QIODevice::ReadOnly)) {
         application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    }
 }

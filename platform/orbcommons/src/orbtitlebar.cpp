@@ -63,8 +63,9 @@ void OrbTitleBar::resizeEvent(QResizeEvent *event)
 void OrbTitleBar::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         elideTitle();
+    }
 }
 
 void OrbTitleBar::elideTitle()

@@ -29,19 +29,22 @@ void PacedWriter::setDevice(QIODevice *device)
 void PacedWriter::enqueue(const QByteArray &package)
 {
     const bool full = m_queue.size() >= QueueLimit;
-    if (full && !m_refusing)
+    if (full && !m_refusing) {
         qWarning("ProtocolUtils: %d packages wait to be written, further ones are refused", QueueLimit);
+    }
     m_refusing = full;
-    if (full)
+    if (full) {
         return;
+    }
     m_queue.enqueue(package);
     sendQueued();
 }
 
 void PacedWriter::writeNow(const QByteArray &bytes)
 {
-    if (m_device && m_unsent.size() < UnsentLimit)
+    if (m_device && m_unsent.size() < UnsentLimit) {
         write(bytes);
+    }
 }
 
 // Sends what may leave by now and arms the timer for the rest.
@@ -50,8 +53,9 @@ void PacedWriter::sendQueued()
     while (m_device && !m_queue.isEmpty()) {
         const qint64 wait = m_sinceWrite.isValid() ? m_interval - m_sinceWrite.elapsed() : 0;
         if (wait > 0 || !m_unsent.isEmpty()) {
-            if (!m_timer.isActive())
-                m_timer.start(static_cast<int>(qMax<qint64>(wait, 1)));
+            if (!m_timer.isActive()) {
+                m_timer.start(int(qMax<qint64>(wait, 1)));
+            }
             return;
         }
         // It leaves the queue first: a write that fails half-way must not send it a second time.
@@ -82,7 +86,7 @@ void PacedWriter::write(const QByteArray &bytes)
     if (written < 0) {
         Q_EMIT failed();
     } else if (written < bytes.size()) {
-        m_unsent = bytes.mid(static_cast<int>(written));
+        m_unsent = bytes.mid(int(written));
         m_timer.start(RetryInterval);
     }
 }

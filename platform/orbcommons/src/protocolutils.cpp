@@ -56,8 +56,9 @@ public:
 
     void setPollInterval(int milliseconds)
     {
-        if (poll->interval() != milliseconds || !poll->isActive())
+        if (poll->interval() != milliseconds || !poll->isActive()) {
             poll->start(milliseconds);
+        }
     }
 
     void log(const char *direction, const QByteArray &package) const
@@ -70,15 +71,16 @@ public:
     // one read.
     char *compact(QByteArray *buffer)
     {
-        const int rest = static_cast<int>(buffer->size()) - cursor;
+        const int rest = int(buffer->size()) - cursor;
         char *bytes = buffer->data();
         if (buffer->capacity() < rest + ReadSize) {
             buffer->reserve(LongestPackage + ReadSize);
             bytes = buffer->data();
         }
         if (cursor > 0) {
-            if (rest > 0)
-                memmove(bytes, bytes + cursor, static_cast<size_t>(rest));
+            if (rest > 0) {
+                memmove(bytes, bytes + cursor, size_t(rest));
+            }
             streamBase += cursor;
             cursor = 0;
         }
@@ -129,8 +131,9 @@ ProtocolUtils::~ProtocolUtils()
 
 void ProtocolUtils::attachIODevice(QIODevice *device)
 {
-    if (m_d->device)
+    if (m_d->device) {
         disconnect(m_d->device, nullptr, this, nullptr);
+    }
     m_d->device = device;
     m_d->isOpen = device && device->isOpen();
     m_d->announces = false;
@@ -138,8 +141,9 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     recvBuffer.reserve(ReadSize + LongestPackage);
     m_d->poll->stop();
     m_d->reopen->stop();
-    if (!device)
+    if (!device) {
         return;
+    }
     m_d->minimum = qMax(1, getPackageMinSize());
     connect(device, SIGNAL(readyRead()), this, SLOT(onDeviceAnnouncesData()));
     connect(device, SIGNAL(readChannelFinished()), this, SLOT(onDeviceLost()));
@@ -156,7 +160,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
 // A device has been opened: what the one before left unfinished does not go on here.
 void ProtocolUtils::startPolling()
 {
-    m_d->cursor = static_cast<int>(recvBuffer.size());
+    m_d->cursor = int(recvBuffer.size());
     m_d->candidateSize = 0;
     m_d->needed = 0;
     m_d->age.clear();
@@ -180,20 +184,23 @@ void ProtocolUtils::onReadDeviceDatas()
     while (m_d->isOpen) {
         // The device writes behind the bytes that are held, into reserved room; the size follows what came.
         char *const room = m_d->compact(&recvBuffer);
-        const int held = static_cast<int>(room - recvBuffer.constData());
-        const int count = static_cast<int>(m_d->device->read(room, ReadSize));
+        const int held = int(room - recvBuffer.constData());
+        const int count = int(m_d->device->read(room, ReadSize));
         recvBuffer.resize(held + qMax(count, 0));
         if (count <= 0) {
-            if (count < 0)
+            if (count < 0) {
                 onDeviceLost();
+            }
             return;
         }
         m_d->received = true;
-        if (held + count >= m_d->needed)
+        if (held + count >= m_d->needed) {
             framePackages();
+        }
         // A full read says that there may be more; after a short one the device is asked.
-        if (count < ReadSize && (!m_d->isOpen || m_d->device->bytesAvailable() <= 0))
+        if (count < ReadSize && (!m_d->isOpen || m_d->device->bytesAvailable() <= 0)) {
             return;
+        }
     }
 }
 
@@ -210,11 +217,12 @@ void ProtocolUtils::framePackages()
     p->needed = minimum;
     for (;;) {
         if (size == 0) {
-            if (recvBuffer.size() - cursor < minimum)
+            if (recvBuffer.size() - cursor < minimum) {
                 break;
+            }
             const int start = findPackageStartSig(cursor);
             if (start != cursor) {
-                cursor = start < cursor ? static_cast<int>(recvBuffer.size()) : start;
+                cursor = start < cursor ? int(recvBuffer.size()) : start;
                 continue;
             }
             size = getPackageSize(cursor);
@@ -250,9 +258,10 @@ inline void ProtocolUtils::emitPackage(const char *bytes, int size)
         emission = QByteArray();
         emission.reserve(LongestPackage);
     }
-    if (emission.size() != size)
+    if (emission.size() != size) {
         emission.resize(size);
-    memcpy(const_cast<char *>(emission.constData()), bytes, static_cast<size_t>(size));
+    }
+    memcpy(const_cast<char *>(emission.constData()), bytes, size_t(size));
     m_d->emitting = true;
     Q_EMIT recvProtocolData(emission);
     m_d->emitting = false;
@@ -263,25 +272,29 @@ inline void ProtocolUtils::emitPackage(const char *bytes, int size)
 void ProtocolUtils::emitPackageWatched(const char *bytes, int size)
 {
     const QByteArray package(bytes, size);
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", QVariantList() << package);
-    if (m_d->debug)
+    }
+    if (m_d->debug) {
         m_d->log("recv", package);
+    }
     Q_EMIT recvProtocolData(package);
 }
 
 // Whether a whole good package lies behind the first byte of the unfinished candidate at the cursor.
 bool ProtocolUtils::holdsPackageBehind()
 {
-    const int held = static_cast<int>(recvBuffer.size());
+    const int held = int(recvBuffer.size());
     for (int from = m_d->cursor + 1; held - from >= m_d->minimum; ++from) {
         const int start = findPackageStartSig(from);
-        if (start < from || held - start < m_d->minimum)
+        if (start < from || held - start < m_d->minimum) {
             return false;
+        }
         const int size = getPackageSize(start);
         if (size >= m_d->minimum && size <= qMin(held - start, LongestPackage) &&
-            isAvaliablePackage(start, start + size - 1, size))
+            isAvaliablePackage(start, start + size - 1, size)) {
             return true;
+        }
         from = start;
     }
     return false;
@@ -291,10 +304,11 @@ void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
     onReadDeviceDatas();
-    if (!m_d->isOpen)
+    if (!m_d->isOpen) {
         return;
+    }
 
-    const int elapsed = static_cast<int>(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
+    const int elapsed = int(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
     m_d->quietTime = m_d->received ? 0 : qMin(m_d->quietTime + elapsed, BusyTime);
     m_d->received = false;
     m_d->age.advance(elapsed, m_d->streamBase + recvBuffer.size());
@@ -307,10 +321,11 @@ void ProtocolUtils::onPollTimer()
         m_d->candidateSize = 0;
         framePackages();
     }
-    if (m_d->quietTime < BusyTime || recvBuffer.size() > m_d->cursor)
+    if (m_d->quietTime < BusyTime || recvBuffer.size() > m_d->cursor) {
         m_d->setPollInterval(BusyPollInterval);
-    else
+    } else {
         m_d->setPollInterval(m_d->announces ? AnnouncedPollInterval : IdlePollInterval);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- writing
@@ -322,30 +337,34 @@ void ProtocolUtils::setWritePackageIntval(int milliseconds)
 
 void ProtocolUtils::writeDatas(const QByteArray &package)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("ProtocolUtils", "writeDatas", QVariantList() << package);
+    }
     m_d->writer->enqueue(package);
 }
 
 void ProtocolUtils::writeDatas_direct(const QByteArray &bytes)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called("ProtocolUtils", "writeDatas_direct", QVariantList() << bytes);
+    }
     m_d->writer->writeNow(bytes);
 }
 
 void ProtocolUtils::onPackageSent(const QByteArray &package)
 {
-    if (m_d->debug)
+    if (m_d->debug) {
         m_d->log("send", package);
+    }
 }
 
 // ---------------------------------------------------------------------------------------- device states
 
 void ProtocolUtils::onDeviceLost()
 {
-    if (!m_d->isOpen)
+    if (!m_d->isOpen) {
         return;
+    }
     qWarning("ProtocolUtils: lost the device (%s), trying again every second",
              qPrintable(m_d->device->errorString()));
     m_d->poll->stop();
@@ -363,8 +382,9 @@ void ProtocolUtils::onDeviceDestroyed()
 
 void ProtocolUtils::onReopenTimer()
 {
-    if (!m_d->device->isOpen() && !m_d->device->open(m_d->openMode))
+    if (!m_d->device->isOpen() && !m_d->device->open(m_d->openMode)) {
         return;
+    }
     m_d->isOpen = true;
     m_d->reopen->stop();
     qWarning("ProtocolUtils: the device is there again");

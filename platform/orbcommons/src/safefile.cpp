@@ -27,8 +27,9 @@ bool flushToDisk(int descriptor)
 void flushFolder(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
+    if (descriptor < 0) {
         return;
+    }
     flushToDisk(descriptor);
     ::close(descriptor);
 }
@@ -59,8 +60,9 @@ bool SafeFile::replace(const QString &path, const QByteArray &bytes)
 QByteArray SafeFile::read(const QString &path, qint64 limit)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return QByteArray();
+    }
     const QByteArray bytes = file.read(limit + 1);
     return bytes.size() > limit ? QByteArray() : bytes;
 }

@@ -20,8 +20,9 @@ public:
             const Mark mark = {m_now, streamEnd};
             m_marks.enqueue(mark);
         }
-        while (m_marks.size() > 1 && m_marks.at(1).time <= m_now - Lifetime)
+        while (m_marks.size() > 1 && m_marks.at(1).time <= m_now - Lifetime) {
             m_marks.dequeue();
+        }
     }
 
     /// Whether the byte at \a place in the stream is that old.

@@ -42,21 +42,24 @@ QStringList twoLines(const QFont &font, const QString &text, int width)
     layout.setTextOption(wrapping);
     layout.beginLayout();
     QTextLine first = layout.createLine();
-    if (first.isValid())
+    if (first.isValid()) {
         first.setLineWidth(width);
+    }
     layout.endLayout();
     const int end = first.isValid() ? first.textStart() + first.textLength() : text.size();
     QStringList lines(metrics.elidedText(text.left(end).trimmed(), Qt::ElideRight, width));
-    if (end < text.size())
+    if (end < text.size()) {
         lines.append(metrics.elidedText(text.mid(end).trimmed(), Qt::ElideRight, width));
+    }
     return lines;
 }
 
 void drawText(QPainter *painter, const QRect &room, const QFont &font, const QColor &colour,
               const QString &text, Qt::Alignment side)
 {
-    if (text.isEmpty() || room.width() <= 0)
+    if (text.isEmpty() || room.width() <= 0) {
         return;
+    }
     painter->setFont(font);
     painter->setPen(colour);
     painter->drawText(room, int(side | Qt::AlignVCenter),
@@ -66,11 +69,13 @@ void drawText(QPainter *painter, const QRect &room, const QFont &font, const QCo
 void drawPicture(QPainter *painter, const QRect &room, const QString &path)
 {
     const QPixmap picture(path);
-    if (picture.isNull())
+    if (picture.isNull()) {
         return;
+    }
     QSize size = picture.size();
-    if (size.width() > room.width() || size.height() > room.height())
+    if (size.width() > room.width() || size.height() > room.height()) {
         size.scale(room.size(), Qt::KeepAspectRatio);
+    }
     QRect target(QPoint(0, 0), size);
     target.moveCenter(room.center());
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
@@ -84,8 +89,9 @@ void drawSwitch(QPainter *painter, const QRect &room, bool on)
     painter->setBrush(on ? OrbPalette::accent() : QColor(0x3A, 0x44, 0x52));
     painter->drawRoundedRect(room, radius, radius);
     QRect knob(room.topLeft(), QSize(room.height(), room.height()));
-    if (on)
+    if (on) {
         knob.moveRight(room.right());
+    }
     painter->setBrush(on ? QColor(Qt::white) : QColor(0xC3, 0xCB, 0xD6));
     painter->drawEllipse(knob.adjusted(4, 4, -4, -4));
 }
@@ -149,19 +155,22 @@ void TableItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     const TableViewItemDatas row = model->itemDatas(index.row());
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    if (option.state & QStyle::State_Selected)
+    if (option.state & QStyle::State_Selected) {
         painter->fillRect(option.rect, OrbPalette::raised());
-    if (!row.isHeading())
+    }
+    if (!row.isHeading()) {
         drawSeparator(painter, option.rect, index.column());
-    if (index.column() == TableViewItemDatas::TextColumn && row.isHeading())
+    }
+    if (index.column() == TableViewItemDatas::TextColumn && row.isHeading()) {
         drawHeading(painter, option.rect, option.font, row.text());
-    else if (index.column() == TableViewItemDatas::TextColumn)
+    } else if (index.column() == TableViewItemDatas::TextColumn) {
         drawLabel(painter, option.rect, option.font, row);
-    else if (index.column() == TableViewItemDatas::ValueColumn)
+    } else if (index.column() == TableViewItemDatas::ValueColumn) {
         drawValue(painter, option.rect, option.font, row);
-    else
+    } else {
         drawText(painter, option.rect, pixelFont(option.font, HeadingSize), OrbPalette::dim(),
                  row.value(TableViewItemDatas::SecondColumn).toString(), Qt::AlignLeft);
+    }
     painter->restore();
 }
 

@@ -23,8 +23,9 @@ bool hasContents(const QAbstractItemModel *model, int column)
 {
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, column);
-        if (!index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid())
+        if (!index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
             return true;
+        }
     }
     return false;
 }
@@ -64,8 +65,9 @@ TableListView::~TableListView()
 
 void TableListView::setModel(QAbstractItemModel *next)
 {
-    if (model())
+    if (model()) {
         disconnect(model(), nullptr, this, SLOT(fitColumns()));
+    }
     d->pressed = QPersistentModelIndex();
     QTableView::setModel(next);
     if (next) {
@@ -79,8 +81,9 @@ void TableListView::setModel(QAbstractItemModel *next)
 
 void TableListView::fitColumns()
 {
-    if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount)
+    if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount) {
         return;
+    }
     const int width = viewport()->width();
     const bool hasValues = hasContents(model(), TableViewItemDatas::ValueColumn);
     const bool hasSeconds = hasContents(model(), TableViewItemDatas::SecondColumn);
@@ -101,15 +104,18 @@ void TableListView::resizeEvent(QResizeEvent *event)
 void TableListView::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton) {
         return;
+    }
     const QPoint place = OrbQt::mousePos(event);
     d->pressed = QPersistentModelIndex();
-    if (d->scroller->press(place.y()))
+    if (d->scroller->press(place.y())) {
         return;
+    }
     const QModelIndex index = indexAt(place);
-    if (!(index.flags() & Qt::ItemIsSelectable))
+    if (!(index.flags() & Qt::ItemIsSelectable)) {
         return;
+    }
     d->pressed = index;
     selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     Q_EMIT pressed(index);
@@ -118,24 +124,28 @@ void TableListView::mousePressEvent(QMouseEvent *event)
 void TableListView::mouseMoveEvent(QMouseEvent *event)
 {
     event->accept();
-    if (d->scroller->move(OrbQt::mousePos(event).y()))
+    if (d->scroller->move(OrbQt::mousePos(event).y())) {
         clearSelection();
+    }
 }
 
 void TableListView::mouseReleaseEvent(QMouseEvent *event)
 {
     event->accept();
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton) {
         return;
+    }
     clearSelection();
     const QModelIndex index = d->pressed;
     d->pressed = QPersistentModelIndex();
-    if (!d->scroller->release() || !index.isValid() || indexAt(OrbQt::mousePos(event)) != index)
+    if (!d->scroller->release() || !index.isValid() || indexAt(OrbQt::mousePos(event)) != index) {
         return;
+    }
     // A receiver may change the rows or delete the list.
     const QPersistentModelIndex tapped = index;
     QPointer<TableListView> guard(this);
     Q_EMIT clicked(index);
-    if (guard && tapped.isValid())
+    if (guard && tapped.isValid()) {
         Q_EMIT itemColumnClicked(model(), tapped);
+    }
 }

@@ -25,8 +25,9 @@ TableViewItemDatas::TableViewItemDatas(int itemId, const QString &text, const QS
 
 void TableViewItemDatas::setValue(int column, const QVariant &value)
 {
-    if (isColumn(column))
+    if (isColumn(column)) {
         m_values[column] = value;
+    }
 }
 
 QVariant TableViewItemDatas::value(int column) const
@@ -55,23 +56,28 @@ int TableViewModel::columnCount(const QModelIndex &parent) const
 
 QVariant TableViewModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_rows.size() || !isColumn(index.column()))
+    if (!index.isValid() || index.row() >= m_rows.size() || !isColumn(index.column())) {
         return QVariant();
+    }
     const TableViewItemDatas &row = m_rows.at(index.row());
     const QVariant value = row.value(index.column());
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole) {
         return holdsBool(value) ? QString() : value.toString();
-    if (role == Qt::CheckStateRole)
+    }
+    if (role == Qt::CheckStateRole) {
         return holdsBool(value) ? QVariant(value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
-    if (role == Qt::DecorationRole && index.column() == TableViewItemDatas::TextColumn)
+    }
+    if (role == Qt::DecorationRole && index.column() == TableViewItemDatas::TextColumn) {
         return row.icon();
+    }
     return role >= FirstBindRole ? row.bindData(role) : QVariant();
 }
 
 Qt::ItemFlags TableViewModel::flags(const QModelIndex &index) const
 {
-    if (!index.isValid() || index.row() >= m_rows.size())
+    if (!index.isValid() || index.row() >= m_rows.size()) {
         return Qt::NoItemFlags;
+    }
     return m_rows.at(index.row()).isHeading() ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable;
 }
 
@@ -82,16 +88,18 @@ TableViewItemDatas TableViewModel::itemDatas(int row) const
 
 void TableViewModel::setItemDatas(int row, const TableViewItemDatas &datas)
 {
-    if (row < 0 || row >= m_rows.size())
+    if (row < 0 || row >= m_rows.size()) {
         return;
+    }
     m_rows[row] = datas;
     Q_EMIT dataChanged(index(row, 0), index(row, TableViewItemDatas::ColumnCount - 1));
 }
 
 void TableViewModel::setCellValue(int row, int column, const QVariant &value)
 {
-    if (row < 0 || row >= m_rows.size() || !isColumn(column))
+    if (row < 0 || row >= m_rows.size() || !isColumn(column)) {
         return;
+    }
     m_rows[row].setValue(column, value);
     Q_EMIT dataChanged(index(row, column), index(row, column));
 }
@@ -107,8 +115,9 @@ void TableViewModel::appendItemDatas(const TableViewItemDatas &datas)
 void TableViewModel::removeItemDatas(int row, int count)
 {
     const int size = m_rows.size();
-    if (row < 0 || row >= size || count <= 0)
+    if (row < 0 || row >= size || count <= 0) {
         return;
+    }
     const int last = count > size - row ? size - 1 : row + count - 1;
     beginRemoveRows(QModelIndex(), row, last);
     m_rows.erase(m_rows.begin() + row, m_rows.begin() + last + 1);
@@ -125,8 +134,9 @@ void TableViewModel::clear()
 int TableViewModel::rowOfItem(int itemId) const
 {
     for (int row = 0; row < m_rows.size(); ++row) {
-        if (m_rows.at(row).getItemId() == itemId)
+        if (m_rows.at(row).getItemId() == itemId) {
             return row;
+        }
     }
     return -1;
 }

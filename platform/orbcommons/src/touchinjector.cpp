@@ -11,8 +11,9 @@ TouchInjector::TouchInjector(QObject *parent) : QObject(parent) {}
 
 void TouchInjector::inject(int type, int x, int y)
 {
-    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease && type != QEvent::MouseMove)
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease && type != QEvent::MouseMove) {
         return;
+    }
     QMetaObject::invokeMethod(this, "deliver", Qt::QueuedConnection, Q_ARG(int, type), Q_ARG(int, x),
                               Q_ARG(int, y));
 }
@@ -20,22 +21,26 @@ void TouchInjector::inject(int type, int x, int y)
 void TouchInjector::deliver(int type, int x, int y)
 {
     const QPointer<QWidget> screen(OrbHost::instance()->screen());
-    if (!screen)
+    if (!screen) {
         return;
+    }
     // Should this touch run an event loop, that loop has to be told that the next touch is already waiting.
-    if (QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance())
+    if (QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance()) {
         dispatcher->wakeUp();
+    }
     const QPoint pos(x, y);
     if (type == QEvent::MouseButtonPress) {
         press(screen, pos);
         return;
     }
     QWidget *receiver = m_grabber;
-    if (!receiver)
+    if (!receiver) {
         return;
+    }
     // Let go before the event goes out: its handler may open a dialog that takes the next press.
-    if (type == QEvent::MouseButtonRelease)
+    if (type == QEvent::MouseButtonRelease) {
         m_grabber = nullptr;
+    }
     const QPoint global = screen->mapToGlobal(pos);
     send(receiver, type, receiver->mapFromGlobal(global), global);
 }
@@ -48,8 +53,9 @@ void TouchInjector::press(const QPointer<QWidget> &screen, const QPoint &pos)
         const QPoint outside(-1, -1);
         send(stuck, QEvent::MouseButtonRelease, outside, stuck->mapToGlobal(outside));
     }
-    if (!screen || !screen->rect().contains(pos))
+    if (!screen || !screen->rect().contains(pos)) {
         return;
+    }
     QWidget *hit = screen->childAt(pos);
     m_grabber = hit ? hit : screen.data();
     const QPoint global = screen->mapToGlobal(pos);

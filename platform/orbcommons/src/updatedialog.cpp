@@ -22,9 +22,10 @@ const int SilenceTime = 4000;
 
 void trace(const char *call, int number)
 {
-    if (OrbTrace::listener)
+    if (OrbTrace::listener) {
         OrbTrace::listener->called(QLatin1String("UpdateDialog"), QLatin1String(call),
                                    QVariantList() << number);
+    }
 }
 
 QLabel *textLabel(const char *name, QWidget *parent)
@@ -113,10 +114,11 @@ void UpdateDialog::Private::arrange(UpdateDialog *dialog)
 void UpdateDialog::Private::enter(State next)
 {
     state = next;
-    if (state == Running)
+    if (state == Running) {
         silence->start();
-    else
+    } else {
         silence->stop();
+    }
     bar->setVisible(state == Running || state == Waiting);
     warning->setVisible(state == Running || state == Waiting);
     ok->setVisible(state == Asking || (state == Failed && retry));
@@ -179,8 +181,9 @@ void UpdateDialog::showUpdateDlg(int kind)
     d->kind = kind;
     d->retry = d->retry && d->state == Private::Running;
     // A second disk does not interrupt a transfer.
-    if (d->state != Private::Running)
+    if (d->state != Private::Running) {
         d->enter(Private::Asking);
+    }
     setVisible(true);
 }
 
@@ -195,8 +198,9 @@ void UpdateDialog::setUpdateFailed(int code)
 {
     trace("setUpdateFailed", code);
     // After the end a disk that is taken out is no failure.
-    if (d->state == Private::Done)
+    if (d->state == Private::Done) {
         return;
+    }
     d->code = code;
     d->retry = d->retry || d->state == Private::Running || d->state == Private::Waiting;
     d->enter(Private::Failed);
@@ -218,6 +222,7 @@ void UpdateDialog::onSilence()
 void UpdateDialog::changeEvent(QEvent *event)
 {
     OrbDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         d->showTexts();
+    }
 }

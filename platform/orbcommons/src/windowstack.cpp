@@ -25,8 +25,9 @@ QRect choiceGeometry(const QRect &area, const QWidget *dialog)
     const QSize room = area.size() - QSize(2 * ChoiceMargin, 2 * ChoiceMargin);
     QSize size(qMin(room.width(), qMax(SmallestChoiceWidth, hint.width())), hint.height());
     QLayout *layout = dialog->layout();
-    if (layout && layout->hasHeightForWidth())
+    if (layout && layout->hasHeightForWidth()) {
         size.setHeight(layout->totalHeightForWidth(size.width()));
+    }
     QRect place(QPoint(0, 0), size.boundedTo(room));
     place.moveCenter(area.center());
     return place;
@@ -43,22 +44,25 @@ WindowStack::WindowStack(QObject *parent) : QObject(parent), m_area(nullptr), m_
 
 void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
 {
-    if (!window || m_all.contains(window))
+    if (!window || m_all.contains(window)) {
         return;
+    }
     const Entry entry = {window, kind, appId};
     m_all.append(window);
     m_order.append(entry);
     window->installEventFilter(this);
     // On the screen a window is the area's child; what it was built under then still decides when it dies.
-    if (window->parent())
+    if (window->parent()) {
         connect(window->parent(), SIGNAL(destroyed()), window, SLOT(deleteLater()));
+    }
 }
 
 void WindowStack::remove(QWidget *window)
 {
     const int index = indexInOrder(window);
-    if (index < 0)
+    if (index < 0) {
         return;
+    }
     m_order.removeAt(index);
     m_all.removeAll(window);
     restack();
@@ -68,8 +72,9 @@ void WindowStack::remove(QWidget *window)
 void WindowStack::traceVisibility(QWidget *window, bool visible)
 {
     // The update dialog reports its own calls instead.
-    if (!OrbTrace::listener || window == m_quiet || window->inherits("UpdateDialog"))
+    if (!OrbTrace::listener || window == m_quiet || window->inherits("UpdateDialog")) {
         return;
+    }
     OrbTrace::listener->called(QLatin1String(window->metaObject()->className()), QLatin1String("setVisible"),
                                QVariantList() << visible);
 }
@@ -77,18 +82,21 @@ void WindowStack::traceVisibility(QWidget *window, bool visible)
 void WindowStack::place(QWidget *window)
 {
     const int index = indexInOrder(window);
-    if (index < 0 || !m_area)
+    if (index < 0 || !m_area) {
         return;
-    if (window->parentWidget() != m_area)
+    }
+    if (window->parentWidget() != m_area) {
         setParentQuietly(window, m_area);
+    }
     setGeometryOf(m_order.at(index));
 }
 
 void WindowStack::shown(QWidget *window)
 {
     const int index = indexInOrder(window);
-    if (index < 0)
+    if (index < 0) {
         return;
+    }
     m_order.append(m_order.takeAt(index));
     restack();
     Q_EMIT changed();
@@ -96,8 +104,9 @@ void WindowStack::shown(QWidget *window)
 
 void WindowStack::hidden(QWidget *window)
 {
-    if (indexInOrder(window) < 0)
+    if (indexInOrder(window) < 0) {
         return;
+    }
     restack();
     Q_EMIT changed();
 }
@@ -105,12 +114,14 @@ void WindowStack::hidden(QWidget *window)
 void WindowStack::areaChanged()
 {
     QWidget *next = OrbHost::instance()->windowArea();
-    if (next == m_area)
+    if (next == m_area) {
         return;
+    }
     leaveArea();
     m_area = next;
-    if (!m_area)
+    if (!m_area) {
         return;
+    }
     m_area->installEventFilter(this);
     connect(m_area, SIGNAL(destroyed()), SLOT(leaveArea()));
 }
@@ -121,15 +132,17 @@ void WindowStack::leaveArea()
     QWidget *left = m_area;
     m_area = nullptr;
     delete m_scrim;
-    if (!left)
+    if (!left) {
         return;
+    }
     left->removeEventFilter(this);
     disconnect(left, nullptr, this, nullptr);
     const QList<QWidget *> windows = m_all;
     for (int i = 0; i < windows.size(); ++i) {
         QWidget *window = windows.at(i);
-        if (indexInOrder(window) >= 0 && window->parentWidget() == left)
+        if (indexInOrder(window) >= 0 && window->parentWidget() == left) {
             setParentQuietly(window, nullptr);
+        }
     }
 }
 
@@ -141,10 +154,12 @@ QList<QWidget *> WindowStack::all() const
 QWidget *WindowStack::front(bool ignoreOverlays) const
 {
     int index = topmost(ChoiceDialog);
-    if (index < 0 && !ignoreOverlays)
+    if (index < 0 && !ignoreOverlays) {
         index = topmost(OverlayDialog);
-    if (index < 0)
+    }
+    if (index < 0) {
         index = topmost(MainWindow);
+    }
     return index < 0 ? nullptr : m_order.at(index).window;
 }
 
@@ -157,14 +172,16 @@ unsigned int WindowStack::frontAppId() const
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_area && event->type() == QEvent::Resize) {
-        for (int i = 0; i < m_order.size(); ++i)
+        for (int i = 0; i < m_order.size(); ++i) {
             setGeometryOf(m_order.at(i));
+        }
         restack();
     } else if (event->type() == QEvent::LayoutRequest) {
         // What a dialog shows has changed, and with it the room that it needs.
         const int index = indexInOrder(watched);
-        if (index >= 0 && m_order.at(index).kind != MainWindow)
+        if (index >= 0 && m_order.at(index).kind != MainWindow) {
             setGeometryOf(m_order.at(index));
+        }
     }
     return QObject::eventFilter(watched, event);
 }
@@ -172,8 +189,9 @@ bool WindowStack::eventFilter(QObject *watched, QEvent *event)
 int WindowStack::indexInOrder(const QObject *window) const
 {
     for (int i = 0; i < m_order.size(); ++i) {
-        if (m_order.at(i).window == window)
+        if (m_order.at(i).window == window) {
             return i;
+        }
     }
     return -1;
 }
@@ -181,31 +199,35 @@ int WindowStack::indexInOrder(const QObject *window) const
 int WindowStack::topmost(Kind kind) const
 {
     for (int i = m_order.size() - 1; i >= 0; --i) {
-        if (m_order.at(i).kind == kind && !m_order.at(i).window->isHidden())
+        if (m_order.at(i).kind == kind && !m_order.at(i).window->isHidden()) {
             return i;
+        }
     }
     return -1;
 }
 
 void WindowStack::setGeometryOf(const Entry &entry)
 {
-    if (!m_area || entry.window->parentWidget() != m_area)
+    if (!m_area || entry.window->parentWidget() != m_area) {
         return;
+    }
     const QRect area = m_area->rect();
-    if (entry.kind == MainWindow)
+    if (entry.kind == MainWindow) {
         entry.window->setGeometry(area);
-    else if (entry.kind == OverlayDialog)
+    } else if (entry.kind == OverlayDialog) {
         entry.window->setGeometry(overlayGeometry(area, entry.window->sizeHint()));
-    else
+    } else {
         entry.window->setGeometry(choiceGeometry(area, entry.window));
+    }
 }
 
 void WindowStack::setParentQuietly(QWidget *window, QWidget *parent)
 {
     const QWidget *before = m_quiet;
     m_quiet = window;
-    if (!window->isHidden())
+    if (!window->isHidden()) {
         window->setVisible(false);
+    }
     window->setParent(parent, parent ? Qt::Widget : Qt::Window);
     m_quiet = before;
 }
@@ -214,19 +236,22 @@ void WindowStack::setParentQuietly(QWidget *window, QWidget *parent)
 // choice, so that nothing else takes a touch.
 void WindowStack::restack()
 {
-    if (!m_area)
+    if (!m_area) {
         return;
+    }
     const int choice = topmost(ChoiceDialog);
     const Kind kinds[] = {MainWindow, OverlayDialog, ChoiceDialog};
     for (int k = 0; k < 3; ++k) {
         for (int i = 0; i < m_order.size(); ++i) {
-            if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area)
+            if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area) {
                 m_order.at(i).window->raise();
+            }
         }
     }
     if (choice < 0 || m_order.at(choice).window->parentWidget() != m_area) {
-        if (m_scrim)
+        if (m_scrim) {
             m_scrim->hide();
+        }
         return;
     }
     if (!m_scrim) {

@@ -54,10 +54,10 @@ ProbePlugin::~ProbePlugin()
 
 bool ProbePlugin::filterKey(unsigned int key, bool, bool)
 {
-    if (key == askingKey) {
+    if (key == AskingKey) {
         ask();
     }
-    return key == consumedKey || key == askingKey;
+    return key == ConsumedKey || key == AskingKey;
 }
 
 void ProbePlugin::report(Report what, unsigned int param, unsigned int param2, const QString &text)

@@ -22,8 +22,8 @@ public:
         Answered = 6,   ///< the dialog's result
         Destroyed = 7
     };
-    static constexpr unsigned int consumedKey = 5;
-    static constexpr unsigned int askingKey = 6; ///< opens the dialog
+    static constexpr unsigned int ConsumedKey = 5;
+    static constexpr unsigned int AskingKey = 6; ///< opens the dialog
 
     ProbePlugin();
     ~ProbePlugin() override;
@@ -33,7 +33,7 @@ public:
 
     static void report(Report what, unsigned int param, unsigned int param2, const QString &text = QString());
 
-public slots:
+public Q_SLOTS:
     void ask();
 
 protected:
@@ -43,4 +43,4 @@ private:
     ProbeWindow *m_window;
 };
 
-#endif
+#endif // PROBEPLUGIN_H

@@ -13,7 +13,7 @@ class ProbeWindow : public OrbMainWindow
 public:
     ProbeWindow();
 
-signals:
+Q_SIGNALS:
     void asked();
 
 private:
@@ -22,4 +22,4 @@ private:
     TableViewModel *m_model;
 };
 
-#endif
+#endif // PROBEWINDOW_H

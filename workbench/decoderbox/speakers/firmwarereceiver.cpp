@@ -4,11 +4,11 @@
 
 namespace {
 
-const int packetSize = 128;
-const int packetHeader = 6;
-const quint32 mostPackets = 64 * 1024 * 1024 / packetSize;
-const int patienceMs = 1000;
-const int mostRepeats = 60;
+const int PacketSize = 128;
+const int PacketHeader = 6;
+const quint32 MostPackets = 64 * 1024 * 1024 / PacketSize;
+const int PatienceMs = 1000;
+const int MostRepeats = 60;
 
 enum Step { Start = 0x00, Count = 0x01, Packet = 0x02, End = 0x03 };
 enum Answer { ReadyForCount = 0x01, AskForPacket = 0x02, UpdateFinished = 0x03 };
@@ -26,7 +26,7 @@ quint32 bigEndian32(const BoxPackage &package, int from)
 
 FirmwareReceiver::FirmwareReceiver(const SimulatedCar *car, QObject *parent) : QObject(parent), m_car(car)
 {
-    m_patience.setInterval(patienceMs);
+    m_patience.setInterval(PatienceMs);
     connect(&m_patience, &QTimer::timeout, this, &FirmwareReceiver::askAgain);
 }
 
@@ -51,8 +51,8 @@ QString FirmwareReceiver::takeStart()
     m_state = Ready;
     m_image.clear();
     m_patience.stop();
-    emit observed("firmware", "ready");
-    emit answerDue(QByteArray(1, char(ReadyForCount)), "ready for the firmware");
+    Q_EMIT observed("firmware", "ready");
+    Q_EMIT answerDue(QByteArray(1, char(ReadyForCount)), "ready for the firmware");
     return "start of a firmware update";
 }
 
@@ -60,10 +60,10 @@ QString FirmwareReceiver::takeCount(const BoxPackage &package)
 {
     const quint32 count = bigEndian32(package, 2);
     QString meaning = QString("firmware of %1 packets").arg(count);
-    if (m_state != Ready || package.n() < packetHeader) {
+    if (m_state != Ready || package.n() < PacketHeader) {
         return meaning + ", out of turn";
     }
-    if (count > mostPackets) {
+    if (count > MostPackets) {
         fail("too large");
         return meaning;
     }
@@ -73,7 +73,7 @@ QString FirmwareReceiver::takeCount(const BoxPackage &package)
     m_isSecondAsk = false;
     m_hasAskedBeyond = false;
     m_isBackwards = m_car->text("firmware.fault") == "backwards";
-    m_image.fill('\0', int(count) * packetSize);
+    m_image.fill('\0', int(count) * PacketSize);
     askNext();
     return meaning;
 }
@@ -82,10 +82,10 @@ QString FirmwareReceiver::takePacket(const BoxPackage &package)
 {
     const quint32 number = bigEndian32(package, 2);
     QString meaning = QString("firmware packet %1").arg(number);
-    if (m_state != Receiving || package.n() < packetHeader + packetSize || number != wanted()) {
+    if (m_state != Receiving || package.n() < PacketHeader + PacketSize || number != wanted()) {
         return meaning + ", not asked for";
     }
-    m_image.replace(int(number) * packetSize, packetSize, package.data.mid(packetHeader, packetSize));
+    m_image.replace(int(number) * PacketSize, PacketSize, package.data.mid(PacketHeader, PacketSize));
     m_repeats = 0;
     const bool asksTwice = m_car->text("firmware.fault") == "twice";
     m_isSecondAsk = asksTwice && !m_isSecondAsk;
@@ -94,7 +94,7 @@ QString FirmwareReceiver::takePacket(const BoxPackage &package)
         return meaning;
     }
     ++m_arrived;
-    emit observed("firmware", QString("receiving %1/%2").arg(m_arrived).arg(m_count));
+    Q_EMIT observed("firmware", QString("receiving %1/%2").arg(m_arrived).arg(m_count));
     askNext();
     return meaning;
 }
@@ -122,12 +122,12 @@ void FirmwareReceiver::ask(quint32 number)
     for (int shift = 24; shift >= 0; shift -= 8) {
         data += char(number >> shift);
     }
-    emit answerDue(data, QString("asks for firmware packet %1").arg(number));
+    Q_EMIT answerDue(data, QString("asks for firmware packet %1").arg(number));
 }
 
 void FirmwareReceiver::askAgain()
 {
-    if (++m_repeats > mostRepeats) {
+    if (++m_repeats > MostRepeats) {
         fail("the unit sends nothing");
     } else {
         ask(wanted());
@@ -139,16 +139,16 @@ void FirmwareReceiver::finish()
     m_state = Complete;
     m_patience.stop();
     const QByteArray hash = QCryptographicHash::hash(m_image, QCryptographicHash::Sha256).toHex();
-    emit observed("firmware sha256", QString::fromLatin1(hash));
-    emit observed("firmware", "complete");
-    emit answerDue(QByteArray(1, char(UpdateFinished)), "firmware complete");
+    Q_EMIT observed("firmware sha256", QString::fromLatin1(hash));
+    Q_EMIT observed("firmware", "complete");
+    Q_EMIT answerDue(QByteArray(1, char(UpdateFinished)), "firmware complete");
 }
 
 void FirmwareReceiver::fail(const QString &why)
 {
     m_state = Failed;
     m_patience.stop();
-    emit observed("firmware", "failed: " + why);
+    Q_EMIT observed("firmware", "failed: " + why);
 }
 
 quint32 FirmwareReceiver::wanted() const

@@ -26,7 +26,7 @@ public:
     /// Takes the data of an update package from the unit, at least one byte; returns what it means.
     QString take(const BoxPackage &package);
 
-signals:
+Q_SIGNALS:
     /// Data of an update package for the unit.
     void answerDue(const QByteArray &data, const QString &meaning);
     /// "firmware" with "ready", "receiving 3/8", "complete", "failed: why"; "firmware sha256" of the whole
@@ -59,4 +59,4 @@ private:
     QTimer m_patience;
 };
 
-#endif
+#endif // FIRMWARERECEIVER_H

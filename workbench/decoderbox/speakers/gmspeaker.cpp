@@ -2,11 +2,11 @@
 
 namespace {
 
-const quint8 radarLevels[7] = {0, 1, 2, 3, 4, 5, 6};
+const quint8 RadarLevels[7] = {0, 1, 2, 3, 4, 5, 6};
 
 // Where the air goes; index: window 4 + face 2 + feet 1.
-const quint8 airWays[8] = {1, 3, 5, 4, 7, 8, 6, 9};
-const quint8 airWayDefrost = 2;
+const quint8 AirWays[8] = {1, 3, 5, 4, 7, 8, 6, 9};
+const quint8 AirWayDefrost = 2;
 
 } // namespace
 
@@ -24,8 +24,8 @@ GmSpeaker::GmSpeaker(SimulatedCar *car, QObject *parent) : RaiseSpeaker(car, 0x3
                {"steering.angle"},
                [](const SimulatedCar &c) { return littleEndian16(steering(c, 540 * 16)); },
                true});
-    addRadar("rear", 0x22, radarLevels);
-    addRadar("front", 0x23, radarLevels);
+    addRadar("rear", 0x22, RadarLevels);
+    addRadar("front", 0x23, RadarLevels);
     addReport({"doors", 0x24, {"doors."}, doors, true});
 
     addKeys(BoxKey::Wheel, 0x01,
@@ -62,7 +62,7 @@ QByteArray GmSpeaker::climate(const SimulatedCar &car)
                    bit(circulation == "in", 5) | bit(circulation == "auto", 3) | car.number("climate.fan");
     const int way = bit(car.flag("climate.to_window"), 2) | bit(car.flag("climate.to_face"), 1) |
                     bit(car.flag("climate.to_feet"), 0);
-    const int d1 = car.flag("climate.defrost") ? airWayDefrost : airWays[way];
+    const int d1 = car.flag("climate.defrost") ? AirWayDefrost : AirWays[way];
     const int d6 = bit(car.flag("climate.auto"), 1) | bit(car.flag("climate.fan_auto"), 0);
     return bytes(
         {d0, d1, temperatureCode(car, "climate.left"), temperatureCode(car, "climate.right"), 0, 0, d6});

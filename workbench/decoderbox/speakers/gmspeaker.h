@@ -16,4 +16,4 @@ private:
     static quint8 temperatureCode(const SimulatedCar &car, const QString &property);
 };
 
-#endif
+#endif // GMSPEAKER_H

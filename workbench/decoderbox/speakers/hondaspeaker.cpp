@@ -2,10 +2,10 @@
 
 namespace {
 
-const quint8 clockItem = 0x50;
+const quint8 ClockItem = 0x50;
 
 // This box tells four distances apart; index: the car's level, rounded to the nearer one.
-const quint8 radarLevels[7] = {0, 1, 2, 2, 3, 3, 4};
+const quint8 RadarLevels[7] = {0, 1, 2, 2, 3, 3, 4};
 
 } // namespace
 
@@ -23,8 +23,8 @@ HondaSpeaker::HondaSpeaker(SimulatedCar *car, QObject *parent) : RaiseSpeaker(ca
                {"steering.angle"},
                [](const SimulatedCar &c) { return littleEndian16(steering(c, 4608)); },
                true});
-    addRadar("rear", 0x22, radarLevels);
-    addRadar("front", 0x23, radarLevels);
+    addRadar("rear", 0x22, RadarLevels);
+    addRadar("front", 0x23, RadarLevels);
     addReport({"doors", 0x24, {"doors."}, doors, true});
 
     addKeys(BoxKey::Wheel, 0x20,
@@ -86,7 +86,7 @@ quint8 HondaSpeaker::temperatureCode(const SimulatedCar &car, const QString &pro
 
 QString HondaSpeaker::takeSetting(const BoxPackage &package)
 {
-    if (package.d(0) != clockItem || package.n() < 4) {
+    if (package.d(0) != ClockItem || package.n() < 4) {
         return observe("setting " + hex(package.d(0)), QString::fromLatin1(package.data.mid(1).toHex(' ')));
     }
     const bool isTwelveHour = package.d(1) & 0x80;

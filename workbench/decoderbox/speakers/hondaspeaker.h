@@ -17,4 +17,4 @@ private:
     QString takeSetting(const BoxPackage &package);
 };
 
-#endif
+#endif // HONDASPEAKER_H

@@ -12,4 +12,4 @@ public:
     explicit JeepSpeaker(SimulatedCar *car, QObject *parent = nullptr);
 };
 
-#endif
+#endif // JEEPSPEAKER_H

@@ -3,7 +3,7 @@
 namespace {
 
 // This box tells four distances apart; index: the car's level, rounded to the nearer one.
-const quint8 radarLevels[7] = {0, 1, 2, 2, 3, 3, 4};
+const quint8 RadarLevels[7] = {0, 1, 2, 2, 3, 3, 4};
 
 } // namespace
 
@@ -62,9 +62,9 @@ QByteArray MazdaSpeaker::sixSensors(const SimulatedCar &car)
 {
     QByteArray result(1, '\0');
     for (const QString &side : {QString("front"), QString("rear")}) {
-        result += char(radarLevels[car.number("radar." + side + ".1")]);
-        result += char(radarLevels[nearerOf(car, side, 2, 3)]);
-        result += char(radarLevels[car.number("radar." + side + ".4")]);
+        result += char(RadarLevels[car.number("radar." + side + ".1")]);
+        result += char(RadarLevels[nearerOf(car, side, 2, 3)]);
+        result += char(RadarLevels[car.number("radar." + side + ".4")]);
     }
     return result;
 }

@@ -16,4 +16,4 @@ private:
     static QByteArray sixSensors(const SimulatedCar &car);
 };
 
-#endif
+#endif // MAZDASPEAKER_H

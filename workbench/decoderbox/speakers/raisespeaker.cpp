@@ -3,8 +3,8 @@
 #include <cmath>
 
 namespace {
-const int versionLength = 32;
-const int steeringLockDegrees = 540;
+const int VersionLength = 32;
+const int SteeringLockDegrees = 540;
 } // namespace
 
 RaiseSpeaker::RaiseSpeaker(SimulatedCar *car, quint8 versionCommand, QObject *parent)
@@ -14,15 +14,15 @@ RaiseSpeaker::RaiseSpeaker(SimulatedCar *car, quint8 versionCommand, QObject *pa
                versionCommand,
                {"box.version"},
                [](const SimulatedCar &c) {
-                   return c.text("box.version").toLatin1().leftJustified(versionLength, '\0');
+                   return c.text("box.version").toLatin1().leftJustified(VersionLength, '\0');
                },
                true});
     addCommand(0x81, 1, [this](const BoxPackage &package) -> QString {
         if (package.d(0) == 0) {
-            emit endReceived();
+            Q_EMIT endReceived();
             return "end";
         }
-        emit readyReceived();
+        Q_EMIT readyReceived();
         return "ready";
     });
 }
@@ -77,7 +77,7 @@ int RaiseSpeaker::nearerOf(const SimulatedCar &car, const QString &side, int one
 
 int RaiseSpeaker::steering(const SimulatedCar &car, int lock)
 {
-    return int(std::lround(double(car.number("steering.angle")) * lock / steeringLockDegrees));
+    return int(std::lround(double(car.number("steering.angle")) * lock / SteeringLockDegrees));
 }
 
 QByteArray RaiseSpeaker::littleEndian16(int value)

@@ -37,4 +37,4 @@ protected:
     static QByteArray littleEndian16(int value);
 };
 
-#endif
+#endif // RAISESPEAKER_H

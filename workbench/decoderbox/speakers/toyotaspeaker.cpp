@@ -3,7 +3,7 @@
 namespace {
 
 // This box tells five distances apart; index: the car's level, rounded to the nearer one.
-const quint8 radarLevels[7] = {0, 1, 2, 2, 3, 4, 5};
+const quint8 RadarLevels[7] = {0, 1, 2, 2, 3, 4, 5};
 
 } // namespace
 
@@ -17,8 +17,8 @@ ToyotaSpeaker::ToyotaSpeaker(SimulatedCar *car, QObject *parent) : RaiseSpeaker(
                climate,
                true});
     addReport({"steering", 0x29, {"steering.angle"}, steeringAngle, true});
-    addRadar("front", 0x1D, radarLevels);
-    addRadar("rear", 0x1E, radarLevels);
+    addRadar("front", 0x1D, RadarLevels);
+    addRadar("rear", 0x1E, RadarLevels);
     addReport({"doors", 0x24, {"doors."}, doors, true});
     addReport({"360 view", 0x32, {"camera.view360"}, view360, false});
 

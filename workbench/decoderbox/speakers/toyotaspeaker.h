@@ -18,4 +18,4 @@ private:
     static QByteArray view360(const SimulatedCar &car);
 };
 
-#endif
+#endif // TOYOTASPEAKER_H

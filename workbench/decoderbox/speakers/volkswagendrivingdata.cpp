@@ -4,8 +4,8 @@
 
 namespace {
 
-const int length = 6;
-const double milesPerKilometre = 0.621371;
+const int Length = 6;
+const double MilesPerKilometre = 0.621371;
 
 bool isMiles(const SimulatedCar &car)
 {
@@ -26,7 +26,7 @@ QByteArray bytesOf(double value, int count)
 
 QByteArray data(quint8 subType, const QByteArray &rest)
 {
-    return (QByteArray(1, char(subType)) + rest).leftJustified(length, '\0');
+    return (QByteArray(1, char(subType)) + rest).leftJustified(Length, '\0');
 }
 
 // 0 L/100km, 1 km/L, 2 miles per imperial gallon, 3 miles per US gallon
@@ -59,14 +59,14 @@ int serviceForm(const SimulatedCar &car, int counter)
 // d1: 0 kilometres; d2, d3: range
 QByteArray VolkswagenDrivingData::range(const SimulatedCar &car, quint8 subType)
 {
-    const double shown = car.number("trip.range") * (isMiles(car) ? milesPerKilometre : 1);
+    const double shown = car.number("trip.range") * (isMiles(car) ? MilesPerKilometre : 1);
     return data(subType, QByteArray(1, char(!isMiles(car))) + bytesOf(shown, 2));
 }
 
 // d1: 0 kilometres; d2 to d5: tenths
 QByteArray VolkswagenDrivingData::distance(const SimulatedCar &car, quint8 subType, const QString &property)
 {
-    const double shown = car.real(property) * (isMiles(car) ? milesPerKilometre : 1);
+    const double shown = car.real(property) * (isMiles(car) ? MilesPerKilometre : 1);
     return data(subType, QByteArray(1, char(!isMiles(car))) + bytesOf(shown * 10, 4));
 }
 
@@ -83,7 +83,7 @@ QByteArray VolkswagenDrivingData::consumption(const SimulatedCar &car, quint8 su
 QByteArray VolkswagenDrivingData::speed(const SimulatedCar &car, quint8 subType, const QString &property)
 {
     const bool isMph = car.text("settings.units.speed") == "mph";
-    const double shown = car.number(property) * (isMph ? milesPerKilometre : 1);
+    const double shown = car.number(property) * (isMph ? MilesPerKilometre : 1);
     return data(subType, QByteArray(1, char(isMph)) + bytesOf(shown * 10, 2));
 }
 
@@ -106,7 +106,7 @@ QByteArray VolkswagenDrivingData::serviceDistance(const SimulatedCar &car, quint
                                                   const QString &property)
 {
     const int kilometres = car.number(property);
-    const double shown = std::abs(kilometres) * (isMiles(car) ? milesPerKilometre : 1);
+    const double shown = std::abs(kilometres) * (isMiles(car) ? MilesPerKilometre : 1);
     const int d1 = serviceForm(car, kilometres) | (isMiles(car) ? 1 << 4 : 0);
     return data(subType, QByteArray(1, char(d1)) + bytesOf(shown / 100, 2)).left(4);
 }

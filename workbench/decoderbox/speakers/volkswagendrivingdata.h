@@ -20,4 +20,4 @@ QByteArray serviceDistance(const SimulatedCar &car, quint8 subType, const QStrin
 
 } // namespace VolkswagenDrivingData
 
-#endif
+#endif // VOLKSWAGENDRIVINGDATA_H

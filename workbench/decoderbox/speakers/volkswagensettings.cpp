@@ -1,7 +1,7 @@
 #include "volkswagensettings.h"
 
 namespace {
-const int none = 0;
+const int None = 0;
 }
 
 const QVector<VolkswagenSetting> &VolkswagenSetting::all()
@@ -11,7 +11,7 @@ const QVector<VolkswagenSetting> &VolkswagenSetting::all()
         {16, "settings.esc", 0x10, 1, 0, 8, 1, 0},
 
         {32, "settings.tyres.speed_warning", 0x20, 1, 0, 1, 1, 0},
-        {none, "settings.units.speed", 0x20, 1, 1, 1, 1, 0},
+        {None, "settings.units.speed", 0x20, 1, 1, 1, 1, 0},
         {33, "settings.tyres.speed", 0x20, 2, 0, 8, 1, 0},
         {35, "settings.tyres.load", 0x20, 3, 0, 8, 1, 0},
 
@@ -34,7 +34,7 @@ const QVector<VolkswagenSetting> &VolkswagenSetting::all()
         {66, "settings.parking.front_tone", 0x40, 2, 4, 4, 1, 0},
         {67, "settings.parking.rear_volume", 0x40, 3, 0, 4, 1, 0},
         {68, "settings.parking.rear_tone", 0x40, 3, 4, 4, 1, 0},
-        {171, "settings.parking.radar_sound", none, 0, 0, 0, 1, 0},
+        {171, "settings.parking.radar_sound", None, 0, 0, 0, 1, 0},
 
         {80, "settings.light.switch_on", 0x50, 1, 0, 3, 1, 0},
         {81, "settings.light.rain", 0x50, 1, 4, 1, 1, 0},
@@ -94,15 +94,15 @@ const QVector<VolkswagenSetting> &VolkswagenSetting::all()
         {210, "settings.drive.engine", 0xA0, 2, 4, 4, 1, 0},
         {211, "settings.drive.climate", 0xA0, 3, 0, 4, 2, 0},
         {213, "settings.drive.lighting", 0xA0, 3, 4, 4, 1, 0},
-        {228, "settings.drive.offroad_climate", none, 0, 0, 0, 2, 0},
+        {228, "settings.drive.offroad_climate", None, 0, 0, 0, 2, 0},
 
         {202, "settings.seat.remote_key", 0xB0, 1, 0, 1, 1, 0},
         {203, "settings.seat.memory", 0xB0, 1, 1, 1, 1, 0},
 
-        {none, "settings.drive.mode", 0xB1, 1, 0, 3, 1, 0},
+        {None, "settings.drive.mode", 0xB1, 1, 0, 3, 1, 0},
 
         // Its place is in the service data.
-        {140, "service.wiper_position", none, 0, 0, 0, 1, 0},
+        {140, "service.wiper_position", None, 0, 0, 0, 1, 0},
     };
     return settings;
 }
@@ -111,7 +111,7 @@ QVector<quint8> VolkswagenSetting::pages()
 {
     QVector<quint8> result;
     for (const VolkswagenSetting &setting : all()) {
-        if (setting.page != none && !result.contains(setting.page)) {
+        if (setting.page != None && !result.contains(setting.page)) {
             result << setting.page;
         }
     }
@@ -144,7 +144,7 @@ QByteArray VolkswagenSetting::pageData(quint8 page, const SimulatedCar &car)
 const VolkswagenSetting *VolkswagenSetting::find(int item)
 {
     for (const VolkswagenSetting &setting : all()) {
-        if (setting.item == item && item != none) {
+        if (setting.item == item && item != None) {
             return &setting;
         }
     }

@@ -33,4 +33,4 @@ private:
     int field(const SimulatedCar &car) const;
 };
 
-#endif
+#endif // VOLKSWAGENSETTINGS_H

@@ -7,21 +7,21 @@
 
 namespace {
 
-const quint8 wheelKey = 0x20;
-const quint8 functionKey = 0x2F;
-const quint8 seekForward = 3;
-const quint8 seekBackward = 4;
-const quint8 seekReleased = 5;
+const quint8 WheelKey = 0x20;
+const quint8 FunctionKey = 0x2F;
+const quint8 SeekForward = 3;
+const quint8 SeekBackward = 4;
+const quint8 SeekReleased = 5;
 
-const quint8 settingsPage = 0x40;
-const quint8 drivingData = 0x50;
-const quint8 serviceData = 0x63;
+const quint8 SettingsPage = 0x40;
+const quint8 DrivingData = 0x50;
+const quint8 ServiceData = 0x63;
 
 // The box sends distances as they are: an outer sensor tells six steps of 10 cm, a middle one six of 20 in
 // front and of 27.5 behind. The middle of a step is what a wall there would give.
-const double outerStep = 10;
-const double frontMiddleStep = 20;
-const double rearMiddleStep = 27.5;
+const double OuterStep = 10;
+const double FrontMiddleStep = 20;
+const double RearMiddleStep = 27.5;
 
 // An order that is no setting: the properties behind it go back to where they began, or to 0.
 struct Action
@@ -31,7 +31,7 @@ struct Action
     bool isToZero;
 };
 
-const Action actions[] = {
+const Action Actions[] = {
     {"tyres.", 34, false},
     {"trip.since_start.", 138, true},
     {"trip.long_term.", 139, true},
@@ -52,7 +52,7 @@ QByteArray distances(const SimulatedCar &car, const QString &side, double middle
     QByteArray result;
     for (int sensor = 1; sensor <= 4; ++sensor) {
         const int level = car.number(QString("radar.%1.%2").arg(side).arg(sensor));
-        const double step = sensor == 1 || sensor == 4 ? outerStep : middleStep;
+        const double step = sensor == 1 || sensor == 4 ? OuterStep : middleStep;
         result += char(level == 0 ? 0 : int((level - 0.5) * step));
     }
     return result + QByteArray(2, '\0');
@@ -67,7 +67,7 @@ VolkswagenSpeaker::VolkswagenSpeaker(SimulatedCar *car, QObject *parent) : Raise
     addServiceData();
     addMessages();
     for (const quint8 page : VolkswagenSetting::pages()) {
-        addReport({"settings " + hex(page), settingsPage, VolkswagenSetting::propertiesOf(page),
+        addReport({"settings " + hex(page), SettingsPage, VolkswagenSetting::propertiesOf(page),
                    [page](const SimulatedCar &c) { return VolkswagenSetting::pageData(page, c); }, false});
     }
     addProperties({"settings."});
@@ -78,15 +78,15 @@ VolkswagenSpeaker::VolkswagenSpeaker(SimulatedCar *car, QObject *parent) : Raise
 
 QVector<BoxPackage> VolkswagenSpeaker::keyPackages(const BoxKey &key, KeyState state) const
 {
-    if (key.command == wheelKey) {
-        return {{wheelKey, bytes({state == Released ? 0 : key.code, state})}};
+    if (key.command == WheelKey) {
+        return {{WheelKey, bytes({state == Released ? 0 : key.code, state})}};
     }
     if (state == Pressed) {
-        return {{functionKey, bytes({key.code})}};
+        return {{FunctionKey, bytes({key.code})}};
     }
-    const bool seeks = key.code == seekForward || key.code == seekBackward;
+    const bool seeks = key.code == SeekForward || key.code == SeekBackward;
     if (state == Released && seeks) {
-        return {{functionKey, bytes({seekReleased})}};
+        return {{FunctionKey, bytes({SeekReleased})}};
     }
     return {};
 }
@@ -103,12 +103,12 @@ void VolkswagenSpeaker::addCarReports()
     addReport({"radar rear",
                0x22,
                {"radar.rear."},
-               [](const SimulatedCar &c) { return distances(c, "rear", rearMiddleStep); },
+               [](const SimulatedCar &c) { return distances(c, "rear", RearMiddleStep); },
                true});
     addReport({"radar front",
                0x23,
                {"radar.front."},
-               [](const SimulatedCar &c) { return distances(c, "front", frontMiddleStep); },
+               [](const SimulatedCar &c) { return distances(c, "front", FrontMiddleStep); },
                true});
     addReport({"doors", 0x24, {"doors."}, doors, true});
     addReport({"tyre states",
@@ -125,7 +125,7 @@ void VolkswagenSpeaker::addCarReports()
 void VolkswagenSpeaker::addDrivingData()
 {
     addReport({"range",
-               drivingData,
+               DrivingData,
                {"trip.range", "settings.units.distance"},
                [](const SimulatedCar &c) { return VolkswagenDrivingData::range(c, 0x10); },
                false});
@@ -133,7 +133,7 @@ void VolkswagenSpeaker::addDrivingData()
     addTrip(1, "since_refuel");
     addTrip(2, "long_term");
     addReport({"consumption now",
-               drivingData,
+               DrivingData,
                {"trip.consumption", "settings.units.consumption"},
                [](const SimulatedCar &c) {
                    return VolkswagenDrivingData::consumption(c, 0x61, "trip.consumption");
@@ -162,7 +162,7 @@ void VolkswagenSpeaker::addTrip(int page, const QString &trip)
         const quint8 subType = quint8(row.subType + page);
         const Layout layout = row.layout;
         addReport(
-            {QString("%1 %2").arg(row.name, trip), drivingData,
+            {QString("%1 %2").arg(row.name, trip), DrivingData,
              row.unit ? QStringList{property, row.unit} : QStringList{property},
              [property, subType, layout](const SimulatedCar &c) { return layout(c, subType, property); },
              false});
@@ -172,7 +172,7 @@ void VolkswagenSpeaker::addTrip(int page, const QString &trip)
 void VolkswagenSpeaker::addServiceData()
 {
     addReport({"vehicle number",
-               serviceData,
+               ServiceData,
                {"service.vehicle_number"},
                [](const SimulatedCar &c) { return '\0' + c.text("service.vehicle_number").toLatin1(); },
                false});
@@ -181,7 +181,7 @@ void VolkswagenSpeaker::addServiceData()
     addService(0x20, "oil change days", "service.oil.days", false);
     addService(0x21, "oil change distance", "service.oil.distance", true);
     addReport({"wiper position",
-               serviceData,
+               ServiceData,
                {"service.wiper_position"},
                [](const SimulatedCar &c) {
                    return bytes({0x22, c.flag("service.wiper_position"), 0, 0});
@@ -198,7 +198,7 @@ void VolkswagenSpeaker::addService(quint8 subType, const QString &name, const QS
     }
     const auto layout =
         isDistance ? VolkswagenDrivingData::serviceDistance : VolkswagenDrivingData::serviceDays;
-    addReport({name, serviceData, concerns,
+    addReport({name, ServiceData, concerns,
                [layout, subType, counter](const SimulatedCar &c) { return layout(c, subType, counter); },
                false});
 }
@@ -212,7 +212,7 @@ void VolkswagenSpeaker::addMessages()
 
 void VolkswagenSpeaker::addVolkswagenKeys()
 {
-    addKeys(BoxKey::Wheel, wheelKey,
+    addKeys(BoxKey::Wheel, WheelKey,
             {{1, "volume_up"},
              {2, "volume_down"},
              {3, "next"},
@@ -221,11 +221,11 @@ void VolkswagenSpeaker::addVolkswagenKeys()
              {6, "mute"},
              {7, "mode"},
              {8, "voice"}});
-    addKeys(BoxKey::Panel, functionKey,
+    addKeys(BoxKey::Panel, FunctionKey,
             {{1, "function_previous"},
              {2, "function_next"},
-             {seekForward, "function_forward"},
-             {seekBackward, "function_rewind"},
+             {SeekForward, "function_forward"},
+             {SeekBackward, "function_rewind"},
              {17, "function_call"},
              {18, "function_hangup"}});
 }
@@ -234,11 +234,11 @@ void VolkswagenSpeaker::addVolkswagenKeys()
 QString VolkswagenSpeaker::takeRequest(const BoxPackage &package)
 {
     const quint8 command = package.d(0);
-    const bool hasSubTypes = command == settingsPage || command == drivingData || command == serviceData;
+    const bool hasSubTypes = command == SettingsPage || command == DrivingData || command == ServiceData;
     QString meaning = QString("request %1 %2").arg(hex(command), hex(package.d(1)));
     for (int i = 0; i < reports().size(); ++i) {
         if (reports().at(i).command == command && (!hasSubTypes || reportPackage(i).d(0) == package.d(1))) {
-            emit reportDue(i);
+            Q_EMIT reportDue(i);
             return meaning;
         }
     }
@@ -264,7 +264,7 @@ QString VolkswagenSpeaker::takeSetting(const BoxPackage &package)
 
 bool VolkswagenSpeaker::isAction(int item) const
 {
-    for (const Action &action : actions) {
+    for (const Action &action : Actions) {
         if (action.item == item) {
             return true;
         }
@@ -274,7 +274,7 @@ bool VolkswagenSpeaker::isAction(int item) const
 
 void VolkswagenSpeaker::carryOutAction(int item)
 {
-    for (const Action &action : actions) {
+    for (const Action &action : Actions) {
         if (action.item == item && !action.isToZero) {
             car()->reset(action.properties);
         }

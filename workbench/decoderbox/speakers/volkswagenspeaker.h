@@ -38,4 +38,4 @@ private:
     static QByteArray consumers(const SimulatedCar &car);
 };
 
-#endif
+#endif // VOLKSWAGENSPEAKER_H

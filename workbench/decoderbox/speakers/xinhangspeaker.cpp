@@ -4,15 +4,15 @@
 
 namespace {
 
-const quint8 wheelKey = 0x03;
-const quint8 panelKey = 0x0B;
-const quint8 cursorKey = 0x87;
-const quint8 applicationRequest = 0x0C;
-const quint8 firmwareAnswer = 0x08;
+const quint8 WheelKey = 0x03;
+const quint8 PanelKey = 0x0B;
+const quint8 CursorKey = 0x87;
+const quint8 ApplicationRequest = 0x0C;
+const quint8 FirmwareAnswer = 0x08;
 
-const int versionLength = 32;
-const int radarSensors = 8;
-const int farthestLevel = 6;
+const int VersionLength = 32;
+const int RadarSensors = 8;
+const int FarthestLevel = 6;
 
 struct KeyRow
 {
@@ -21,7 +21,7 @@ struct KeyRow
 };
 
 // The steering wheel and the panel share one set of codes.
-const KeyRow keyRows[] = {
+const KeyRow KeyRows[] = {
     {0x01, "up"},      {0x02, "down"},        {0x03, "key_03"},    {0x04, "key_04"},  {0x05, "enter"},
     {0x06, "back"},    {0x07, "enter_2"},     {0x08, "previous"},  {0x09, "next"},    {0x0A, "rewind"},
     {0x0B, "forward"}, {0x0C, "volume_down"}, {0x0D, "volume_up"}, {0x0E, "mute"},    {0x0F, "call"},
@@ -32,10 +32,10 @@ const KeyRow keyRows[] = {
 };
 
 // What the unit can set in the box; index: the number of the setting.
-const char *const settingNames[] = {
+const char *const SettingNames[] = {
     "reverse camera", "starting front view", "dedicated right view", "steering front view", "car type",
     "display type",   "sound type"};
-const int settingCount = int(sizeof settingNames / sizeof *settingNames);
+const int SettingCount = int(sizeof SettingNames / sizeof *SettingNames);
 
 QByteArray oneByte(int value)
 {
@@ -54,7 +54,7 @@ XinHangSpeaker::XinHangSpeaker(SimulatedCar *car, QObject *parent)
     connect(&m_firmware, &FirmwareReceiver::observed, this, &BoxSpeaker::observed);
     connect(&m_firmware, &FirmwareReceiver::answerDue, this,
             [this](const QByteArray &data, const QString &meaning) {
-                emit packageDue({firmwareAnswer, data}, meaning);
+                Q_EMIT packageDue({FirmwareAnswer, data}, meaning);
             });
 }
 
@@ -71,7 +71,7 @@ BoxPackage XinHangSpeaker::touchPackage(Touch touch, int x, int y) const
 // Cursor keys and application requests are sent once, when they are pressed.
 QVector<BoxPackage> XinHangSpeaker::keyPackages(const BoxKey &key, KeyState state) const
 {
-    if (key.command == wheelKey || key.command == panelKey) {
+    if (key.command == WheelKey || key.command == PanelKey) {
         return {{key.command, oneByte(state) + char(key.code)}};
     }
     if (state != Pressed) {
@@ -95,7 +95,7 @@ void XinHangSpeaker::addReports()
                0x05,
                {"box.version"},
                [](const SimulatedCar &c) {
-                   return c.text("box.version").toLatin1().leftJustified(versionLength, '\0');
+                   return c.text("box.version").toLatin1().leftJustified(VersionLength, '\0');
                },
                true});
     addReport({"radar maxima", 0x09, {"box.radar_maxima"}, radarMaxima, true});
@@ -113,19 +113,19 @@ void XinHangSpeaker::addReports()
 
 void XinHangSpeaker::addAllKeys()
 {
-    for (const KeyRow &row : keyRows) {
-        addKey({row.name, BoxKey::Wheel, wheelKey, row.code});
+    for (const KeyRow &row : KeyRows) {
+        addKey({row.name, BoxKey::Wheel, WheelKey, row.code});
     }
-    for (const KeyRow &row : keyRows) {
-        addKey({QString("panel_") + row.name, BoxKey::Panel, panelKey, row.code});
+    for (const KeyRow &row : KeyRows) {
+        addKey({QString("panel_") + row.name, BoxKey::Panel, PanelKey, row.code});
     }
-    addKey({"cursor_up", BoxKey::Panel, cursorKey, 0});
-    addKey({"cursor_down", BoxKey::Panel, cursorKey, 1});
-    addKey({"cursor_left", BoxKey::Panel, cursorKey, 2});
-    addKey({"cursor_right", BoxKey::Panel, cursorKey, 3});
-    addKey({"application_none", BoxKey::Panel, applicationRequest, 0});
-    addKey({"application_1", BoxKey::Panel, applicationRequest, 1});
-    addKey({"application_2", BoxKey::Panel, applicationRequest, 2});
+    addKey({"cursor_up", BoxKey::Panel, CursorKey, 0});
+    addKey({"cursor_down", BoxKey::Panel, CursorKey, 1});
+    addKey({"cursor_left", BoxKey::Panel, CursorKey, 2});
+    addKey({"cursor_right", BoxKey::Panel, CursorKey, 3});
+    addKey({"application_none", BoxKey::Panel, ApplicationRequest, 0});
+    addKey({"application_1", BoxKey::Panel, ApplicationRequest, 1});
+    addKey({"application_2", BoxKey::Panel, ApplicationRequest, 2});
 }
 
 void XinHangSpeaker::addCommands()
@@ -146,10 +146,10 @@ void XinHangSpeaker::addCommands()
 QString XinHangSpeaker::takeReady(const BoxPackage &package)
 {
     if (package.d(0) == 0) {
-        emit endReceived();
+        Q_EMIT endReceived();
         return "end";
     }
-    emit readyReceived();
+    Q_EMIT readyReceived();
     answerWith("box.car_type");
     return "ready";
 }
@@ -166,7 +166,7 @@ QString XinHangSpeaker::takeDisplaySource(const BoxPackage &package)
 QString XinHangSpeaker::takeSetting(const BoxPackage &package)
 {
     const int setting = package.d(0);
-    const QString name = setting < settingCount ? QString(settingNames[setting]) : QString::number(setting);
+    const QString name = setting < SettingCount ? QString(SettingNames[setting]) : QString::number(setting);
     return observe("setting " + name, QString::number(package.d(1)));
 }
 
@@ -191,10 +191,10 @@ QByteArray XinHangSpeaker::radarAndSteering(const SimulatedCar &car)
     const int magnitude = int(std::lround(std::abs(angle) * 40 / 540.0));
     QByteArray result = oneByte(magnitude | (angle > 0 ? 0x80 : 0));
     const QByteArray maxima = radarMaxima(car);
-    for (int sensor = 0; sensor < radarSensors; ++sensor) {
+    for (int sensor = 0; sensor < RadarSensors; ++sensor) {
         const int level =
             car.number(QString("radar.%1.%2").arg(sensor < 4 ? "front" : "rear").arg(sensor % 4 + 1));
-        const int scaled = level * quint8(maxima.at(sensor)) / farthestLevel;
+        const int scaled = level * quint8(maxima.at(sensor)) / FarthestLevel;
         result += char(level == 0 ? 0 : qMax(1, scaled));
     }
     return result;
@@ -207,5 +207,5 @@ QByteArray XinHangSpeaker::radarMaxima(const SimulatedCar &car)
     for (const int maximum : car.numbers("box.radar_maxima")) {
         result += char(maximum);
     }
-    return result.leftJustified(radarSensors, '\0');
+    return result.leftJustified(RadarSensors, '\0');
 }

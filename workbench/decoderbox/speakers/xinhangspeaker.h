@@ -33,4 +33,4 @@ private:
     FirmwareReceiver m_firmware;
 };
 
-#endif
+#endif // XINHANGSPEAKER_H

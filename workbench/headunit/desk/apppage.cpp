@@ -7,15 +7,15 @@
 #include <QPainter>
 
 namespace {
-const uint cameraAroundTheCar = 513;
-const int margin = 16;
-const int pictureSize = 112;
+const uint CameraAroundTheCar = 513;
+const int Margin = 16;
+const int PictureSize = 112;
 } // namespace
 
 AppPage::AppPage(QWidget *parent) : QWidget(parent), m_carView(new CarView)
 {
     QHBoxLayout *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(margin, margin / 2, margin, margin);
+    layout->setContentsMargins(Margin, Margin / 2, Margin, Margin);
     layout->addWidget(m_carView);
     hide();
 }
@@ -25,7 +25,7 @@ void AppPage::setApplication(uint appId, const QString &title, const QPixmap &ic
     m_appId = appId;
     m_title = title;
     m_icon = icon;
-    m_carView->setVisible(appId == cameraAroundTheCar);
+    m_carView->setVisible(appId == CameraAroundTheCar);
     update();
 }
 
@@ -38,24 +38,24 @@ void AppPage::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.fillRect(rect(), DeskColours::ground);
+    painter.fillRect(rect(), DeskColours::Ground);
     if (m_carView->isVisible()) {
         return;
     }
     const QPoint middle = rect().center();
     painter.drawPixmap(
-        QRect(middle.x() - pictureSize / 2, middle.y() - pictureSize, pictureSize, pictureSize), m_icon);
+        QRect(middle.x() - PictureSize / 2, middle.y() - PictureSize, PictureSize, PictureSize), m_icon);
     QFont font = painter.font();
     font.setPixelSize(32);
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(DeskColours::text);
-    const QRect titleLine(margin, middle.y() + margin, width() - 2 * margin, 48);
+    painter.setPen(DeskColours::Text);
+    const QRect titleLine(Margin, middle.y() + Margin, width() - 2 * Margin, 48);
     painter.drawText(titleLine, Qt::AlignCenter,
                      painter.fontMetrics().elidedText(m_title, Qt::ElideRight, titleLine.width()));
     font.setPixelSize(20);
     font.setBold(false);
     painter.setFont(font);
-    painter.setPen(DeskColours::dim);
+    painter.setPen(DeskColours::Dim);
     painter.drawText(titleLine.translated(0, 48), Qt::AlignCenter, tr("This picture comes from the car."));
 }

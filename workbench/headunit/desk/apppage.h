@@ -34,4 +34,4 @@ private:
     CarView *m_carView;
 };
 
-#endif
+#endif // APPPAGE_H

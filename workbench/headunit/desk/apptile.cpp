@@ -7,10 +7,10 @@
 
 namespace {
 
-const QSize tileSize(132, 168);
-const int pictureSize = 96;
-const int topMargin = 12;
-const int titleMargin = 4;
+const QSize TileSize(132, 168);
+const int PictureSize = 96;
+const int TopMargin = 12;
+const int TitleMargin = 4;
 
 QFont titleFont()
 {
@@ -32,19 +32,19 @@ AppTile::AppTile(const QString &title, const QString &normal, const QString &hig
         m_highlighted = m_normal;
     }
     setText(title);
-    setFixedSize(tileSize);
+    setFixedSize(TileSize);
     setFocusPolicy(Qt::StrongFocus);
 }
 
 QSize AppTile::sizeHint() const
 {
-    return tileSize;
+    return TileSize;
 }
 
 QStringList AppTile::titleLines() const
 {
     const QFontMetrics metrics(titleFont());
-    const int width = tileSize.width() - 2 * titleMargin;
+    const int width = TileSize.width() - 2 * TitleMargin;
     QTextLayout layout(text(), titleFont());
     layout.beginLayout();
     QTextLine first = layout.createLine();
@@ -69,16 +69,16 @@ void AppTile::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const bool isLit = isDown() || isChecked();
     if (isLit || hasFocus()) {
-        painter.setPen(hasFocus() ? QPen(DeskColours::accent, 2) : QPen(Qt::NoPen));
-        painter.setBrush(isLit ? DeskColours::edge : DeskColours::panel);
+        painter.setPen(hasFocus() ? QPen(DeskColours::Accent, 2) : QPen(Qt::NoPen));
+        painter.setBrush(isLit ? DeskColours::Edge : DeskColours::Panel);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
     }
-    const QRect place((width() - pictureSize) / 2, topMargin, pictureSize, pictureSize);
+    const QRect place((width() - PictureSize) / 2, TopMargin, PictureSize, PictureSize);
     painter.drawPixmap(place, isLit ? m_highlighted : m_normal);
 
     painter.setFont(titleFont());
-    painter.setPen(isLit ? DeskColours::text : QColor(0xD5, 0xDB, 0xE2));
+    painter.setPen(isLit ? DeskColours::Text : QColor(0xD5, 0xDB, 0xE2));
     const int top = place.bottom() + 6;
-    const QRect title(titleMargin, top, width() - 2 * titleMargin, height() - top);
+    const QRect title(TitleMargin, top, width() - 2 * TitleMargin, height() - top);
     painter.drawText(title, Qt::AlignHCenter | Qt::AlignTop, titleLines().join(QLatin1Char('\n')));
 }

@@ -28,4 +28,4 @@ private:
     QPixmap m_highlighted;
 };
 
-#endif
+#endif // APPTILE_H

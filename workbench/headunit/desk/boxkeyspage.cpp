@@ -9,8 +9,8 @@
 #include <QPushButton>
 
 namespace {
-const int gap = 8;
-const int columns = 2;
+const int Gap = 8;
+const int Columns = 2;
 
 // The card says already where the key is.
 QString title(const BoxKey &key)
@@ -26,7 +26,7 @@ BoxKeysPage::BoxKeysPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(gap);
+    page->setSpacing(Gap);
     addKeys(tr("Keys on the steering wheel"), BoxKey::Wheel);
     addKeys(tr("Keys on the car's panel"), BoxKey::Panel);
     addKnobs();
@@ -49,7 +49,7 @@ void BoxKeysPage::addKeys(const QString &heading, BoxKey::Source source)
             PanelCard *card = new PanelCard(heading);
             layout()->addWidget(card);
             grid = new QGridLayout;
-            grid->setSpacing(gap);
+            grid->setSpacing(Gap);
             card->rows()->addLayout(grid);
         }
         QPushButton *button = new QPushButton(title(key));
@@ -58,7 +58,7 @@ void BoxKeysPage::addKeys(const QString &heading, BoxKey::Source source)
         const QString name = key.name;
         connect(button, &QPushButton::pressed, m_box, [this, name] { m_box->pressKey(name); });
         connect(button, &QPushButton::released, m_box, [this, name] { m_box->releaseKey(name); });
-        grid->addWidget(button, place / columns, place % columns);
+        grid->addWidget(button, place / Columns, place % Columns);
         ++place;
     }
 }
@@ -74,7 +74,7 @@ void BoxKeysPage::addKnobs()
             PanelCard *card = new PanelCard(tr("Knobs"));
             layout()->addWidget(card);
             grid = new QGridLayout;
-            grid->setSpacing(gap);
+            grid->setSpacing(Gap);
             grid->setColumnStretch(0, 1);
             card->rows()->addLayout(grid);
         }

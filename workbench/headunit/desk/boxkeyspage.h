@@ -24,4 +24,4 @@ private:
     DecoderBox *m_box;
 };
 
-#endif
+#endif // BOXKEYSPAGE_H

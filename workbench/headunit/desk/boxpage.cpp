@@ -14,12 +14,12 @@
 
 namespace {
 
-const int gap = 8;
-const int noiseBytes = 24;
-const int cutAfter = 3;
-const int silenceMs = 3000;
-const int logLines = 500;
-const int logHeight = 260;
+const int Gap = 8;
+const int NoiseBytes = 24;
+const int CutAfter = 3;
+const int SilenceMs = 3000;
+const int LogLines = 500;
+const int LogHeight = 260;
 
 QLabel *plainLabel(const char *objectName)
 {
@@ -40,7 +40,7 @@ QPushButton *chip()
 QHBoxLayout *pair(QWidget *left, QWidget *right)
 {
     QHBoxLayout *row = new QHBoxLayout;
-    row->setSpacing(gap);
+    row->setSpacing(Gap);
     row->addWidget(left, 1);
     row->addWidget(right, 1);
     return row;
@@ -53,7 +53,7 @@ BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(gap);
+    page->setSpacing(Gap);
     for (PanelCard **card : {&m_stateCard, &m_scenarioCard, &m_faultCard, &m_observationCard, &m_logCard}) {
         *card = new PanelCard(QString());
         page->addWidget(*card);
@@ -66,10 +66,10 @@ BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
     m_log = new QPlainTextEdit;
     m_log->setObjectName(QStringLiteral("boxLog"));
     m_log->setReadOnly(true);
-    m_log->setMaximumBlockCount(logLines);
+    m_log->setMaximumBlockCount(LogLines);
     m_log->setWordWrapMode(QTextOption::WrapAnywhere);
     m_log->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_log->setFixedHeight(logHeight);
+    m_log->setFixedHeight(LogHeight);
     m_logCard->rows()->addWidget(m_log);
     page->addStretch();
 
@@ -123,10 +123,10 @@ void BoxPage::addFaultCard()
     m_silence = chip();
     m_faultCard->rows()->addLayout(pair(m_noise, m_cut));
     m_faultCard->rows()->addLayout(pair(m_corrupt, m_silence));
-    connect(m_noise, &QPushButton::clicked, m_box, [this] { m_box->sendNoise(noiseBytes); });
-    connect(m_cut, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CutNext, cutAfter); });
+    connect(m_noise, &QPushButton::clicked, m_box, [this] { m_box->sendNoise(NoiseBytes); });
+    connect(m_cut, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CutNext, CutAfter); });
     connect(m_corrupt, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CorruptNext); });
-    connect(m_silence, &QPushButton::clicked, m_box, [this] { m_box->holdTongue(silenceMs); });
+    connect(m_silence, &QPushButton::clicked, m_box, [this] { m_box->holdTongue(SilenceMs); });
 }
 
 void BoxPage::choose()

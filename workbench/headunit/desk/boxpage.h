@@ -64,4 +64,4 @@ private:
     QPlainTextEdit *m_log;
 };
 
-#endif
+#endif // BOXPAGE_H

@@ -10,7 +10,7 @@
 
 namespace {
 
-const int gap = 8;
+const int Gap = 8;
 
 /// "radar.front" of "radar.front.2"; empty for a name that does not end in a number.
 QString family(const CarProperty &property)
@@ -28,7 +28,7 @@ CarPage::CarPage(SimulatedCar *car, const QStringList &names, QWidget *parent) :
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(gap);
+    page->setSpacing(Gap);
     QStringList groups;
     QHash<QString, QVector<const CarProperty *>> byGroup;
     for (const QString &name : names) {
@@ -79,7 +79,7 @@ int CarPage::addAlike(QVBoxLayout *rows, const QVector<const CarProperty *> &pro
 int CarPage::addSwitches(QVBoxLayout *rows, const QVector<const CarProperty *> &properties, int from)
 {
     QGridLayout *grid = new QGridLayout;
-    grid->setSpacing(gap);
+    grid->setSpacing(Gap);
     int i = from;
     for (; i < properties.size() && properties.at(i)->kind == CarProperty::Switch; ++i) {
         const int place = i - from;

@@ -25,4 +25,4 @@ private:
     SimulatedCar *m_car;
 };
 
-#endif
+#endif // CARPAGE_H

@@ -18,24 +18,24 @@ enum CarData {
     TrackSwitch = 0x501E
 };
 
-const int doorBits = CarState::FrontLeft | CarState::FrontRight | CarState::RearLeft | CarState::RearRight;
+const int DoorBits = CarState::FrontLeft | CarState::FrontRight | CarState::RearLeft | CarState::RearRight;
 
 // One decoder counts its steering sensor in twelve bits and hands the right half of the circle over without a
 // sign: the full circle is 4096 / 380 locks of 40 degrees.
-const int unsignedCircle = 431;
+const int UnsignedCircle = 431;
 
-void takeLevels(quint8 (&levels)[CarState::sensors], const QByteArray &bytes, int from)
+void takeLevels(quint8 (&levels)[CarState::Sensors], const QByteArray &bytes, int from)
 {
-    for (int i = 0; i < CarState::sensors; ++i) {
+    for (int i = 0; i < CarState::Sensors; ++i) {
         const int level = from + i < bytes.size() ? quint8(bytes.at(from + i)) : 0;
-        levels[i] = quint8(std::min(level, CarState::farthestLevel));
+        levels[i] = quint8(std::min(level, CarState::FarthestLevel));
     }
 }
 
 int steeringFrom(int angle)
 {
-    const int folded = angle < -unsignedCircle / 2 ? angle + unsignedCircle : angle;
-    return qBound(-CarState::steeringLock, folded, CarState::steeringLock);
+    const int folded = angle < -UnsignedCircle / 2 ? angle + UnsignedCircle : angle;
+    return qBound(-CarState::SteeringLock, folded, CarState::SteeringLock);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ bool CarState::take(const OrbEvent &event)
         break;
     case RadarAll:
         takeLevels(front, bytes, 0);
-        takeLevels(rear, bytes, sensors);
+        takeLevels(rear, bytes, Sensors);
         break;
     case RadarFront:
         takeLevels(front, bytes, 0);
@@ -78,7 +78,7 @@ bool CarState::take(const OrbEvent &event)
         takeLevels(rear, bytes, 0);
         break;
     case Doors:
-        doors = int(event.getParam2()) & doorBits;
+        doors = int(event.getParam2()) & DoorBits;
         break;
     case Steering:
         steering = steeringFrom(event.getVariantParam().toInt());
@@ -97,7 +97,7 @@ bool CarState::take(const OrbEvent &event)
 
 bool CarState::operator==(const CarState &other) const
 {
-    return doors == other.doors && std::equal(front, front + sensors, other.front) &&
-           std::equal(rear, rear + sensors, other.rear) && steering == other.steering &&
+    return doors == other.doors && std::equal(front, front + Sensors, other.front) &&
+           std::equal(rear, rear + Sensors, other.rear) && steering == other.steering &&
            isRadarOn == other.isRadarOn && isTrackOn == other.isTrackOn && areLightsOn == other.areLightsOn;
 }

@@ -9,13 +9,13 @@ class OrbEvent;
 struct CarState
 {
     enum Door { FrontLeft = 1, FrontRight = 2, RearLeft = 4, RearRight = 8 };
-    static constexpr int sensors = 4;       ///< on each side, from left to right
-    static constexpr int farthestLevel = 6; ///< 1 is nearest, 0 sees nothing
-    static constexpr int steeringLock = 40; ///< degrees of the front wheels at either lock
+    static constexpr int Sensors = 4;       ///< on each side, from left to right
+    static constexpr int FarthestLevel = 6; ///< 1 is nearest, 0 sees nothing
+    static constexpr int SteeringLock = 40; ///< degrees of the front wheels at either lock
 
     int doors = 0; ///< Door bits of the open ones
-    quint8 front[sensors] = {0, 0, 0, 0};
-    quint8 rear[sensors] = {0, 0, 0, 0};
+    quint8 front[Sensors] = {0, 0, 0, 0};
+    quint8 rear[Sensors] = {0, 0, 0, 0};
     int steering = 0;      ///< -steeringLock (left) to steeringLock (right)
     bool isRadarOn = true; ///< whether radar and track are to be drawn at all
     bool isTrackOn = true;
@@ -35,4 +35,4 @@ struct CarState
     bool operator!=(const CarState &other) const { return !(*this == other); }
 };
 
-#endif
+#endif // CARSTATE_H

@@ -9,14 +9,14 @@
 
 namespace {
 
-const int headingHeight = 64;
-const int margin = 16;
+const int HeadingHeight = 64;
+const int Margin = 16;
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
-const QSizeF picture(200, 420);
-const QRectF paintWork(24, 8, 152, 406);
+const QSizeF Picture(200, 420);
+const QRectF PaintWork(24, 8, 152, 406);
 
-const qreal doorOpening = 64; // degrees
-const qreal doorThickness = 9;
+const qreal DoorOpening = 64; // degrees
+const qreal DoorThickness = 9;
 
 struct DoorLeaf
 {
@@ -25,12 +25,12 @@ struct DoorLeaf
     qreal length;
 };
 
-const DoorLeaf doorLeaves[] = {{CarState::FrontLeft, QPointF(27, 162), 74},
+const DoorLeaf DoorLeaves[] = {{CarState::FrontLeft, QPointF(27, 162), 74},
                                {CarState::FrontRight, QPointF(173, 162), 74},
                                {CarState::RearLeft, QPointF(25, 238), 68},
                                {CarState::RearRight, QPointF(175, 238), 68}};
 
-const QPointF wheels[] = {QPointF(25, 86), QPointF(175, 86), QPointF(25, 330), QPointF(175, 330)};
+const QPointF Wheels[] = {QPointF(25, 86), QPointF(175, 86), QPointF(25, 330), QPointF(175, 330)};
 
 } // namespace
 
@@ -76,7 +76,7 @@ QString CarView::message() const
 
 qreal CarView::radarReach() const
 {
-    return (height() - headingHeight) * 0.185;
+    return (height() - HeadingHeight) * 0.185;
 }
 
 qreal CarView::trackLength() const
@@ -86,10 +86,10 @@ qreal CarView::trackLength() const
 
 QRectF CarView::carRect() const
 {
-    const QRectF area(margin, headingHeight, width() - 2 * margin, height() - headingHeight - margin);
+    const QRectF area(Margin, HeadingHeight, width() - 2 * Margin, height() - HeadingHeight - Margin);
     const qreal length = area.height() - 2 * radarReach();
-    const qreal scale = length / paintWork.height();
-    QRectF car(0, 0, paintWork.width() * scale, length);
+    const qreal scale = length / PaintWork.height();
+    QRectF car(0, 0, PaintWork.width() * scale, length);
     car.moveCenter(area.center());
     return car;
 }
@@ -100,15 +100,15 @@ void CarView::paintHeading(QPainter *painter) const
     font.setPixelSize(20);
     font.setBold(true);
     painter->setFont(font);
-    QColor colour = DeskColours::dim;
+    QColor colour = DeskColours::Dim;
     if (m_state.doors != 0) {
-        colour = DeskColours::warning;
+        colour = DeskColours::Warning;
     }
     if (m_state.isRadarOn && m_state.nearest() == 1) {
-        colour = DeskColours::error;
+        colour = DeskColours::Error;
     }
     painter->setPen(colour);
-    const QRectF line(margin, 0, width() - 2 * margin, headingHeight);
+    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight);
     painter->drawText(line, Qt::AlignCenter,
                       painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
 }
@@ -131,11 +131,11 @@ void CarView::paintLights(QPainter *painter, const QRectF &car) const
 
 void CarView::paintWheels(QPainter *painter, const QRectF &car) const
 {
-    const qreal scale = car.height() / paintWork.height();
-    for (const QPointF &wheel : wheels) {
-        const bool isFront = wheel.y() < picture.height() / 2;
+    const qreal scale = car.height() / PaintWork.height();
+    for (const QPointF &wheel : Wheels) {
+        const bool isFront = wheel.y() < Picture.height() / 2;
         painter->save();
-        painter->translate(car.topLeft() + (wheel - paintWork.topLeft()) * scale);
+        painter->translate(car.topLeft() + (wheel - PaintWork.topLeft()) * scale);
         painter->scale(scale, scale);
         painter->rotate(isFront ? m_state.steering : 0);
         painter->setPen(QPen(QColor(0x5A, 0x66, 0x75), 2));
@@ -147,29 +147,29 @@ void CarView::paintWheels(QPainter *painter, const QRectF &car) const
 
 void CarView::paintDoors(QPainter *painter, const QRectF &car) const
 {
-    const qreal scale = car.height() / paintWork.height();
-    for (const DoorLeaf &leaf : doorLeaves) {
+    const qreal scale = car.height() / PaintWork.height();
+    for (const DoorLeaf &leaf : DoorLeaves) {
         if (!m_state.isDoorOpen(leaf.door)) {
             continue;
         }
-        const bool isLeft = leaf.hinge.x() < picture.width() / 2;
+        const bool isLeft = leaf.hinge.x() < Picture.width() / 2;
         painter->save();
-        painter->translate(car.topLeft() + (leaf.hinge - paintWork.topLeft()) * scale);
+        painter->translate(car.topLeft() + (leaf.hinge - PaintWork.topLeft()) * scale);
         painter->scale(isLeft ? scale : -scale, scale);
         // The way that the leaf swung, the dark sill that it left, and the leaf.
         QPainterPath swing;
         const QRectF circle(-leaf.length, -leaf.length, 2 * leaf.length, 2 * leaf.length);
-        swing.arcTo(circle, 270, -doorOpening);
+        swing.arcTo(circle, 270, -DoorOpening);
         swing.closeSubpath();
-        QColor shade = DeskColours::warning;
+        QColor shade = DeskColours::Warning;
         shade.setAlphaF(0.22);
         painter->fillPath(swing, shade);
         painter->setPen(QPen(QColor(0x0B, 0x0F, 0x14), 7, Qt::SolidLine, Qt::RoundCap));
         painter->drawLine(QPointF(2, 4), QPointF(2, leaf.length - 4));
-        painter->rotate(doorOpening);
+        painter->rotate(DoorOpening);
         painter->setPen(QPen(QColor(0x5A, 0x3D, 0x08), 1.2));
-        painter->setBrush(DeskColours::warning);
-        painter->drawRoundedRect(QRectF(-doorThickness / 2, 0, doorThickness, leaf.length), 4, 4);
+        painter->setBrush(DeskColours::Warning);
+        painter->drawRoundedRect(QRectF(-DoorThickness / 2, 0, DoorThickness, leaf.length), 4, 4);
         painter->fillRect(QRectF(-1.5, leaf.length * 0.2, 3, leaf.length * 0.6), QColor(0x20, 0x28, 0x32));
         painter->restore();
     }
@@ -181,12 +181,12 @@ void CarView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(DeskColours::panel);
+    painter.setBrush(DeskColours::Panel);
     painter.drawRoundedRect(rect(), 10, 10);
     paintHeading(&painter);
 
     const QRectF car = carRect();
-    const qreal scale = car.height() / paintWork.height();
+    const qreal scale = car.height() / PaintWork.height();
     if (m_state.isRadarOn) {
         RadarArcs(RadarArcs::Front, car, radarReach()).paint(&painter, m_state.front);
         RadarArcs(RadarArcs::Rear, car, radarReach()).paint(&painter, m_state.rear);
@@ -198,7 +198,7 @@ void CarView::paintEvent(QPaintEvent *)
         paintLights(&painter, car);
     }
     paintWheels(&painter, car);
-    painter.drawPixmap(QRectF(car.topLeft() - paintWork.topLeft() * scale, picture * scale), m_body,
+    painter.drawPixmap(QRectF(car.topLeft() - PaintWork.topLeft() * scale, Picture * scale), m_body,
                        QRectF(m_body.rect()));
     paintDoors(&painter, car);
 }

@@ -41,4 +41,4 @@ private:
     QPixmap m_body;
 };
 
-#endif
+#endif // CARVIEW_H

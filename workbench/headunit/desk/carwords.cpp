@@ -12,7 +12,7 @@ struct Word
     const char *text;
 };
 
-const Word words[] = {
+const Word Words[] = {
     {"ac", QT_TRANSLATE_NOOP("CarWords", "A/C")},
     {"activated", QT_TRANSLATE_NOOP("CarWords", "Activated")},
     {"active", QT_TRANSLATE_NOOP("CarWords", "Active")},
@@ -223,7 +223,7 @@ const QHash<QString, const char *> &textsByName()
 {
     static const QHash<QString, const char *> texts = [] {
         QHash<QString, const char *> result;
-        for (const Word &word : words) {
+        for (const Word &word : Words) {
             result.insert(QLatin1String(word.name), word.text);
         }
         return result;

@@ -18,4 +18,4 @@ QString propertyText(const QString &name);
 
 } // namespace CarWords
 
-#endif
+#endif // CARWORDS_H

@@ -29,4 +29,4 @@ private:
     QTimer m_timer;
 };
 
-#endif
+#endif // CLIMATEWATCH_H

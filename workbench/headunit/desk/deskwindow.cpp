@@ -17,13 +17,13 @@
 
 namespace {
 
-const int margin = 12;
-const int preferredHeight = 860;
-const int titleBarHeight = 40; // about what a desktop puts around windows
-const AppTagId keySetTag = 0x1000c;
-const uint languageNotification = 20486;
-const int usbDisk = 0;
-const int climatePatience = 6000; // milliseconds
+const int Margin = 12;
+const int PreferredHeight = 860;
+const int TitleBarHeight = 40; // about what a desktop puts around windows
+const AppTagId KeySetTag = 0x1000c;
+const uint LanguageNotification = 20486;
+const int UsbDisk = 0;
+const int ClimatePatience = 6000; // milliseconds
 
 } // namespace
 
@@ -48,12 +48,12 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
 
     m_screen = new UnitScreen(screenSize);
     m_shell = new UnitShell(unit, m_screen, this);
-    m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(keySetTag, QVariant(0)).toInt());
+    m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
     m_sidePanel = new SidePanel(box);
-    new ClimateWatch(climatePatience, this);
+    new ClimateWatch(ClimatePatience, this);
     QGridLayout *layout = new QGridLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Margin);
     layout->addWidget(m_screen, 0, 0);
     layout->addWidget(m_keyStrip, 1, 0, Qt::AlignTop);
     layout->addWidget(m_sidePanel, 0, 1, 2, 1);
@@ -65,13 +65,13 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     unitPage->setLanguage(OrbHost::instance()->language());
     connect(unitPage, &UnitPage::languageChosen, this, &DeskWindow::chooseLanguage);
     connect(unitPage, &UnitPage::diskChanged, this, [this](bool isIn, const QString &path) {
-        m_unit->setDisk(usbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
+        m_unit->setDisk(UsbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
     });
     retranslate();
     // The panel has much to show: as high as fits the display, though not more than it needs.
     const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
     resize(sizeHint().width(),
-           qMax(sizeHint().height(), qMin(display.height() - titleBarHeight, preferredHeight)));
+           qMax(sizeHint().height(), qMin(display.height() - TitleBarHeight, PreferredHeight)));
 }
 
 DeskWindow::~DeskWindow()
@@ -84,7 +84,7 @@ void DeskWindow::chooseLanguage(const QString &language)
 {
     OrbHost::instance()->setLanguage(language);
     m_sidePanel->unitPage()->setLanguage(OrbHost::instance()->language());
-    m_unit->notify(languageNotification);
+    m_unit->notify(LanguageNotification);
 }
 
 void DeskWindow::retranslate()

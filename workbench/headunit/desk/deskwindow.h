@@ -42,4 +42,4 @@ private:
     SidePanel *m_sidePanel;
 };
 
-#endif
+#endif // DESKWINDOW_H

@@ -9,15 +9,15 @@
 #include <QPainter>
 
 namespace {
-const int gap = 16;
+const int Gap = 16;
 } // namespace
 
 HomePage::HomePage(QWidget *parent)
     : QWidget(parent), m_launcher(new Launcher), m_mediaCard(new MediaCard), m_carView(new CarView)
 {
     QGridLayout *layout = new QGridLayout(this);
-    layout->setContentsMargins(gap, gap / 2, gap, gap);
-    layout->setSpacing(gap);
+    layout->setContentsMargins(Gap, Gap / 2, Gap, Gap);
+    layout->setSpacing(Gap);
     layout->addWidget(m_launcher, 0, 0);
     layout->addWidget(m_mediaCard, 1, 0);
     layout->addWidget(m_carView, 0, 1, 2, 1);
@@ -27,5 +27,5 @@ HomePage::HomePage(QWidget *parent)
 
 void HomePage::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), DeskColours::ground);
+    QPainter(this).fillRect(rect(), DeskColours::Ground);
 }

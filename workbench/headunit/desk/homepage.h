@@ -28,4 +28,4 @@ private:
     CarView *m_carView;
 };
 
-#endif
+#endif // HOMEPAGE_H

@@ -17,4 +17,4 @@ void send(QWidget *window, int key);
 
 } // namespace KeyNavigator
 
-#endif
+#endif // KEYNAVIGATOR_H

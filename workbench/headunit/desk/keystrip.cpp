@@ -8,16 +8,16 @@
 
 namespace {
 
-const int keyHeight = 64;
-const int keyGap = 8;
+const int KeyHeight = 64;
+const int KeyGap = 8;
 
-const QVector<KeyStrip::Key> rawKeysOfSet1 = {{QT_TRANSLATE_NOOP("KeyStrip", "Back"), nullptr, 0x2000061},
+const QVector<KeyStrip::Key> RawKeysOfSet1 = {{QT_TRANSLATE_NOOP("KeyStrip", "Back"), nullptr, 0x2000061},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Enter"), nullptr, 0x2F00005},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Home"), nullptr, 0x2F00010},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Previous"), nullptr, 0x2000013},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Next"), nullptr, 0x2000015}};
 
-const QVector<KeyStrip::Key> rawKeysOfSet2 = {{QT_TRANSLATE_NOOP("KeyStrip", "Previous"), nullptr, 0x2F00001},
+const QVector<KeyStrip::Key> RawKeysOfSet2 = {{QT_TRANSLATE_NOOP("KeyStrip", "Previous"), nullptr, 0x2F00001},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Next"), nullptr, 0x2000002},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Left"), nullptr, 0x2F00003},
                                               {QT_TRANSLATE_NOOP("KeyStrip", "Enter"), nullptr, 0x2F00004},
@@ -47,9 +47,9 @@ QVector<KeyStrip::Key> KeyStrip::rawKeys(int keySet)
 {
     switch (keySet) {
     case 1:
-        return rawKeysOfSet1;
+        return RawKeysOfSet1;
     case 2:
-        return rawKeysOfSet2;
+        return RawKeysOfSet2;
     default:
         return QVector<Key>();
     }
@@ -59,18 +59,18 @@ KeyStrip::KeyStrip(int keySet, QWidget *parent) : QWidget(parent)
 {
     QVBoxLayout *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(keyGap);
+    rows->setSpacing(KeyGap);
     for (const QVector<Key> &keys : {standardKeys(), rawKeys(keySet)}) {
         if (!keys.isEmpty()) {
             QHBoxLayout *row = new QHBoxLayout;
-            row->setSpacing(keyGap);
+            row->setSpacing(KeyGap);
             rows->addLayout(row);
             addKeys(keys, row);
         }
     }
     setTexts();
-    m_repeatTimer.setInterval(repeatInterval);
-    connect(&m_repeatTimer, &QTimer::timeout, this, [this] { emit keyUsed(m_heldCode, Repeat); });
+    m_repeatTimer.setInterval(RepeatInterval);
+    connect(&m_repeatTimer, &QTimer::timeout, this, [this] { Q_EMIT keyUsed(m_heldCode, Repeat); });
 }
 
 void KeyStrip::addKeys(const QVector<Key> &keys, QBoxLayout *row)
@@ -78,7 +78,7 @@ void KeyStrip::addKeys(const QVector<Key> &keys, QBoxLayout *row)
     for (const Key &key : keys) {
         QToolButton *button = new QToolButton;
         button->setObjectName(QStringLiteral("unitKey"));
-        button->setFixedHeight(keyHeight);
+        button->setFixedHeight(KeyHeight);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         button->setFocusPolicy(Qt::NoFocus);
         if (key.icon) {
@@ -108,7 +108,7 @@ void KeyStrip::hold(int code)
     letGo();
     m_heldCode = code;
     m_repeatTimer.start();
-    emit keyUsed(code, Press);
+    Q_EMIT keyUsed(code, Press);
 }
 
 void KeyStrip::letGo()
@@ -117,7 +117,7 @@ void KeyStrip::letGo()
         const int code = m_heldCode;
         m_heldCode = 0;
         m_repeatTimer.stop();
-        emit keyUsed(code, Release);
+        Q_EMIT keyUsed(code, Release);
     }
 }
 

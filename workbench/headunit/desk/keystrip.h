@@ -16,7 +16,7 @@ class KeyStrip : public QWidget
 
 public:
     enum Phase { Release = 0, Press = 1, Repeat = 2 };
-    static constexpr int repeatInterval = 200; ///< milliseconds
+    static constexpr int RepeatInterval = 200; ///< milliseconds
 
     struct Key
     {
@@ -32,7 +32,7 @@ public:
     /// The raw keys of a set, empty for a number without one.
     static QVector<Key> rawKeys(int keySet);
 
-signals:
+Q_SIGNALS:
     /// \a phase: one of Phase.
     void keyUsed(int code, int phase);
 
@@ -56,4 +56,4 @@ private:
     int m_heldCode = 0;
 };
 
-#endif
+#endif // KEYSTRIP_H

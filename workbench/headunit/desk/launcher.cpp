@@ -7,8 +7,8 @@
 #include <QScroller>
 
 namespace {
-const int tileGap = 8;
-const int tileWidth = 132;
+const int TileGap = 8;
+const int TileWidth = 132;
 } // namespace
 
 bool Launcher::Entry::operator==(const Entry &other) const
@@ -22,7 +22,7 @@ Launcher::Launcher(QWidget *parent) : QWidget(parent), m_area(new QScrollArea), 
     QWidget *page = new QWidget;
     page->setObjectName(QStringLiteral("launcherPage"));
     m_grid->setContentsMargins(0, 0, 0, 0);
-    m_grid->setSpacing(tileGap);
+    m_grid->setSpacing(TileGap);
     m_grid->setAlignment(Qt::AlignTop);
     page->setLayout(m_grid);
     m_area->setObjectName(QStringLiteral("launcherArea"));
@@ -39,7 +39,7 @@ Launcher::Launcher(QWidget *parent) : QWidget(parent), m_area(new QScrollArea), 
 
 int Launcher::columns() const
 {
-    return qMax(1, (width() + tileGap) / (tileWidth + tileGap));
+    return qMax(1, (width() + TileGap) / (TileWidth + TileGap));
 }
 
 void Launcher::setEntries(const QVector<Entry> &entries)
@@ -55,7 +55,7 @@ void Launcher::setEntries(const QVector<Entry> &entries)
         tile->setCheckable(entry.kind == Entry::Source);
         connect(tile, &AppTile::clicked, this, [this, entry] {
             setMode(m_mode); // a source is lit by the mode, not by the click
-            emit chosen(entry);
+            Q_EMIT chosen(entry);
         });
         m_tiles << tile;
     }

@@ -40,7 +40,7 @@ public:
     /// An arrow moves the frame from tile to tile, Enter opens the tile that has it.
     void navigate(int key);
 
-signals:
+Q_SIGNALS:
     void chosen(const Launcher::Entry &entry);
 
 protected:
@@ -57,4 +57,4 @@ private:
     uint m_mode = 0;
 };
 
-#endif
+#endif // LAUNCHER_H

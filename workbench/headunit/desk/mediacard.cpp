@@ -8,23 +8,23 @@
 
 namespace {
 
-const int margin = 16;
-const int pictureSize = 88;
-const int buttonSize = 64;
-const int narrow = 540; // a card narrower than this leaves its picture out for the text
+const int Margin = 16;
+const int PictureSize = 88;
+const int ButtonSize = 64;
+const int Narrow = 540; // a card narrower than this leaves its picture out for the text
 
 } // namespace
 
 MediaCard::MediaCard(QWidget *parent) : QWidget(parent)
 {
     QHBoxLayout *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(8);
     layout->addStretch();
     m_previous = addButton(QStringLiteral("previous"), Qt::Key_MediaPrevious);
     m_pause = addButton(QStringLiteral("pause"), Qt::Key_MediaTogglePlayPause);
     m_next = addButton(QStringLiteral("next"), Qt::Key_MediaNext);
-    setFixedHeight(pictureSize + 2 * margin);
+    setFixedHeight(PictureSize + 2 * Margin);
 }
 
 QToolButton *MediaCard::addButton(const QString &icon, int code)
@@ -33,9 +33,9 @@ QToolButton *MediaCard::addButton(const QString &icon, int code)
     button->setObjectName(QStringLiteral("mediaButton"));
     button->setIcon(QIcon(QStringLiteral(":/desk/keys/%1.png").arg(icon)));
     button->setIconSize(QSize(36, 36));
-    button->setFixedSize(buttonSize, buttonSize);
+    button->setFixedSize(ButtonSize, ButtonSize);
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QToolButton::clicked, this, [this, code] { emit keyTapped(code); });
+    connect(button, &QToolButton::clicked, this, [this, code] { Q_EMIT keyTapped(code); });
     layout()->addWidget(button);
     return button;
 }
@@ -65,25 +65,25 @@ void MediaCard::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(DeskColours::panel);
+    painter.setBrush(DeskColours::Panel);
     painter.drawRoundedRect(rect(), 10, 10);
-    const bool hasPicture = width() >= narrow;
+    const bool hasPicture = width() >= Narrow;
     if (hasPicture) {
-        painter.drawPixmap(QRect(margin, margin, pictureSize, pictureSize), m_icon);
+        painter.drawPixmap(QRect(Margin, Margin, PictureSize, PictureSize), m_icon);
     }
 
-    const int left = hasPicture ? 2 * margin + pictureSize : margin;
-    const int right = m_title.isEmpty() ? width() - margin : width() - 2 * margin - 3 * buttonSize - 16;
+    const int left = hasPicture ? 2 * Margin + PictureSize : Margin;
+    const int right = m_title.isEmpty() ? width() - Margin : width() - 2 * Margin - 3 * ButtonSize - 16;
     struct Line
     {
         const QString &text;
         int pixels;
         QColor colour;
     };
-    const Line lines[] = {{m_source, 16, DeskColours::accent},
-                          {m_title.isEmpty() ? m_source : m_title, 24, DeskColours::text},
-                          {m_subtitle, 18, DeskColours::dim}};
-    int top = margin + 2;
+    const Line lines[] = {{m_source, 16, DeskColours::Accent},
+                          {m_title.isEmpty() ? m_source : m_title, 24, DeskColours::Text},
+                          {m_subtitle, 18, DeskColours::Dim}};
+    int top = Margin + 2;
     for (const Line &line : lines) {
         QFont font = painter.font();
         font.setPixelSize(line.pixels);

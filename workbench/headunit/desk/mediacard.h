@@ -18,7 +18,7 @@ public:
     void setTrack(const QString &source, const QPixmap &icon, const QString &title, const QString &subtitle);
     void setPlaying(bool isPlaying);
 
-signals:
+Q_SIGNALS:
     /// A button was tapped: Qt's code of the media key that does the same.
     void keyTapped(int code);
 
@@ -37,4 +37,4 @@ private:
     QToolButton *m_next;
 };
 
-#endif
+#endif // MEDIACARD_H

@@ -22,4 +22,4 @@ private:
     QVBoxLayout *m_rows;
 };
 
-#endif
+#endif // PANELCARD_H

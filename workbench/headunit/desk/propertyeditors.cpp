@@ -15,7 +15,7 @@
 namespace {
 
 // The most choices that stand side by side; more fold into a list.
-const int mostButtons = 4;
+const int MostButtons = 4;
 
 /// Calls \a show now and whenever \a name changes, as long as \a control lives.
 template <typename Show>
@@ -196,7 +196,7 @@ QWidget *PropertyEditors::create(const CarProperty &property, SimulatedCar *car)
     case CarProperty::Temperature:
         return createTemperature(property, car);
     case CarProperty::Choice:
-        return property.choices.size() <= mostButtons ? createButtons(property, car)
+        return property.choices.size() <= MostButtons ? createButtons(property, car)
                                                       : createList(property, car);
     case CarProperty::Text:
     case CarProperty::NumberList:

@@ -17,4 +17,4 @@ QWidget *createUpright(const CarProperty &property, SimulatedCar *car);
 
 } // namespace PropertyEditors
 
-#endif
+#endif // PROPERTYEDITORS_H

@@ -30,4 +30,4 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 };
 
-#endif
+#endif // QUIETSLIDER_H

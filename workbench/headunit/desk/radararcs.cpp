@@ -7,9 +7,9 @@
 namespace {
 
 // Degrees, counterclockwise from the right as QPainterPath counts them.
-const qreal sectorSpan = 31.0;
-const qreal sectorGap = 2.0;
-const qreal bandGap = 2.5; // pixels
+const qreal SectorSpan = 31.0;
+const qreal SectorGap = 2.0;
+const qreal BandGap = 2.5; // pixels
 
 } // namespace
 
@@ -19,18 +19,18 @@ RadarArcs::RadarArcs(Side side, const QRectF &car, qreal reach) : m_side(side)
     const qreal inside = car.width() * 0.5;
     m_innerRadius = car.width() * 0.64;
     m_centre = QPointF(car.center().x(), side == Front ? car.top() + inside : car.bottom() - inside);
-    m_bandWidth = (inside + reach - m_innerRadius) / CarState::farthestLevel;
+    m_bandWidth = (inside + reach - m_innerRadius) / CarState::FarthestLevel;
 }
 
 QPainterPath RadarArcs::band(int sensor, int level) const
 {
     const qreal inner = m_innerRadius + (level - 1) * m_bandWidth;
-    const qreal outer = inner + m_bandWidth - bandGap;
+    const qreal outer = inner + m_bandWidth - BandGap;
     // Sensor 0 is on the left of both sides: at the greater angle in front, at the smaller one behind.
-    const qreal leftmost = m_side == Front ? 90.0 + 2 * sectorSpan : 270.0 - 2 * sectorSpan;
+    const qreal leftmost = m_side == Front ? 90.0 + 2 * SectorSpan : 270.0 - 2 * SectorSpan;
     const qreal turn = m_side == Front ? -1.0 : 1.0;
-    const qreal from = leftmost + turn * (sensor * sectorSpan + sectorGap / 2);
-    const qreal span = turn * (sectorSpan - sectorGap);
+    const qreal from = leftmost + turn * (sensor * SectorSpan + SectorGap / 2);
+    const qreal span = turn * (SectorSpan - SectorGap);
     const QRectF innerBox(m_centre.x() - inner, m_centre.y() - inner, 2 * inner, 2 * inner);
     const QRectF outerBox(m_centre.x() - outer, m_centre.y() - outer, 2 * outer, 2 * outer);
 
@@ -45,8 +45,8 @@ QPainterPath RadarArcs::band(int sensor, int level) const
 QRectF RadarArcs::bounds() const
 {
     QRectF result;
-    for (int sensor = 0; sensor < CarState::sensors; ++sensor) {
-        result |= band(sensor, 1).boundingRect() | band(sensor, CarState::farthestLevel).boundingRect();
+    for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
+        result |= band(sensor, 1).boundingRect() | band(sensor, CarState::FarthestLevel).boundingRect();
     }
     return result;
 }
@@ -54,17 +54,17 @@ QRectF RadarArcs::bounds() const
 QColor RadarArcs::colour(int level)
 {
     if (level <= 2) {
-        return DeskColours::error;
+        return DeskColours::Error;
     }
-    return level <= 4 ? DeskColours::warning : DeskColours::good;
+    return level <= 4 ? DeskColours::Warning : DeskColours::Good;
 }
 
-void RadarArcs::paint(QPainter *painter, const quint8 (&levels)[CarState::sensors]) const
+void RadarArcs::paint(QPainter *painter, const quint8 (&levels)[CarState::Sensors]) const
 {
     painter->setPen(Qt::NoPen);
-    for (int sensor = 0; sensor < CarState::sensors; ++sensor) {
-        for (int level = 1; level <= CarState::farthestLevel; ++level) {
-            QColor fill = DeskColours::edge;
+    for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
+        for (int level = 1; level <= CarState::FarthestLevel; ++level) {
+            QColor fill = DeskColours::Edge;
             if (levels[sensor] != 0 && level >= levels[sensor]) {
                 fill = colour(levels[sensor]);
                 fill.setAlphaF(level == levels[sensor] ? 1.0 : 0.32);

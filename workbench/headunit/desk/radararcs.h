@@ -31,7 +31,7 @@ public:
     static QColor colour(int level);
 
     /// Draws every band faintly, and from the level that a sensor reports outwards in that level's colour.
-    void paint(QPainter *painter, const quint8 (&levels)[CarState::sensors]) const;
+    void paint(QPainter *painter, const quint8 (&levels)[CarState::Sensors]) const;
 
 private:
     Side m_side;
@@ -40,4 +40,4 @@ private:
     qreal m_bandWidth;
 };
 
-#endif
+#endif // RADARARCS_H

@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 
 namespace {
-const int gap = 8;
+const int Gap = 8;
 } // namespace
 
 SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
@@ -21,12 +21,12 @@ SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
 {
     setObjectName(QStringLiteral("sidePanel"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedWidth(panelWidth);
+    setFixedWidth(PanelWidth);
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(gap);
+    column->setSpacing(Gap);
     QHBoxLayout *tabs = new QHBoxLayout;
-    tabs->setSpacing(gap);
+    tabs->setSpacing(Gap);
     column->addLayout(tabs);
     column->addWidget(m_pages);
     if (box) {

@@ -18,7 +18,7 @@ class SidePanel : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int panelWidth = 380;
+    static constexpr int PanelWidth = 380;
 
     /// \a box may be null, when the unit talks to a real one; the panel then has the unit's page only. Not
     /// owned, and must outlive the panel.
@@ -52,4 +52,4 @@ private:
     BoxPage *m_boxPage = nullptr;
 };
 
-#endif
+#endif // SIDEPANEL_H

@@ -8,11 +8,11 @@
 
 namespace {
 
-const int margin = 16;
-const int gap = 16;
-const int iconSize = 28;
-const int volumeBarWidth = 96;
-const int volumeFigureWidth = 32;
+const int Margin = 16;
+const int Gap = 16;
+const int IconSize = 28;
+const int VolumeBarWidth = 96;
+const int VolumeFigureWidth = 32;
 
 QFont textFont(int pixels, bool isBold)
 {
@@ -24,12 +24,12 @@ QFont textFont(int pixels, bool isBold)
 
 QRect leftOf(int right, int width)
 {
-    return QRect(right - width, 0, width, StatusBar::barHeight);
+    return QRect(right - width, 0, width, StatusBar::BarHeight);
 }
 
 void paintIcon(QPainter *painter, const QRect &place, const QPixmap &icon)
 {
-    painter->drawPixmap(QRect(place.x(), (StatusBar::barHeight - iconSize) / 2, iconSize, iconSize), icon);
+    painter->drawPixmap(QRect(place.x(), (StatusBar::BarHeight - IconSize) / 2, IconSize, IconSize), icon);
 }
 
 } // namespace
@@ -41,7 +41,7 @@ StatusBar::StatusBar(QWidget *parent)
     , m_callIcon(QStringLiteral(":/desk/keys/call.png"))
     , m_voiceIcon(QStringLiteral(":/desk/keys/voice.png"))
 {
-    setFixedHeight(barHeight);
+    setFixedHeight(BarHeight);
     m_clockTimer.start(1000, this);
 }
 
@@ -101,20 +101,20 @@ void StatusBar::timerEvent(QTimerEvent *event)
 int StatusBar::paintVolume(QPainter *painter, int right) const
 {
     painter->setFont(textFont(18, true));
-    painter->setPen(m_isMuted ? DeskColours::dim : DeskColours::text);
-    painter->drawText(leftOf(right, volumeFigureWidth), Qt::AlignRight | Qt::AlignVCenter,
+    painter->setPen(m_isMuted ? DeskColours::Dim : DeskColours::Text);
+    painter->drawText(leftOf(right, VolumeFigureWidth), Qt::AlignRight | Qt::AlignVCenter,
                       QString::number(m_volume));
-    right -= volumeFigureWidth + gap / 2;
-    const QRectF groove(right - volumeBarWidth, barHeight / 2.0 - 3, volumeBarWidth, 6);
+    right -= VolumeFigureWidth + Gap / 2;
+    const QRectF groove(right - VolumeBarWidth, BarHeight / 2.0 - 3, VolumeBarWidth, 6);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(DeskColours::edge);
+    painter->setBrush(DeskColours::Edge);
     painter->drawRoundedRect(groove, 3, 3);
-    painter->setBrush(m_isMuted ? DeskColours::dim : DeskColours::accent);
+    painter->setBrush(m_isMuted ? DeskColours::Dim : DeskColours::Accent);
     painter->drawRoundedRect(QRectF(groove.topLeft(), QSizeF(groove.width() * m_volume / m_loudest, 6)), 3,
                              3);
-    right -= volumeBarWidth + gap / 2;
-    paintIcon(painter, leftOf(right, iconSize), m_isMuted ? m_muteIcon : m_volumeIcon);
-    return right - iconSize - gap;
+    right -= VolumeBarWidth + Gap / 2;
+    paintIcon(painter, leftOf(right, IconSize), m_isMuted ? m_muteIcon : m_volumeIcon);
+    return right - IconSize - Gap;
 }
 
 int StatusBar::paintMode(QPainter *painter, int right) const
@@ -122,11 +122,11 @@ int StatusBar::paintMode(QPainter *painter, int right) const
     painter->setFont(textFont(16, false));
     const QRect place = leftOf(right, painter->fontMetrics().horizontalAdvance(m_mode) + 24);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(DeskColours::edge);
+    painter->setBrush(DeskColours::Edge);
     painter->drawRoundedRect(place.adjusted(0, 9, 0, -9), 10, 10);
-    painter->setPen(DeskColours::text);
+    painter->setPen(DeskColours::Text);
     painter->drawText(place, Qt::AlignCenter, m_mode);
-    return place.left() - gap;
+    return place.left() - Gap;
 }
 
 int StatusBar::paintCall(QPainter *painter, int right) const
@@ -136,11 +136,11 @@ int StatusBar::paintCall(QPainter *painter, int right) const
     }
     painter->setFont(textFont(18, true));
     const QRect place = leftOf(right, painter->fontMetrics().horizontalAdvance(m_callText) + 2);
-    painter->setPen(m_isInCall ? DeskColours::good : DeskColours::accent);
+    painter->setPen(m_isInCall ? DeskColours::Good : DeskColours::Accent);
     painter->drawText(place, Qt::AlignRight | Qt::AlignVCenter, m_callText);
-    right = place.left() - gap / 2;
-    paintIcon(painter, leftOf(right, iconSize), m_isInCall ? m_callIcon : m_voiceIcon);
-    return right - iconSize - gap;
+    right = place.left() - Gap / 2;
+    paintIcon(painter, leftOf(right, IconSize), m_isInCall ? m_callIcon : m_voiceIcon);
+    return right - IconSize - Gap;
 }
 
 void StatusBar::paintEvent(QPaintEvent *)
@@ -148,22 +148,22 @@ void StatusBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.fillRect(rect(), DeskColours::ground);
+    painter.fillRect(rect(), DeskColours::Ground);
 
     painter.setFont(textFont(24, true));
-    painter.setPen(DeskColours::text);
+    painter.setPen(DeskColours::Text);
     const QString clock = clockText();
     const int clockWidth = painter.fontMetrics().horizontalAdvance(clock);
-    painter.drawText(QRect(margin, 0, clockWidth + 2, barHeight), Qt::AlignVCenter, clock);
+    painter.drawText(QRect(Margin, 0, clockWidth + 2, BarHeight), Qt::AlignVCenter, clock);
 
-    int right = paintVolume(&painter, width() - margin);
+    int right = paintVolume(&painter, width() - Margin);
     right = paintMode(&painter, right);
     right = paintCall(&painter, right);
 
-    const int left = margin + clockWidth + 2 * gap;
+    const int left = Margin + clockWidth + 2 * Gap;
     painter.setFont(textFont(20, false));
-    painter.setPen(DeskColours::dim);
+    painter.setPen(DeskColours::Dim);
     const QString name =
         painter.fontMetrics().elidedText(m_application, Qt::ElideRight, qMax(0, right - left));
-    painter.drawText(QRect(left, 0, qMax(0, right - left), barHeight), Qt::AlignVCenter, name);
+    painter.drawText(QRect(left, 0, qMax(0, right - left), BarHeight), Qt::AlignVCenter, name);
 }

@@ -12,7 +12,7 @@ class StatusBar : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int barHeight = 48;
+    static constexpr int BarHeight = 48;
 
     explicit StatusBar(QWidget *parent = nullptr);
 
@@ -53,4 +53,4 @@ private:
     QPixmap m_voiceIcon;
 };
 
-#endif
+#endif // STATUSBAR_H

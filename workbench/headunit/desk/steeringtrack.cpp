@@ -8,18 +8,18 @@
 
 namespace {
 // Parts of the car's length, as the car's picture has them.
-const qreal rearAxle = 0.79;
-const qreal wheelBase = 0.60;
-const int steps = 16;
-const qreal lineWidth = 4.0;
+const qreal RearAxle = 0.79;
+const qreal WheelBase = 0.60;
+const int Steps = 16;
+const qreal LineWidth = 4.0;
 } // namespace
 
 SteeringTrack::SteeringTrack(const QRectF &car, int angle, qreal length)
-    : m_axle(car.center().x(), car.top() + car.height() * rearAxle)
+    : m_axle(car.center().x(), car.top() + car.height() * RearAxle)
     , m_halfWidth(car.width() * 0.46)
-    , m_overhang(car.height() * (1.0 - rearAxle))
+    , m_overhang(car.height() * (1.0 - RearAxle))
     , m_length(length)
-    , m_curvature(qTan(qDegreesToRadians(qreal(angle))) / (car.height() * wheelBase))
+    , m_curvature(qTan(qDegreesToRadians(qreal(angle))) / (car.height() * WheelBase))
 {}
 
 QPointF SteeringTrack::point(Edge edge, qreal along) const
@@ -39,8 +39,8 @@ QPointF SteeringTrack::point(Edge edge, qreal along) const
 QPainterPath SteeringTrack::path(Edge edge) const
 {
     QPainterPath result(point(edge, 0));
-    for (int i = 1; i <= steps; ++i) {
-        result.lineTo(point(edge, qreal(i) / steps));
+    for (int i = 1; i <= Steps; ++i) {
+        result.lineTo(point(edge, qreal(i) / Steps));
     }
     return result;
 }
@@ -48,7 +48,7 @@ QPainterPath SteeringTrack::path(Edge edge) const
 void SteeringTrack::paint(QPainter *painter) const
 {
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(DeskColours::accent, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(QPen(DeskColours::Accent, LineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(path(Left));
     painter->drawPath(path(Right));
     for (int mark = 1; mark <= 3; ++mark) {

@@ -31,4 +31,4 @@ private:
     qreal m_curvature; // one by the turning radius, positive to the right
 };
 
-#endif
+#endif // STEERINGTRACK_H

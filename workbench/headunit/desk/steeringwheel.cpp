@@ -8,8 +8,8 @@
 #include <QtMath>
 
 namespace {
-const int wheelSize = 176;
-const int labelHeight = 32;
+const int WheelSize = 176;
+const int LabelHeight = 32;
 
 QPointF positionOf(const QMouseEvent *event)
 {
@@ -27,7 +27,7 @@ SteeringWheel::SteeringWheel(int lock, int step, QWidget *parent)
     , m_step(qMax(1, step))
     , m_wheel(QStringLiteral(":/desk/car/wheel.png"))
 {
-    setFixedHeight(wheelSize + labelHeight);
+    setFixedHeight(WheelSize + LabelHeight);
     setCursor(Qt::OpenHandCursor);
 }
 
@@ -39,7 +39,7 @@ void SteeringWheel::setAngle(int angle)
 
 QPointF SteeringWheel::centre() const
 {
-    return QPointF(width() / 2.0, wheelSize / 2.0);
+    return QPointF(width() / 2.0, WheelSize / 2.0);
 }
 
 void SteeringWheel::turnTo(int angle)
@@ -47,7 +47,7 @@ void SteeringWheel::turnTo(int angle)
     const int before = m_angle;
     setAngle(angle);
     if (m_angle != before) {
-        emit turned(m_angle);
+        Q_EMIT turned(m_angle);
     }
 }
 
@@ -82,14 +82,14 @@ void SteeringWheel::paintEvent(QPaintEvent *)
     painter.save();
     painter.translate(centre());
     painter.rotate(m_angle);
-    painter.drawPixmap(QRectF(-wheelSize / 2.0, -wheelSize / 2.0, wheelSize, wheelSize), m_wheel,
+    painter.drawPixmap(QRectF(-WheelSize / 2.0, -WheelSize / 2.0, WheelSize, WheelSize), m_wheel,
                        QRectF(m_wheel.rect()));
     painter.restore();
 
     QFont label = font();
     label.setPixelSize(16);
     painter.setFont(label);
-    painter.setPen(m_angle == 0 ? DeskColours::dim : DeskColours::text);
-    painter.drawText(QRect(0, wheelSize, width(), labelHeight), Qt::AlignCenter,
+    painter.setPen(m_angle == 0 ? DeskColours::Dim : DeskColours::Text);
+    painter.drawText(QRect(0, WheelSize, width(), LabelHeight), Qt::AlignCenter,
                      QString::number(m_angle) + QChar(0x00B0));
 }

@@ -18,7 +18,7 @@ public:
     /// Past the lock counts as the lock. Emits nothing.
     void setAngle(int angle);
 
-signals:
+Q_SIGNALS:
     /// The user has turned the wheel to \a angle.
     void turned(int angle);
 
@@ -40,4 +40,4 @@ private:
     QPixmap m_wheel;
 };
 
-#endif
+#endif // STEERINGWHEEL_H

@@ -79,8 +79,8 @@ void UnitControls::setMode(uint mode)
     }
     const uint before = this->mode();
     m_modeIndex = index;
-    emit modeChanged(mode, before);
-    emit changed();
+    Q_EMIT modeChanged(mode, before);
+    Q_EMIT changed();
 }
 
 QString UnitControls::title() const
@@ -102,9 +102,9 @@ int UnitControls::callSeconds() const
 
 void UnitControls::setVolume(int volume)
 {
-    m_volume = qBound(0, volume, int(loudest));
+    m_volume = qBound(0, volume, int(Loudest));
     m_isMuted = false;
-    emit changed();
+    Q_EMIT changed();
 }
 
 void UnitControls::setCall(Call call)
@@ -118,14 +118,14 @@ void UnitControls::setCall(Call call)
         m_callClock.start();
     }
     if (call == Listening) {
-        m_listeningTimer.start(listeningTime);
+        m_listeningTimer.start(ListeningTime);
     } else {
         m_listeningTimer.stop();
     }
     if (wasInCall != (call == InCall)) {
-        emit callChanged(call == InCall);
+        Q_EMIT callChanged(call == InCall);
     }
-    emit changed();
+    Q_EMIT changed();
 }
 
 void UnitControls::skip(int tracks)
@@ -134,7 +134,7 @@ void UnitControls::skip(int tracks)
     if (count != 0) {
         m_tracks[m_modeIndex] = (m_tracks.at(m_modeIndex) + tracks + count) % count;
         m_isPlaying = true;
-        emit changed();
+        Q_EMIT changed();
     }
 }
 
@@ -143,7 +143,7 @@ bool UnitControls::mediaKey(int code)
     switch (code) {
     case Qt::Key_VolumeMute:
         m_isMuted = !m_isMuted;
-        emit changed();
+        Q_EMIT changed();
         return true;
     case Qt::Key_MediaNext:
     case Qt::Key_AudioForward:
@@ -158,7 +158,7 @@ bool UnitControls::mediaKey(int code)
     case Qt::Key_MediaPlay:
     case Qt::Key_MediaTogglePlayPause:
         m_isPlaying = !m_isPlaying;
-        emit changed();
+        Q_EMIT changed();
         return true;
     case UnitKeys::ModeSwitch:
         setMode(modes().at((m_modeIndex + 1) % modes().size()));
@@ -196,6 +196,6 @@ void UnitControls::key(int code, bool isPress, bool isRepeat)
     if (code == Qt::Key_VolumeUp || code == Qt::Key_VolumeDown) {
         setVolume(m_volume + (code == Qt::Key_VolumeUp ? 1 : -1));
     } else if (!isRepeat && !mediaKey(code) && !phoneKey(code) && navigationKeys.contains(code)) {
-        emit navigation(code);
+        Q_EMIT navigation(code);
     }
 }

@@ -14,8 +14,8 @@ class UnitControls : public QObject
 
 public:
     enum Call { NoCall, Listening, InCall };
-    static constexpr int loudest = 30;
-    static constexpr int listeningTime = 6000; ///< milliseconds that the unit waits for a spoken order
+    static constexpr int Loudest = 30;
+    static constexpr int ListeningTime = 6000; ///< milliseconds that the unit waits for a spoken order
 
     explicit UnitControls(QObject *parent = nullptr);
 
@@ -38,12 +38,12 @@ public:
     /// Seconds since the call was taken, 0 without one.
     int callSeconds() const;
 
-public slots:
+public Q_SLOTS:
     /// A key of the unit or of the car. Repeats count for the volume only; releases for nothing. Keys that
     /// belong to what is in front (back, arrows ...) come out again as navigation().
     void key(int code, bool isPress, bool isRepeat);
 
-signals:
+Q_SIGNALS:
     void changed();
     void modeChanged(uint mode, uint before);
     /// A call began or ended.
@@ -68,4 +68,4 @@ private:
     QTimer m_listeningTimer;
 };
 
-#endif
+#endif // UNITCONTROLS_H

@@ -12,4 +12,4 @@ const int TrackNext = 0x010000A8;
 
 } // namespace UnitKeys
 
-#endif
+#endif // UNITKEYS_H

@@ -11,7 +11,7 @@
 
 namespace {
 
-const int gap = 8;
+const int Gap = 8;
 
 struct Language
 {
@@ -19,7 +19,7 @@ struct Language
     const char *name; // in that language, so that everyone finds the own one
 };
 
-const Language languageRows[] = {{"en", "English"}, {"de", "Deutsch"}, {"zh_CN", "简体中文"}};
+const Language LanguageRows[] = {{"en", "English"}, {"de", "Deutsch"}, {"zh_CN", "简体中文"}};
 
 QPushButton *chip(const QString &text)
 {
@@ -42,7 +42,7 @@ UnitPage::UnitPage(QWidget *parent)
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(gap);
+    page->setSpacing(Gap);
     page->addWidget(m_diskCard);
     page->addWidget(m_languageCard);
     page->addStretch();
@@ -52,20 +52,20 @@ UnitPage::UnitPage(QWidget *parent)
     m_diskState->setWordWrap(true);
     m_diskCard->rows()->addWidget(m_diskState);
     QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->setSpacing(gap);
+    buttons->setSpacing(Gap);
     buttons->addWidget(m_choose);
     buttons->addWidget(m_toggle);
     m_diskCard->rows()->addLayout(buttons);
     connect(m_choose, &QPushButton::clicked, this, &UnitPage::chooseFolder);
     connect(m_toggle, &QPushButton::clicked, this, &UnitPage::toggleDisk);
 
-    for (const Language &language : languageRows) {
+    for (const Language &language : LanguageRows) {
         QPushButton *button = chip(QString::fromUtf8(language.name));
         button->setCheckable(true);
         m_languages->addButton(button);
         m_languageCard->rows()->addWidget(button);
         const QString code = QLatin1String(language.code);
-        connect(button, &QPushButton::clicked, this, [this, code] { emit languageChosen(code); });
+        connect(button, &QPushButton::clicked, this, [this, code] { Q_EMIT languageChosen(code); });
     }
     setTexts();
 }
@@ -73,7 +73,7 @@ UnitPage::UnitPage(QWidget *parent)
 QStringList UnitPage::languages()
 {
     QStringList codes;
-    for (const Language &language : languageRows) {
+    for (const Language &language : LanguageRows) {
         codes << QLatin1String(language.code);
     }
     return codes;
@@ -109,7 +109,7 @@ void UnitPage::toggleDisk()
 {
     m_isDiskIn = !m_isDiskIn;
     setTexts();
-    emit diskChanged(m_isDiskIn, m_diskFolder);
+    Q_EMIT diskChanged(m_isDiskIn, m_diskFolder);
 }
 
 void UnitPage::setTexts()

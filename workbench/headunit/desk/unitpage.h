@@ -24,7 +24,7 @@ public:
     void setDiskFolder(const QString &path);
     bool isDiskIn() const { return m_isDiskIn; }
 
-signals:
+Q_SIGNALS:
     void languageChosen(const QString &language);
     /// The disk with the folder \a path was put in or pulled out.
     void diskChanged(bool isIn, const QString &path);
@@ -47,4 +47,4 @@ private:
     bool m_isDiskIn = false;
 };
 
-#endif
+#endif // UNITPAGE_H

@@ -16,12 +16,12 @@
 
 namespace {
 
-const AppTagId statusWordTag = 0x10001;
-const AppTagId clockFormatTag = 0x11009;
-const uint callState = 0x1000000;
+const AppTagId StatusWordTag = 0x10001;
+const AppTagId ClockFormatTag = 0x11009;
+const uint CallState = 0x1000000;
 
 // How long a plug-in may take to bring up a window of its own for an application that was opened.
-const int windowPatience = 150; // milliseconds
+const int WindowPatience = 150; // milliseconds
 
 struct SourceIcon
 {
@@ -29,10 +29,10 @@ struct SourceIcon
     const char *icon;
 };
 
-const SourceIcon sourceIcons[] = {{6, "radio"}, {9, "music"}, {3, "bluetooth"}, {4, "navigation"}};
+const SourceIcon SourceIcons[] = {{6, "radio"}, {9, "music"}, {3, "bluetooth"}, {4, "navigation"}};
 
 // Applications without icons of their own for which the unit has a better one than the common one.
-const SourceIcon appIcons[] = {{513, "view360"}};
+const SourceIcon AppIcons[] = {{513, "view360"}};
 
 template <size_t Count>
 QString launcherIcon(const SourceIcon (&icons)[Count], uint id)
@@ -137,10 +137,10 @@ void UnitShell::onReturn()
 
 void UnitShell::onCallChanged(bool isInCall)
 {
-    const quint64 before = OrbApplication::instance()->getTag(statusWordTag, QVariant(0)).toULongLong();
-    const quint64 state = isInCall ? before | callState : before & ~quint64(callState);
-    OrbHost::instance()->setTag(statusWordTag, state);
-    m_unit->changeState(uint(state), callState);
+    const quint64 before = OrbApplication::instance()->getTag(StatusWordTag, QVariant(0)).toULongLong();
+    const quint64 state = isInCall ? before | CallState : before & ~quint64(CallState);
+    OrbHost::instance()->setTag(StatusWordTag, state);
+    m_unit->changeState(uint(state), CallState);
 }
 
 void UnitShell::onNavigation(int key)
@@ -177,7 +177,7 @@ void UnitShell::open(const Launcher::Entry &entry)
         break;
     case Launcher::Entry::Application:
         m_unit->showApp(entry.id);
-        QTimer::singleShot(windowPatience, this, [this, entry] {
+        QTimer::singleShot(WindowPatience, this, [this, entry] {
             if (!OrbHost::instance()->frontWindow()) {
                 showPage(entry.id);
             }
@@ -220,8 +220,8 @@ void UnitShell::showCarState()
 void UnitShell::showControls()
 {
     m_statusBar->setTwelveHourClock(
-        OrbApplication::instance()->getTag(clockFormatTag, QVariant(0)).toUInt() == 1);
-    m_statusBar->setVolume(m_controls.volume(), UnitControls::loudest, m_controls.isMuted());
+        OrbApplication::instance()->getTag(ClockFormatTag, QVariant(0)).toUInt() == 1);
+    m_statusBar->setVolume(m_controls.volume(), UnitControls::Loudest, m_controls.isMuted());
     const QString mode = UnitControls::modeName(m_controls.mode());
     m_statusBar->setMode(mode);
     const bool isInCall = m_controls.call() == UnitControls::InCall;
@@ -229,7 +229,7 @@ void UnitShell::showControls()
                          : m_controls.call() == UnitControls::Listening ? tr("Listening …")
                                                                         : QString(),
                          isInCall);
-    m_homePage->mediaCard()->setTrack(mode, QPixmap(launcherIcon(sourceIcons, m_controls.mode())),
+    m_homePage->mediaCard()->setTrack(mode, QPixmap(launcherIcon(SourceIcons, m_controls.mode())),
                                       m_controls.title(), m_controls.subtitle());
     m_homePage->mediaCard()->setPlaying(m_controls.isPlaying());
     m_homePage->launcher()->setMode(m_controls.mode());
@@ -252,7 +252,7 @@ QVector<Launcher::Entry> UnitShell::sourceEntries() const
     QVector<Launcher::Entry> entries;
     for (const uint mode : UnitControls::modes()) {
         entries << Launcher::Entry{Launcher::Entry::Source, mode, UnitControls::modeName(mode),
-                                   launcherIcon(sourceIcons, mode), QString()};
+                                   launcherIcon(SourceIcons, mode), QString()};
     }
     return entries;
 }
@@ -262,7 +262,7 @@ Launcher::Entry UnitShell::appEntry(uint appId) const
     const QStringList icons = OrbHost::instance()->appIcons(appId);
     const QString title = AppTitleFromAppId(appId);
     return {Launcher::Entry::Application, appId, title.isEmpty() ? tr("Application %1").arg(appId) : title,
-            icons.isEmpty() ? launcherIcon(appIcons, appId) : icons.value(0), icons.value(1)};
+            icons.isEmpty() ? launcherIcon(AppIcons, appId) : icons.value(0), icons.value(1)};
 }
 
 void UnitShell::showEntries()

@@ -65,4 +65,4 @@ private:
     QTimer m_secondTimer;
 };
 
-#endif
+#endif // UNITSHELL_H
