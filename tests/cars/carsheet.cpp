@@ -1,8 +1,9 @@
-#include "carvectors.h"
+#include "carsheet.h"
 
+#include "adapterfactory.h"
 #include "adapterfixture.h"
 
-#include <QMap>
+#include <algorithm>
 
 namespace {
 
@@ -65,11 +66,48 @@ QStringList Expect::climate(const QByteArray &calls)
     return lines;
 }
 
-QList<QPair<const char *, CarVectors>> allVectors()
+namespace {
+
+// A function's static object: the sheets of other files register before this one's objects exist.
+QList<CarSheet (*)()> &entries()
 {
-    return {{"CanBus_Raise_Toyota", toyotaVectors()},
-            {"CanBus_Raise_Honda", hondaVectors()},
-            {"CanBus_Raise_GM", gmVectors()},
-            {"CanBus_Raise_Jeep", jeepVectors()},
-            {"CanBus_XBS_Mazda", mazdaVectors()}};
+    static QList<CarSheet (*)()> all;
+    return all;
+}
+
+QList<CarSheet> readSheets()
+{
+    const QByteArray wanted = qgetenv("CANBUS_CAR");
+    QList<CarSheet> sheets;
+    for (const auto &make : entries()) {
+        const CarSheet sheet = make();
+        if (wanted.isEmpty() || sheet.name() == wanted) {
+            sheets << sheet;
+        }
+    }
+    std::sort(sheets.begin(), sheets.end(),
+              [](const CarSheet &one, const CarSheet &other) { return one.type < other.type; });
+    if (!wanted.isEmpty() && sheets.isEmpty()) {
+        qFatal("there is no sheet of %s in tests/cars/sheets", wanted.constData());
+    }
+    return sheets;
+}
+
+} // namespace
+
+CarSheetEntry::CarSheetEntry(CarSheet (*make)())
+{
+    entries() << make;
+}
+
+const QList<CarSheet> &carSheets()
+{
+    static const QList<CarSheet> sheets = readSheets();
+    return sheets;
+}
+
+QByteArray CarSheet::name() const
+{
+    const char *const className = AdapterFactory::className(type);
+    return className ? QByteArray(className) : "type " + QByteArray::number(int(type));
 }
