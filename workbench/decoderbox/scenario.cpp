@@ -50,11 +50,15 @@ bool Scenario::readStep(const QString &line, const DecoderBox &box, QString *err
         *error = "time goes back";
         return false;
     }
-    if (!steps.isEmpty() && steps.last().command.isEnd()) {
+    if (!steps.isEmpty() && steps.last().command.isLast()) {
         *error = "an order after the end";
         return false;
     }
     if (!step.command.parse(order, box, error)) {
+        return false;
+    }
+    if (step.ms == 0 && step.command.isAgain()) {
+        *error = "a drive that starts over takes some time";
         return false;
     }
     steps << step;
