@@ -32,8 +32,8 @@ QStringList keyOrders(const BoxSpeaker &speaker)
     QStringList orders;
     for (const BoxKey &key : speaker.keys()) {
         if (key.source == BoxKey::Knob) {
-            orders << "knob " + key.name + " 1"
-                   << "knob " + key.name + " 255";
+            orders << "knob " + key.name + " 0"
+                   << "knob " + key.name + " 3";
         } else {
             orders << "key " + key.name + " tap";
         }

@@ -11,7 +11,7 @@ namespace Sweep {
 
 /// The orders, as BoxCommand reads them, that \a what stands for with \a box:
 ///
-///     keys         each key is tapped, each knob turned by 1 and by 255 clicks
+///     keys         each key is tapped, each knob turned by no and by 3 clicks
 ///     properties   each property that means something with the box goes to both ends of its range, through
 ///     its
 ///                  choices, and back to where it began
