@@ -3,6 +3,8 @@
 #include "adapterfactory.h"
 #include "adapterfixture.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace {
@@ -68,10 +70,16 @@ QStringList Expect::climate(const QByteArray &calls)
 
 namespace {
 
-// A function's static object: the sheets of other files register before this one's objects exist.
-QList<CarSheet (*)()> &entries()
+struct Entry
 {
-    static QList<CarSheet (*)()> all;
+    CarSheet (*make)();
+    QByteArray car;
+};
+
+// A function's static object: the sheets of other files register before this one's objects exist.
+QList<Entry> &entries()
+{
+    static QList<Entry> all;
     return all;
 }
 
@@ -79,31 +87,46 @@ QList<CarSheet> readSheets()
 {
     const QByteArray wanted = qgetenv("CANBUS_CAR");
     QList<CarSheet> sheets;
-    for (const auto &make : entries()) {
-        const CarSheet sheet = make();
-        if (wanted.isEmpty() || sheet.name() == wanted) {
-            sheets << sheet;
+    for (const Entry &entry : entries()) {
+        if (areAllCarsTested() || entry.car == wanted) {
+            sheets << entry.make();
+            sheets.last().car = entry.car;
         }
     }
     std::sort(sheets.begin(), sheets.end(),
               [](const CarSheet &one, const CarSheet &other) { return one.type < other.type; });
-    if (!wanted.isEmpty() && sheets.isEmpty()) {
-        qFatal("there is no sheet of %s in tests/cars/sheets", wanted.constData());
+    if (sheets.isEmpty()) {
+        qFatal("there is no tests/cars/sheets/%s.cpp", wanted.constData());
     }
     return sheets;
 }
 
 } // namespace
 
-CarSheetEntry::CarSheetEntry(CarSheet (*make)())
+CarSheetEntry::CarSheetEntry(CarSheet (*make)(), const char *file)
 {
-    entries() << make;
+    entries() << Entry{make, QFileInfo(file).baseName().toLatin1()};
+}
+
+bool areAllCarsTested()
+{
+    return !qEnvironmentVariableIsSet("CANBUS_CAR");
 }
 
 const QList<CarSheet> &carSheets()
 {
     static const QList<CarSheet> sheets = readSheets();
     return sheets;
+}
+
+const CarSheet *findSheet(int type)
+{
+    for (const CarSheet &sheet : carSheets()) {
+        if (int(sheet.type) == type) {
+            return &sheet;
+        }
+    }
+    return nullptr;
 }
 
 QByteArray CarSheet::name() const

@@ -63,6 +63,7 @@ struct CarSheet
     };
 
     CanBusType type = CanBusTypeNone;
+    QByteArray car; ///< the sheet's file name, "toyota": the word for this car in the boxes' catalog
 
     // The line, and what is said at start-up: packages apart by bars, those of a clock cut to "c6 50".
     int baudRate = 38400;
@@ -92,13 +93,19 @@ struct CarSheet
     QByteArray name() const;
 };
 
-/// All sheets in order of their types. The environment variable CANBUS_CAR, a class name, leaves one.
+/// All sheets in order of their types. The environment variable CANBUS_CAR, a car's word, leaves one.
 const QList<CarSheet> &carSheets();
+
+/// Whether all cars are tested, not one.
+bool areAllCarsTested();
+
+/// The sheet of \a type, null when it is not tested.
+const CarSheet *findSheet(int type);
 
 /// Puts a sheet into the list; one at file scope of each file in sheets/.
 struct CarSheetEntry
 {
-    explicit CarSheetEntry(CarSheet (*make)());
+    CarSheetEntry(CarSheet (*make)(), const char *file);
 };
 
 namespace Expect {

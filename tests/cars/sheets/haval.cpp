@@ -13,6 +13,6 @@ CarSheet sheet()
     return s;
 }
 
-const CarSheetEntry Entry(sheet);
+const CarSheetEntry Entry(sheet, __FILE__);
 
 } // namespace
