@@ -69,16 +69,16 @@ check() {
         complain "there is no $name.scn"
     elif [ -z "$type" ]; then
         complain "no box plays this drive: decoderbox --list knows no '${name%%-*}'"
-    elif [ $mode = list ]; then
+    elif [ "$mode" = list ]; then
         printf '%s %s %s\n' "$name" "$type" "$([ ! -f "$trace" ] || wc -l <"$trace")"
-    elif [ $mode = check ] && [ ! -f "$trace" ]; then
+    elif [ "$mode" = check ] && [ ! -f "$trace" ]; then
         complain "there is no $name.trace; tools/golden.sh --update $name writes it"
-    elif [ $mode = check ] && [ ! -s "$trace" ]; then
+    elif [ "$mode" = check ] && [ ! -s "$trace" ]; then
         complain "$name.trace is empty"
     elif ! drive "$name" "$type"; then
         complain "headunit failed"
         grep '^headunit: ' "$work/errors" || cat "$work/errors"
-    elif [ $mode = update ]; then
+    elif [ "$mode" = update ]; then
         cmp -s "$work/trace" "$trace" || { cp "$work/trace" "$trace" && printf '%s: written\n' "$name"; }
     elif ! cmp -s "$work/trace" "$trace"; then
         show_difference
@@ -93,7 +93,7 @@ case ${1:-} in
 esac
 if [ $# -eq 0 ]; then
     # shellcheck disable=SC2046
-    set -- $(cd "$drives" && ls | grep -E "\.(scn|trace)$" | sed 's/\.[a-z]*$//' | sort -u)
+    set -- $(cd "$drives" && find . -maxdepth 1 -name '*.scn' -o -maxdepth 1 -name '*.trace' | sed 's/^..//; s/\.[a-z]*$//' | sort -u)
 fi
 failed=0
 for name in "$@"; do

@@ -1,5 +1,5 @@
 #include "pseudoterminal.h"
-#include "virtualclock.h"
+#include "virtualmain.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -188,14 +188,5 @@ void TestVirtualClock::idleComesLast()
     ::close(ends[1]);
 }
 
-int main(int argc, char **argv)
-{
-    if (!VirtualClock::start(StartOfTime)) {
-        return 1;
-    }
-    QCoreApplication application(argc, argv);
-    TestVirtualClock test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CANBUS_VIRTUAL_MAIN(QCoreApplication, TestVirtualClock)
 #include "tst_virtualclock.moc"
