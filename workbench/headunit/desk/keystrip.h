@@ -20,9 +20,8 @@ public:
 
     struct Key
     {
-        const char *name; ///< untranslated
-        const char *icon; ///< null for a key with its raw code on it
         int code;
+        int meaning; ///< the code of the key that it is; another one than its own makes it a raw key
     };
 
     /// \a keySet: number of the unit's key set, 1 or 2; any other has no raw keys.

@@ -23,7 +23,7 @@ public:
 
     void setApplication(const QString &name);
     void setMode(const QString &name);
-    /// A line on the telephone ("01:12"), empty for none; \a isInCall: a call, else the unit listens.
+    /// A line on the telephone ("In a call"), empty for none; \a isInCall: a call, else the unit listens.
     void setCall(const QString &text, bool isInCall);
     /// \a volume of \a loudest.
     void setVolume(int volume, int loudest, bool isMuted);
