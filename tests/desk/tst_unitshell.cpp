@@ -46,7 +46,6 @@ private Q_SLOTS:
     void keysPassTheFilters();
     void whatIsDoneIsToldToThePlugin();
     void climateGoesAwayWhenNothingChanges();
-    void nothingIsClipped_data();
     void nothingIsClipped();
 
 private:
@@ -273,37 +272,29 @@ void TestUnitShell::climateGoesAwayWhenNothingChanges()
     QTRY_VERIFY2(!climate.isVisible(), "shown again, it goes again");
 }
 
-void TestUnitShell::nothingIsClipped_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : UnitPage::languages()) {
-        QTest::newRow(qPrintable(language)) << language;
-    }
-}
-
 void TestUnitShell::nothingIsClipped()
 {
-    QFETCH(QString, language);
     AppendAppTitle(603, "Zentralverriegelungseinstellungen hinten rechts und links");
-    QSize size = UnitScreen::standardSize();
+    const QStringList languages = UnitPage::languages() << "en"; // the other tests expect the last one
     for (const int type : {3, 4, 10, 15}) {
         QString error;
         const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-        build(box.get(), std::exchange(size, QSize(800, 480)));
-        Q_EMIT m_desk->sidePanel()->unitPage()->languageChosen(language);
-        QCOMPARE(OrbHost::instance()->language(), language);
-        QCoreApplication::processEvents();
-        QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");
-        QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
-        for (int page = 0; page < m_desk->sidePanel()->pageCount(); ++page) {
-            m_desk->sidePanel()->showPage(page);
-            QCoreApplication::processEvents();
-            QCOMPARE(clippedTexts().join(", "), QString());
+        build(box.get(), type == 3 ? UnitScreen::standardSize() : QSize(800, 480));
+        SidePanel *panel = m_desk->sidePanel();
+        for (const QString &language : languages) {
+            Q_EMIT panel->unitPage()->languageChosen(language);
+            QCOMPARE(OrbHost::instance()->language(), language);
+            for (int page = 0; page < panel->pageCount(); ++page) {
+                panel->showPage(page);
+                QCoreApplication::processEvents();
+                QCOMPARE(clippedTexts().join(", "), QString());
+            }
+            QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");
+            QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
         }
         QVERIFY(m_desk->minimumSizeHint().width() <= 1440 && m_desk->minimumSizeHint().height() <= 860);
         cleanup(); // before its box goes
     }
-    OrbHost::instance()->setLanguage("en"); // what the other tests expect
 }
 
 int main(int argc, char *argv[])

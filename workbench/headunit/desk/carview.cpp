@@ -10,6 +10,7 @@
 namespace {
 
 const int HeadingHeight = 64;
+const int SmallestFont = 15; // pixels
 const int Margin = 16;
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
 const QSizeF Picture(200, 420);
@@ -106,9 +107,14 @@ QRectF CarView::carRect() const
 
 void CarView::paintHeading(QPainter *painter) const
 {
+    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2 + 6);
     QFont font = painter->font();
     font.setPixelSize(20);
     font.setBold(true);
+    while (QFontMetrics(font).horizontalAdvance(message()) > line.width() &&
+           font.pixelSize() > SmallestFont) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
     painter->setFont(font);
     QColor colour = DeskColours::Dim;
     if (m_state.doors != 0) {
@@ -118,7 +124,6 @@ void CarView::paintHeading(QPainter *painter) const
         colour = DeskColours::Error;
     }
     painter->setPen(colour);
-    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2 + 6);
     painter->drawText(line, Qt::AlignHCenter | Qt::AlignBottom,
                       painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
     font.setPixelSize(18);

@@ -22,27 +22,24 @@ const QVector<KeyStrip::Key> RawKeysOfSet2 = {
     {0x2F00004, Qt::Key_Enter},         {0x2F00005, Qt::Key_Right},     {0x2F00006, Qt::Key_Home},
     {0x2F00007, Qt::Key_Back}};
 
-} // namespace
-
-const QVector<KeyStrip::Key> &KeyStrip::standardKeys()
+QVector<KeyStrip::Key> standardKeys()
 {
-    static const QVector<Key> keys = [] {
-        QVector<Key> result;
-        for (const int code :
-             {int(Qt::Key_Home), int(Qt::Key_Back), int(Qt::Key_VolumeDown), int(Qt::Key_VolumeUp),
-              int(Qt::Key_VolumeMute), int(Qt::Key_MediaPrevious), int(Qt::Key_MediaNext),
-              int(UnitKey::ModeSwitch), int(Qt::Key_Call), int(Qt::Key_Hangup), int(Qt::Key_VoiceDial)}) {
-            result << Key{code, code};
-        }
-        return result;
-    }();
+    QVector<KeyStrip::Key> keys;
+    for (const int code :
+         {int(Qt::Key_Home), int(Qt::Key_Back), int(Qt::Key_VolumeDown), int(Qt::Key_VolumeUp),
+          int(Qt::Key_VolumeMute), int(Qt::Key_MediaPrevious), int(Qt::Key_MediaNext),
+          int(UnitKey::ModeSwitch), int(Qt::Key_Call), int(Qt::Key_Hangup), int(Qt::Key_VoiceDial)}) {
+        keys << KeyStrip::Key{code, code};
+    }
     return keys;
 }
 
-QVector<KeyStrip::Key> KeyStrip::rawKeys(int keySet)
+QVector<KeyStrip::Key> rawKeys(int keySet)
 {
-    return keySet == 1 ? RawKeysOfSet1 : keySet == 2 ? RawKeysOfSet2 : QVector<Key>();
+    return keySet == 1 ? RawKeysOfSet1 : keySet == 2 ? RawKeysOfSet2 : QVector<KeyStrip::Key>();
 }
+
+} // namespace
 
 KeyStrip::KeyStrip(int keySet, QWidget *parent) : QWidget(parent), m_repeatTimer(this)
 {

@@ -27,10 +27,6 @@ public:
     /// \a keySet: number of the unit's key set, 1 or 2; any other has no raw keys.
     explicit KeyStrip(int keySet, QWidget *parent = nullptr);
 
-    static const QVector<Key> &standardKeys();
-    /// The raw keys of a set, empty for a number without one.
-    static QVector<Key> rawKeys(int keySet);
-
 Q_SIGNALS:
     /// \a phase: one of Phase.
     void keyUsed(int code, int phase);
