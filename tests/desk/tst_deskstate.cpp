@@ -83,7 +83,6 @@ void TestDeskState::keys()
                 {{Key_VolumeMute, Key_VolumeDown}, 0, "Volume 11"},
                 {{Key_MediaNext}, 3, "Track 2"},
                 {{Key_MediaPrevious}, 0, "Track 99"},
-                {{Key_MediaPrevious, Key_MediaNext}, 0, "Track 1"},
                 {{Key_AudioForward, UnitKey::TrackNext, Key_AudioRewind}, 0, "Track 2"},
                 {{Key_MediaNext, Key_MediaNext, UnitKey::TrackPrevious}, 0, "Track 2"},
                 {{Key_MediaTogglePlayPause}, 0, "Pauses"},
@@ -100,7 +99,6 @@ void TestDeskState::keys()
                 {{Key_VoiceDial}, 0, "Listening …"},
                 {{Key_VoiceDial, Key_VoiceDial}, 0, "No call"},
                 {{Key_VoiceDial, Key_Call}, 0, "In a call", "call "},
-                {{Key_Hangup}, 0, "No call"},
                 {{Key_Back}, 2, "For the window in front", "key 1000061 "},
                 {{Key_PowerOff}, 0, "No effect on the desk"}};
     for (const auto &row : rows) {
