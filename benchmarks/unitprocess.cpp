@@ -12,7 +12,6 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
-#include <termios.h>
 #include <unistd.h>
 
 extern char **environ;
@@ -26,17 +25,13 @@ double now()
 
 } // namespace
 
-UnitProcess::UnitProcess(const std::string &program) : m_master(posix_openpt(O_RDWR | O_NOCTTY))
+UnitProcess::UnitProcess(const std::string &program)
 {
-    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0) {
-        throw std::runtime_error("no pseudo-terminal");
+    QString error;
+    if (!m_terminal.open(&error) || !m_terminal.holdLine()) { // the unit is not there yet
+        throw std::runtime_error("no serial line: " + error.toStdString());
     }
-    termios settings;
-    tcgetattr(m_master, &settings);
-    cfmakeraw(&settings);
-    tcsetattr(m_master, TCSANOW, &settings);
-
-    const std::string port = ptsname(m_master);
+    const std::string port = m_terminal.devicePath().toStdString();
     const char *const arguments[] = {program.c_str(), "--headless", "--can-bus-type", "9",
                                      "--port",        port.c_str(), nullptr};
     posix_spawn_file_actions_t files;
@@ -55,14 +50,13 @@ UnitProcess::~UnitProcess()
 {
     kill(m_pid, SIGTERM);
     waitpid(m_pid, nullptr, 0);
-    close(m_master);
 }
 
 double UnitProcess::waitForByte(unsigned char *byte, double timeout)
 {
     const double begin = now();
-    pollfd ready = {m_master, POLLIN, 0};
-    if (poll(&ready, 1, int(timeout * 1000)) != 1 || read(m_master, byte, 1) != 1) {
+    pollfd ready = {m_terminal.farEnd(), POLLIN, 0};
+    if (poll(&ready, 1, int(timeout * 1000)) != 1 || read(m_terminal.farEnd(), byte, 1) != 1) {
         return -1;
     }
     return now() - begin;
@@ -77,7 +71,7 @@ void UnitProcess::drain(double quiet)
 
 void UnitProcess::send(const std::string &bytes)
 {
-    if (write(m_master, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
+    if (write(m_terminal.farEnd(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
         throw std::runtime_error("the line is full");
     }
 }

@@ -1,6 +1,8 @@
 #ifndef UNITPROCESS_H
 #define UNITPROCESS_H
 
+#include "terminalpair.h"
+
 #include <string>
 
 #include <sys/types.h>
@@ -31,7 +33,7 @@ public:
     long residentMemory() const;
 
 private:
-    int m_master;
+    TerminalPair m_terminal;
     pid_t m_pid;
     double m_started;
 };

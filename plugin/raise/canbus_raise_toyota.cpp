@@ -143,7 +143,7 @@ void CanBus_Raise_Toyota::onSteeringAngle(const PackageView &d)
     // d[0] low byte; d[1]: 7..4 not used, 3 direction and highest bit, 2..0 high bits
     const int raw = d.d(0) | d.bits(1, 3, 0) << 8;
     // QUIRK toyota-angle-sign: either direction gives a negative angle, since the box counts on past the
-    // middle.
+    // middle: 380 to the right comes as 4096 - 380 with the direction bit set, and is reported as -391 degrees.
     const float angle = d.bit(1, 3) ? (float(-raw) / 380.0f) * 40.0f : (float(raw) / 380.0f) * -40.0f;
     UnitLink::sendSteeringAngle(angle);
 }

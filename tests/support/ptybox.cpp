@@ -1,34 +1,15 @@
 #include "ptybox.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTest>
 
-#include <cstdlib>
-#include <fcntl.h>
-#include <termios.h>
 #include <unistd.h>
 
-PtyBox::PtyBox() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+PtyBox::PtyBox()
 {
-    if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0) {
-        return;
-    }
-    m_path = QFile::decodeName(ptsname(m_master));
-    m_slave = open(ptsname(m_master), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    termios line;
-    tcgetattr(m_slave, &line);
-    cfmakeraw(&line);
-    tcsetattr(m_slave, TCSANOW, &line);
-}
-
-PtyBox::~PtyBox()
-{
-    if (m_slave >= 0) {
-        close(m_slave);
-    }
-    if (m_master >= 0) {
-        close(m_master);
+    QString error;
+    if (!m_terminal.open(&error) || !m_terminal.holdLine()) {
+        qFatal("no serial line: %s", qPrintable(error));
     }
 }
 
@@ -50,7 +31,8 @@ bool PtyBox::send(const QByteArray &bytes)
     qsizetype sent = 0;
     return waitUntil(
         [&] {
-            const ssize_t count = write(m_master, bytes.constData() + sent, size_t(bytes.size() - sent));
+            const ssize_t count =
+                write(m_terminal.farEnd(), bytes.constData() + sent, size_t(bytes.size() - sent));
             sent += count > 0 ? count : 0;
             return sent == bytes.size();
         },
@@ -60,7 +42,7 @@ bool PtyBox::send(const QByteArray &bytes)
 QByteArray PtyBox::received()
 {
     char buffer[4096];
-    for (ssize_t count; (count = read(m_master, buffer, sizeof buffer)) > 0;) {
+    for (ssize_t count; (count = read(m_terminal.farEnd(), buffer, sizeof buffer)) > 0;) {
         m_received.append(buffer, int(count));
     }
     return m_received;

@@ -1,23 +1,22 @@
 #ifndef PTYBOX_H
 #define PTYBOX_H
 
+#include "terminalpair.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <functional>
 
-/// The far end of a decoder box's serial line: a pseudo-terminal in raw mode. The unit under test opens
-/// path() like any serial port; the test speaks for the box. Waiting keeps the event loop running.
+/// The far end of a decoder box's serial line: the unit under test opens path() like any serial port, the test
+/// speaks for the box. Waiting keeps the event loop running; the box hangs up when it goes.
 class PtyBox
 {
 public:
+    /// Holds the line up while the unit has it closed.
     PtyBox();
-    ~PtyBox();
-    PtyBox(const PtyBox &) = delete;
-    PtyBox &operator=(const PtyBox &) = delete;
 
-    /// Device file for the unit; empty when no pseudo-terminal could be had.
-    QString path() const { return m_path; }
+    /// Device file for the unit.
+    QString path() const { return m_terminal.devicePath(); }
 
     /// Writes all of \a bytes to the unit; while the line is full the event loop runs. False after 5 s.
     bool send(const QByteArray &bytes);
@@ -36,9 +35,7 @@ public:
     static bool waitUntil(const std::function<bool()> &condition, int timeout = 2000);
 
 private:
-    int m_master = -1;
-    int m_slave = -1; // held open, so that the line stays up while the unit has it closed
-    QString m_path;
+    TerminalPair m_terminal;
     QByteArray m_received;
 };
 

@@ -6,10 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include <fcntl.h>
 #include <poll.h>
-#include <stdlib.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace {
@@ -22,23 +19,6 @@ QString systemError(const char *what)
     return QString("%1: %2").arg(QString::fromLatin1(what), QString::fromLocal8Bit(std::strerror(errno)));
 }
 
-// Raw mode belongs to the terminal and outlives this first opening of the unit's end.
-bool makeRaw(const char *device)
-{
-    const int slave = ::open(device, O_RDWR | O_NOCTTY | O_CLOEXEC);
-    if (slave < 0) {
-        return false;
-    }
-    termios settings;
-    const bool ok = ::tcgetattr(slave, &settings) == 0;
-    if (ok) {
-        ::cfmakeraw(&settings);
-        ::tcsetattr(slave, TCSANOW, &settings);
-    }
-    ::close(slave);
-    return ok;
-}
-
 } // namespace
 
 PseudoTerminal::PseudoTerminal(QObject *parent) : QObject(parent)
@@ -49,44 +29,23 @@ PseudoTerminal::PseudoTerminal(QObject *parent) : QObject(parent)
 
 PseudoTerminal::~PseudoTerminal()
 {
-    if (!m_link.isEmpty() && QFile::symLinkTarget(m_link) == m_devicePath) {
+    if (!m_link.isEmpty() && QFile::symLinkTarget(m_link) == devicePath()) {
         QFile::remove(m_link);
-    }
-    m_readNotifier.reset();
-    m_writeNotifier.reset();
-    if (m_master >= 0) {
-        ::close(m_master);
     }
 }
 
 bool PseudoTerminal::open(const QString &link, QString *error)
 {
-    if (!makeTerminal(error) || (!link.isEmpty() && !makeLink(link, error))) {
+    if (!m_terminal.open(error) || (!link.isEmpty() && !makeLink(link, error))) {
         return false;
     }
-    m_readNotifier.reset(new QSocketNotifier(m_master, QSocketNotifier::Read));
+    m_readNotifier.reset(new QSocketNotifier(m_terminal.farEnd(), QSocketNotifier::Read));
     m_readNotifier->setEnabled(false);
     connect(m_readNotifier.get(), &QSocketNotifier::activated, this, &PseudoTerminal::drain);
-    m_writeNotifier.reset(new QSocketNotifier(m_master, QSocketNotifier::Write));
+    m_writeNotifier.reset(new QSocketNotifier(m_terminal.farEnd(), QSocketNotifier::Write));
     m_writeNotifier->setEnabled(false);
     connect(m_writeNotifier.get(), &QSocketNotifier::activated, this, &PseudoTerminal::flush);
     m_lookTimer.start();
-    return true;
-}
-
-bool PseudoTerminal::makeTerminal(QString *error)
-{
-    m_master = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-    if (m_master < 0 || ::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0) {
-        *error = systemError("no pseudo-terminal");
-        return false;
-    }
-    const char *device = ::ptsname(m_master);
-    if (!device || !makeRaw(device)) {
-        *error = systemError("no raw mode on the pseudo-terminal");
-        return false;
-    }
-    m_devicePath = QFile::decodeName(device);
     return true;
 }
 
@@ -100,7 +59,7 @@ bool PseudoTerminal::makeLink(const QString &link, QString *error)
     const QByteArray name = QFile::encodeName(link);
     const QByteArray beside = name + '.' + QByteArray::number(qint64(::getpid()));
     ::unlink(beside.constData());
-    if (::symlink(QFile::encodeName(m_devicePath).constData(), beside.constData()) != 0 ||
+    if (::symlink(QFile::encodeName(devicePath()).constData(), beside.constData()) != 0 ||
         ::rename(beside.constData(), name.constData()) != 0) {
         *error = systemError(("cannot make the link '" + name + "'").constData());
         ::unlink(beside.constData());
@@ -113,7 +72,7 @@ bool PseudoTerminal::makeLink(const QString &link, QString *error)
 // A hung-up terminal is always readable, so a notifier would spin: look gently instead.
 void PseudoTerminal::lookForUnit()
 {
-    pollfd look = {m_master, POLLIN, 0};
+    pollfd look = {m_terminal.farEnd(), POLLIN, 0};
     const bool looked = ::poll(&look, 1, 0) >= 0;
     // A unit that came, spoke and left between two looks has left something to read.
     if (looked && (!(look.revents & POLLHUP) || (look.revents & POLLIN))) {
@@ -125,7 +84,7 @@ void PseudoTerminal::drain()
 {
     char bytes[4096];
     // One read per turn of the event loop, so that a unit that never stops sending starves nobody.
-    const ssize_t count = ::read(m_master, bytes, sizeof bytes);
+    const ssize_t count = ::read(m_terminal.farEnd(), bytes, sizeof bytes);
     if (count > 0) {
         Q_EMIT received(QByteArray(bytes, int(count)));
     } else if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
@@ -135,7 +94,7 @@ void PseudoTerminal::drain()
 
 bool PseudoTerminal::write(const QByteArray &bytes)
 {
-    if (m_master >= 0 && !m_unitThere) {
+    if (m_terminal.farEnd() >= 0 && !m_unitThere) {
         lookForUnit();
     }
     if (!m_unitThere || m_unsent.size() + bytes.size() > MostUnsentBytes) {
@@ -149,7 +108,7 @@ bool PseudoTerminal::write(const QByteArray &bytes)
 void PseudoTerminal::flush()
 {
     while (!m_unsent.isEmpty()) {
-        const ssize_t count = ::write(m_master, m_unsent.constData(), size_t(m_unsent.size()));
+        const ssize_t count = ::write(m_terminal.farEnd(), m_unsent.constData(), size_t(m_unsent.size()));
         if (count <= 0) {
             break;
         }

@@ -1,13 +1,15 @@
 #ifndef PSEUDOTERMINAL_H
 #define PSEUDOTERMINAL_H
 
+#include "terminalpair.h"
+
 #include <QObject>
 #include <QSocketNotifier>
 #include <QTimer>
 
 #include <memory>
 
-/// The box's end of a pseudo-terminal in raw mode. The unit opens devicePath() as its serial port.
+/// A box's end of the serial line, on the event loop. The unit opens devicePath() as its serial port.
 ///
 /// The unit may come, go and come back. While it is away the terminal looks for it 50 times a second and lets
 /// nothing wait for it.
@@ -25,7 +27,7 @@ public:
     bool open(const QString &link, QString *error);
 
     /// "/dev/pts/7"; empty before open().
-    QString devicePath() const { return m_devicePath; }
+    QString devicePath() const { return m_terminal.devicePath(); }
     /// Whether the unit has the device open.
     bool isUnitThere() const { return m_unitThere; }
 
@@ -39,15 +41,13 @@ Q_SIGNALS:
     void unitLeft();
 
 private:
-    bool makeTerminal(QString *error);
     bool makeLink(const QString &link, QString *error);
     void lookForUnit();
     void drain();
     void flush();
     void setUnitThere(bool there);
 
-    int m_master = -1;
-    QString m_devicePath;
+    TerminalPair m_terminal; // outlives the notifiers on it
     QString m_link;
     bool m_unitThere = false;
     QByteArray m_unsent;

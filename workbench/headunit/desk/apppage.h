@@ -7,7 +7,6 @@
 #include <QWidget>
 
 class CarView;
-class QLabel;
 
 /// The page of an application that has no window on the unit: a camera, or a screen of the car itself. It
 /// shows whose it is; for the camera around the car, the car.

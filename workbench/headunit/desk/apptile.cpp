@@ -7,9 +7,9 @@
 
 namespace {
 
-const QSize TileSize(132, 168);
-const int PictureSize = 96;
-const int TopMargin = 12;
+const QSize TileSize(132, 132); // two rows of them find room on a screen of 800x480
+const int PictureSize = 72;
+const int TopMargin = 8;
 const int TitleMargin = 4;
 
 QFont titleFont()
@@ -78,7 +78,7 @@ void AppTile::paintEvent(QPaintEvent *)
 
     painter.setFont(titleFont());
     painter.setPen(isLit ? DeskColours::Text : QColor(0xD5, 0xDB, 0xE2));
-    const int top = place.bottom() + 6;
+    const int top = place.bottom() + 4;
     const QRect title(TitleMargin, top, width() - 2 * TitleMargin, height() - top);
     painter.drawText(title, Qt::AlignHCenter | Qt::AlignTop, titleLines().join(QLatin1Char('\n')));
 }

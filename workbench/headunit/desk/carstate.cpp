@@ -20,22 +20,11 @@ enum CarData {
 
 const int DoorBits = CarState::FrontLeft | CarState::FrontRight | CarState::RearLeft | CarState::RearRight;
 
-// One decoder counts its steering sensor in twelve bits and hands the right half of the circle over without a
-// sign: the full circle is 4096 / 380 locks of 40 degrees.
-const int UnsignedCircle = 431;
-
 void takeLevels(quint8 (&levels)[CarState::Sensors], const QByteArray &bytes, int from)
 {
     for (int i = 0; i < CarState::Sensors; ++i) {
-        const int level = from + i < bytes.size() ? quint8(bytes.at(from + i)) : 0;
-        levels[i] = quint8(std::min(level, CarState::FarthestLevel));
+        levels[i] = from + i < bytes.size() ? quint8(bytes.at(from + i)) : quint8(0);
     }
-}
-
-int steeringFrom(int angle)
-{
-    const int folded = angle < -UnsignedCircle / 2 ? angle + UnsignedCircle : angle;
-    return qBound(-CarState::SteeringLock, folded, CarState::SteeringLock);
 }
 
 } // namespace
@@ -81,7 +70,7 @@ bool CarState::take(const OrbEvent &event)
         doors = int(event.getParam2()) & DoorBits;
         break;
     case Steering:
-        steering = steeringFrom(event.getVariantParam().toInt());
+        steering = event.getVariantParam().toInt();
         break;
     case RadarSwitch:
         isRadarOn = event.getParam2() != 0;

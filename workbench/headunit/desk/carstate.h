@@ -3,21 +3,25 @@
 
 #include <QtGlobal>
 
+#include <optional>
+
 class OrbEvent;
 
-/// What the plug-in has reported about the car, as the unit's car view needs it.
+/// What the plug-in has reported about the car, as it reported it: nothing is put right here, so that what is
+/// wrong with a report shows.
 struct CarState
 {
     enum Door { FrontLeft = 1, FrontRight = 2, RearLeft = 4, RearRight = 8 };
     static constexpr int Sensors = 4;       ///< on each side, from left to right
-    static constexpr int FarthestLevel = 6; ///< 1 is nearest, 0 sees nothing
-    static constexpr int SteeringLock = 40; ///< degrees of the front wheels at either lock
+    static constexpr int FarthestLevel = 6; ///< of the scale; 1 is nearest, 0 sees nothing
+    static constexpr int SteeringLock =
+        40; ///< degrees of the front wheels at either lock, as the scale has them
 
     int doors = 0; ///< Door bits of the open ones
     quint8 front[Sensors] = {0, 0, 0, 0};
     quint8 rear[Sensors] = {0, 0, 0, 0};
-    int steering = 0;      ///< -steeringLock (left) to steeringLock (right)
-    bool isRadarOn = true; ///< whether radar and track are to be drawn at all
+    std::optional<int> steering; ///< degrees, negative to the left; nothing until it was reported
+    bool isRadarOn = true;       ///< whether radar and track are to be drawn at all
     bool isTrackOn = true;
     bool areLightsOn = false;
 
@@ -26,9 +30,9 @@ struct CarState
     /// The level of the nearest thing that any sensor sees, 0 for none.
     int nearest() const;
 
-    /// Takes what \a event says about the car: a notification with one of the car-data numbers. Levels past
-    /// the farthest count as the farthest, missing ones as 0, angles past the lock as the lock. True when
-    /// something has changed; any other event changes nothing.
+    /// Takes what \a event says about the car: a notification with one of the car-data numbers. Missing levels
+    /// count as 0, bits above the four doors as none. True when something has changed; any other event changes
+    /// nothing.
     bool take(const OrbEvent &event);
 
     bool operator==(const CarState &other) const;

@@ -10,6 +10,7 @@
 namespace {
 
 const int HeadingHeight = 64;
+const int SmallestFont = 15; // pixels
 const int Margin = 16;
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
 const QSizeF Picture(200, 420);
@@ -74,6 +75,16 @@ QString CarView::message() const
     return doors.isEmpty() ? tr("All doors closed") : doors;
 }
 
+QString CarView::steeringText() const
+{
+    return m_state.steering ? tr("Steering %1°").arg(*m_state.steering) : QString();
+}
+
+int CarView::drawnSteering() const
+{
+    return qBound(-CarState::SteeringLock, m_state.steering.value_or(0), CarState::SteeringLock);
+}
+
 qreal CarView::radarReach() const
 {
     return (height() - HeadingHeight) * 0.185;
@@ -81,7 +92,7 @@ qreal CarView::radarReach() const
 
 qreal CarView::trackLength() const
 {
-    return radarReach() * 0.8;
+    return radarReach() * 0.62; // ends before the figures
 }
 
 QRectF CarView::carRect() const
@@ -96,9 +107,14 @@ QRectF CarView::carRect() const
 
 void CarView::paintHeading(QPainter *painter) const
 {
+    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2 + 6);
     QFont font = painter->font();
     font.setPixelSize(20);
     font.setBold(true);
+    while (QFontMetrics(font).horizontalAdvance(message()) > line.width() &&
+           font.pixelSize() > SmallestFont) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
     painter->setFont(font);
     QColor colour = DeskColours::Dim;
     if (m_state.doors != 0) {
@@ -108,9 +124,14 @@ void CarView::paintHeading(QPainter *painter) const
         colour = DeskColours::Error;
     }
     painter->setPen(colour);
-    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight);
-    painter->drawText(line, Qt::AlignCenter,
+    painter->drawText(line, Qt::AlignHCenter | Qt::AlignBottom,
                       painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
+    font.setPixelSize(18);
+    font.setBold(false);
+    painter->setFont(font);
+    painter->setPen(DeskColours::Text);
+    painter->drawText(QRectF(line.left(), line.bottom(), line.width(), HeadingHeight - line.bottom()),
+                      Qt::AlignCenter, steeringText());
 }
 
 void CarView::paintLights(QPainter *painter, const QRectF &car) const
@@ -137,7 +158,7 @@ void CarView::paintWheels(QPainter *painter, const QRectF &car) const
         painter->save();
         painter->translate(car.topLeft() + (wheel - PaintWork.topLeft()) * scale);
         painter->scale(scale, scale);
-        painter->rotate(isFront ? m_state.steering : 0);
+        painter->rotate(isFront ? drawnSteering() : 0);
         painter->setPen(QPen(QColor(0x5A, 0x66, 0x75), 2));
         painter->setBrush(QColor(0x20, 0x27, 0x30));
         painter->drawRoundedRect(QRectF(-10, -28, 20, 56), 6, 6);
@@ -192,7 +213,7 @@ void CarView::paintEvent(QPaintEvent *)
         RadarArcs(RadarArcs::Rear, car, radarReach()).paint(&painter, m_state.rear);
     }
     if (m_state.isTrackOn) {
-        SteeringTrack(car, m_state.steering, trackLength()).paint(&painter);
+        SteeringTrack(car, drawnSteering(), trackLength()).paint(&painter);
     }
     if (m_state.areLightsOn) {
         paintLights(&painter, car);

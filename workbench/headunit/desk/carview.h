@@ -6,8 +6,9 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// The car from above: its open doors, what its radar sees and where its wheels are turned. Shows the state
-/// that it is given and nothing of its own.
+/// The car from above: its open doors, what its radar sees and where its wheels are turned, with the numbers as
+/// they were reported. Shows the state that it is given and nothing of its own; a number past its scale is drawn
+/// at the end of the scale.
 class CarView : public QWidget
 {
     Q_OBJECT
@@ -21,6 +22,9 @@ public:
     /// One sentence on the doors and the distance, or that all is well.
     QString message() const;
 
+    /// The steering angle as it was reported; empty before that.
+    QString steeringText() const;
+
     /// Where the car is drawn, in the widget's pixels.
     QRectF carRect() const;
     /// Pixels from either end of the car that the radar's fan and the track behind it take.
@@ -32,6 +36,7 @@ protected:
 
 private:
     QString doorMessage() const;
+    int drawnSteering() const;
     void paintHeading(QPainter *painter) const;
     void paintLights(QPainter *painter, const QRectF &car) const;
     void paintWheels(QPainter *painter, const QRectF &car) const;

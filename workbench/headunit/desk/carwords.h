@@ -3,11 +3,11 @@
 
 #include <QString>
 
-/// What the names that a box has for its car's properties, choices and keys are called on the desk.
+/// What the names that a box has for its car's properties, choices and keys are called on the desk. A name says
+/// it itself; its translations are in carwords_LANGUAGE.ts.
 namespace CarWords {
 
-/// "Volume up 2" of "volume_up_2", in the user's language where the name is known, else made of the name
-/// itself.
+/// "Volume up 2" of "volume_up_2", in the user's language.
 QString text(const QString &name);
 
 /// "Settings · Units" of the group "settings.units".

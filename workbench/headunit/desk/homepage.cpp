@@ -2,8 +2,8 @@
 
 #include "carview.h"
 #include "deskcolours.h"
+#include "keycard.h"
 #include "launcher.h"
-#include "mediacard.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -12,14 +12,14 @@ namespace {
 const int Gap = 16;
 } // namespace
 
-HomePage::HomePage(QWidget *parent)
-    : QWidget(parent), m_launcher(new Launcher), m_mediaCard(new MediaCard), m_carView(new CarView)
+HomePage::HomePage(const UnitControls *controls, QWidget *parent)
+    : QWidget(parent), m_launcher(new Launcher), m_carView(new CarView)
 {
     QGridLayout *layout = new QGridLayout(this);
     layout->setContentsMargins(Gap, Gap / 2, Gap, Gap);
     layout->setSpacing(Gap);
     layout->addWidget(m_launcher, 0, 0);
-    layout->addWidget(m_mediaCard, 1, 0);
+    layout->addWidget(new KeyCard(controls), 1, 0);
     layout->addWidget(m_carView, 0, 1, 2, 1);
     layout->setColumnStretch(0, 62);
     layout->setColumnStretch(1, 38);

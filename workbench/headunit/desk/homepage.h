@@ -5,18 +5,18 @@
 
 class CarView;
 class Launcher;
-class MediaCard;
+class UnitControls;
 
-/// What the unit shows when no window is in front: the launcher, what plays, and the car.
+/// What the unit shows when no window is in front: the launcher, the last key, and the car.
 class HomePage : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit HomePage(QWidget *parent = nullptr);
+    /// \a controls: whose last key is shown; not owned, must outlive the page.
+    explicit HomePage(const UnitControls *controls, QWidget *parent = nullptr);
 
     Launcher *launcher() const { return m_launcher; }
-    MediaCard *mediaCard() const { return m_mediaCard; }
     CarView *carView() const { return m_carView; }
 
 protected:
@@ -24,7 +24,6 @@ protected:
 
 private:
     Launcher *m_launcher;
-    MediaCard *m_mediaCard;
     CarView *m_carView;
 };
 

@@ -1,6 +1,6 @@
 #include "keystrip.h"
 
-#include "unitkeys.h"
+#include "unitkey.h"
 
 #include <QEvent>
 #include <QToolButton>
@@ -11,51 +11,37 @@ namespace {
 const int KeyHeight = 64;
 const int KeyGap = 8;
 
-const QVector<KeyStrip::Key> RawKeysOfSet1 = {{QT_TRANSLATE_NOOP("KeyStrip", "Back"), nullptr, 0x2000061},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Enter"), nullptr, 0x2F00005},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Home"), nullptr, 0x2F00010},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Previous"), nullptr, 0x2000013},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Next"), nullptr, 0x2000015}};
+const QVector<KeyStrip::Key> RawKeysOfSet1 = {{0x2000061, Qt::Key_Back},
+                                              {0x2F00005, Qt::Key_Enter},
+                                              {0x2F00010, Qt::Key_Home},
+                                              {0x2000013, Qt::Key_MediaPrevious},
+                                              {0x2000015, Qt::Key_MediaNext}};
 
-const QVector<KeyStrip::Key> RawKeysOfSet2 = {{QT_TRANSLATE_NOOP("KeyStrip", "Previous"), nullptr, 0x2F00001},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Next"), nullptr, 0x2000002},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Left"), nullptr, 0x2F00003},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Enter"), nullptr, 0x2F00004},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Right"), nullptr, 0x2F00005},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Home"), nullptr, 0x2F00006},
-                                              {QT_TRANSLATE_NOOP("KeyStrip", "Back"), nullptr, 0x2F00007}};
+const QVector<KeyStrip::Key> RawKeysOfSet2 = {
+    {0x2F00001, Qt::Key_MediaPrevious}, {0x2000002, Qt::Key_MediaNext}, {0x2F00003, Qt::Key_Left},
+    {0x2F00004, Qt::Key_Enter},         {0x2F00005, Qt::Key_Right},     {0x2F00006, Qt::Key_Home},
+    {0x2F00007, Qt::Key_Back}};
 
-} // namespace
-
-const QVector<KeyStrip::Key> &KeyStrip::standardKeys()
+QVector<KeyStrip::Key> standardKeys()
 {
-    static const QVector<Key> keys = {{QT_TR_NOOP("Home"), "home", Qt::Key_Home},
-                                      {QT_TR_NOOP("Back"), "back", Qt::Key_Back},
-                                      {QT_TR_NOOP("Vol −"), "volume-down", Qt::Key_VolumeDown},
-                                      {QT_TR_NOOP("Vol +"), "volume-up", Qt::Key_VolumeUp},
-                                      {QT_TR_NOOP("Mute"), "mute", Qt::Key_VolumeMute},
-                                      {QT_TR_NOOP("Previous"), "previous", Qt::Key_MediaPrevious},
-                                      {QT_TR_NOOP("Next"), "next", Qt::Key_MediaNext},
-                                      {QT_TR_NOOP("Mode"), "mode", UnitKeys::ModeSwitch},
-                                      {QT_TR_NOOP("Call"), "call", Qt::Key_Call},
-                                      {QT_TR_NOOP("Hang up"), "hangup", Qt::Key_Hangup},
-                                      {QT_TR_NOOP("Voice"), "voice", Qt::Key_VoiceDial}};
+    QVector<KeyStrip::Key> keys;
+    for (const int code :
+         {int(Qt::Key_Home), int(Qt::Key_Back), int(Qt::Key_VolumeDown), int(Qt::Key_VolumeUp),
+          int(Qt::Key_VolumeMute), int(Qt::Key_MediaPrevious), int(Qt::Key_MediaNext),
+          int(UnitKey::ModeSwitch), int(Qt::Key_Call), int(Qt::Key_Hangup), int(Qt::Key_VoiceDial)}) {
+        keys << KeyStrip::Key{code, code};
+    }
     return keys;
 }
 
-QVector<KeyStrip::Key> KeyStrip::rawKeys(int keySet)
+QVector<KeyStrip::Key> rawKeys(int keySet)
 {
-    switch (keySet) {
-    case 1:
-        return RawKeysOfSet1;
-    case 2:
-        return RawKeysOfSet2;
-    default:
-        return QVector<Key>();
-    }
+    return keySet == 1 ? RawKeysOfSet1 : keySet == 2 ? RawKeysOfSet2 : QVector<KeyStrip::Key>();
 }
 
-KeyStrip::KeyStrip(int keySet, QWidget *parent) : QWidget(parent)
+} // namespace
+
+KeyStrip::KeyStrip(int keySet, QWidget *parent) : QWidget(parent), m_repeatTimer(this)
 {
     QVBoxLayout *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -81,8 +67,8 @@ void KeyStrip::addKeys(const QVector<Key> &keys, QBoxLayout *row)
         button->setFixedHeight(KeyHeight);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         button->setFocusPolicy(Qt::NoFocus);
-        if (key.icon) {
-            button->setIcon(QIcon(QStringLiteral(":/desk/keys/%1.png").arg(QLatin1String(key.icon))));
+        if (key.code == key.meaning) {
+            button->setIcon(QIcon(UnitKey::of(key.code).picture()));
             button->setIconSize(QSize(32, 32));
             button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         }
@@ -97,9 +83,10 @@ void KeyStrip::addKeys(const QVector<Key> &keys, QBoxLayout *row)
 void KeyStrip::setTexts()
 {
     for (const Button &button : m_buttons) {
-        const QString name = tr(button.key.name);
+        const QString name = UnitKey::of(button.key.meaning).text();
+        const int code = button.key.code;
         button.widget->setText(
-            button.key.icon ? name : QStringLiteral("%1\n0x%2").arg(name).arg(button.key.code, 0, 16));
+            code == button.key.meaning ? name : QStringLiteral("%1\n0x%2").arg(name).arg(code, 0, 16));
     }
 }
 

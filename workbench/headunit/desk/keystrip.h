@@ -20,17 +20,12 @@ public:
 
     struct Key
     {
-        const char *name; ///< untranslated
-        const char *icon; ///< null for a key with its raw code on it
         int code;
+        int meaning; ///< the code of the key that it is; another one than its own makes it a raw key
     };
 
     /// \a keySet: number of the unit's key set, 1 or 2; any other has no raw keys.
     explicit KeyStrip(int keySet, QWidget *parent = nullptr);
-
-    static const QVector<Key> &standardKeys();
-    /// The raw keys of a set, empty for a number without one.
-    static QVector<Key> rawKeys(int keySet);
 
 Q_SIGNALS:
     /// \a phase: one of Phase.

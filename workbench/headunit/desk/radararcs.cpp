@@ -3,6 +3,7 @@
 #include "deskcolours.h"
 
 #include <QPainter>
+#include <QtMath>
 
 namespace {
 
@@ -10,6 +11,8 @@ namespace {
 const qreal SectorSpan = 31.0;
 const qreal SectorGap = 2.0;
 const qreal BandGap = 2.5; // pixels
+const int FigureSize = 15;
+const qreal FigureRoom = 18; // outside the bands
 
 } // namespace
 
@@ -19,7 +22,7 @@ RadarArcs::RadarArcs(Side side, const QRectF &car, qreal reach) : m_side(side)
     const qreal inside = car.width() * 0.5;
     m_innerRadius = car.width() * 0.64;
     m_centre = QPointF(car.center().x(), side == Front ? car.top() + inside : car.bottom() - inside);
-    m_bandWidth = (inside + reach - m_innerRadius) / CarState::FarthestLevel;
+    m_bandWidth = (inside + reach - FigureRoom - m_innerRadius) / CarState::FarthestLevel;
 }
 
 QPainterPath RadarArcs::band(int sensor, int level) const
@@ -48,7 +51,20 @@ QRectF RadarArcs::bounds() const
     for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
         result |= band(sensor, 1).boundingRect() | band(sensor, CarState::FarthestLevel).boundingRect();
     }
+    for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
+        result |= figurePlace(sensor);
+    }
     return result;
+}
+
+QRectF RadarArcs::figurePlace(int sensor) const
+{
+    const qreal away = (sensor - (CarState::Sensors - 1) / 2.0) * SectorSpan;
+    const qreal radius = m_innerRadius + CarState::FarthestLevel * m_bandWidth + FigureRoom / 2;
+    const QPointF middle =
+        m_centre + QPointF(radius * qSin(qDegreesToRadians(away)),
+                           (m_side == Front ? -radius : radius) * qCos(qDegreesToRadians(away)));
+    return QRectF(middle - QPointF(FigureRoom, FigureRoom / 2), QSizeF(2 * FigureRoom, FigureRoom));
 }
 
 QColor RadarArcs::colour(int level)
@@ -61,15 +77,23 @@ QColor RadarArcs::colour(int level)
 
 void RadarArcs::paint(QPainter *painter, const quint8 (&levels)[CarState::Sensors]) const
 {
-    painter->setPen(Qt::NoPen);
+    QFont font = painter->font();
+    font.setPixelSize(FigureSize);
+    font.setBold(true);
+    painter->setFont(font);
     for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
+        const int drawn = qMin(int(levels[sensor]), CarState::FarthestLevel);
         for (int level = 1; level <= CarState::FarthestLevel; ++level) {
             QColor fill = DeskColours::Edge;
-            if (levels[sensor] != 0 && level >= levels[sensor]) {
-                fill = colour(levels[sensor]);
-                fill.setAlphaF(level == levels[sensor] ? 1.0 : 0.32);
+            if (drawn != 0 && level >= drawn) {
+                fill = colour(drawn);
+                fill.setAlphaF(level == drawn ? 1.0 : 0.32);
             }
             painter->fillPath(band(sensor, level), fill);
+        }
+        if (drawn != 0) {
+            painter->setPen(DeskColours::Text);
+            painter->drawText(figurePlace(sensor), Qt::AlignCenter, QString::number(levels[sensor]));
         }
     }
 }

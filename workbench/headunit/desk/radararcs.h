@@ -10,13 +10,13 @@
 class QPainter;
 
 /// The fan of distance bands in front of a car's nose or behind its tail: one sector for each sensor, one
-/// band for each level, the nearest innermost.
+/// band for each level, the nearest innermost, and outside the level as a figure.
 class RadarArcs
 {
 public:
     enum Side { Front, Rear };
 
-    /// \a car: where the car is drawn, nose up. \a reach: pixels from the car's end to the outermost band's
+    /// \a car: where the car is drawn, nose up. \a reach: pixels from the car's end to the figures' outer
     /// edge.
     RadarArcs(Side side, const QRectF &car, qreal reach);
 
@@ -30,10 +30,13 @@ public:
     /// Red for what is near, amber for what comes near, green for what is far.
     static QColor colour(int level);
 
-    /// Draws every band faintly, and from the level that a sensor reports outwards in that level's colour.
+    /// Draws every band faintly, and from the level that a sensor reports outwards in that level's colour. A
+    /// level past the farthest lights the farthest band; its figure tells.
     void paint(QPainter *painter, const quint8 (&levels)[CarState::Sensors]) const;
 
 private:
+    QRectF figurePlace(int sensor) const;
+
     Side m_side;
     QPointF m_centre;
     qreal m_innerRadius;

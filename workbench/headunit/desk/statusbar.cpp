@@ -4,6 +4,7 @@
 
 #include <QLocale>
 #include <QPainter>
+#include <QTime>
 #include <QTimerEvent>
 
 namespace {
@@ -51,15 +52,9 @@ void StatusBar::setTwelveHourClock(bool isTwelveHour)
     update();
 }
 
-void StatusBar::holdClock(const QTime &time)
-{
-    m_heldTime = time;
-    update();
-}
-
 QString StatusBar::clockText() const
 {
-    const QTime time = m_heldTime.isValid() ? m_heldTime : QTime::currentTime();
+    const QTime time = QTime::currentTime();
     return m_isTwelveHour ? QLocale::c().toString(time, QStringLiteral("h:mm AP"))
                           : time.toString(QStringLiteral("HH:mm"));
 }

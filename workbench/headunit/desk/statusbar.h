@@ -3,7 +3,6 @@
 
 #include <QBasicTimer>
 #include <QPixmap>
-#include <QTime>
 #include <QWidget>
 
 /// The strip at the top of the unit's screen: clock, application in front, telephone, mode, volume.
@@ -17,13 +16,10 @@ public:
     explicit StatusBar(QWidget *parent = nullptr);
 
     void setTwelveHourClock(bool isTwelveHour);
-    /// Holds the clock at \a time, for pictures; an invalid time lets it run again.
-    void holdClock(const QTime &time);
-    QString clockText() const;
 
     void setApplication(const QString &name);
     void setMode(const QString &name);
-    /// A line on the telephone ("01:12"), empty for none; \a isInCall: a call, else the unit listens.
+    /// A line on the telephone ("In a call"), empty for none; \a isInCall: a call, else the unit listens.
     void setCall(const QString &text, bool isInCall);
     /// \a volume of \a loudest.
     void setVolume(int volume, int loudest, bool isMuted);
@@ -33,13 +29,13 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    QString clockText() const;
     int paintVolume(QPainter *painter, int right) const;
     int paintMode(QPainter *painter, int right) const;
     int paintCall(QPainter *painter, int right) const;
 
     QBasicTimer m_clockTimer;
     bool m_isTwelveHour = false;
-    QTime m_heldTime;
     QString m_application;
     QString m_mode;
     QString m_callText;

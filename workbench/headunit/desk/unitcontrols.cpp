@@ -1,58 +1,30 @@
 #include "unitcontrols.h"
 
-#include "unitkeys.h"
-
-#include <QCoreApplication>
-#include <QVector>
+#include "unitkey.h"
 
 namespace {
 
-// The unit's sources in the order of the mode key, with what each plays. A radio's tracks are its stations.
-struct Track
-{
-    const char *title;
-    const char *subtitle;
-};
-
+// The unit's sources in the order of the mode key.
 struct Source
 {
     uint mode;
     const char *name;
-    QVector<Track> tracks;
 };
 
-const QVector<Source> &sources()
-{
-    static const QVector<Source> rows = {
-        {6,
-         QT_TRANSLATE_NOOP("UnitControls", "Radio"),
-         {{"FM 88.4 MHz", "Harbour FM"}, {"FM 93.1 MHz", "City Waves"}, {"FM 101.7 MHz", "Night Line"}}},
-        {9,
-         QT_TRANSLATE_NOOP("UnitControls", "USB music"),
-         {{"Coast Road", "Desk Demo · 1/3"},
-          {"Long Way Round", "Desk Demo · 2/3"},
-          {"Rain on Glass", "Desk Demo · 3/3"}}},
-        {3,
-         QT_TRANSLATE_NOOP("UnitControls", "Bluetooth"),
-         {{"Evening Mix", "Phone"}, {"Morning Mix", "Phone"}}},
-        {4, QT_TRANSLATE_NOOP("UnitControls", "Navigation"), {}},
-    };
-    return rows;
-}
+const Source Sources[] = {{6, QT_TRANSLATE_NOOP("UnitControls", "Radio")},
+                          {9, QT_TRANSLATE_NOOP("UnitControls", "USB music")},
+                          {3, QT_TRANSLATE_NOOP("UnitControls", "Bluetooth")},
+                          {4, QT_TRANSLATE_NOOP("UnitControls", "Navigation")}};
 
 } // namespace
 
-UnitControls::UnitControls(QObject *parent) : QObject(parent), m_tracks(sources().size(), 0)
-{
-    m_listeningTimer.setSingleShot(true);
-    connect(&m_listeningTimer, &QTimer::timeout, this, [this] { setCall(NoCall); });
-}
+UnitControls::UnitControls(QObject *parent) : QObject(parent) {}
 
 const QVector<uint> &UnitControls::modes()
 {
     static const QVector<uint> result = [] {
         QVector<uint> numbers;
-        for (const Source &source : sources()) {
+        for (const Source &source : Sources) {
             numbers << source.mode;
         }
         return numbers;
@@ -68,7 +40,7 @@ uint UnitControls::mode() const
 QString UnitControls::modeName(uint mode)
 {
     const int index = modes().indexOf(mode);
-    return index < 0 ? QString() : QCoreApplication::translate("UnitControls", sources().at(index).name);
+    return index < 0 ? QString() : tr(Sources[index].name);
 }
 
 void UnitControls::setMode(uint mode)
@@ -83,119 +55,97 @@ void UnitControls::setMode(uint mode)
     Q_EMIT changed();
 }
 
-QString UnitControls::title() const
+QString UnitControls::callText() const
 {
-    const QVector<Track> &tracks = sources().at(m_modeIndex).tracks;
-    return tracks.isEmpty() ? QString() : QString::fromUtf8(tracks.at(m_tracks.at(m_modeIndex)).title);
+    return m_call == InCall ? tr("In a call") : m_call == Listening ? tr("Listening …") : QString();
 }
 
-QString UnitControls::subtitle() const
+QString UnitControls::effect() const
 {
-    const QVector<Track> &tracks = sources().at(m_modeIndex).tracks;
-    return tracks.isEmpty() ? QString() : QString::fromUtf8(tracks.at(m_tracks.at(m_modeIndex)).subtitle);
-}
-
-int UnitControls::callSeconds() const
-{
-    return m_call == InCall ? int(m_callClock.elapsed() / 1000) : 0;
-}
-
-void UnitControls::setVolume(int volume)
-{
-    m_volume = qBound(0, volume, int(Loudest));
-    m_isMuted = false;
-    Q_EMIT changed();
-}
-
-void UnitControls::setCall(Call call)
-{
-    if (call == m_call) {
-        return;
+    switch (UnitKey::of(m_lastKey.code).duty) {
+    case UnitKey::Volume:
+    case UnitKey::Mute:
+        return m_isMuted ? tr("Muted") : tr("Volume %1").arg(m_volume);
+    case UnitKey::Track:
+        return tr("Track %1").arg(m_track);
+    case UnitKey::PlayPause:
+        return m_isPlaying ? tr("Plays") : tr("Pauses");
+    case UnitKey::Mode:
+        return modeName(mode());
+    case UnitKey::Voice:
+    case UnitKey::Call:
+    case UnitKey::HangUp:
+        return m_call == NoCall ? tr("No call") : callText();
+    case UnitKey::Navigation:
+        return tr("For the window in front");
+    case UnitKey::NoDuty:
+        break;
     }
+    return tr("No effect on the desk");
+}
+
+void UnitControls::setCall(CallState call)
+{
     const bool wasInCall = m_call == InCall;
     m_call = call;
-    if (call == InCall) {
-        m_callClock.start();
-    }
-    if (call == Listening) {
-        m_listeningTimer.start(ListeningTime);
-    } else {
-        m_listeningTimer.stop();
-    }
     if (wasInCall != (call == InCall)) {
         Q_EMIT callChanged(call == InCall);
-    }
-    Q_EMIT changed();
-}
-
-void UnitControls::skip(int tracks)
-{
-    const int count = sources().at(m_modeIndex).tracks.size();
-    if (count != 0) {
-        m_tracks[m_modeIndex] = (m_tracks.at(m_modeIndex) + tracks + count) % count;
-        m_isPlaying = true;
-        Q_EMIT changed();
-    }
-}
-
-bool UnitControls::mediaKey(int code)
-{
-    switch (code) {
-    case Qt::Key_VolumeMute:
-        m_isMuted = !m_isMuted;
-        Q_EMIT changed();
-        return true;
-    case Qt::Key_MediaNext:
-    case Qt::Key_AudioForward:
-    case UnitKeys::TrackNext:
-        skip(1);
-        return true;
-    case Qt::Key_MediaPrevious:
-    case Qt::Key_AudioRewind:
-    case UnitKeys::TrackPrevious:
-        skip(-1);
-        return true;
-    case Qt::Key_MediaPlay:
-    case Qt::Key_MediaTogglePlayPause:
-        m_isPlaying = !m_isPlaying;
-        Q_EMIT changed();
-        return true;
-    case UnitKeys::ModeSwitch:
-        setMode(modes().at((m_modeIndex + 1) % modes().size()));
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool UnitControls::phoneKey(int code)
-{
-    switch (code) {
-    case Qt::Key_VoiceDial:
-        // Cars with one phone key send this one until there is a call: the second press dials what was heard.
-        setCall(m_call == NoCall ? Listening : InCall);
-        return true;
-    case Qt::Key_Call:
-        setCall(InCall);
-        return true;
-    case Qt::Key_Hangup:
-        setCall(NoCall);
-        return true;
-    default:
-        return false;
     }
 }
 
 void UnitControls::key(int code, bool isPress, bool isRepeat)
 {
-    static const QVector<int> navigationKeys = {Qt::Key_Home,  Qt::Key_Back, Qt::Key_Enter, Qt::Key_Left,
-                                                Qt::Key_Right, Qt::Key_Up,   Qt::Key_Down};
-    if (!isPress) {
-        return;
+    note(code, isPress, isRepeat);
+    if (isPress && (!isRepeat || UnitKey::of(code).duty == UnitKey::Volume)) {
+        act(code);
     }
-    if (code == Qt::Key_VolumeUp || code == Qt::Key_VolumeDown) {
-        setVolume(m_volume + (code == Qt::Key_VolumeUp ? 1 : -1));
-    } else if (!isRepeat && !mediaKey(code) && !phoneKey(code) && navigationKeys.contains(code)) {
+    Q_EMIT changed();
+}
+
+void UnitControls::note(int code, bool isPress, bool isRepeat)
+{
+    if (isPress && (!isRepeat || code != m_lastKey.code)) {
+        m_lastKey = {code, m_lastKey.number + 1, 0, true};
+    } else if (code == m_lastKey.code) {
+        m_lastKey.repeats += isRepeat;
+        m_lastKey.isDown = isPress;
+    }
+}
+
+void UnitControls::act(int code)
+{
+    const UnitKey key = UnitKey::of(code);
+    switch (key.duty) {
+    case UnitKey::Volume:
+        m_volume = qBound(0, m_volume + key.step, int(Loudest));
+        m_isMuted = false;
+        break;
+    case UnitKey::Mute:
+        m_isMuted = !m_isMuted;
+        break;
+    case UnitKey::Track:
+        m_track = (m_track - 1 + key.step + LastTrack) % LastTrack + 1;
+        m_isPlaying = true;
+        break;
+    case UnitKey::PlayPause:
+        m_isPlaying = !m_isPlaying;
+        break;
+    case UnitKey::Mode:
+        setMode(modes().at((m_modeIndex + 1) % modes().size()));
+        break;
+    case UnitKey::Voice: // has no meaning while one talks
+        setCall(m_call == NoCall ? Listening : m_call == Listening ? NoCall : InCall);
+        break;
+    case UnitKey::Call:
+        setCall(InCall);
+        break;
+    case UnitKey::HangUp:
+        setCall(NoCall);
+        break;
+    case UnitKey::Navigation:
         Q_EMIT navigation(code);
+        break;
+    case UnitKey::NoDuty:
+        break;
     }
 }

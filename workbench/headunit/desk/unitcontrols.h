@@ -1,21 +1,28 @@
 #ifndef UNITCONTROLS_H
 #define UNITCONTROLS_H
 
-#include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 #include <QVector>
 
-/// What the unit itself does with its keys: volume, source, track, telephone. The state behind the status bar
-/// and the media card; it knows no widget.
+/// What the unit itself does with its keys, as far as a key must be seen to work: it counts volume and
+/// tracks, goes round the sources, and is in a call or not. It plays nothing and knows no widget.
 class UnitControls : public QObject
 {
     Q_OBJECT
 
 public:
-    enum Call { NoCall, Listening, InCall };
+    enum CallState { NoCall, Listening, InCall };
     static constexpr int Loudest = 30;
-    static constexpr int ListeningTime = 6000; ///< milliseconds that the unit waits for a spoken order
+    static constexpr int LastTrack = 99; ///< then comes the first again
+
+    /// The key that arrived last.
+    struct LastKey
+    {
+        int code = 0;
+        int number = 0; ///< how many keys were pressed so far; 0 for none yet
+        int repeats = 0;
+        bool isDown = false;
+    };
 
     explicit UnitControls(QObject *parent = nullptr);
 
@@ -30,17 +37,19 @@ public:
     void setMode(uint mode);
 
     bool isPlaying() const { return m_isPlaying; }
-    /// What the source in front plays: title and a second line. Empty for a source without tracks.
-    QString title() const;
-    QString subtitle() const;
+    int track() const { return m_track; }
 
-    Call call() const { return m_call; }
-    /// Seconds since the call was taken, 0 without one.
-    int callSeconds() const;
+    CallState call() const { return m_call; }
+    /// Empty without a call.
+    QString callText() const;
+
+    const LastKey &lastKey() const { return m_lastKey; }
+    /// What has become of that on which the last key acts: "Volume 13".
+    QString effect() const;
 
 public Q_SLOTS:
-    /// A key of the unit or of the car. Repeats count for the volume only; releases for nothing. Keys that
-    /// belong to what is in front (back, arrows ...) come out again as navigation().
+    /// A key of the unit or of the car. Repeats count for the volume only. Keys that belong to what is in
+    /// front (back, arrows ...) come out again as navigation().
     void key(int code, bool isPress, bool isRepeat);
 
 Q_SIGNALS:
@@ -52,20 +61,17 @@ Q_SIGNALS:
     void navigation(int code);
 
 private:
-    void setVolume(int volume);
-    void setCall(Call call);
-    void skip(int tracks);
-    bool mediaKey(int code);
-    bool phoneKey(int code);
+    void note(int code, bool isPress, bool isRepeat);
+    void act(int code);
+    void setCall(CallState call);
 
     int m_volume = 12;
     bool m_isMuted = false;
     int m_modeIndex = 0;
-    QVector<int> m_tracks; // by mode index
+    int m_track = 1;
     bool m_isPlaying = true;
-    Call m_call = NoCall;
-    QElapsedTimer m_callClock;
-    QTimer m_listeningTimer;
+    CallState m_call = NoCall;
+    LastKey m_lastKey;
 };
 
 #endif // UNITCONTROLS_H

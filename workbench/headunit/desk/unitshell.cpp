@@ -5,7 +5,6 @@
 #include "headunit.h"
 #include "homepage.h"
 #include "keynavigator.h"
-#include "mediacard.h"
 #include "orbapplication.h"
 #include "orbcommons.h"
 #include "orbevent.h"
@@ -44,13 +43,6 @@ QString launcherIcon(const SourceIcon (&icons)[Count], uint id)
     return QStringLiteral(":/desk/launcher/%1.png").arg(QLatin1String(name));
 }
 
-QString minutes(int seconds)
-{
-    return QStringLiteral("%1:%2")
-        .arg(seconds / 60, 2, 10, QLatin1Char('0'))
-        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
-}
-
 } // namespace
 
 UnitShell::UnitShell(HeadUnit *unit, UnitScreen *screen, QObject *parent)
@@ -58,7 +50,7 @@ UnitShell::UnitShell(HeadUnit *unit, UnitScreen *screen, QObject *parent)
     , m_unit(unit)
     , m_screen(screen)
     , m_statusBar(new StatusBar(screen->statusArea()))
-    , m_homePage(new HomePage(screen->windowArea()))
+    , m_homePage(new HomePage(&m_controls, screen->windowArea()))
     , m_appPage(new AppPage(screen->windowArea()))
 {
     m_statusBar->resize(screen->statusArea()->size());
@@ -78,9 +70,7 @@ UnitShell::UnitShell(HeadUnit *unit, UnitScreen *screen, QObject *parent)
     });
     connect(m_unit, &HeadUnit::modeChanged, &m_controls, &UnitControls::setMode);
     connect(m_homePage->launcher(), &Launcher::chosen, this, &UnitShell::open);
-    connect(m_homePage->mediaCard(), &MediaCard::keyTapped, this,
-            [this](int code) { m_controls.key(code, true, false); });
-    // The clock format, a call's length and new windows announce themselves to nobody.
+    // The clock format and new windows announce themselves to nobody.
     connect(&m_secondTimer, &QTimer::timeout, this, &UnitShell::showControls);
     connect(&m_secondTimer, &QTimer::timeout, this, &UnitShell::showEntries);
     m_secondTimer.start(1000);
@@ -222,16 +212,8 @@ void UnitShell::showControls()
     m_statusBar->setTwelveHourClock(
         OrbApplication::instance()->getTag(ClockFormatTag, QVariant(0)).toUInt() == 1);
     m_statusBar->setVolume(m_controls.volume(), UnitControls::Loudest, m_controls.isMuted());
-    const QString mode = UnitControls::modeName(m_controls.mode());
-    m_statusBar->setMode(mode);
-    const bool isInCall = m_controls.call() == UnitControls::InCall;
-    m_statusBar->setCall(isInCall                                       ? minutes(m_controls.callSeconds())
-                         : m_controls.call() == UnitControls::Listening ? tr("Listening …")
-                                                                        : QString(),
-                         isInCall);
-    m_homePage->mediaCard()->setTrack(mode, QPixmap(launcherIcon(SourceIcons, m_controls.mode())),
-                                      m_controls.title(), m_controls.subtitle());
-    m_homePage->mediaCard()->setPlaying(m_controls.isPlaying());
+    m_statusBar->setMode(UnitControls::modeName(m_controls.mode()));
+    m_statusBar->setCall(m_controls.callText(), m_controls.call() == UnitControls::InCall);
     m_homePage->launcher()->setMode(m_controls.mode());
 }
 
