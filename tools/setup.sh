@@ -49,7 +49,7 @@ configure_and_build() {
     done
     [ $# -eq 0 ] || shift
     need_packages g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev qttools5-dev-tools \
-        fontconfig fonts-dejavu-core fonts-wqy-microhei
+        libcli11-dev fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
     cmake -S "$root" -B "$build" -G Ninja "$@" >"${TMPDIR:-/tmp}/canbus-configure.$$" 2>&1 || {
         cat "${TMPDIR:-/tmp}/canbus-configure.$$" >&2

@@ -29,7 +29,8 @@ void TestOptions::settings()
     QVERIFY2(
         options.parse(
             QString("headunit --can-bus-type CanBus_Raise_Toyota --key-redef 0x2 --tag 0x10001=0x3000000 "
-                    "--tag 69641=1 --product Name=a=b --product Code=0x1F --product Zip=007 "
+                    "--tag 69641=1 --product Name=a=b --product Code=0x1F --product Zip=007 --tag "
+                    "0x10002=0x100000001000000 "
                     "--factory Set=1,two,3 --settings-dir s --product ScreenSize=800x480 --port /dev/x")
                 .split(' '),
             &error),
@@ -38,6 +39,7 @@ void TestOptions::settings()
     QCOMPARE(options.tags.value(0x1000c).toUInt(), 2u);
     QCOMPARE(options.tags.value(0x10001).toUInt(), 0x3000000u);
     QCOMPARE(options.tags.value(0x11009).toUInt(), 1u);
+    QCOMPARE(options.tags.value(0x10002).toULongLong(), Q_UINT64_C(0x100000001000000));
     QCOMPARE(options.productValues.value("Name").toString(), QString("a=b"));
     QCOMPARE(options.productValues.value("Code").toUInt(), 0x1Fu);
     QCOMPARE(options.productValues.value("Zip").toString(), QString("007"));
@@ -109,7 +111,7 @@ void TestOptions::wrongUsage_data()
     QTest::newRow("box of no type") << "--decoder-box"
                                     << "--can-bus-type";
     QTest::newRow("virtual clock on a display") << "--virtual-clock"
-                                                << "needs --headless";
+                                                << "--headless";
     QTest::newRow("virtual clock from no such day") << "--headless --virtual-clock 2026-02-30T08:00:00"
                                                     << "2026-02-30T08:00:00";
 }

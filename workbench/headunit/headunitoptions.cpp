@@ -4,65 +4,147 @@
 #include "numbertext.h"
 #include "unitscreen.h"
 
-#include <QCommandLineParser>
-
-#include <memory>
+#include <CLI/CLI.hpp>
 
 namespace {
-
-// Options whose value may be left out.
-const QStringList LoneOptions = {"--decoder-box", "--virtual-clock"};
 
 // When the virtual clock starts unless it is told: drives with a clock in them look the same every day.
 const char *const StandardStart = "2026-01-01T12:00:00";
 
-void addOptions(QCommandLineParser *parser)
+// What the command line holds, as text.
+struct Texts
 {
-    parser->addOptions({{{"h", "help"}, "Shows this."},
-                        {"can-bus-type", {}, "N|CLASS"},
-                        {"key-redef", {}, "N"},
-                        {"port", {}, "PATH"},
-                        {"decoder-box", {}, "SCENARIO"},
-                        {"plugin", {}, "PATH"},
-                        {"tag", {}, "ID=VALUE"},
-                        {"product", {}, "KEY=VALUE"},
-                        {"factory", {}, "KEY=VALUE[,VALUE]..."},
-                        {"settings-dir", {}, "DIR"},
-                        {"headless", {}},
-                        {"virtual-clock", {}, "START"},
-                        {"trace", {}, "FILE|-"},
-                        {"script", {}, "FILE|-"}});
-}
-
-bool isOption(const QString &argument)
-{
-    return argument.startsWith("--");
-}
-
-// That a value may be left out the parser does not know: tie it to its option.
-QStringList withValuesTied(const QStringList &arguments)
-{
-    QStringList tied;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
-        if (!LoneOptions.contains(argument)) {
-            tied << argument;
-        } else if (i + 1 < arguments.size() && !isOption(arguments.at(i + 1))) {
-            tied << argument + '=' + arguments.at(++i);
-        } else {
-            tied << argument + '=';
-        }
-    }
-    return tied;
-}
+    std::string type;
+    std::string keyRedef;
+    std::string port;
+    std::string plugin;
+    std::string scenario;
+    std::string settingsDir;
+    std::string clock;
+    std::string trace;
+    std::string script;
+    std::vector<std::string> tags;
+    std::vector<std::string> products;
+    std::vector<std::string> factory;
+};
 
 // "KEY=VALUE"; a value may hold further equals signs.
-bool split(const QString &setting, QString *key, QString *value)
+bool split(const std::string &setting, QString *key, QString *value)
 {
-    const int sign = int(setting.indexOf('='));
-    *key = setting.left(sign);
-    *value = setting.mid(sign + 1);
+    const QString text = QString::fromStdString(setting);
+    const int sign = int(text.indexOf('='));
+    *key = text.left(sign);
+    *value = text.mid(sign + 1);
     return sign > 0;
+}
+
+std::string settingComplaint(const std::string &setting)
+{
+    QString key;
+    QString value;
+    return split(setting, &key, &value) ? std::string() : "takes KEY=VALUE, not '" + setting + "'";
+}
+
+std::string tagComplaint(const std::string &setting)
+{
+    QString key;
+    QString value;
+    quint32 tag = 0;
+    return split(setting, &key, &value) && NumberText::read(key, &tag)
+               ? std::string()
+               : "takes ID=VALUE, not '" + setting + "'";
+}
+
+bool readType(const std::string &text, quint32 *number)
+{
+    const QString name = QString::fromStdString(text);
+    *number = quint32(BoxCatalog::typeFromText(name));
+    return *number != 0 || NumberText::read(name, number);
+}
+
+std::string typeComplaint(const std::string &text)
+{
+    quint32 number = 0;
+    return readType(text, &number) ? std::string() : "takes a number or a class name, not '" + text + "'";
+}
+
+std::string numberComplaint(const std::string &text)
+{
+    quint32 number = 0;
+    return NumberText::read(QString::fromStdString(text), &number) ? std::string()
+                                                                   : "takes a number, not '" + text + "'";
+}
+
+// The library gives an option the next word, whatever it is.
+std::string pathComplaint(const std::string &text)
+{
+    return text.compare(0, 2, "--") == 0 ? std::string("lacks its value") : std::string();
+}
+
+QDateTime readClock(const std::string &text)
+{
+    return QDateTime::fromString(text.empty() ? QString(StandardStart) : QString::fromStdString(text),
+                                 "yyyy-MM-dd'T'HH:mm:ss");
+}
+
+std::string clockComplaint(const std::string &text)
+{
+    return readClock(text).isValid()
+               ? std::string()
+               : std::string("takes a local time like ") + StandardStart + ", not '" + text + "'";
+}
+
+void addSetting(CLI::App *app, const char *name, std::vector<std::string> *texts, const char *value,
+                std::string (*complaint)(const std::string &), const char *help)
+{
+    app->add_option(name, *texts, help)
+        ->type_name(value)
+        ->take_all()
+        ->allow_extra_args(false)
+        ->check(complaint);
+}
+
+CLI::Option *addPath(CLI::App *app, const char *name, std::string *text, const char *value, const char *help)
+{
+    return app->add_option(name, *text, help)->type_name(value)->check(pathComplaint);
+}
+
+void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
+{
+    app->add_option("--can-bus-type", texts->type,
+                    "the decoder box that is fitted: number or class name; decoderbox --list has them")
+        ->type_name("N|CLASS")
+        ->check(typeComplaint);
+    app->add_option("--key-redef", texts->keyRedef, "the unit's own key set: 1 or 2")
+        ->type_name("N")
+        ->check(numberComplaint);
+    CLI::Option *const port =
+        addPath(app, "--port", &texts->port, "PATH", "the serial device of a decoder box");
+    app->add_option("--decoder-box", texts->scenario, "a virtual box instead; it drives the scenario")
+        ->type_name("[SCENARIO]")
+        ->expected(0, 1)
+        ->excludes(port);
+    addPath(app, "--plugin", &texts->plugin, "PATH", "the plug-in's shared library");
+    addSetting(app, "--tag", &texts->tags, "ID=VALUE", tagComplaint, "a tag of the unit; may be repeated");
+    addSetting(app, "--product", &texts->products, "KEY=VALUE", settingComplaint,
+               "a product value of the unit; ScreenSize=WxH is the screen's; may be repeated");
+    addSetting(app, "--factory", &texts->factory, "KEY=VALUE[,VALUE]...", settingComplaint,
+               "a factory setting of the unit; may be repeated");
+    addPath(app, "--settings-dir", &texts->settingsDir, "DIR", "folder of the settings files");
+    CLI::Option *const headless =
+        app->add_flag("--headless", options->isHeadless, "no window; needs no display");
+    app->add_option(
+           "--virtual-clock", texts->clock,
+           "jumps over the time in which nothing happens; START is the unit's time of day at start, " +
+               std::string(StandardStart) + " unless told")
+        ->type_name("[START]")
+        ->expected(0, 1)
+        ->needs(headless)
+        ->check(clockComplaint);
+    addPath(app, "--trace", &texts->trace, "FILE|-",
+            "writes what the plug-in does as JSON lines; - is standard output");
+    addPath(app, "--script", &texts->script, "FILE|-",
+            "carries out commands, one a line; - is standard input");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -76,161 +158,76 @@ bool readSize(const QString &text, QSize *size)
     return ok;
 }
 
-bool readTags(const QStringList &settings, HeadUnitOptions *options, QString *error)
-{
-    for (const QString &setting : settings) {
-        QString key;
-        QString value;
-        quint32 tag = 0;
-        if (!split(setting, &key, &value) || !NumberText::read(key, &tag)) {
-            *error = QString("--tag takes ID=VALUE, not '%1'").arg(setting);
-            return false;
-        }
-        options->tags.insert(tag, NumberText::value(value));
-    }
-    return true;
-}
-
-bool readTypes(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
-{
-    const QString typeText = parser.value("can-bus-type");
-    quint32 number = quint32(BoxCatalog::typeFromText(typeText));
-    if (parser.isSet("can-bus-type")) {
-        if (number == 0 && !NumberText::read(typeText, &number)) {
-            *error = QString("--can-bus-type takes a number or a class name, not '%1'").arg(typeText);
-            return false;
-        }
-        options->tags.insert(HeadUnitOptions::CanBusTypeTag, number);
-    }
-    if (parser.isSet("key-redef")) {
-        if (!NumberText::read(parser.value("key-redef"), &number)) {
-            *error = QString("--key-redef takes a number, not '%1'").arg(parser.value("key-redef"));
-            return false;
-        }
-        options->tags.insert(HeadUnitOptions::KeyRedefTag, number);
-    }
-    return true;
-}
-
-bool readSettings(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
+void readSettings(const Texts &texts, HeadUnitOptions *options)
 {
     QString key;
     QString value;
-    for (const QString &setting : parser.values("product")) {
-        if (!split(setting, &key, &value)) {
-            *error = QString("--product takes KEY=VALUE, not '%1'").arg(setting);
-            return false;
-        }
+    quint32 number = 0;
+    for (const std::string &setting : texts.products) {
+        split(setting, &key, &value);
         options->productValues.insert(key, NumberText::value(value));
     }
-    for (const QString &setting : parser.values("factory")) {
-        if (!split(setting, &key, &value)) {
-            *error = QString("--factory takes KEY=VALUE[,VALUE]..., not '%1'").arg(setting);
-            return false;
-        }
+    for (const std::string &setting : texts.factory) {
+        split(setting, &key, &value);
         options->factorySettings.insert(key, value.split(','));
     }
-    options->screenSize = UnitScreen::standardSize();
-    const QString size = options->productValues.value("ScreenSize").toString();
-    if (!size.isEmpty() && !readSize(size, &options->screenSize)) {
-        *error = QString("ScreenSize takes WxH, 320x240 to 4096x4096, not '%1'").arg(size);
-        return false;
+    for (const std::string &setting : texts.tags) {
+        split(setting, &key, &value);
+        NumberText::read(key, &number);
+        options->tags.insert(number, NumberText::value(value));
     }
-    return readTags(parser.values("tag"), options, error) && readTypes(parser, options, error);
-}
-
-bool readClock(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
-{
-    if (!parser.isSet("virtual-clock")) {
-        return true;
+    if (!texts.type.empty() && readType(texts.type, &number)) {
+        options->tags.insert(HeadUnitOptions::CanBusTypeTag, number);
     }
-    const QString given = parser.value("virtual-clock");
-    const QString text = given.isEmpty() ? QString(StandardStart) : given;
-    options->virtualStart = QDateTime::fromString(text, "yyyy-MM-dd'T'HH:mm:ss");
-    if (!options->virtualStart.isValid()) {
-        *error = QString("--virtual-clock takes a local time like %1, not '%2'").arg(StandardStart, text);
-        return false;
+    if (!texts.keyRedef.empty() && NumberText::read(QString::fromStdString(texts.keyRedef), &number)) {
+        options->tags.insert(HeadUnitOptions::KeyRedefTag, number);
     }
-    if (!options->isHeadless) {
-        *error = "--virtual-clock needs --headless";
-        return false;
-    }
-    return true;
-}
-
-bool readFiles(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
-{
-    for (const char *name : {"port", "plugin", "settings-dir", "trace", "script"}) {
-        if (isOption(parser.value(name))) {
-            *error = QString("--%1 lacks its value").arg(name);
-            return false;
-        }
-    }
-    options->isHeadless = parser.isSet("headless");
-    options->plugin = parser.value("plugin");
-    options->settingsDir = parser.value("settings-dir");
-    options->trace = parser.value("trace");
-    options->script = parser.value("script");
-    options->hasDecoderBox = parser.isSet("decoder-box");
-    options->scenario = parser.value("decoder-box");
-    if (options->hasDecoderBox && parser.isSet("port")) {
-        *error = "--port and --decoder-box exclude each other";
-        return false;
-    }
-    if (options->hasDecoderBox && options->canBusType() == 0) {
-        *error = "--decoder-box needs --can-bus-type: which box is it?";
-        return false;
-    }
-    if (parser.isSet("port")) {
-        options->productValues.insert("CANPortName", parser.value("port"));
-    }
-    return true;
+    options->plugin = QString::fromStdString(texts.plugin);
+    options->settingsDir = QString::fromStdString(texts.settingsDir);
+    options->scenario = QString::fromStdString(texts.scenario);
+    options->trace = QString::fromStdString(texts.trace);
+    options->script = QString::fromStdString(texts.script);
 }
 
 } // namespace
 
-QString HeadUnitOptions::usage()
-{
-    return "Usage: headunit [--can-bus-type N|CLASS] [--key-redef N] [--port PATH | --decoder-box "
-           "[SCENARIO]]\n"
-           "                [--plugin PATH] [--tag ID=VALUE]... [--product KEY=VALUE]...\n"
-           "                [--factory KEY=VALUE[,VALUE]...]... [--settings-dir DIR]\n"
-           "                [--headless [--virtual-clock [START]]] [--trace FILE|-] [--script FILE|-]\n"
-           "\n"
-           "A head unit on the desk that runs the CAN-bus plug-in.\n"
-           "\n"
-           "  --can-bus-type  the decoder box that is fitted: 1 to 15, or CanBus_Raise_Toyota and so on\n"
-           "  --key-redef     the unit's own key set: 1 or 2\n"
-           "  --port          the serial device of a decoder box\n"
-           "  --decoder-box   a virtual box instead; it drives the scenario\n"
-           "  --plugin        the plug-in's shared library\n"
-           "  --tag, --product, --factory\n"
-           "                  settings of the unit that the plug-in asks for; ScreenSize=WxH is the "
-           "screen's\n"
-           "  --settings-dir  folder of the settings files\n"
-           "  --headless      no window; needs no display\n"
-           "  --virtual-clock jumps over the time in which nothing happens; START is the unit's time of day "
-           "at\n"
-           "                  start, 2026-01-01T12:00:00 unless told\n"
-           "  --trace         writes what the plug-in does as JSON lines; - is standard output\n"
-           "  --script        carries out commands, one a line; - is standard input\n"
-           "\n"
-           "Numbers are decimal or 0x-hexadecimal.\n";
-}
-
 bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
 {
-    QCommandLineParser parser;
-    addOptions(&parser);
-    if (!parser.parse(withValuesTied(arguments))) {
-        *error = parser.errorText();
+    CLI::App app(
+        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        "headunit");
+    app.get_formatter()->column_width(34);
+    app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    Texts texts;
+    addOptions(&app, this, &texts);
+    usage = QString::fromStdString(app.help());
+    std::vector<std::string> words;
+    for (int i = int(arguments.size()) - 1; i > 0; --i) {
+        words.push_back(arguments.at(i).toStdString()); // the library takes them from the back
+    }
+    try {
+        app.parse(words);
+    } catch (const CLI::CallForHelp &) {
+        wantsHelp = true;
+        return true;
+    } catch (const CLI::ParseError &problem) {
+        *error = QString::fromStdString(problem.what());
         return false;
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        *error = QString("what is '%1'?").arg(parser.positionalArguments().first());
-        return false;
+    readSettings(texts, this);
+    hasDecoderBox = app.count("--decoder-box") != 0;
+    if (app.count("--port") != 0) {
+        productValues.insert("CANPortName", QString::fromStdString(texts.port));
     }
-    wantsHelp = parser.isSet("help");
-    return wantsHelp || (readSettings(parser, this, error) && readFiles(parser, this, error) &&
-                         readClock(parser, this, error));
+    if (app.count("--virtual-clock") != 0) {
+        virtualStart = readClock(texts.clock);
+    }
+    screenSize = UnitScreen::standardSize();
+    const QString size = productValues.value("ScreenSize").toString();
+    if (!size.isEmpty() && !readSize(size, &screenSize)) {
+        *error = QString("ScreenSize takes WxH, 320x240 to 4096x4096, not '%1'").arg(size);
+    } else if (hasDecoderBox && canBusType() == 0) {
+        *error = "--decoder-box needs --can-bus-type: which box is it?";
+    }
+    return error->isEmpty();
 }

@@ -26,12 +26,11 @@ struct HeadUnitOptions
     QString trace;    ///< file, "-" for standard output, empty for none
     QString script;   ///< file, "-" for standard input, empty for none
     bool wantsHelp = false;
+    QString usage; ///< what there is to ask for; set by parse()
 
     /// Reads \a arguments, the program's name first; needs no application object. False, with the reason in
     /// \a error, when they are wrong.
     bool parse(const QStringList &arguments, QString *error);
-
-    static QString usage();
 
     /// The decoder type that the plug-in will read; 0 for none.
     uint canBusType() const { return tags.value(CanBusTypeTag).toUInt(); }

@@ -47,11 +47,11 @@ int main(int argc, char *argv[])
     QString error;
     if (!options.parse(arguments, &error)) {
         complain(error);
-        std::fputs(qPrintable(HeadUnitOptions::usage()), stderr);
+        std::fputs(qPrintable(options.usage), stderr);
         return WrongUsage;
     }
     if (options.wantsHelp) {
-        std::fputs(qPrintable(HeadUnitOptions::usage()), stdout);
+        std::fputs(qPrintable(options.usage), stdout);
         return Fine;
     }
     if (options.isHeadless) {

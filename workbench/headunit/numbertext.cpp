@@ -1,5 +1,7 @@
 #include "numbertext.h"
 
+#include <limits>
+
 namespace {
 
 bool isHexadecimal(const QString &text)
@@ -7,9 +9,7 @@ bool isHexadecimal(const QString &text)
     return text.startsWith("0x", Qt::CaseInsensitive);
 }
 
-} // namespace
-
-bool NumberText::read(const QString &text, quint32 *number)
+bool readWide(const QString &text, quint64 *number)
 {
     const bool isHex = isHexadecimal(text);
     const QString digits = isHex ? text.mid(2) : text;
@@ -18,15 +18,28 @@ bool NumberText::read(const QString &text, quint32 *number)
         return false;
     }
     bool ok = false;
-    const quint32 read = digits.toUInt(&ok, isHex ? 16 : 10);
-    if (ok) {
-        *number = read;
-    }
+    *number = digits.toULongLong(&ok, isHex ? 16 : 10);
     return ok;
+}
+
+} // namespace
+
+bool NumberText::read(const QString &text, quint32 *number)
+{
+    quint64 wide = 0;
+    if (!readWide(text, &wide) || wide > std::numeric_limits<quint32>::max()) {
+        return false;
+    }
+    *number = quint32(wide);
+    return true;
 }
 
 QVariant NumberText::value(const QString &text)
 {
-    quint32 number = 0;
-    return isHexadecimal(text) && read(text, &number) ? QVariant(number) : QVariant(text);
+    quint64 number = 0;
+    if (!isHexadecimal(text) || !readWide(text, &number)) {
+        return text;
+    }
+    const bool isNarrow = number <= std::numeric_limits<quint32>::max();
+    return isNarrow ? QVariant(quint32(number)) : QVariant(number);
 }
