@@ -194,5 +194,5 @@ void TestSerialLine::trafficLog()
     QCOMPARE(messages.size(), 2);
 }
 
-CANBUS_TEST_MAIN(TestSerialLine)
+CANBUS_REAL_TIME_TEST_MAIN(TestSerialLine)
 #include "tst_serialline.moc"

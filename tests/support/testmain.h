@@ -2,6 +2,7 @@
 #define TESTMAIN_H
 
 #include "orbapplication.h"
+#include "virtualclock.h"
 
 #include <QtTest>
 
@@ -11,17 +12,37 @@ namespace TestSupport {
 void watchConnects();
 int brokenConnects();
 
+/// Starts the virtual clock at midnight of 2026-01-01, UTC.
+inline bool startClock()
+{
+    return VirtualClock::start(1767225600);
+}
+
+template <class TestClass>
+int runTest(int argc, char **argv)
+{
+    OrbApplication application(argc, argv);
+    TestClass test;
+    const int result = QTest::qExec(&test, argc, argv);
+    return result != 0 ? result : brokenConnects();
+}
+
 } // namespace TestSupport
 
-/// main() of a test program whose class is \a TestClass: one OrbApplication. Fails on a
-/// broken connect, once watchConnects() was called.
+/// main() of a test program whose class is \a TestClass: one OrbApplication, on the virtual clock, so that its
+/// waits cost no time and cannot be too short. Fails on a broken connect, once watchConnects() was called.
+/// What another process or thread does needs a VirtualClock::Hold.
 #define CANBUS_TEST_MAIN(TestClass)                                                                          \
     int main(int argc, char **argv)                                                                          \
     {                                                                                                        \
-        OrbApplication application(argc, argv);                                                              \
-        TestClass test;                                                                                      \
-        const int result = QTest::qExec(&test, argc, argv);                                                  \
-        return result != 0 ? result : TestSupport::brokenConnects();                                         \
+        return TestSupport::startClock() ? TestSupport::runTest<TestClass>(argc, argv) : 1;                  \
+    }
+
+/// The same on the machine's clock, for what is about real time or about another process.
+#define CANBUS_REAL_TIME_TEST_MAIN(TestClass)                                                                \
+    int main(int argc, char **argv)                                                                          \
+    {                                                                                                        \
+        return TestSupport::runTest<TestClass>(argc, argv);                                                  \
     }
 
 #endif // TESTMAIN_H

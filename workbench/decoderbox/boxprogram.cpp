@@ -89,7 +89,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
     } else if (!parser->isSet("help") && !parser->isSet("list")) {
         *type = BoxCatalog::typeFromText(parser->value("type"));
         error = *type != 0 ? QString()
-                           : QString("--type takes a number from 1 to 15 or a class name, not '%1'")
+                           : QString("--type takes a number or a class name of --list, not '%1'")
                                  .arg(parser->value("type"));
     }
     if (!error.isEmpty()) {

@@ -277,8 +277,7 @@ void VirtualClock::askIdle()
     theClock.isIdleAsked = true;
 }
 
-// ------------------------------------------------------------------------------ what the system's callers
-// find
+// -------------------------------------------------------------------- what the system's callers find
 
 extern "C" {
 
