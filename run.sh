@@ -27,7 +27,8 @@ volkswagen) type=CanBus_Raise_Volkswagen ;;
 *) fail "no such car: $car (toyota, honda, gm, jeep, mazda, xinhang, volkswagen)" ;;
 esac
 
-configure_and_build CanBus headunit decoderbox -- -DCANBUS_WORKBENCH=ON
+configure -DCANBUS_WORKBENCH=ON
+build_targets CanBus headunit decoderbox
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 drive=$root/scenarios/$car.scn
