@@ -26,6 +26,7 @@ changed() {
 # the compile commands count, as clang sees them; that a gcc option is not known to clang does not.
 tidy() {
     xargs -r -n 4 -P "$(nproc)" clang-tidy -p "$build" --quiet --extra-arg=-Wno-unknown-warning-option \
+        --header-filter="^$root/(plugin|platform|workbench|tests|benchmarks|fuzz)/" \
         ${1:+--checks="$1"} >"$findings" 2>"$findings.errors" && return
     cat "$findings"
     grep -v ' warnings\{0,1\} generated\.$' "$findings.errors" || true
@@ -33,7 +34,7 @@ tidy() {
 }
 
 failed=0
-need_packages clang clang-format clang-tidy git
+need_packages clang clang-format clang-tidy git libbenchmark-dev
 findings=$(mktemp)
 trap 'rm -f "$findings" "$findings.errors" "$findings.files"' EXIT
 

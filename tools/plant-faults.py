@@ -154,19 +154,27 @@ class Tree:
         self.copy_sources()
         launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
         self.must_run("cmake", "-S", self.source, "-B", self.build, *CONFIGURE, *launcher)
-        known = set(re.findall(r"^(\S+): phony$", self.must_run("ninja", "-C", self.build, "-t", "targets"), re.M))
-        listed = json.loads(self.must_run("ctest", "--test-dir", self.build, "--show-only=json-v1"))
-        tests = [self.described(entry, known) for entry in listed["tests"] if "command" in entry]
+        self.known = set(re.findall(r"^(\S+): phony$", self.must_run("ninja", "-C", self.build, "-t", "targets",
+                                                                     "all"), re.M))
+        # What a test runs is known once its program is there.
+        unbuilt = [entry["name"] for entry in self.listed() if "command" not in entry]
+        self.build_all(name for name in unbuilt if self.links_plugin(name))
+        tests = [self.described(entry) for entry in self.listed() if "command" in entry]
         self.tests = [test for test in tests if self.concerns_plugin(test)]
-        self.must_run("ninja", "-C", self.build, "-j", str(self.threads),
-                      *sorted({target for test in self.tests for target in test.targets}))
+        self.build_all(target for test in self.tests for target in test.targets)
 
-    def described(self, entry, known):
+    def build_all(self, targets):
+        self.must_run("ninja", "-C", self.build, "-j", str(self.threads), *sorted(set(targets) | {"CanBus"}))
+
+    def listed(self):
+        return json.loads(self.must_run("ctest", "--test-dir", self.build, "--show-only=json-v1"))["tests"]
+
+    def described(self, entry):
         properties = {item["name"]: item["value"] for item in entry.get("properties", [])}
         strange = set(properties) - KNOWN_PROPERTIES
         if strange:
             sys.exit("%s has properties that are not known here: %s" % (entry["name"], ", ".join(sorted(strange))))
-        targets = [entry["name"]] if entry["name"] in known else []
+        targets = [entry["name"]] if entry["name"] in self.known else []
         # The plug-in's module is loaded, not linked, by whatever starts a head unit.
         return Test(entry["name"], entry["command"], dict(item.split("=", 1) for item in
                                                           properties.get("ENVIRONMENT", [])),
@@ -175,11 +183,14 @@ class Tree:
                     bool(properties.get("RESOURCE_LOCK")), properties.get("TIMEOUT", 60),
                     targets + ["CanBus", "headunit", "decoderbox"])
 
-    def concerns_plugin(self, test):
-        if not test.targets[0] == test.name:
-            return not re.search(r"/(platform|workbench)/", " ".join(test.command))
-        inputs = self.must_run("ninja", "-C", self.build, "-t", "inputs", test.name)
+    def links_plugin(self, name):
+        inputs = self.must_run("ninja", "-C", self.build, "-t", "inputs", name) if name in self.known else ""
         return "canbusadapters.dir/" in inputs or "libCanBus.so" in inputs or "/plugin/core/" in inputs
+
+    def concerns_plugin(self, test):
+        if test.name in self.known:
+            return self.links_plugin(test.name)
+        return not re.search(r"/(platform|workbench)/", " ".join(test.command))
 
     def measure(self):
         """Every test passes as long as nothing is planted; one that does not is left out, and named."""
