@@ -1,9 +1,10 @@
 # shellcheck shell=sh
-# Sourced by run.sh and test.sh: installs what is missing, configures, builds.
+# Sourced by run.sh, test.sh and tools/lint.sh: installs what is missing, configures, builds.
 #
 # CANBUS_BUILD names the build folder (default: build). Says what it does, one line a step.
 
 root=$(cd "$(dirname "$0")" && pwd)
+root=${root%/tools}
 build=${CANBUS_BUILD:-$root/build}
 
 step() { printf '== %s\n' "$*"; }
