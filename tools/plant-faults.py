@@ -154,8 +154,8 @@ class Tree:
         self.copy_sources()
         launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
         self.must_run("cmake", "-S", self.source, "-B", self.build, *CONFIGURE, *launcher)
-        self.known = set(re.findall(r"^(\S+): phony$", self.must_run("ninja", "-C", self.build, "-t", "targets",
-                                                                     "all"), re.M))
+        listing = self.must_run("ninja", "-C", self.build, "-t", "targets", "all")
+        self.known = set(re.findall(r"^(\S+): phony$", listing, re.M))
         # What a test runs is known once its program is there.
         unbuilt = [entry["name"] for entry in self.listed() if "command" not in entry]
         self.build_all(name for name in unbuilt if self.links_plugin(name))
@@ -203,12 +203,16 @@ class Tree:
                 self.tests.remove(test)
 
     def order(self, path):
-        """Golden drives first: they cost no compiling of tests. Then what saw faults in this file before, the tests
-        of the file's own folder, and the quick ones."""
-        own = "/tests/%s/" % path.split("/")[1]
-        return sorted(self.tests, key=lambda test: (
-            not test.name.startswith("drive_"), -self.saw[path, test.name],
-            not any(own in word for word in test.command), self.durations[test.name]))
+        """Golden drives first: they cost no compiling of tests. Then what saw most in the time that it takes, in this
+        file or its folder, and the tests of the file's own folder before they have shown anything."""
+        folder = os.path.dirname(path)
+        own = "/tests/%s/" % os.path.basename(folder)
+
+        def worth(test):
+            hits = 10 * self.saw[path, test.name] + self.saw[folder, test.name] + any(own in word
+                                                                                      for word in test.command)
+            return (0.1 + hits) / (1 + self.durations[test.name])
+        return sorted(self.tests, key=lambda test: (not test.name.startswith("drive_"), -worth(test)))
 
     def sees(self, test, limit):
         """Why the test fails, "" when it passes. A QtTest program is ended at its first failure."""
@@ -260,6 +264,7 @@ class Tree:
                 reason = self.sees(test, min(test.time_limit, 10 + 4 * self.durations[test.name]))
                 if reason:
                     self.saw[fault.path, test.name] += 1
+                    self.saw[os.path.dirname(fault.path), test.name] += 1
                     return "seen by %s (%s)" % (test.name, reason)
             return "NOT SEEN"
         finally:
