@@ -3,10 +3,17 @@
 #
 #     ./run.sh [CAR] [headunit options]
 #
-# CAR: toyota (default), honda, gm, jeep, mazda, xinhang, volkswagen. Without a display the same drive runs
+# CAR: toyota (default) or another one with a drive in scenarios/. Without a display the same drive runs
 # offscreen: what the car reports is printed, and screenshots are left in screenshots/.
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
+
+# The cars with a box and a drive.
+cars() {
+    "$build/workbench/decoderbox/decoderbox" --list | while read -r _ _ name has_box; do
+        [ "$has_box" != box ] || [ ! -f "$root/scenarios/$name.scn" ] || printf '%s ' "$name"
+    done
+}
 
 car=toyota
 case ${1:-} in
@@ -16,22 +23,13 @@ case ${1:-} in
     shift
     ;;
 esac
-case $car in
-toyota) type=CanBus_Raise_Toyota ;;
-honda) type=CanBus_Raise_Honda ;;
-gm) type=CanBus_Raise_GM ;;
-jeep) type=CanBus_Raise_Jeep ;;
-mazda) type=CanBus_XBS_Mazda ;;
-xinhang) type=CanBus_XinHang ;;
-volkswagen) type=CanBus_Raise_Volkswagen ;;
-*) fail "no such car: $car (toyota, honda, gm, jeep, mazda, xinhang, volkswagen)" ;;
-esac
-
 configure -DCANBUS_WORKBENCH=ON
 build_targets CanBus headunit decoderbox
+type=$("$build/workbench/decoderbox/decoderbox" --list | awk -v car="$car" '$3 == car && $4 == "box" { print $2 }')
+drive=$root/scenarios/$car.scn
+[ -n "$type" ] && [ -f "$drive" ] || fail "no such car: $car ($(cars))"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-drive=$root/scenarios/$car.scn
 headunit() {
     "$build/workbench/headunit/headunit" --can-bus-type "$type" --decoder-box "$drive" --settings-dir "$work" "$@"
 }

@@ -25,8 +25,8 @@ if [ $# -gt 0 ]; then
     known=$(cmake --build "$build" --target help | sed -n 's/^\([^:/]*\): phony$/\1/p')
     targets=
     for name in $(cd "$build" && ctest -N "$@" | sed -n 's/^ *Test *#[0-9]*: //p'); do
-        # What is no program of its own looks at the plug-in or drives the head unit.
-        printf '%s\n' "$known" | grep -qx "$name" || name="CanBus headunit"
+        # What is no program of its own looks at the plug-in or drives the head unit with a box.
+        printf '%s\n' "$known" | grep -qx "$name" || name="CanBus headunit decoderbox"
         targets="$targets $name"
     done
     [ -n "$targets" ] || fail "no such test: $*"

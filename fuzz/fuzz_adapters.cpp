@@ -3,7 +3,10 @@
 
 #include "hostileline.h"
 
+#include "adapterfactory.h"
 #include "orbapplication.h"
+
+#include <map>
 
 // Application and adapters live until the process ends, as they do in a head unit; nothing is destroyed at exit.
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
@@ -16,17 +19,19 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
-    static CanBusAdapter *adapters[16];
     if (size < 1) {
         return 0;
     }
-    const CanBusType type = static_cast<CanBusType>(bytes[0] % 15 + 1);
-    if (!adapters[type]) {
-        adapters[type] = HostileLine::adapter(type).release();
+    const auto types = AdapterFactory::types();
+    const CanBusType type = types.at(bytes[0] % int(types.size()));
+    static std::map<CanBusType, CanBusAdapter *> adapters;
+    CanBusAdapter *&adapter = adapters[type];
+    if (!adapter) {
+        adapter = HostileLine::adapter(type).release();
     }
     const QByteArray line(reinterpret_cast<const char *>(bytes) + 1, int(size) - 1);
-    HostileLine::decode(adapters[type], type, line);
-    HostileLine::receive(adapters[type], line, 38);
+    HostileLine::decode(adapter, type, line);
+    HostileLine::receive(adapter, line, 38);
     QCoreApplication::processEvents();
     return 0;
 }

@@ -3,21 +3,7 @@
 #include "memorydevice.h"
 #include "raisewire.h"
 
-#include "decoders/canbus_huida_zd.h"
-#include "decoders/canbus_lihang_jmce200n.h"
-#include "decoders/canbus_xbs_mazda.h"
-#include "decoders/canbus_xinri.h"
-#include "raise/canbus_raise_gac.h"
-#include "raise/canbus_raise_gm.h"
-#include "raise/canbus_raise_haval.h"
-#include "raise/canbus_raise_honda.h"
-#include "raise/canbus_raise_jeep.h"
-#include "raise/canbus_raise_nissan.h"
-#include "raise/canbus_raise_renault.h"
-#include "raise/canbus_raise_toyota.h"
-#include "raise/canbus_raise_venucia.h"
-#include "volkswagen/canbus_raise_volkswagen.h"
-#include "xinhang/canbus_xinhang.h"
+#include "adapterfactory.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -35,35 +21,15 @@ extern "C" int system(const char *command)
 
 namespace {
 
-const unsigned int VolkswagenApp = 769;
-
-template <class Adapter>
-CanBusAdapter *create()
-{
-    return new Adapter;
-}
-
-typedef CanBusAdapter *(*Creator)();
-
-// In the order of the type numbers, from 1.
-const Creator Creators[] = {
-    create<CanBus_LiHang_JMCE200N>, create<CanBus_Huida_ZD>,      create<CanBus_Raise_Volkswagen>,
-    create<CanBus_XinHang>,         create<CanBus_XBS_Mazda>,     create<CanBus_XinRi>,
-    create<CanBus_Raise_Honda>,     create<CanBus_Raise_Nissan>,  create<CanBus_Raise_Toyota>,
-    create<CanBus_Raise_GM>,        create<CanBus_Raise_Haval>,   create<CanBus_Raise_GAC>,
-    create<CanBus_Raise_Venucia>,   create<CanBus_Raise_Renault>, create<CanBus_Raise_Jeep>,
-};
+const unsigned int OwnApp = 769; // of every decoder with a screen of its own
 
 } // namespace
 
 std::unique_ptr<CanBusAdapter> HostileLine::adapter(CanBusType type)
 {
-    if (type < 1 || type > sizeof Creators / sizeof Creators[0]) {
-        return nullptr;
-    }
-    std::unique_ptr<CanBusAdapter> adapter(Creators[type - 1]());
-    if (type == CanBusTypeRaiseVolkswagen) {
-        adapter->showApp(VolkswagenApp);
+    std::unique_ptr<CanBusAdapter> adapter(AdapterFactory::create(type));
+    if (adapter) {
+        adapter->showApp(OwnApp);
     }
     return adapter;
 }

@@ -3,6 +3,7 @@
 
 #include "hostileline.h"
 
+#include "adapterfactory.h"
 #include "adapterfixture.h"
 
 #include <random>
@@ -25,8 +26,8 @@ private:
     void everyType()
     {
         QTest::addColumn<int>("type");
-        for (int type = 1; type <= 15; ++type) {
-            QTest::newRow(qPrintable(QString("type %1").arg(type))) << type;
+        for (const CanBusType type : AdapterFactory::types()) {
+            QTest::newRow(AdapterFactory::className(type)) << int(type);
         }
     }
 };

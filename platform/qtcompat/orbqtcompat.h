@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFontMetrics>
-#include <QLayout>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QString>
@@ -24,18 +23,6 @@ inline QStringList splitSkippingEmpty(const QString &text, QChar separator)
 #else
     return text.split(separator, QString::SkipEmptyParts);
 #endif
-}
-
-/// Sets the four margins of \a layout to \a margin pixels.
-inline void setMargin(QLayout *layout, int margin)
-{
-    layout->setContentsMargins(margin, margin, margin, margin);
-}
-
-/// A variant of the meta-type void* that holds \a address.
-inline QVariant voidStarVariant(void *address)
-{
-    return QVariant::fromValue(address);
 }
 
 /// Width of \a text in pixels.

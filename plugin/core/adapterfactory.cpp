@@ -1,58 +1,61 @@
-#include "canbusadapter.h"
+#include "adapterfactory.h"
 
-#include "decoders/canbus_huida_zd.h"
-#include "decoders/canbus_lihang_jmce200n.h"
-#include "decoders/canbus_xbs_mazda.h"
-#include "decoders/canbus_xinri.h"
-#include "raise/canbus_raise_gac.h"
-#include "raise/canbus_raise_gm.h"
-#include "raise/canbus_raise_haval.h"
-#include "raise/canbus_raise_honda.h"
-#include "raise/canbus_raise_jeep.h"
-#include "raise/canbus_raise_nissan.h"
-#include "raise/canbus_raise_renault.h"
-#include "raise/canbus_raise_toyota.h"
-#include "raise/canbus_raise_venucia.h"
-#include "volkswagen/canbus_raise_volkswagen.h"
-#include "xinhang/canbus_xinhang.h"
+// Constant-initialised: the rows of other files register before any code of this one has run.
+AdapterFactory::Row *AdapterFactory::s_rows = nullptr;
 
-// The one place that knows every decoder: a new car adds its include, its number and its line.
-
-CanBusAdapter *CanBusAdapter::createAdapter(CanBusType type)
+AdapterFactory::Row::Row(CanBusType type, const QMetaObject &metaObject, Make make)
+    : m_type(type), m_metaObject(metaObject), m_make(make), m_next(nullptr)
 {
-    switch (type) {
-    case CanBusTypeLiHangJmcE200N:
-        return new CanBus_LiHang_JMCE200N;
-    case CanBusTypeHuidaZd:
-        return new CanBus_Huida_ZD;
-    case CanBusTypeRaiseVolkswagen:
-        return new CanBus_Raise_Volkswagen;
-    case CanBusTypeXinHang:
-        return new CanBus_XinHang;
-    case CanBusTypeXbsMazda:
-        return new CanBus_XBS_Mazda;
-    case CanBusTypeXinRi:
-        return new CanBus_XinRi;
-    case CanBusTypeRaiseHonda:
-        return new CanBus_Raise_Honda;
-    case CanBusTypeRaiseNissan:
-        return new CanBus_Raise_Nissan;
-    case CanBusTypeRaiseToyota:
-        return new CanBus_Raise_Toyota;
-    case CanBusTypeRaiseGm:
-        return new CanBus_Raise_GM;
-    case CanBusTypeRaiseHaval:
-        return new CanBus_Raise_Haval;
-    case CanBusTypeRaiseGac:
-        return new CanBus_Raise_GAC;
-    case CanBusTypeRaiseVenucia:
-        return new CanBus_Raise_Venucia;
-    case CanBusTypeRaiseRenault:
-        return new CanBus_Raise_Renault;
-    case CanBusTypeRaiseJeep:
-        return new CanBus_Raise_Jeep;
-    case CanBusTypeNone:
-        break;
+    Row **place = &s_rows;
+    while (*place && (*place)->m_type < type) {
+        place = &(*place)->m_next;
+    }
+    if (*place && (*place)->m_type == type) {
+        qWarning("CAN-bus type %u is %s already, %s is left out", unsigned(type),
+                 (*place)->m_metaObject.className(), metaObject.className());
+        return;
+    }
+    m_next = *place;
+    *place = this;
+}
+
+AdapterFactory::Row::~Row()
+{
+    for (Row **place = &s_rows; *place; place = &(*place)->m_next) {
+        if (*place == this) {
+            *place = m_next;
+            return;
+        }
+    }
+}
+
+const AdapterFactory::Row *AdapterFactory::find(CanBusType type)
+{
+    for (const Row *row = s_rows; row; row = row->m_next) {
+        if (row->m_type == type) {
+            return row;
+        }
     }
     return nullptr;
+}
+
+QList<CanBusType> AdapterFactory::types()
+{
+    QList<CanBusType> all;
+    for (const Row *row = s_rows; row; row = row->m_next) {
+        all.append(row->m_type);
+    }
+    return all;
+}
+
+const char *AdapterFactory::className(CanBusType type)
+{
+    const Row *const row = find(type);
+    return row ? row->m_metaObject.className() : nullptr;
+}
+
+CanBusAdapter *AdapterFactory::create(CanBusType type)
+{
+    const Row *const row = find(type);
+    return row ? row->m_make() : nullptr;
 }

@@ -1,5 +1,7 @@
 #include "canbusadapter.h"
 
+#include "adapterfactory.h"
+
 #include "orbapplication.h"
 
 #include <QDebug>
@@ -26,7 +28,7 @@ CanBusAdapter::CanBusAdapter(QObject *parent)
 CanBusAdapter *CanBusAdapter::getAdapterInstance(CanBusType type)
 {
     if (!s_instance) {
-        CanBusAdapter *const adapter = createAdapter(type);
+        CanBusAdapter *const adapter = AdapterFactory::create(type);
         if (!adapter) {
             return nullptr;
         }

@@ -72,8 +72,6 @@ protected:
     static void setLine(PortSettings &settings, int baudRate, long timeout);
 
 private:
-    static CanBusAdapter *createAdapter(CanBusType type);
-
     static CanBusAdapter *s_instance;
 
     int initTimerId;

@@ -73,7 +73,7 @@ KeyRedefAdapter_HUD::KeyRedefAdapter_HUD()
     }
     OrbEvent *const registration = new OrbEvent(UnitSource, KeySubject, OrbEvent::NotifyType);
     registration->setParams(KeySetParam, KeySetParam2);
-    registration->setVariantParam(OrbQt::voidStarVariant(&registeredKeys));
+    registration->setVariantParam(QVariant::fromValue<void *>(&registeredKeys));
     QCoreApplication::postEvent(OrbApplication::instance(), registration);
 }
 

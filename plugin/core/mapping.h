@@ -1,7 +1,7 @@
 #ifndef MAPPING_H
 #define MAPPING_H
 
-#include <QByteArray>
+#include <QtGlobal>
 
 /// One row of a value table: a code of one side and the value of the other.
 struct ByteMapping
@@ -10,30 +10,36 @@ struct ByteMapping
     quint8 to;
 };
 
-/// The value of \a from, \a otherwise when the table has no such code.
-template <int Rows>
-quint8 mapByte(const ByteMapping (&table)[Rows], unsigned int from, quint8 otherwise = 0)
+/// A value table, borrowed, and the value of a code that it does not have.
+struct ByteTable
 {
-    for (int i = 0; i < Rows; ++i) {
-        if (table[i].from == from) {
-            return table[i].to;
+    const ByteMapping *rows;
+    int count;
+    quint8 otherwise;
+};
+
+template <int Rows>
+ByteTable byteTable(const ByteMapping (&rows)[Rows], quint8 otherwise = 0)
+{
+    const ByteTable table = {rows, Rows, otherwise};
+    return table;
+}
+
+inline quint8 mapByte(const ByteTable &table, unsigned int from)
+{
+    for (int i = 0; i < table.count; ++i) {
+        if (table.rows[i].from == from) {
+            return table.rows[i].to;
         }
     }
-    return otherwise;
+    return table.otherwise;
 }
 
-/// Every byte of \a codes mapped.
+/// The value of \a from, \a otherwise when the table has no such code.
 template <int Rows>
-QByteArray mapBytes(const ByteMapping (&table)[Rows], QByteArray codes, quint8 otherwise = 0)
+quint8 mapByte(const ByteMapping (&rows)[Rows], unsigned int from, quint8 otherwise = 0)
 {
-    for (int i = 0; i < codes.size(); ++i) {
-        codes[i] = char(mapByte(table, quint8(codes.at(i)), otherwise));
-    }
-    return codes;
+    return mapByte(byteTable(rows, otherwise), from);
 }
-
-/// Distance levels of boxes that count to four (1 nearest) as radar levels of the unit; any other level is no
-/// obstacle.
-const ByteMapping FourRadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 6}};
 
 #endif // MAPPING_H

@@ -13,6 +13,7 @@ namespace {
 enum Source { LightSource = 1, CarSource = 400, AppSource = 401 };
 enum Subject { LightSubject = 1, CarDataSubject = 12, AppRequestSubject = 25 };
 
+const unsigned int TwelveHourFormat = 1; // value of the clock format tag
 const unsigned int LightParam2 = 8; // what the framework expects besides on or off; its meaning is not known
 
 void dispatch(OrbEvent *event)
@@ -69,6 +70,11 @@ void UnitLink::requestApp(int type, unsigned int param, unsigned int param2)
 quint64 UnitLink::statusWord()
 {
     return OrbApplication::instance()->getTag(StatusWordTag, QVariant(0)).toULongLong();
+}
+
+bool UnitLink::isTwelveHourClock()
+{
+    return OrbApplication::instance()->getTag(ClockFormatTag, QVariant(0)).toUInt() == TwelveHourFormat;
 }
 
 QByteArray UnitLink::versionCommand(const QByteArray &version)

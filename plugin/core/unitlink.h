@@ -50,6 +50,9 @@ void requestApp(int type, unsigned int param = 0, unsigned int param2 = 0);
 /// The status word (tag 0x10001), 0 when it is not set.
 quint64 statusWord();
 
+/// Whether the unit's clock shows twelve hours (tag 0x11009); 24 when it is not set.
+bool isTwelveHourClock();
+
 /// Publishes a decoder's version text in /tmp/can_version. \a version comes from the wire: it ends at its
 /// first NUL, loses its control characters, and reaches the shell as data, never as a command.
 void publishVersion(const QByteArray &version);

@@ -2,8 +2,9 @@
 
 #include "canbus_xbs_mazda.h"
 
+#include "adapterfactory.h"
 #include "keysource.h"
-#include "mapping.h"
+#include "radargroup.h"
 #include "unitlink.h"
 
 #include <QTimer>
@@ -34,16 +35,22 @@ const CarKeys::Mapping Knobs[] = {
     {0xF3, CarKeys::Left},
 };
 
-KeySource wheelKeys(WheelKeys, Knobs, 0);
+const KeyGroup KeyGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 0},
+                              {CarKeys::keyTable(Knobs), KeyGroup::Knobs, 0}};
+KeySource wheelKeys(KeyGroups);
 
-// The box has six sensors, the unit eight: the middle ones count twice.
+// The box has six sensors, in d[1] to d[6], the unit eight: the middle ones count twice. d[0] is unknown.
 const int RadarBytes[] = {1, 2, 2, 3, 4, 5, 5, 6};
+RadarGroup radar(UnitLink::Radar5018, byteTable(FourRadarLevels), RadarBytes);
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeXbsMazda, CanBus_XBS_Mazda)
+
 CanBus_XBS_Mazda::CanBus_XBS_Mazda()
 {
-    setWheelKeys(&wheelKeys);
+    setKeys(&wheelKeys);
+    setSettingCommand(SettingCommand);
     setReadyTimer();
 }
 
@@ -58,11 +65,10 @@ RaiseAdapter::CommandTable CanBus_XBS_Mazda::commands() const
     typedef CanBus_XBS_Mazda Car;
     static const Command rows[] = {
         {0x01, 2, handler(&Car::onSteeringWheelKey)},    {0x02, 0, handler(&Car::onDoors)},
-        {0x07, 2, handler(&Car::onSignedSteeringAngle)}, {0x08, 7, handler(&Car::onRadar)},
+        {0x07, 2, handler(&Car::onSignedSteeringAngle)}, {0x08, 7, &radar},
         {0x7F, 0, handler(&Car::onMazdaVersion)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }
 
 void CanBus_XBS_Mazda::onDoors(const PackageView &d)
@@ -72,24 +78,8 @@ void CanBus_XBS_Mazda::onDoors(const PackageView &d)
     UnitLink::sendCarData(UnitLink::DoorStatus, static_cast<unsigned int>(doors));
 }
 
-void CanBus_XBS_Mazda::onRadar(const PackageView &d)
-{
-    // d[0] unknown, d[1]..d[6] one sensor each
-    QByteArray levels;
-    for (unsigned int i = 0; i < sizeof RadarBytes / sizeof RadarBytes[0]; ++i) {
-        levels += char(d.d(RadarBytes[i]));
-    }
-    UnitLink::sendRadarLevels(UnitLink::Radar5018, mapBytes(FourRadarLevels, levels));
-}
-
 void CanBus_XBS_Mazda::onMazdaVersion(const PackageView &d)
 {
     onVersion(d);
     writeSettingData(Setting14, 1);
-}
-
-void CanBus_XBS_Mazda::writeSettingData(unsigned char item, unsigned char value)
-{
-    const unsigned char data[] = {item, value};
-    writeCanBusData(SettingCommand, data, sizeof data);
 }

@@ -15,12 +15,8 @@ public:
     CommandTable commands() const override;
     void onInited() override;
 
-    /// Sends \a value for the setting \a item.
-    void writeSettingData(unsigned char item, unsigned char value);
-
 private:
     void onDoors(const PackageView &d);
-    void onRadar(const PackageView &d);
     void onMazdaVersion(const PackageView &d);
 };
 

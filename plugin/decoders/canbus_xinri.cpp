@@ -1,6 +1,12 @@
+// XinRi decoder box in an electric car, CAN-bus type 6.
+
 #include "canbus_xinri.h"
 
+#include "adapterfactory.h"
+
 #include <QTimer>
+
+CANBUS_ADAPTER(CanBusTypeXinRi, CanBus_XinRi)
 
 CanBus_XinRi::CanBus_XinRi()
 {

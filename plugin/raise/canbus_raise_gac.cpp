@@ -1,6 +1,12 @@
+// Raise decoder box in a GAC, CAN-bus type 12.
+
 #include "canbus_raise_gac.h"
 
+#include "adapterfactory.h"
+
 #include <QTimer>
+
+CANBUS_ADAPTER(CanBusTypeRaiseGac, CanBus_Raise_GAC)
 
 CanBus_Raise_GAC::CanBus_Raise_GAC()
 {

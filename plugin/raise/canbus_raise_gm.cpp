@@ -2,8 +2,9 @@
 
 #include "canbus_raise_gm.h"
 
+#include "adapterfactory.h"
 #include "keysource.h"
-#include "mapping.h"
+#include "radargroup.h"
 #include "temperaturetext.h"
 #include "unitlink.h"
 
@@ -44,12 +45,17 @@ const CarKeys::Mapping PanelKnobs[] = {
     {26, CarKeys::Left},
 };
 
-KeySource wheelKeys(WheelKeys, 1);
-KeySource panelKeys(PanelKeys, PanelKnobs, 0);
+const KeyGroup WheelGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 1}};
+const KeyGroup PanelGroups[] = {{CarKeys::keyTable(PanelKeys), KeyGroup::Keys, 0},
+                                {CarKeys::keyTable(PanelKnobs), KeyGroup::Knobs, 0}};
+KeySource wheelKeys(WheelGroups);
+KeySource panelKeys(PanelGroups);
 
 // The box's distance levels are the unit's, but for what lies beyond.
 const ByteMapping RadarLevels[] = {{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}};
 const quint8 FarthestLevel = 6;
+RadarGroup frontRadar(UnitLink::Radar5019, byteTable(RadarLevels, FarthestLevel), FourRadarBytes);
+RadarGroup rearRadar(UnitLink::Radar501A, byteTable(RadarLevels, FarthestLevel), FourRadarBytes);
 
 // Air distribution of the box and of the dialog (4 windscreen, 2 face, 1 feet); any other code is no news.
 const quint8 DefrostingCode = 2;
@@ -76,6 +82,8 @@ QString temperatureText(quint8 value)
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeRaiseGm, CanBus_Raise_GM)
+
 CanBus_Raise_GM::CanBus_Raise_GM() : RaisePanelAdapter(&wheelKeys, &panelKeys) {}
 
 RaiseAdapter::CommandTable CanBus_Raise_GM::commands() const
@@ -86,14 +94,13 @@ RaiseAdapter::CommandTable CanBus_Raise_GM::commands() const
         {0x02, 2, handler(&Car::onPanelKey)},
         // QUIRK gm-climate-n6: six data bytes are enough, and what is read as d[6] is then the checksum.
         {0x03, 6, handler(&Car::onClimate)},
-        {0x22, 4, handler(&Car::onRadar22)},
-        {0x23, 4, handler(&Car::onRadar23)},
+        {0x22, 4, &rearRadar},
+        {0x23, 4, &frontRadar},
         {0x24, 0, handler(&Car::onStatus)},
         {0x26, 2, handler(&Car::onSteeringAngle)},
         {0x30, 0, handler(&Car::onVersion)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }
 
 void CanBus_Raise_GM::onClimate(const PackageView &d)
@@ -123,16 +130,6 @@ void CanBus_Raise_GM::setWindDirection(int code)
     } else if (direction != NoDirection) {
         m_climate.setWindDirectEx(direction);
     }
-}
-
-void CanBus_Raise_GM::onRadar22(const PackageView &d)
-{
-    UnitLink::sendRadarLevels(UnitLink::Radar501A, mapBytes(RadarLevels, d.bytes(0, 4), FarthestLevel));
-}
-
-void CanBus_Raise_GM::onRadar23(const PackageView &d)
-{
-    UnitLink::sendRadarLevels(UnitLink::Radar5019, mapBytes(RadarLevels, d.bytes(0, 4), FarthestLevel));
 }
 
 void CanBus_Raise_GM::onSteeringAngle(const PackageView &d)

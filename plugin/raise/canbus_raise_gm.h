@@ -17,8 +17,6 @@ public:
 private:
     void onClimate(const PackageView &d);
     void setWindDirection(int code);
-    void onRadar22(const PackageView &d);
-    void onRadar23(const PackageView &d);
     void onSteeringAngle(const PackageView &d);
 };
 

@@ -2,12 +2,11 @@
 
 #include "canbus_raise_honda.h"
 
+#include "adapterfactory.h"
 #include "keysource.h"
-#include "mapping.h"
+#include "radargroup.h"
 #include "temperaturetext.h"
 #include "unitlink.h"
-
-#include "orbapplication.h"
 
 #include <QTime>
 
@@ -15,8 +14,8 @@ namespace {
 
 // What the unit sends.
 enum SentCommand { ModeCommand = 0x82, SettingCommand = 0xC6 };
+const int ModeDataLength = 1;
 const unsigned char ClockItem = 0x50;
-const int TwelveHourFormat = 1; // value of the clock format tag
 const int TwelveHourMark = 0x80;
 const int LongestSetting = 254;
 
@@ -33,11 +32,15 @@ const CarKeys::Mapping WheelKeys[] = {
     {0x86, CarKeys::VolumeMute},
 };
 
-KeySource wheelKeys(WheelKeys, 1);
+const KeyGroup KeyGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 1}};
+KeySource wheelKeys(KeyGroups);
+
+RadarGroup frontRadar(UnitLink::Radar5019, byteTable(FourRadarLevels), FourRadarBytes);
+RadarGroup rearRadar(UnitLink::Radar501A, byteTable(FourRadarLevels), FourRadarBytes);
 
 // Application mode of the unit and source of the car; any other mode is 0.
-const ByteMapping ModeCodes[] = {{2, 4}, {3, 6},  {4, 7},  {5, 7},  {6, 1}, {7, 4},
-                                 {9, 3}, {13, 7}, {15, 3}, {17, 3}, {18, 3}};
+const ModeCode ModeCodes[] = {{2, {4}}, {3, {6}},  {4, {7}},  {5, {7}},  {6, {1}}, {7, {4}},
+                              {9, {3}}, {13, {7}}, {15, {3}}, {17, {3}}, {18, {3}}};
 
 QString temperatureText(quint8 value, bool celsius)
 {
@@ -52,11 +55,13 @@ QString temperatureText(quint8 value, bool celsius)
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeRaiseHonda, CanBus_Raise_Honda)
+
 bool CanBus_Raise_Honda::s_climateShown = false;
 
 CanBus_Raise_Honda::CanBus_Raise_Honda()
 {
-    setWheelKeys(&wheelKeys);
+    setKeys(&wheelKeys);
     m_climate.setPTCModeVisible(false);
     m_climate.setTemperatureRange(16.0, 29.5);
 }
@@ -64,21 +69,22 @@ CanBus_Raise_Honda::CanBus_Raise_Honda()
 void CanBus_Raise_Honda::onInited()
 {
     RaiseSyncAdapter::onInited();
-    connect(OrbApplication::instance(), SIGNAL(modeAppChanged(uint, uint)), this,
-            SLOT(onModeAppChange(uint, uint)));
+    reportModes(ModeCommand, ModeDataLength, ModeCodes);
 }
 
 RaiseAdapter::CommandTable CanBus_Raise_Honda::commands() const
 {
     typedef CanBus_Raise_Honda Car;
     static const Command rows[] = {
-        {0x20, 2, handler(&Car::onSteeringWheelKey)}, {0x21, 9, handler(&Car::onClimate)},
-        {0x22, 4, handler(&Car::onRadar22)},          {0x23, 4, handler(&Car::onRadar23)},
-        {0x24, 0, handler(&Car::onStatus)},           {0x29, 2, handler(&Car::onSignedSteeringAngle)},
+        {0x20, 2, handler(&Car::onSteeringWheelKey)},
+        {0x21, 9, handler(&Car::onClimate)},
+        {0x22, 4, &rearRadar},
+        {0x23, 4, &frontRadar},
+        {0x24, 0, handler(&Car::onStatus)},
+        {0x29, 2, handler(&Car::onSignedSteeringAngle)},
         {0x30, 0, handler(&Car::onVersion)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }
 
 // ---------------------------------------------------------------------------------------------- received
@@ -118,16 +124,6 @@ void CanBus_Raise_Honda::updateVisibility(const PackageView &d)
     }
 }
 
-void CanBus_Raise_Honda::onRadar22(const PackageView &d)
-{
-    UnitLink::sendRadarLevels(UnitLink::Radar501A, mapBytes(FourRadarLevels, d.bytes(0, 4)));
-}
-
-void CanBus_Raise_Honda::onRadar23(const PackageView &d)
-{
-    UnitLink::sendRadarLevels(UnitLink::Radar5019, mapBytes(FourRadarLevels, d.bytes(0, 4)));
-}
-
 // ---------------------------------------------------------------------------------------------- sent
 
 void CanBus_Raise_Honda::writeSettingData(unsigned char item, const char *data, unsigned char len)
@@ -148,14 +144,6 @@ QByteArray CanBus_Raise_Honda::clockData(const QTime &time, bool twelveHours)
 
 void CanBus_Raise_Honda::onSyncTimer()
 {
-    const unsigned int format =
-        OrbApplication::instance()->getTag(UnitLink::ClockFormatTag, QVariant(0)).toUInt();
-    const QByteArray clock = clockData(QTime::currentTime(), format == TwelveHourFormat);
+    const QByteArray clock = clockData(QTime::currentTime(), UnitLink::isTwelveHourClock());
     writeSettingData(ClockItem, clock.constData(), static_cast<unsigned char>(clock.size()));
-}
-
-void CanBus_Raise_Honda::onModeAppChange(uint mode, uint)
-{
-    const unsigned char data[] = {mapByte(ModeCodes, mode)};
-    writeCanBusData(ModeCommand, data, sizeof data);
 }

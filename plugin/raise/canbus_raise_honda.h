@@ -19,6 +19,7 @@ public:
     CommandTable commands() const override;
     void onInited() override;
 
+    using RaiseAdapter::writeSettingData;
     /// Sends \a len bytes for the setting \a item; at most 254 fit into a package, further ones are left out.
     void writeSettingData(unsigned char item, const char *data, unsigned char len);
 
@@ -29,14 +30,9 @@ public Q_SLOTS:
     /// Sets the car's clock to the local time.
     void onSyncTimer() override;
 
-    /// Reports the unit's application mode \a mode to the car.
-    void onModeAppChange(uint mode, uint other);
-
 private:
     void onClimate(const PackageView &d);
     void updateVisibility(const PackageView &d);
-    void onRadar22(const PackageView &d);
-    void onRadar23(const PackageView &d);
 
     static bool s_climateShown;
 

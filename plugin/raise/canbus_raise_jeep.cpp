@@ -2,6 +2,7 @@
 
 #include "canbus_raise_jeep.h"
 
+#include "adapterfactory.h"
 #include "keysource.h"
 
 namespace {
@@ -18,10 +19,14 @@ const CarKeys::Mapping PanelKeys[] = {
     {8, CarKeys::MediaNext},  {9, CarKeys::PowerOff},   {10, CarKeys::PowerOff},
 };
 
-KeySource wheelKeys(WheelKeys, 1);
-KeySource panelKeys(PanelKeys, 0);
+const KeyGroup WheelGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 1}};
+const KeyGroup PanelGroups[] = {{CarKeys::keyTable(PanelKeys), KeyGroup::Keys, 0}};
+KeySource wheelKeys(WheelGroups);
+KeySource panelKeys(PanelGroups);
 
 } // namespace
+
+CANBUS_ADAPTER(CanBusTypeRaiseJeep, CanBus_Raise_Jeep)
 
 CanBus_Raise_Jeep::CanBus_Raise_Jeep() : RaisePanelAdapter(&wheelKeys, &panelKeys) {}
 
@@ -33,6 +38,5 @@ RaiseAdapter::CommandTable CanBus_Raise_Jeep::commands() const
         {0x04, 2, handler(&Car::onPanelKey)},
         {0x30, 0, handler(&Car::onVersion)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }

@@ -2,8 +2,9 @@
 
 #include "canbus_raise_toyota.h"
 
+#include "adapterfactory.h"
 #include "keysource.h"
-#include "mapping.h"
+#include "radargroup.h"
 #include "temperaturetext.h"
 #include "unitlink.h"
 
@@ -32,14 +33,19 @@ const CarKeys::Mapping WheelKeys[] = {
     {0x88, CarKeys::ModeSwitch},
 };
 
-KeySource wheelKeys(WheelKeys, 1);
+const KeyGroup KeyGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 1}};
+KeySource wheelKeys(KeyGroups);
 
 // Distance level of the box (1 nearest) and radar level of the unit; any other level is no obstacle.
 const ByteMapping RadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 5}, {5, 6}};
+// In front only the outer sensors exist.
+const int FrontBytes[] = {0, RadarGroup::NoSensor, RadarGroup::NoSensor, 3};
+RadarGroup frontRadar(UnitLink::Radar5019, byteTable(RadarLevels), FrontBytes);
+RadarGroup rearRadar(UnitLink::Radar501A, byteTable(RadarLevels), FourRadarBytes);
 
 // Application mode of the unit and source of the car; any other mode is 0x00.
-const ByteMapping ModeCodes[] = {{2, 0x04}, {3, 0x05},  {4, 0x04},  {5, 0x04},  {6, 0x01}, {7, 0x04},
-                                 {9, 0x07}, {13, 0x04}, {15, 0x07}, {17, 0x07}, {18, 0x07}};
+const ModeCode ModeCodes[] = {{2, {0x04}}, {3, {0x05}},  {4, {0x04}},  {5, {0x04}},  {6, {0x01}}, {7, {0x04}},
+                              {9, {0x07}}, {13, {0x04}}, {15, {0x07}}, {17, {0x07}}, {18, {0x07}}};
 
 QString celsiusText(quint8 value)
 {
@@ -65,10 +71,12 @@ QString temperatureText(quint8 value, bool fahrenheit)
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeRaiseToyota, CanBus_Raise_Toyota)
+
 CanBus_Raise_Toyota::CanBus_Raise_Toyota()
     : m_enableOemSound(OrbApplication::getOrbProductValue(QLatin1String("EnableOEMSound"), 0).toUInt() != 0)
 {
-    setWheelKeys(&wheelKeys);
+    setKeys(&wheelKeys);
     m_climate.setPTCModeVisible(false);
     m_climate.setTemperatureRange(16.0, 29.5);
     setReadyTimer();
@@ -82,16 +90,15 @@ void CanBus_Raise_Toyota::onInited()
     if (m_enableOemSound) {
         enableOEMSound(true);
     }
-    connect(OrbApplication::instance(), SIGNAL(modeAppChanged(uint, uint)), this,
-            SLOT(onModeAppChange(uint, uint)));
+    reportModes(ModeCommand, ModeDataLength, ModeCodes);
 }
 
 RaiseAdapter::CommandTable CanBus_Raise_Toyota::commands() const
 {
     typedef CanBus_Raise_Toyota Car;
     static const Command rows[] = {
-        {0x1D, 4, handler(&Car::onRadar1D)},
-        {0x1E, 4, handler(&Car::onRadar1E)},
+        {0x1D, 4, &frontRadar},
+        {0x1E, 4, &rearRadar},
         {0x20, 2, handler(&Car::onSteeringWheelKey)},
         {0x24, 0, handler(&Car::onStatus)},
         // QUIRK toyota-climate-n4: four data bytes are enough, and what is read as d[4] is then the checksum.
@@ -100,24 +107,10 @@ RaiseAdapter::CommandTable CanBus_Raise_Toyota::commands() const
         {0x30, 0, handler(&Car::onVersion)},
         {0x32, 0, handler(&Car::on360View)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }
 
 // ---------------------------------------------------------------------------------------------- received
-
-void CanBus_Raise_Toyota::onRadar1D(const PackageView &d)
-{
-    // Only the outer sensors of this group exist.
-    QByteArray levels = d.bytes(0, 4);
-    levels[1] = levels[2] = 0;
-    UnitLink::sendRadarLevels(UnitLink::Radar5019, mapBytes(RadarLevels, levels));
-}
-
-void CanBus_Raise_Toyota::onRadar1E(const PackageView &d)
-{
-    UnitLink::sendRadarLevels(UnitLink::Radar501A, mapBytes(RadarLevels, d.bytes(0, 4)));
-}
 
 void CanBus_Raise_Toyota::onClimate(const PackageView &d)
 {
@@ -172,19 +165,11 @@ void CanBus_Raise_Toyota::on360View(const PackageView &d)
 
 void CanBus_Raise_Toyota::enableOEMSound(bool on)
 {
-    static const unsigned char switchOn[][2] = {{0x08, 0x01}, {0x09, 0x01}, {0x07, 0x2A}};
-    static const unsigned char switchOff[] = {0x08, 0x00};
     if (!on) {
-        writeCanBusData(OemSoundCommand, switchOff, sizeof switchOff);
+        writePair(OemSoundCommand, 0x08, 0x00);
         return;
     }
-    for (unsigned int i = 0; i < sizeof switchOn / sizeof switchOn[0]; ++i) {
-        writeCanBusData(OemSoundCommand, switchOn[i], sizeof switchOn[i]);
-    }
-}
-
-void CanBus_Raise_Toyota::onModeAppChange(uint mode, uint)
-{
-    unsigned char data[ModeDataLength] = {mapByte(ModeCodes, mode)};
-    writeCanBusData(ModeCommand, data, sizeof data);
+    writePair(OemSoundCommand, 0x08, 0x01);
+    writePair(OemSoundCommand, 0x09, 0x01);
+    writePair(OemSoundCommand, 0x07, 0x2A);
 }

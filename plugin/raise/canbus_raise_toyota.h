@@ -20,14 +20,8 @@ public:
     /// Switches the car's own (OEM) sound on or off.
     void enableOEMSound(bool on);
 
-public Q_SLOTS:
-    /// Reports the unit's application mode \a mode to the car.
-    void onModeAppChange(uint mode, uint other);
-
 private:
     void onSteeringAngle(const PackageView &d);
-    void onRadar1D(const PackageView &d);
-    void onRadar1E(const PackageView &d);
     void onClimate(const PackageView &d);
     void on360View(const PackageView &d);
 

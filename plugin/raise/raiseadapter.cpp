@@ -1,21 +1,17 @@
 #include "raiseadapter.h"
 
-#include "framing.h"
 #include "keysource.h"
 #include "unitlink.h"
+
+#include "orbapplication.h"
 
 #include <QTimer>
 
 #include <qextserialport.h>
 
-#include <cstring>
+#include <algorithm>
 
 namespace {
-
-// Frame: start byte, command, N, N data bytes, checksum over command, N and data.
-const char StartByte = 0x2E;
-enum Offset { CommandAt = 1, LengthAt = 2, DataAt = 3 };
-const int Overhead = 4; // bytes of a frame without data
 
 const char Acknowledgement = '\xFF';
 const quint8 ReadyCommand = 0x81;
@@ -26,53 +22,25 @@ const unsigned long AppStateMask = 4;
 } // namespace
 
 RaiseAdapter::RaiseAdapter()
-    : CanBusAdapter(nullptr)
+    : FramedAdapter<RaiseFrame>(nullptr)
     , m_periodicTimer(nullptr)
     , m_readyTimer(nullptr)
     , m_wheelKeys(nullptr)
+    , m_panelKeys(nullptr)
+    , m_settingCommand(0)
+    , m_requestCommand(0)
+    , m_modeCommand(0)
+    , m_modeLength(0)
+    , m_modeCodes(nullptr)
+    , m_modeCount(0)
     , m_appState(false)
 {
     setWritePackageIntval(WriteInterval);
 }
 
-// ---------------------------------------------------------------------------------------------- framing
-
-int RaiseAdapter::getPackageMinSize()
-{
-    return Overhead;
-}
-
-int RaiseAdapter::findPackageStartSig(int from)
-{
-    return Framing::findStart(recvBuffer, from, StartByte);
-}
-
-int RaiseAdapter::getPackageSize(int start)
-{
-    return quint8(recvBuffer.at(start + LengthAt)) + Overhead;
-}
-
-bool RaiseAdapter::isAvaliablePackage(int start, int last, int size)
-{
-    return getPackageCheckSum(recvBuffer, start + CommandAt, size - 2) == quint8(recvBuffer.at(last));
-}
-
-unsigned char RaiseAdapter::getPackageCheckSum(const QByteArray &data, int start, int len)
-{
-    return Framing::checkSum(data, start, len);
-}
-
 QByteArray RaiseAdapter::makeCanBusProtocol(unsigned short cmd, const unsigned char *data, unsigned char len)
 {
-    QByteArray frame(len + Overhead, '\0');
-    frame[0] = StartByte;
-    frame[CommandAt] = char(cmd & 0xFF);
-    frame[LengthAt] = char(len);
-    if (data) {
-        memcpy(frame.data() + DataAt, data, len);
-    }
-    frame[frame.size() - 1] = char(getPackageCheckSum(frame, CommandAt, frame.size() - 2));
-    return frame;
+    return Framing::makePackage<RaiseFrame>(quint8(cmd & 0xFF), data, len);
 }
 
 bool RaiseAdapter::getPortSettings(PortSettings &settings)
@@ -81,7 +49,7 @@ bool RaiseAdapter::getPortSettings(PortSettings &settings)
     return true;
 }
 
-// ---------------------------------------------------------------------------------------------- receiving
+// ---------------------------------------------------------------------------------------------- received
 
 void RaiseAdapter::onReadDeviceDatas()
 {
@@ -92,27 +60,8 @@ void RaiseAdapter::onRecvMcuProtocol(const QByteArray &byteArray)
 {
     // The box waits 10 ms for this byte: it goes first, and past the queue.
     writeDatas_direct(QByteArray(1, Acknowledgement));
-
-    const quint8 n = byteArray.size() > LengthAt ? quint8(byteArray.at(LengthAt)) : 0;
-    const PackageView package(byteArray, CommandAt, DataAt, n);
-    const CommandTable table = commands();
-    for (int i = 0; i < table.count; ++i) {
-        const Command &row = table.rows[i];
-        if (row.command == package.command() && package.n() >= row.minimumN) {
-            (this->*row.handler)(package);
-            return;
-        }
-    }
-    onOtherPackage(package);
+    dispatch(byteArray);
 }
-
-RaiseAdapter::CommandTable RaiseAdapter::commands() const
-{
-    const CommandTable none = {nullptr, 0};
-    return none;
-}
-
-void RaiseAdapter::onOtherPackage(const PackageView &) {}
 
 void RaiseAdapter::onRecvAppProtocol(const QByteArray &) {}
 
@@ -152,6 +101,18 @@ void RaiseAdapter::processSWCKey(const unsigned char *d)
     }
 }
 
+void RaiseAdapter::onPanelKey(const PackageView &d)
+{
+    processPanelKey(d.data());
+}
+
+void RaiseAdapter::processPanelKey(const unsigned char *d)
+{
+    if (m_panelKeys) {
+        m_panelKeys->report(d[0], d[1]);
+    }
+}
+
 unsigned int RaiseAdapter::currentKey() const
 {
     return m_wheelKeys ? m_wheelKeys->currentKey() : static_cast<unsigned int>(CarKeys::NoKey);
@@ -162,11 +123,65 @@ void RaiseAdapter::onSignedSteeringAngle(const PackageView &d)
     UnitLink::sendSteeringAngle(float(d.s16le(0)) / 4608.0f * 40.0f);
 }
 
-// ---------------------------------------------------------------------------------------------- sending
+// ---------------------------------------------------------------------------------------------- sent
 
 void RaiseAdapter::writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len)
 {
     writeDatas(makeCanBusProtocol(cmd, data, len));
+}
+
+void RaiseAdapter::writePair(quint8 command, quint8 first, quint8 second)
+{
+    const unsigned char data[] = {first, second};
+    writeCanBusData(command, data, sizeof data);
+}
+
+void RaiseAdapter::syncData(unsigned char type, unsigned char param)
+{
+    if (m_requestCommand != 0) {
+        writePair(m_requestCommand, type, param);
+    }
+}
+
+// Only a car with screens of settings has pages to ask for.
+void RaiseAdapter::syncSettingData(unsigned char) {}
+
+void RaiseAdapter::writeSettingData(unsigned char item, unsigned char value)
+{
+    if (m_settingCommand != 0) {
+        writePair(m_settingCommand, item, value);
+    }
+}
+
+void RaiseAdapter::startModeReport(quint8 command, quint8 length, const ModeCode *rows, int count)
+{
+    m_modeCommand = command;
+    m_modeLength = length;
+    m_modeCodes = rows;
+    m_modeCount = count;
+    connect(OrbApplication::instance(), SIGNAL(modeAppChanged(uint, uint)), this,
+            SLOT(onModeAppChange(uint, uint)));
+}
+
+void RaiseAdapter::onModeAppChange(uint mode, uint)
+{
+    if (m_modeCommand == 0) {
+        return;
+    }
+    QByteArray data(m_modeLength, '\0');
+    for (int i = 0; i < m_modeCount; ++i) {
+        if (m_modeCodes[i].mode == mode) {
+            const quint8 *const bytes = m_modeCodes[i].data;
+            std::copy(bytes, bytes + qMin<int>(m_modeLength, sizeof m_modeCodes[i].data), data.data());
+        }
+    }
+    writeCanBusData(m_modeCommand, reinterpret_cast<const unsigned char *>(data.constData()), m_modeLength);
+}
+
+void RaiseAdapter::setKeys(KeySource *wheel, KeySource *panel)
+{
+    m_wheelKeys = wheel;
+    m_panelKeys = panel;
 }
 
 void RaiseAdapter::setPeriodicTimer(int milliseconds, const char *slot)

@@ -1,65 +1,60 @@
 #ifndef RAISEADAPTER_H
 #define RAISEADAPTER_H
 
-#include "canbusadapter.h"
-#include "packageview.h"
+#include "framedadapter.h"
 
 class KeySource;
 class QTimer;
 
-/// What the decoder boxes of the Raise family share: the frame 2E command N data checksum, the
-/// acknowledgement of every package, the ready handshake, the version file, and the events that several cars
-/// report alike. A car states its command table, its key and value tables, and what it sends.
-class RaiseAdapter : public CanBusAdapter
+/// Frame of the Raise boxes: 2E command N data checksum, the checksum over command, N and data.
+struct RaiseFrame
+{
+    static const char StartByte = 0x2E;
+    enum { CommandAt = 1, LengthAt = 2, DataAt = 3, CountedFrom = DataAt, SummedFrom = CommandAt };
+};
+
+/// One row of a car's mode report: the unit's application mode, and the first data bytes that tell it to the
+/// car.
+struct ModeCode
+{
+    unsigned int mode;
+    quint8 data[2];
+};
+
+/// What the decoder boxes of the Raise family share: the frame, the acknowledgement of every package, the
+/// ready handshake, the version file, and what several cars report and are told alike. A car states its
+/// command table, its key and value tables, and what it sends.
+class RaiseAdapter : public FramedAdapter<RaiseFrame>
 {
     Q_OBJECT
 
 public:
-    typedef void (RaiseAdapter::*Handler)(const PackageView &);
-
-    /// One row of a car's data sheet: a command, the fewest data bytes it needs, and what is done with it.
-    struct Command
-    {
-        quint8 command;
-        quint8 minimumN;
-        Handler handler;
-    };
-
-    /// A car's rows, in the order of its data sheet.
-    struct CommandTable
-    {
-        const Command *rows;
-        int count;
-    };
-
     RaiseAdapter();
-
-    int getPackageMinSize() override;
-    int findPackageStartSig(int from) override;
-    int getPackageSize(int start) override;
-    bool isAvaliablePackage(int start, int last, int size) override;
 
     /// 38400 baud, no time-out: the line of every box of the family.
     bool getPortSettings(PortSettings &settings) override;
 
-    /// The rows that this car handles itself.
-    virtual CommandTable commands() const;
-
     /// Frame with the low byte of \a cmd and \a len data bytes; null \a data stands for zeros.
     static QByteArray makeCanBusProtocol(unsigned short cmd, const unsigned char *data, unsigned char len);
-
-    /// One's complement of the 8-bit sum of \a len bytes; 0xFF for an empty range or one that leaves the
-    /// array.
-    static unsigned char getPackageCheckSum(const QByteArray &data, int start, int len);
 
     /// Queues one frame.
     void writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len);
 
-    /// One key of the steering wheel: \a d[0] code, \a d[1] state (or detents of a knob).
+    /// One key of the steering wheel or of the car's panel: \a d[0] code, \a d[1] state (or detents of a
+    /// knob).
     void processSWCKey(const unsigned char *d);
+    void processPanelKey(const unsigned char *d);
 
     /// Key of the wheel that was reported last, CarKeys::NoKey after an unknown one. One per car and process.
     unsigned int currentKey() const;
+
+    /// Asks the box for the data of command \a type, sub-type \a param; nothing for a car without such a
+    /// request.
+    virtual void syncData(unsigned char type, unsigned char param);
+    /// Asks the box for the settings of sub-page \a param; nothing for a car without settings pages.
+    virtual void syncSettingData(unsigned char param);
+    /// Changes setting number \a item of the car to \a value; nothing for a car that takes none.
+    virtual void writeSettingData(unsigned char item, unsigned char value);
 
     /// Bit 2 of the state, for mask 4; other masks are ignored.
     void orbAppStateChange(unsigned long state, unsigned long mask) override;
@@ -74,14 +69,14 @@ public Q_SLOTS:
     /// Tells the box that the head unit listens.
     void onSendReadyTimer();
 
+    /// Reports the unit's application mode \a mode to a car that wants to know (see reportModes).
+    void onModeAppChange(uint mode, uint other);
+
 Q_SIGNALS:
     /// A package for the car's screens. \a datas points at \a dataLen bytes, valid during the emission only.
     void recvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen);
 
 protected:
-    /// A package that no row takes: unknown, or shorter than its row asks for.
-    virtual void onOtherPackage(const PackageView &package);
-
     /// Creates the adapter's periodic timer, not running, and connects it to \a slot. Called in a car's
     /// constructor.
     void setPeriodicTimer(int milliseconds, const char *slot);
@@ -91,30 +86,49 @@ protected:
     void setReadyTimer();
     void sendReady(int times);
 
-    /// The keys of this car's wheel; \a keys is static data.
-    void setWheelKeys(KeySource *keys) { m_wheelKeys = keys; }
+    /// The keys of this car's wheel and panel; static data, null for none.
+    void setKeys(KeySource *wheel, KeySource *panel = nullptr);
+
+    /// The commands with which this car's settings are changed and its data asked for; both take two bytes.
+    void setSettingCommand(quint8 command) { m_settingCommand = command; }
+    void setRequestCommand(quint8 command) { m_requestCommand = command; }
+
+    /// From now on each change of the unit's application mode sends \a command with \a length data bytes, of
+    /// which the row of the mode gives the first ones; a mode without a row is all zeros. \a rows is static
+    /// data.
+    template <int Rows>
+    void reportModes(quint8 command, quint8 length, const ModeCode (&rows)[Rows])
+    {
+        startModeReport(command, length, rows, Rows);
+    }
+
+    /// Queues one frame with two data bytes.
+    void writePair(quint8 command, quint8 first, quint8 second);
 
     // Handlers that several cars have in their tables.
     /// Version text d[0..N-1]; the box has answered, so no further ready is needed.
     void onVersion(const PackageView &d);
     /// Four status bits of d[0].
     void onStatus(const PackageView &d);
-    /// Key of the wheel d[0], d[1].
+    /// Key of the wheel or panel d[0], d[1].
     void onSteeringWheelKey(const PackageView &d);
+    void onPanelKey(const PackageView &d);
     /// Signed 16-bit steering angle d[0], d[1], of which 4608 units are 40 degrees.
     void onSignedSteeringAngle(const PackageView &d);
 
-    /// A car's row with a handler of its own class.
-    template <class Car>
-    static constexpr Handler handler(void (Car::*function)(const PackageView &))
-    {
-        return static_cast<Handler>(function);
-    }
-
 private:
+    void startModeReport(quint8 command, quint8 length, const ModeCode *rows, int count);
+
     QTimer *m_periodicTimer;
     QTimer *m_readyTimer; // the periodic timer of a car that repeats the ready command, else null
     KeySource *m_wheelKeys;
+    KeySource *m_panelKeys;
+    quint8 m_settingCommand; // 0: none
+    quint8 m_requestCommand; // 0: none
+    quint8 m_modeCommand;    // 0: modes are not reported
+    quint8 m_modeLength;
+    const ModeCode *m_modeCodes;
+    int m_modeCount;
     bool m_appState;
 };
 

@@ -1,7 +1,5 @@
 #include "raisepaneladapter.h"
 
-#include "keysource.h"
-
 #include <QTimer>
 
 namespace {
@@ -10,9 +8,9 @@ const unsigned char StartCommand = 0x84;
 
 }
 
-RaisePanelAdapter::RaisePanelAdapter(KeySource *wheelKeys, KeySource *panelKeys) : m_panelKeys(panelKeys)
+RaisePanelAdapter::RaisePanelAdapter(KeySource *wheelKeys, KeySource *panelKeys)
 {
-    setWheelKeys(wheelKeys);
+    setKeys(wheelKeys, panelKeys);
     m_climate.setPTCModeVisible(false);
     m_climate.setTemperatureRange(15.0, 31.0);
     setReadyTimer();
@@ -24,14 +22,4 @@ void RaisePanelAdapter::onInited()
     periodicTimer()->stop();
     const unsigned char on[] = {0x01};
     writeCanBusData(StartCommand, on, sizeof on);
-}
-
-void RaisePanelAdapter::onPanelKey(const PackageView &d)
-{
-    processPanelKey(d.data());
-}
-
-void RaisePanelAdapter::processPanelKey(const unsigned char *d)
-{
-    m_panelKeys->report(d[0], d[1]);
 }

@@ -2,7 +2,8 @@
 
 #include "canbus_raise_volkswagen.h"
 
-#include "carkeys.h"
+#include "adapterfactory.h"
+#include "keysource.h"
 #include "temperaturetext.h"
 #include "unitlink.h"
 #include "volkswagenwindow.h"
@@ -23,18 +24,23 @@ const CarKeys::Mapping WheelKeys[] = {
     {1, CarKeys::VolumeUp},  {2, CarKeys::VolumeDown}, {3, CarKeys::MediaNext},  {4, CarKeys::MediaPrevious},
     {5, CarKeys::Bluetooth}, {6, CarKeys::VolumeMute}, {7, CarKeys::ModeSwitch}, {8, CarKeys::VoiceDial},
 };
-const quint8 WheelKeyReleased = 0;
+const KeyGroup WheelGroups[] = {{CarKeys::keyTable(WheelKeys), KeyGroup::Keys, 1}};
+const KeyRelease WheelRelease = {KeyRelease::ByCode, 0, 0};
+KeySource wheelKeys(WheelGroups, WheelRelease);
 
 // The two seek keys stay down until the box reports FunctionKeyReleased; the others are taps.
-const CarKeys::Mapping FunctionKeys[] = {
-    {1, CarKeys::MediaPrevious}, {2, CarKeys::MediaNext}, {3, CarKeys::AudioForward},
-    {4, CarKeys::AudioRewind},   {17, CarKeys::Call},     {18, CarKeys::Hangup},
-};
+const CarKeys::Mapping SeekKeys[] = {{3, CarKeys::AudioForward}, {4, CarKeys::AudioRewind}};
+const CarKeys::Mapping TapKeys[] = {
+    {1, CarKeys::MediaPrevious}, {2, CarKeys::MediaNext}, {17, CarKeys::Call}, {18, CarKeys::Hangup}};
 const quint8 FunctionKeyReleased = 5;
+const KeyGroup FunctionGroups[] = {{CarKeys::keyTable(SeekKeys), KeyGroup::Keys, 1},
+                                   {CarKeys::keyTable(TapKeys), KeyGroup::Taps, 1}};
+const KeyRelease FunctionRelease = {KeyRelease::ByCode, FunctionKeyReleased, 0};
+KeySource functionKeys(FunctionGroups, FunctionRelease);
 
-bool isSeekKey(unsigned int key)
+bool isTapKey(unsigned int key)
 {
-    return key == CarKeys::AudioForward || key == CarKeys::AudioRewind;
+    return key != CarKeys::NoKey && key != CarKeys::AudioForward && key != CarKeys::AudioRewind;
 }
 
 // The outer sensors of both groups count in steps of 10, the inner ones in steps of 27.5 (0x22) and 20
@@ -69,12 +75,14 @@ QString temperatureText(quint8 value, bool fahrenheit)
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeRaiseVolkswagen, CanBus_Raise_Volkswagen)
+
 QPointer<VolkswagenWindow> CanBus_Raise_Volkswagen::s_window;
-unsigned int CanBus_Raise_Volkswagen::s_wheelKey = CarKeys::NoKey;
-unsigned int CanBus_Raise_Volkswagen::s_functionKey = CarKeys::NoKey;
 
 CanBus_Raise_Volkswagen::CanBus_Raise_Volkswagen()
 {
+    setSettingCommand(Vw::WriteSettingCommand);
+    setRequestCommand(Vw::DataRequestCommand);
     m_climate.setPTCModeVisible(false);
     m_climate.setTemperatureRange(16.0, 29.5);
 }
@@ -102,8 +110,7 @@ RaiseAdapter::CommandTable CanBus_Raise_Volkswagen::commands() const
         {0x22, 6, handler(&Car::onRadar22)},      {0x23, 6, handler(&Car::onRadar23)},
         {0x24, 0, handler(&Car::onStatus)},       {0x2F, 0, handler(&Car::processFKKey2F)},
     };
-    const CommandTable table = {rows, sizeof rows / sizeof rows[0]};
-    return table;
+    return commandTable(rows);
 }
 
 // ---------------------------------------------------------------------------------------------- received
@@ -111,13 +118,7 @@ RaiseAdapter::CommandTable CanBus_Raise_Volkswagen::commands() const
 // d[0] key, d[1] state: 0 released, 1 pressed, 2 held
 void CanBus_Raise_Volkswagen::processFKKey20(const PackageView &d)
 {
-    const unsigned int released = s_wheelKey;
-    s_wheelKey = CarKeys::keyFor(WheelKeys, d.d(0));
-    if (s_wheelKey != CarKeys::NoKey) {
-        CarKeys::simulate(s_wheelKey, d.d(1), 1);
-    } else if (d.d(0) == WheelKeyReleased && released != CarKeys::NoKey) {
-        CarKeys::simulate(released, CarKeys::Released, 0);
-    }
+    wheelKeys.report(d.d(0), d.d(1));
 }
 
 void CanBus_Raise_Volkswagen::onClimate(const PackageView &d)
@@ -162,30 +163,13 @@ void CanBus_Raise_Volkswagen::onRadar23(const PackageView &d)
 // d[0] key
 void CanBus_Raise_Volkswagen::processFKKey2F(const PackageView &d)
 {
-    if (d.d(0) == FunctionKeyReleased) {
-        releaseFunctionKey();
-        return;
-    }
-    s_functionKey = CarKeys::keyFor(FunctionKeys, d.d(0));
-    if (isSeekKey(s_functionKey)) {
-        CarKeys::simulate(s_functionKey, CarKeys::Pressed, 1);
-    } else if (s_functionKey != CarKeys::NoKey) {
-        CarKeys::tap(s_functionKey, 1);
-    }
-}
-
-void CanBus_Raise_Volkswagen::releaseFunctionKey()
-{
-    if (s_functionKey == CarKeys::NoKey) {
-        return;
-    }
-    if (!isSeekKey(s_functionKey)) {
+    const unsigned int key = functionKeys.currentKey();
+    if (d.d(0) == FunctionKeyReleased && isTapKey(key)) {
         // QUIRK vw-release-taps-again: the release that follows a tapped key is a second tap of it.
-        CarKeys::tap(s_functionKey, 1);
+        CarKeys::tap(key, 1);
         return;
     }
-    CarKeys::simulate(s_functionKey, CarKeys::Released, 0);
-    s_functionKey = CarKeys::NoKey;
+    functionKeys.report(d.d(0), CarKeys::Pressed);
 }
 
 void CanBus_Raise_Volkswagen::onOtherPackage(const PackageView &package)
@@ -210,21 +194,9 @@ void CanBus_Raise_Volkswagen::keepReport(const PackageView &package)
 
 // ---------------------------------------------------------------------------------------------- sent
 
-void CanBus_Raise_Volkswagen::syncData(unsigned char type, unsigned char param)
-{
-    const unsigned char data[] = {type, param};
-    writeCanBusData(Vw::DataRequestCommand, data, sizeof data);
-}
-
 void CanBus_Raise_Volkswagen::syncSettingData(unsigned char param)
 {
     syncData(Vw::SettingsReply, param);
-}
-
-void CanBus_Raise_Volkswagen::writeSettingData(unsigned char item, unsigned char value)
-{
-    const unsigned char data[] = {item, value};
-    writeCanBusData(Vw::WriteSettingCommand, data, sizeof data);
 }
 
 // ---------------------------------------------------------------------------------------------- screens

@@ -29,12 +29,7 @@ public:
     void showApp(unsigned int appId) override;
     void translateApp() override;
 
-    /// Asks the box for the data of command \a type, sub-type \a param.
-    void syncData(unsigned char type, unsigned char param);
-    /// Asks the box for the settings of sub-page \a param.
-    void syncSettingData(unsigned char param);
-    /// Changes setting number \a item of the car.
-    void writeSettingData(unsigned char item, unsigned char value);
+    void syncSettingData(unsigned char param) override;
 
     /// Hands \a screen, by its onRecvCanDatas, what the box last reported by itself and nobody can ask for
     /// (tyres, start-stop system, vehicle reports, consumers). For a screen that opens later.
@@ -62,12 +57,9 @@ private:
     void onRadar23(const PackageView &d);
     void processFKKey2F(const PackageView &d);
 
-    void releaseFunctionKey();
     void keepReport(const PackageView &package);
 
     static QPointer<VolkswagenWindow> s_window;
-    static unsigned int s_wheelKey;
-    static unsigned int s_functionKey;
 
     AirConditionDlg m_climate;
     // The last package of each such command, the command byte before the data, in order of arrival.

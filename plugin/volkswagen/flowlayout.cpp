@@ -5,7 +5,7 @@
 FlowLayout::FlowLayout(int margin, int horizontalSpacing, int verticalSpacing, QWidget *parent)
     : QLayout(parent), m_horizontalSpacing(horizontalSpacing), m_verticalSpacing(verticalSpacing)
 {
-    OrbQt::setMargin(this, margin);
+    setContentsMargins(margin, margin, margin, margin);
 }
 
 FlowLayout::~FlowLayout()

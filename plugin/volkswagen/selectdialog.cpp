@@ -66,7 +66,7 @@ void SelectDialog::setContentText(const QString &text)
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
     QHBoxLayout *const layout = new QHBoxLayout;
-    OrbQt::setMargin(layout, Spacing);
+    layout->setContentsMargins(Spacing, Spacing, Spacing, Spacing);
     layout->addWidget(label);
     setContentLayout(layout);
 }
@@ -119,7 +119,7 @@ void SelectDialog::setSliderMode(int minimum, int maximum, int step, int value, 
 
     QHBoxLayout *const layout = new QHBoxLayout;
     layout->setSpacing(Spacing);
-    OrbQt::setMargin(layout, Spacing);
+    layout->setContentsMargins(Spacing, Spacing, Spacing, Spacing);
     addStepButton(layout, QLatin1String("-"), QLatin1String("btnDec"), SLOT(onSliderDecButtonClicked()));
     m_valueButton = new QPushButton(m_ui->widgetContent);
     m_valueButton->setObjectName(QLatin1String("btnValue"));

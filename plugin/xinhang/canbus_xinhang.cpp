@@ -2,9 +2,8 @@
 
 #include "canbus_xinhang.h"
 
+#include "adapterfactory.h"
 #include "carkeys.h"
-#include "framing.h"
-#include "packageview.h"
 #include "unitlink.h"
 #include "xinhangsettingswindow.h"
 
@@ -21,21 +20,7 @@
 #include <cmath>
 #include <cstring>
 
-/// One row of the box's data sheet: a command, the fewest data bytes it needs, and what is done with it.
-struct CanBus_XinHang::Command
-{
-    quint8 command;
-    quint8 minimumN;
-    Handler handler;
-};
-
 namespace {
-
-// Frame: start byte, LEN (command and data bytes), command, data, checksum over command and data.
-const char StartByte = '\xF0';
-enum Offset { LengthAt = 1, CommandAt = 2, DataAt = 3 };
-const int Overhead = 3;   // bytes of a frame that LEN does not count
-const int MaximumN = 254; // data bytes that LEN can tell, next to the command
 
 enum ReceivedCommand { WheelKeyCommand = 0x03, PanelKeyCommand = 0x0B };
 enum SentCommand { ReadyCommand = 0x81, BrightnessCommand = 0x89, BoxScreenCommand = 0x8A };
@@ -80,12 +65,14 @@ const unsigned int TouchStates = sizeof TouchTypes / sizeof TouchTypes[0];
 
 } // namespace
 
+CANBUS_ADAPTER(CanBusTypeXinHang, CanBus_XinHang)
+
 quint8 CanBus_XinHang::s_lastIllumination = 0;
 quint8 CanBus_XinHang::s_lastDoors = 0;
 int CanBus_XinHang::s_readyCount = 0;
 
 CanBus_XinHang::CanBus_XinHang(QObject *parent)
-    : CanBusAdapter(parent)
+    : FramedAdapter<XinHangFrame>(parent)
     , m_carType(0)
     , m_readyTimer(new QTimer(this))
     , m_display(*this, this)
@@ -124,48 +111,14 @@ void CanBus_XinHang::onInited()
 
 // ---------------------------------------------------------------------------------------------- framing
 
-int CanBus_XinHang::getPackageMinSize()
-{
-    return Overhead + 1;
-}
-
-int CanBus_XinHang::findPackageStartSig(int from)
-{
-    return Framing::findStart(recvBuffer, from, StartByte);
-}
-
-int CanBus_XinHang::getPackageSize(int start)
-{
-    return quint8(recvBuffer.at(start + LengthAt)) + Overhead;
-}
-
-bool CanBus_XinHang::isAvaliablePackage(int start, int last, int size)
-{
-    return getPackageCheckSum(recvBuffer, start + CommandAt, size - Overhead) == quint8(recvBuffer.at(last));
-}
-
-quint8 CanBus_XinHang::getPackageCheckSum(const QByteArray &bytes, int start, int count)
-{
-    return makeMcuProtocolCheckSum(bytes, start, count);
-}
-
 quint8 CanBus_XinHang::makeMcuProtocolCheckSum(const QByteArray &bytes, int start, int count)
 {
-    return Framing::checkSum(bytes, start, count);
+    return getPackageCheckSum(bytes, start, count);
 }
 
 QByteArray CanBus_XinHang::makeMcuProtocol(quint8 command, const unsigned char *data, int length)
 {
-    const int n = qBound(0, length, MaximumN);
-    QByteArray package(n + 1 + Overhead, '\0');
-    package[0] = StartByte;
-    package[LengthAt] = char(n + 1);
-    package[CommandAt] = char(command);
-    if (data) {
-        memcpy(package.data() + DataAt, data, size_t(n));
-    }
-    package[package.size() - 1] = char(makeMcuProtocolCheckSum(package, CommandAt, n + 1));
-    return package;
+    return Framing::makePackage<XinHangFrame>(command, data, length);
 }
 
 bool CanBus_XinHang::getPortSettings(PortSettings &settings)
@@ -176,26 +129,23 @@ bool CanBus_XinHang::getPortSettings(PortSettings &settings)
 
 // ---------------------------------------------------------------------------------------------- received
 
-void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
+CanBus_XinHang::CommandTable CanBus_XinHang::commands() const
 {
     typedef CanBus_XinHang Box;
-    static const Command commands[] = {
-        {0x01, 0, &Box::onStatus},         {0x02, 0, &Box::onRadarAndSteering},
-        {WheelKeyCommand, 0, &Box::onKey}, {0x04, 0, &Box::onTouch},
-        {0x05, 0, &Box::onVersion},        {0x08, 0, &Box::onUpdate},
-        {0x09, 0, &Box::onRadarMaximums},  {0x0A, 2, &Box::onCarType},
-        {PanelKeyCommand, 0, &Box::onKey}, {0x0C, 0, &Box::onAppRequest},
-        {0x87, 0, &Box::onCursorKey},
+    static const Command rows[] = {
+        {0x01, 0, handler(&Box::onStatus)},         {0x02, 0, handler(&Box::onRadarAndSteering)},
+        {WheelKeyCommand, 0, handler(&Box::onKey)}, {0x04, 0, handler(&Box::onTouch)},
+        {0x05, 0, handler(&Box::onVersion)},        {0x08, 0, handler(&Box::onUpdate)},
+        {0x09, 0, handler(&Box::onRadarMaximums)},  {0x0A, 2, handler(&Box::onCarType)},
+        {PanelKeyCommand, 0, handler(&Box::onKey)}, {0x0C, 0, handler(&Box::onAppRequest)},
+        {0x87, 0, handler(&Box::onCursorKey)},
     };
-    const int length = byteArray.size() > LengthAt ? quint8(byteArray.at(LengthAt)) : 0;
-    const PackageView package(byteArray, CommandAt, DataAt, length - 1);
-    for (unsigned int i = 0; i < sizeof commands / sizeof commands[0]; ++i) {
-        const Command &row = commands[i];
-        if (row.command == package.command() && package.n() >= row.minimumN) {
-            (this->*row.handler)(package);
-            return;
-        }
-    }
+    return commandTable(rows);
+}
+
+void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
+{
+    dispatch(byteArray);
 }
 
 void CanBus_XinHang::onStatus(const PackageView &d)

@@ -1,7 +1,7 @@
 #ifndef CANBUS_XINHANG_H
 #define CANBUS_XINHANG_H
 
-#include "canbusadapter.h"
+#include "framedadapter.h"
 #include "xinhangbox.h"
 #include "xinhangdisplay.h"
 #include "xinhangkeyfilter.h"
@@ -12,14 +12,20 @@
 
 #include <QPointer>
 
-class PackageView;
 class QTimer;
 class XinHangSettingsWindow;
+
+/// Frame of the XinHang box: F0 LEN command data checksum; LEN counts and the checksum covers command and data.
+struct XinHangFrame
+{
+    static const char StartByte = '\xF0';
+    enum { LengthAt = 1, CommandAt = 2, DataAt = 3, CountedFrom = CommandAt, SummedFrom = CommandAt };
+};
 
 /// XinHang decoder, CAN-bus type 4: its frame F0 LEN command data checksum, the ready handshake, and what the
 /// box reports (status, radar, steering angle, keys, touch, version, car type). The car type decides which of
 /// the unit's keys pass; display switching, settings and firmware update are parts of their own.
-class CanBus_XinHang : public CanBusAdapter, private OrbKeyFilter, private XinHangBox
+class CanBus_XinHang : public FramedAdapter<XinHangFrame>, private OrbKeyFilter, private XinHangBox
 {
     Q_OBJECT
 
@@ -27,10 +33,7 @@ public:
     explicit CanBus_XinHang(QObject *parent = nullptr);
     ~CanBus_XinHang() override;
 
-    int getPackageMinSize() override;
-    int findPackageStartSig(int from) override;
-    int getPackageSize(int start) override;
-    bool isAvaliablePackage(int start, int last, int size) override;
+    CommandTable commands() const override;
     bool getPortSettings(PortSettings &settings) override;
 
     /// 769: the car's factory screen. 770 and 771: further screens of the box. Others are ignored.
@@ -43,10 +46,8 @@ public:
     /// Package with \a length data bytes, 0 to 254 (more are cut off); null \a data stands for zeros.
     static QByteArray makeMcuProtocol(quint8 command, const unsigned char *data, int length);
 
-    /// One's complement of the 8-bit sum of \a count bytes; 0xFF for an empty range or one that leaves the
-    /// array.
+    /// The same as getPackageCheckSum.
     static quint8 makeMcuProtocolCheckSum(const QByteArray &bytes, int start, int count);
-    static quint8 getPackageCheckSum(const QByteArray &bytes, int start, int count);
 
     /// The unit's radar level, 0 nothing and 1 to 6, of the box's level \a raw for \a sensor 0 to 7; 0 for
     /// other sensors. A level above the sensor's maximum gives more than 6.
@@ -73,9 +74,6 @@ public Q_SLOTS:
     void onStartUpdateMCU() { m_updater.onStartUpdateMCU(); }
 
 private:
-    typedef void (CanBus_XinHang::*Handler)(const PackageView &);
-    struct Command;
-
     enum { RadarSensors = 8 };
 
     bool filterKey(unsigned int key, bool pressed, bool held) override;

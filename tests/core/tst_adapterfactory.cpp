@@ -1,4 +1,6 @@
+#include "adapterfactory.h"
 #include "adapterfixture.h"
+#include "boxcatalog.h"
 
 #include "decoders/silentadapter.h"
 #include "orbhost.h"
@@ -62,30 +64,49 @@ class AdapterFactoryTest : public QObject
 
 private Q_SLOTS:
     void types();
+    void numberTaken();
     void rules_data();
     void rules();
     void secondInit();
 };
 
-// All classes by their type's number, each in a process of its own: the first one built stays, whatever is
-// asked for.
+// All types, each in a process of its own: the first adapter built stays, whatever is asked for.
 void AdapterFactoryTest::types()
 {
-    const char *const classes[] = {
-        "CanBus_LiHang_JMCE200N", "CanBus_Huida_ZD",      "CanBus_Raise_Volkswagen", "CanBus_XinHang",
-        "CanBus_XBS_Mazda",       "CanBus_XinRi",         "CanBus_Raise_Honda",      "CanBus_Raise_Nissan",
-        "CanBus_Raise_Toyota",    "CanBus_Raise_GM",      "CanBus_Raise_Haval",      "CanBus_Raise_GAC",
-        "CanBus_Raise_Venucia",   "CanBus_Raise_Renault", "CanBus_Raise_Jeep"};
-    int number = 0;
-    for (const char *const name : classes) {
-        const QString type = QString::number(++number);
-        const QString other = number == 3 ? "4" : "3";
-        const QString adapter = QString("%1 %2 inited=0 type=%1").arg(type, name);
-        QStringList lines = run("empty", type + ' ' + type + ' ' + other + " 0");
+    QStringList known;
+    for (const CanBusType type : AdapterFactory::types()) {
+        known << QString("%1 %2").arg(type).arg(AdapterFactory::className(type));
+        const QString number = QString::number(type);
+        const QString other = type == CanBusTypeXinHang ? "3" : "4";
+        const QString adapter =
+            QString("%1 %2 inited=0 type=%1").arg(number, AdapterFactory::className(type));
+        QStringList lines = run("empty", number + ' ' + number + ' ' + other + " 0");
         lines.removeAll(QString());
-        QCOMPARE(lines, (QStringList{QString("CanBusAdapter: %1 %2").arg(name, type), adapter, adapter,
-                                     other + " none", "0 none", "start-up packages: 0"}));
+        QCOMPARE(lines,
+                 (QStringList{QString("CanBusAdapter: %2 %1").arg(number, AdapterFactory::className(type)),
+                              adapter, adapter, other + " none", "0 none", "start-up packages: 0"}));
     }
+    // The boxes' catalog was written apart from the plug-in.
+    QStringList boxes;
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        boxes << QString("%1 %2").arg(row.type).arg(row.className);
+    }
+    QCOMPARE(known, boxes);
+}
+
+// One row a number: the second one is refused, and goes without a trace.
+void AdapterFactoryTest::numberTaken()
+{
+    const QList<CanBusType> before = AdapterFactory::types();
+    {
+        const AdapterFactory::Row other(CanBusTypeNone, SilentAdapter::staticMetaObject, nullptr);
+        QCOMPARE(AdapterFactory::types(), QList<CanBusType>{CanBusTypeNone} + before);
+        QTest::ignoreMessage(QtWarningMsg,
+                             "CAN-bus type 9 is CanBus_Raise_Toyota already, SilentAdapter is left out");
+        const AdapterFactory::Row taken(CanBusTypeRaiseToyota, SilentAdapter::staticMetaObject, nullptr);
+        QCOMPARE(AdapterFactory::className(CanBusTypeRaiseToyota), "CanBus_Raise_Toyota");
+    }
+    QCOMPARE(AdapterFactory::types(), before);
 }
 
 void AdapterFactoryTest::rules_data()

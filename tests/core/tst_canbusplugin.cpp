@@ -1,3 +1,4 @@
+#include "adapterfactory.h"
 #include "adapterfixture.h"
 
 #include "canbusplugin.h"
@@ -43,10 +44,7 @@ public:
 
 } // namespace
 
-CanBusAdapter *CanBusAdapter::createAdapter(CanBusType type)
-{
-    return type == CanBusTypeRaiseToyota ? new WitnessAdapter : nullptr;
-}
+CANBUS_ADAPTER(CanBusTypeRaiseToyota, WitnessAdapter)
 
 // The plug-in object: what it builds, and which event goes where. The order of the functions matters, since
 // adapters stay for the life of the process; each of them also runs alone.

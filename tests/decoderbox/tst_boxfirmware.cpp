@@ -2,6 +2,7 @@
 
 #include "decoderbox.h"
 #include "simulatedunit.h"
+#include "virtualmain.h"
 
 #include <QCryptographicHash>
 #include <QtTest>
@@ -164,5 +165,5 @@ void TestBoxFirmware::wrongStepsDoNoHarm()
     QTEST(box->observation("firmware"), "observation");
 }
 
-QTEST_GUILESS_MAIN(TestBoxFirmware)
+CANBUS_VIRTUAL_MAIN(QCoreApplication, TestBoxFirmware)
 #include "tst_boxfirmware.moc"

@@ -54,8 +54,10 @@ void TestBoxOrders::wrongScenario_data()
     row("negative time", "-1 climate.ac on", "1: '-1' is no time in seconds");
     row("time without end", "inf climate.ac on", "1: 'inf' is no time in seconds");
     row("no order", "1.5", "1: nothing to do at this time");
-    row("time goes back", "2 start\n1 start", "2: time goes back");
+    row("time goes back", "2 start\n1 start", "2: time goes back, before 2");
     row("after the end", "2 end\n3 start", "2: an order after the end");
+    row("after the last order", "2 again\n3 start", "2: an order after the end");
+    row("a drive without length", "0 start\n0 again", "2: a drive that starts over takes some time");
     row("no key at all", "1 key", "1: unknown key ''");
     row("unknown key action", "1 key next push", keyUsage);
     row("time for a press", "1 key next press 100", keyUsage);

@@ -4,6 +4,7 @@
 #include "boxcatalog.h"
 #include "boxtools.h"
 #include "simulatedunit.h"
+#include "virtualmain.h"
 
 #include <QtTest>
 
@@ -303,5 +304,5 @@ void TestBoxPackages::everyReportIsAboutSomething()
     }
 }
 
-QTEST_GUILESS_MAIN(TestBoxPackages)
+CANBUS_VIRTUAL_MAIN(QCoreApplication, TestBoxPackages)
 #include "tst_boxpackages.moc"

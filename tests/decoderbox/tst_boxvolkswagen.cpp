@@ -2,6 +2,7 @@
 
 #include "boxtools.h"
 #include "simulatedunit.h"
+#include "virtualmain.h"
 
 #include <QtTest>
 
@@ -175,5 +176,5 @@ void TestBoxVolkswagen::tyresAreToldAfterTheWarning()
     QTRY_COMPARE(talk.unit.frames().mid(talk.unit.packages().size() - 2), expected);
 }
 
-QTEST_GUILESS_MAIN(TestBoxVolkswagen)
+CANBUS_VIRTUAL_MAIN(QCoreApplication, TestBoxVolkswagen)
 #include "tst_boxvolkswagen.moc"

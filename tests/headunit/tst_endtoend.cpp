@@ -16,6 +16,7 @@ private Q_SLOTS:
     void modeReachesTheBox();
     void lineThatHangsUp();
     void boxDrivesItsScenario();
+    void virtualMinuteIsTheSameEachTime();
     void everyTypeStartsAndEnds_data();
     void everyTypeStartsAndEnds();
 };
@@ -119,6 +120,36 @@ void TestEndToEnd::boxDrivesItsScenario()
                        scenario.fileName()}));
     QCOMPARE(run.finish(), 0); // with the scenario
     QVERIFY(calls(run.take(), "ProtocolUtils").contains("recvProtocolData[\"" + package + "\"]"));
+}
+
+// A drive that starts over every second, and a script whose lines come at once or one by one.
+void TestEndToEnd::virtualMinuteIsTheSameEachTime()
+{
+    QTemporaryDir folder;
+    QFile scenario(folder.filePath("drive.scn"));
+    QVERIFY(scenario.open(QFile::WriteOnly));
+    const QByteArray package = RaiseWire::frame("20 01 01").toHex();
+    scenario.write("0.2 raw " + package + "\n1 again\n");
+    scenario.close();
+    const QByteArrayList script = {"wait 200", "mode 3", "key 1 press", "wait 0", "wait 59800", "quit"};
+    QList<QJsonObject> traces[2];
+    for (const bool isSlow : {false, true}) {
+        HeadUnitRun run;
+        QVERIFY(run.start({"--headless", "--virtual-clock", "--trace", "-", "--script", "-", "--can-bus-type",
+                           "CanBus_Raise_Toyota", "--decoder-box", scenario.fileName()}));
+        if (!isSlow) {
+            run.write(script.join('\n'));
+        }
+        for (const QByteArray &line : isSlow ? script : QByteArrayList()) {
+            QTest::qSleep(10);
+            QVERIFY(!run.answer(line).isEmpty());
+        }
+        run.process().closeWriteChannel();
+        QCOMPARE(run.finish(), 0);
+        traces[isSlow] = run.take();
+    }
+    QCOMPARE(traces[0], traces[1]);
+    QCOMPARE(calls(traces[0], "ProtocolUtils").count("recvProtocolData[\"" + package + "\"]"), 60);
 }
 
 void TestEndToEnd::everyTypeStartsAndEnds_data()

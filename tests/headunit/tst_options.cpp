@@ -108,6 +108,10 @@ void TestOptions::wrongUsage_data()
                                   << "exclude";
     QTest::newRow("box of no type") << "--decoder-box"
                                     << "--can-bus-type";
+    QTest::newRow("virtual clock on a display") << "--virtual-clock"
+                                                << "needs --headless";
+    QTest::newRow("virtual clock from no such day") << "--headless --virtual-clock 2026-02-30T08:00:00"
+                                                    << "2026-02-30T08:00:00";
 }
 
 void TestOptions::wrongUsage()
@@ -146,6 +150,8 @@ void TestOptions::cannotRun_data()
         << "--can-bus-type 9 --decoder-box " CMAKE_LIST << "CMakeLists.txt:2: ";
     QTest::newRow("box of unknown protocol") << "--can-bus-type 1 --decoder-box"
                                              << "1";
+    QTest::newRow("virtual clock without an end") << "--virtual-clock --can-bus-type 9 --decoder-box"
+                                                  << "would never end";
 }
 
 void TestOptions::cannotRun()

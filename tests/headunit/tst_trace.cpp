@@ -73,7 +73,7 @@ void TestTrace::events()
 
     CtrlKeyList keys = {{1, 4294967296ull}};
     OrbEvent keySet(400, 1, OrbEvent::NotifyType);
-    keySet.setVariantParam(OrbQt::voidStarVariant(&keys));
+    keySet.setVariantParam(QVariant::fromValue<void *>(&keys));
     keySet.setParams(20497, 21);
     QVERIFY(JsonText::fromEvent(keySet).endsWith(R"("variant": [{"keyCode": 1, "ctrlValue": 4294967296}]})"));
     keySet.setParams(20497, 22);

@@ -2,14 +2,16 @@
 # Rules about the sources that no compiler checks: source_rules.sh SOURCE_FOLDER
 set -eu
 cd "$1"
-failed=0
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 
-# complain RULE: fails when there is anything on standard input, and shows it.
+# complain RULE: fails when there is anything on standard input, and shows it. It stands at the end of pipes, in a
+# shell of its own: only a file outlives it.
 complain() {
     found=$(cat)
     [ -n "$found" ] || return 0
     printf '%s:\n%s\n' "$1" "$found" >&2
-    failed=1
+    touch "$work/failed"
 }
 
 portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | sort)
@@ -29,17 +31,40 @@ grep -rnE '#include.*"(orbhost|orbtrace|orbhost_p|windowstack)' plugin --include
 grep -rnE '#include.*(canbus_|raiseadapter|core/|volkswagen/|xinhang/)' platform workbench --include='*.cpp' --include='*.h' |
     complain "platform or workbench knows an adapter"
 
+# The house has floors: each folder of the plug-in stands on the ones before it and includes nothing above itself, and
+# no neighbour. core/ knows no car.
+floors='core: raise:core xinhang:core decoders:core,raise volkswagen:core,raise'
+for floor in $floors; do
+    folder=${floor%%:*}
+    below=${floor#*:}
+    for other in core raise xinhang decoders volkswagen; do
+        case ,$folder,$below, in *,$other,*) continue ;; esac
+        grep -rnE "#include [\"<](\.\./)*(plugin/)?$other/" "plugin/$folder" --include='*.cpp' --include='*.h' |
+            complain "an include that climbs, from $folder/ to $other/"
+    done
+done
+grep -rnE '#include "\.\./' plugin --include='*.cpp' --include='*.h' | complain "an include that leaves its folder by .."
+
+# Each decoder's file is named after its class and opens with box, car and the type number that it registers.
+for file in $(grep -rlE '^CANBUS_ADAPTER\(' plugin --include='*.cpp' | sort); do
+    constant=$(sed -nE 's/^CANBUS_ADAPTER\((\w+), .*/\1/p' "$file")
+    class=$(sed -nE 's/^CANBUS_ADAPTER\(\w+, (\w+)\).*/\1/p' "$file")
+    number=$(sed -nE "s/^ *$constant = ([0-9]+).*/\1/p" plugin/core/canbustype.h)
+    head -n 1 "$file" | grep -qE "^// .* decoder box( in an? .+)?, CAN-bus type $number\.$" ||
+        echo "$file: // ... decoder box in a ..., CAN-bus type $number." | complain "a decoder's first line"
+    [ "$(basename "$file" .cpp)" = "$(echo "$class" | tr '[:upper:]' '[:lower:]')" ] ||
+        echo "$file: $class" | complain "a decoder's file is not named after its class"
+done
+
 # Key codes have names, pinned in one header.
 grep -rnE '0x0?1[01]0[0-9A-Fa-f]{4}\b' plugin --include='*.cpp' --include='*.h' | grep -v 'core/carkeys.h' |
     grep -vE '0x0?1000000\b' |
     complain "key code as a number"
 
 # Every quirk has a test that fails when somebody mends it, and the other way round.
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 grep -rhoE 'QUIRK [a-z0-9-]+' plugin platform | sed 's/QUIRK //; s/-/_/g' | sort -u >"$work/tagged"
 grep -rhoE 'quirk_[a-z0-9_]+' tests | sed 's/quirk_//' | sort -u >"$work/tested"
 comm -23 "$work/tagged" "$work/tested" | complain "quirks without a test"
 comm -13 "$work/tagged" "$work/tested" | complain "tests of quirks that are not tagged"
 
-exit $failed
+[ ! -e "$work/failed" ]

@@ -26,6 +26,12 @@ public:
     Adapter *construct()
     {
         Adapter *const adapter = new Adapter;
+        take(adapter);
+        return adapter;
+    }
+    /// The same with an adapter that was built elsewhere.
+    CanBusAdapter *take(CanBusAdapter *adapter)
+    {
         m_adapter = adapter;
         return adapter;
     }
@@ -46,12 +52,13 @@ public:
     /// Waits until onInited has run and the line is quiet, then forgets what was recorded and received.
     void settle();
 
-    /// Sends Raise packages in one go and returns what the unit then called, in order. Every package must be
+    /// Sends packages in one go and returns what the unit then called, in order. A Raise box's package must be
     /// acknowledged with one 0xFF before anything else happens, on the line as well; a breach is reported as
     /// a line of its own. The acknowledgements are left out of the result.
     QStringList exchange(const QByteArrayList &packages);
 
-    /// exchange() of "20 01 01 | 20 01 00": commands and data in hexadecimal, packages apart by bars.
+    /// exchange() of "20 01 01 | 20 01 00": commands and data in hexadecimal, packages apart by bars, in the
+    /// frame of the adapter's box.
     QStringList exchange(const char *packages);
 
 private:

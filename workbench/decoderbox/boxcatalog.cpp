@@ -28,21 +28,21 @@ BoxSpeaker *makePlain(SimulatedCar *car)
 const QVector<BoxCatalog::Row> &BoxCatalog::rows()
 {
     static const QVector<Row> rows = {
-        {1, "CanBus_LiHang_JMCE200N", nullptr},
-        {2, "CanBus_Huida_ZD", nullptr},
-        {3, "CanBus_Raise_Volkswagen", make<VolkswagenSpeaker>},
-        {4, "CanBus_XinHang", make<XinHangSpeaker>},
-        {5, "CanBus_XBS_Mazda", make<MazdaSpeaker>},
-        {6, "CanBus_XinRi", makePlain},
-        {7, "CanBus_Raise_Honda", make<HondaSpeaker>},
-        {8, "CanBus_Raise_Nissan", makePlain},
-        {9, "CanBus_Raise_Toyota", make<ToyotaSpeaker>},
-        {10, "CanBus_Raise_GM", make<GmSpeaker>},
-        {11, "CanBus_Raise_Haval", makePlain},
-        {12, "CanBus_Raise_GAC", makePlain},
-        {13, "CanBus_Raise_Venucia", makePlain},
-        {14, "CanBus_Raise_Renault", makePlain},
-        {15, "CanBus_Raise_Jeep", make<JeepSpeaker>},
+        {1, "CanBus_LiHang_JMCE200N", "jmce200n", nullptr},
+        {2, "CanBus_Huida_ZD", "huida", nullptr},
+        {3, "CanBus_Raise_Volkswagen", "volkswagen", make<VolkswagenSpeaker>},
+        {4, "CanBus_XinHang", "xinhang", make<XinHangSpeaker>},
+        {5, "CanBus_XBS_Mazda", "mazda", make<MazdaSpeaker>},
+        {6, "CanBus_XinRi", "xinri", makePlain},
+        {7, "CanBus_Raise_Honda", "honda", make<HondaSpeaker>},
+        {8, "CanBus_Raise_Nissan", "nissan", makePlain},
+        {9, "CanBus_Raise_Toyota", "toyota", make<ToyotaSpeaker>},
+        {10, "CanBus_Raise_GM", "gm", make<GmSpeaker>},
+        {11, "CanBus_Raise_Haval", "haval", makePlain},
+        {12, "CanBus_Raise_GAC", "gac", makePlain},
+        {13, "CanBus_Raise_Venucia", "venucia", makePlain},
+        {14, "CanBus_Raise_Renault", "renault", makePlain},
+        {15, "CanBus_Raise_Jeep", "jeep", make<JeepSpeaker>},
     };
     return rows;
 }

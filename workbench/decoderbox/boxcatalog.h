@@ -16,7 +16,8 @@ public:
     struct Row
     {
         int type;
-        const char *className;                         ///< of the plug-in's adapter
+        const char *className; ///< of the plug-in's adapter
+        const char *car;       ///< one short word, with which drives' file names begin
         BoxSpeaker *(*makeSpeaker)(SimulatedCar *car); ///< null where nobody knows the box's protocol
     };
 

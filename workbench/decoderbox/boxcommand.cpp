@@ -41,8 +41,9 @@ bool BoxCommand::parse(const QString &line, const DecoderBox &box, QString *erro
     if (verb == "fault") {
         return parseFault(words, error);
     }
-    if ((verb == "start" || verb == "end") && rest.isEmpty()) {
-        m_action = verb == "start" ? Start : End;
+    static const QHash<QString, Action> plainActions = {{"start", Start}, {"end", End}, {"again", Again}};
+    if (plainActions.contains(verb) && rest.isEmpty()) {
+        m_action = plainActions.value(verb);
         return true;
     }
     return parseProperty(verb, rest, error);
@@ -180,6 +181,7 @@ void BoxCommand::carryOut(DecoderBox *box) const
         box->start();
         break;
     case End:
+    case Again:
         break;
     }
 }

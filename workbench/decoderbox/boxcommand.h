@@ -20,6 +20,7 @@ class DecoderBox;
 ///     fault silence MS               the box says nothing for so long
 ///     start                          the box starts as after ready
 ///     end                            the scenario ends here
+///     again                          the scenario starts over
 class BoxCommand
 {
 public:
@@ -27,10 +28,13 @@ public:
     /// or its car has no such thing; the command is then not to be carried out.
     bool parse(const QString &line, const DecoderBox &box, QString *error);
 
-    /// Carries the order out on the box that it was read for; End does nothing.
+    /// Carries the order out on the box that it was read for; End and Again do nothing.
     void carryOut(DecoderBox *box) const;
 
+    /// Whether no order can follow in a scenario.
+    bool isLast() const { return m_action == End || m_action == Again; }
     bool isEnd() const { return m_action == End; }
+    bool isAgain() const { return m_action == Again; }
 
 private:
     enum Action {
@@ -46,7 +50,8 @@ private:
         Corrupt,
         Silence,
         Start,
-        End
+        End,
+        Again
     };
 
     bool parseProperty(const QString &name, const QString &value, QString *error);

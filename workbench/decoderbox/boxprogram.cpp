@@ -21,6 +21,15 @@ void print(FILE *stream, const QString &line)
     std::fflush(stream);
 }
 
+void listBoxes()
+{
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        print(stdout, QString("%1 %2 %3 %4")
+                          .arg(row.type)
+                          .arg(row.className, row.car, row.makeSpeaker ? "box" : "none"));
+    }
+}
+
 } // namespace
 
 BoxProgram::BoxProgram(QObject *parent) : QObject(parent) {}
@@ -35,9 +44,14 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
     if (!readOptions(&parser, arguments, &type)) {
         return false;
     }
-    *exitCode = parser.isSet("help") ? Fine : CannotRun;
-    if (parser.isSet("help")) {
-        print(stdout, parser.helpText());
+    *exitCode = CannotRun;
+    if (parser.isSet("help") || parser.isSet("list")) {
+        *exitCode = Fine;
+        if (parser.isSet("help")) {
+            print(stdout, parser.helpText());
+        } else {
+            listBoxes();
+        }
         return false;
     }
     QString error;
@@ -61,6 +75,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
         "A virtual CAN decoder box on a pseudo-terminal, whose path is the first line "
         "of output.");
     parser->addOptions({{{"h", "help"}, "Shows this."},
+                        {"list", "Lists all types: number, class, car, and box or none."},
                         {"type", "CAN-bus type by number or class name.", "N|CLASS"},
                         {"link", "Keeps a link of this name to the pseudo-terminal.", "PATH"},
                         {"scenario", "Plays a drive when the unit opens the port.", "FILE"},
@@ -71,7 +86,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
         error = parser->errorText();
     } else if (!parser->positionalArguments().isEmpty()) {
         error = "what is '" + parser->positionalArguments().first() + "'?";
-    } else if (!parser->isSet("help")) {
+    } else if (!parser->isSet("help") && !parser->isSet("list")) {
         *type = BoxCatalog::typeFromText(parser->value("type"));
         error = *type != 0 ? QString()
                            : QString("--type takes a number from 1 to 15 or a class name, not '%1'")

@@ -64,6 +64,9 @@ QString BoxScript::answer(const QString &line)
     if (!command.parse(line, *m_box, &error)) {
         return "error: " + error;
     }
+    if (command.isAgain()) {
+        return "error: 'again' is for scenarios";
+    }
     command.carryOut(m_box);
     return "ok";
 }

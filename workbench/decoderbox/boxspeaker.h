@@ -81,6 +81,8 @@ public:
     /// carry, what the unit can change, and how the box behaves.
     QStringList properties() const;
 
+    /// The commands of the unit that the box understands, in no order.
+    QList<quint8> commands() const { return m_commands.keys(); }
     /// Takes a good package from the unit; \a meaning becomes what it says, for logs.
     Understanding receive(const BoxPackage &package, QString *meaning);
 

@@ -11,9 +11,11 @@
 namespace {
 
 int signalPipe[2] = {-1, -1};
+volatile std::sig_atomic_t isAsked = 0;
 
 void onSignal(int)
 {
+    isAsked = 1;
     const char byte = 0;
     const ssize_t ignored = ::write(signalPipe[1], &byte, 1);
     (void)ignored;
@@ -32,4 +34,9 @@ void quitOnSignals(QObject *parent)
         std::signal(number, onSignal);
     }
     std::signal(SIGPIPE, SIG_IGN);
+}
+
+bool isQuitAsked()
+{
+    return isAsked != 0;
 }

@@ -7,4 +7,7 @@ class QObject;
 /// cleans up, and SIGPIPE is ignored. Once per process; the watch goes with \a parent.
 void quitOnSignals(QObject *parent);
 
+/// Whether one of them came: for code that keeps the event loop waiting.
+bool isQuitAsked();
+
 #endif // QUITONSIGNALS_H

@@ -7,7 +7,7 @@
 
 /// A drive to replay: a text file with one order per line, `TIME ORDER`, where TIME counts in seconds from
 /// the start of the play and never goes back, and ORDER is what BoxCommand reads. `#` begins a comment,
-/// except inside a value.
+/// except inside a value. `TIME sweep WHAT` stands for many orders, see Sweep, which begin at TIME.
 ///
 ///     # out of the car park
 ///     1.0  doors.front_left on
@@ -29,6 +29,8 @@ struct Scenario
 
 private:
     bool readStep(const QString &line, const DecoderBox &box, QString *error);
+    bool readSweep(int ms, const QString &what, const DecoderBox &box, QString *error);
+    bool readOrder(int ms, const QString &order, const DecoderBox &box, QString *error);
 };
 
 #endif // SCENARIO_H

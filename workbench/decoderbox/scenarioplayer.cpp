@@ -31,7 +31,12 @@ void ScenarioPlayer::playDue()
             m_timer.start(int(wait));
             return;
         }
-        steps.at(m_next++).command.carryOut(m_box);
+        const BoxCommand &command = steps.at(m_next++).command;
+        command.carryOut(m_box);
+        if (command.isAgain()) {
+            play();
+            return;
+        }
     }
     m_isPlaying = false;
     Q_EMIT finished(!steps.isEmpty() && steps.last().command.isEnd());

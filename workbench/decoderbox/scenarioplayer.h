@@ -20,6 +20,11 @@ public:
     void play();
     void stop();
     bool isPlaying() const { return m_isPlaying; }
+    /// Whether the scenario starts over and over: finished() then never comes.
+    bool isEndless() const
+    {
+        return !m_scenario.steps.isEmpty() && m_scenario.steps.last().command.isAgain();
+    }
 
 Q_SIGNALS:
     /// After the last order, with \a byOrder true when it was `end`.

@@ -10,7 +10,11 @@
 
 namespace {
 
-const char *const BoxOption = "--decoder-box";
+// Options whose value may be left out.
+const QStringList LoneOptions = {"--decoder-box", "--virtual-clock"};
+
+// When the virtual clock starts unless it is told: drives with a clock in them look the same every day.
+const char *const StandardStart = "2026-01-01T12:00:00";
 
 void addOptions(QCommandLineParser *parser)
 {
@@ -25,6 +29,7 @@ void addOptions(QCommandLineParser *parser)
                         {"factory", {}, "KEY=VALUE[,VALUE]..."},
                         {"settings-dir", {}, "DIR"},
                         {"headless", {}},
+                        {"virtual-clock", {}, "START"},
                         {"trace", {}, "FILE|-"},
                         {"script", {}, "FILE|-"}});
 }
@@ -34,17 +39,18 @@ bool isOption(const QString &argument)
     return argument.startsWith("--");
 }
 
-// The box's scenario may be left out, which the parser does not know of: tie it to its option.
-QStringList withBoxValueTied(const QStringList &arguments)
+// That a value may be left out the parser does not know: tie it to its option.
+QStringList withValuesTied(const QStringList &arguments)
 {
     QStringList tied;
     for (int i = 0; i < arguments.size(); ++i) {
-        if (arguments.at(i) != BoxOption) {
-            tied << arguments.at(i);
+        const QString &argument = arguments.at(i);
+        if (!LoneOptions.contains(argument)) {
+            tied << argument;
         } else if (i + 1 < arguments.size() && !isOption(arguments.at(i + 1))) {
-            tied << QString("%1=%2").arg(BoxOption, arguments.at(++i));
+            tied << argument + '=' + arguments.at(++i);
         } else {
-            tied << QString(BoxOption) + '=';
+            tied << argument + '=';
         }
     }
     return tied;
@@ -133,6 +139,25 @@ bool readSettings(const QCommandLineParser &parser, HeadUnitOptions *options, QS
     return readTags(parser.values("tag"), options, error) && readTypes(parser, options, error);
 }
 
+bool readClock(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
+{
+    if (!parser.isSet("virtual-clock")) {
+        return true;
+    }
+    const QString given = parser.value("virtual-clock");
+    const QString text = given.isEmpty() ? QString(StandardStart) : given;
+    options->virtualStart = QDateTime::fromString(text, "yyyy-MM-dd'T'HH:mm:ss");
+    if (!options->virtualStart.isValid()) {
+        *error = QString("--virtual-clock takes a local time like %1, not '%2'").arg(StandardStart, text);
+        return false;
+    }
+    if (!options->isHeadless) {
+        *error = "--virtual-clock needs --headless";
+        return false;
+    }
+    return true;
+}
+
 bool readFiles(const QCommandLineParser &parser, HeadUnitOptions *options, QString *error)
 {
     for (const char *name : {"port", "plugin", "settings-dir", "trace", "script"}) {
@@ -170,7 +195,7 @@ QString HeadUnitOptions::usage()
            "[SCENARIO]]\n"
            "                [--plugin PATH] [--tag ID=VALUE]... [--product KEY=VALUE]...\n"
            "                [--factory KEY=VALUE[,VALUE]...]... [--settings-dir DIR]\n"
-           "                [--headless] [--trace FILE|-] [--script FILE|-]\n"
+           "                [--headless [--virtual-clock [START]]] [--trace FILE|-] [--script FILE|-]\n"
            "\n"
            "A head unit on the desk that runs the CAN-bus plug-in.\n"
            "\n"
@@ -184,6 +209,9 @@ QString HeadUnitOptions::usage()
            "screen's\n"
            "  --settings-dir  folder of the settings files\n"
            "  --headless      no window; needs no display\n"
+           "  --virtual-clock jumps over the time in which nothing happens; START is the unit's time of day "
+           "at\n"
+           "                  start, 2026-01-01T12:00:00 unless told\n"
            "  --trace         writes what the plug-in does as JSON lines; - is standard output\n"
            "  --script        carries out commands, one a line; - is standard input\n"
            "\n"
@@ -194,7 +222,7 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
 {
     QCommandLineParser parser;
     addOptions(&parser);
-    if (!parser.parse(withBoxValueTied(arguments))) {
+    if (!parser.parse(withValuesTied(arguments))) {
         *error = parser.errorText();
         return false;
     }
@@ -203,5 +231,6 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
         return false;
     }
     wantsHelp = parser.isSet("help");
-    return wantsHelp || (readSettings(parser, this, error) && readFiles(parser, this, error));
+    return wantsHelp || (readSettings(parser, this, error) && readFiles(parser, this, error) &&
+                         readClock(parser, this, error));
 }

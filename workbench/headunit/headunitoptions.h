@@ -1,6 +1,7 @@
 #ifndef HEADUNITOPTIONS_H
 #define HEADUNITOPTIONS_H
 
+#include <QDateTime>
 #include <QMap>
 #include <QSize>
 #include <QStringList>
@@ -19,6 +20,7 @@ struct HeadUnitOptions
     QString plugin;      ///< empty for the one that belongs to the program
     QSize screenSize;    ///< pixels; 1024x600 unless the product value "ScreenSize" says otherwise
     bool isHeadless = false;
+    QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
     QString scenario; ///< of the decoder box; empty for none
     QString trace;    ///< file, "-" for standard output, empty for none

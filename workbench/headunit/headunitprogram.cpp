@@ -26,6 +26,7 @@
 namespace {
 
 constexpr int LastPackagesMs = 500; // what the end of a scenario has brought about is still on its way
+const int LongestStart = 60000;     // ms of the virtual clock until the unit opens the box's port
 
 // A path on the command line: relative ones are relative to the current folder, "-" is \a standard.
 bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, QString *error)
@@ -78,7 +79,7 @@ bool HeadUnitProgram::begin(QString *error)
         return false;
     }
     configureUnit();
-    if (!openBox(error)) {
+    if (!openBox(error) || !hasAnEnd(error)) {
         return false;
     }
     m_unit.reset(new HeadUnit);
@@ -110,6 +111,9 @@ bool HeadUnitProgram::openTrace(QString *error)
             return false;
         }
         m_output.reset(new LineOutput(m_traceFile.handle()));
+        if (m_options.virtualStart.isValid()) {
+            m_output->waitForReader();
+        }
     }
     m_writer.reset(new TraceWriter(m_output.get()));
     if (isTraced) {
@@ -167,13 +171,38 @@ bool HeadUnitProgram::openScenario(QString *error)
     if (m_options.isHeadless && m_options.script.isEmpty()) {
         connect(m_player, &ScenarioPlayer::finished, this,
                 [] { QTimer::singleShot(LastPackagesMs, qApp, &QCoreApplication::quit); });
+        if (m_options.virtualStart.isValid()) {
+            QTimer::singleShot(LongestStart, this, &HeadUnitProgram::giveUpWaiting);
+        }
     }
     return true;
+}
+
+// Where nothing waits in real time a run without an end would keep the processor busy for ever.
+bool HeadUnitProgram::hasAnEnd(QString *error) const
+{
+    const bool hasEnd = !m_options.virtualStart.isValid() || !m_options.script.isEmpty() ||
+                        (m_player && !m_player->isEndless());
+    if (!hasEnd) {
+        *error = "under the virtual clock this would never end: it takes a script, or a scenario with an end";
+    }
+    return hasEnd;
+}
+
+void HeadUnitProgram::giveUpWaiting()
+{
+    if (!m_hasPlayed) {
+        std::fprintf(stderr,
+                     "headunit: the unit has not opened the box's port in %d s, the drive cannot begin\n",
+                     LongestStart / 1000);
+        QCoreApplication::exit(1);
+    }
 }
 
 void HeadUnitProgram::playOnce()
 {
     disconnect(m_box.get(), &DecoderBox::unitCame, this, &HeadUnitProgram::playOnce);
+    m_hasPlayed = true;
     // On the desk the panel plays it, where it can be seen and stopped.
     if (DeskWindow *desk = qobject_cast<DeskWindow *>(m_window.get())) {
         desk->sidePanel()->boxPage()->play(m_options.scenario);
@@ -188,6 +217,7 @@ void HeadUnitProgram::openScreen()
     QApplication::setQuitOnLastWindowClosed(!m_options.isHeadless);
     if (m_options.isHeadless) {
         m_window.reset(new UnitScreen(m_options.screenSize));
+        m_window->setUpdatesEnabled(false); // nobody looks; a screenshot paints all the same
     } else {
         m_window.reset(new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize));
     }

@@ -38,7 +38,9 @@ private:
     void configureUnit();
     bool openBox(QString *error);
     bool openScenario(QString *error);
+    bool hasAnEnd(QString *error) const;
     void playOnce();
+    void giveUpWaiting();
     void openScreen();
     bool openScript(QString *error);
     void startScript();
@@ -50,6 +52,7 @@ private:
     std::unique_ptr<TraceWriter> m_writer;
     std::unique_ptr<DecoderBox> m_box;
     ScenarioPlayer *m_player = nullptr;
+    bool m_hasPlayed = false;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<HeadUnit> m_unit;
     std::unique_ptr<ScriptRunner> m_script;

@@ -1,5 +1,8 @@
 #include "lineoutput.h"
 
+#include "quitonsignals.h"
+#include "virtualclock.h"
+
 #include <QElapsedTimer>
 
 #include <cerrno>
@@ -42,6 +45,12 @@ void LineOutput::writeLine(const QByteArray &line)
     m_waiting += line;
     m_waiting += '\n';
     flush();
+    const VirtualClock::Hold hold; // the reader is in real time
+    while (m_waitsForReader && !m_waiting.isEmpty() && !isQuitAsked()) {
+        if (isReady(100)) {
+            writeSome();
+        }
+    }
 }
 
 void LineOutput::flush()

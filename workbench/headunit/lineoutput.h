@@ -21,6 +21,10 @@ public:
     /// Gives a slow reader one more second.
     ~LineOutput() override;
 
+    /// From now on whoever writes waits for the reader and no line is lost; a signal that asks the program to
+    /// quit ends the wait.
+    void waitForReader() { m_waitsForReader = true; }
+
     /// Writes \a line, which has no line end, and the line end.
     void writeLine(const QByteArray &line);
 
@@ -36,6 +40,7 @@ private:
     int m_descriptor;
     bool m_isOpen = true;
     bool m_hasLostLines = false;
+    bool m_waitsForReader = false;
     QByteArray m_waiting;
     QSocketNotifier m_notifier;
 };

@@ -2,6 +2,7 @@
 #include "headunitprogram.h"
 
 #include "orbapplication.h"
+#include "virtualclock.h"
 
 #include <cstdio>
 
@@ -57,6 +58,10 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         complain("no display; use --headless");
+        return CannotRun;
+    }
+    if (options.virtualStart.isValid() && !VirtualClock::start(options.virtualStart.toSecsSinceEpoch())) {
+        complain("the virtual clock does not reach the libraries of this program");
         return CannotRun;
     }
     int ownArgument = 1; // the others are not Qt's

@@ -3,6 +3,10 @@
 #include "scriptline.h"
 #include "tracewriter.h"
 
+#include <cstdint>
+
+#include <unistd.h>
+
 namespace {
 
 // Rounds through the posted events until a command has taken effect: its own event is in the first, what that
@@ -18,11 +22,16 @@ ScriptRunner::ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, 
     m_waitTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_waitTimer, &QTimer::timeout, this, &ScriptRunner::answer);
     connect(&m_lines, &DescriptorLines::arrived, this, &ScriptRunner::work);
+    if (VirtualClock::isOn()) {
+        m_idleNotifier.reset(new QSocketNotifier(VirtualClock::idleDescriptor(), QSocketNotifier::Read));
+        connect(m_idleNotifier.get(), &QSocketNotifier::activated, this, &ScriptRunner::onIdle);
+        goOn();
+    }
 }
 
 void ScriptRunner::work()
 {
-    while (!m_isBusy && !m_isOver && m_lines.hasLine()) {
+    while (isFree() && m_lines.hasLine()) {
         QString line;
         if (m_lines.takeLine(&line)) {
             carryOut(line.trimmed());
@@ -30,10 +39,11 @@ void ScriptRunner::work()
             answerError("the line is too long");
         }
     }
-    if (!m_isBusy && !m_isOver && m_lines.isAtEnd()) {
+    if (isFree() && m_lines.isAtEnd()) {
         m_isOver = true;
         Q_EMIT finished();
     }
+    m_hold.reset(isFree() ? new VirtualClock::Hold : nullptr);
 }
 
 void ScriptRunner::carryOut(const QString &line)
@@ -83,7 +93,24 @@ void ScriptRunner::answer()
 {
     m_isBusy = false;
     m_writer->called("script", m_command, m_commands.result());
-    QMetaObject::invokeMethod(this, &ScriptRunner::work, Qt::QueuedConnection);
+    goOn();
+}
+
+void ScriptRunner::goOn()
+{
+    if (m_idleNotifier) {
+        m_isIdle = false;
+        VirtualClock::askIdle();
+    } else {
+        QMetaObject::invokeMethod(this, &ScriptRunner::work, Qt::QueuedConnection);
+    }
+}
+
+void ScriptRunner::onIdle()
+{
+    std::uint64_t count = 0;
+    m_isIdle = ::read(VirtualClock::idleDescriptor(), &count, sizeof count) == sizeof count;
+    work();
 }
 
 void ScriptRunner::answerError(const QString &reason)

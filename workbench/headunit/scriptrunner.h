@@ -3,8 +3,12 @@
 
 #include "descriptorlines.h"
 #include "scriptcommands.h"
+#include "virtualclock.h"
 
+#include <QSocketNotifier>
 #include <QTimer>
+
+#include <memory>
 
 class TraceWriter;
 
@@ -12,6 +16,10 @@ class TraceWriter;
 /// command is answered by one line of the trace when it has taken effect, and only then comes the next:
 ///
 ///     {"t": 2.500, "object": "script", "call": "key", "args": ["delivered"]}
+///
+/// Under the virtual clock a line is carried out when everything that the one before has brought about at its
+/// time is over, and time stands still while the next line is not there yet: it makes no difference how
+/// quickly they are written.
 ///
 /// A line that cannot be carried out is answered as the call "error" with the reason. Empty lines and those
 /// that begin with # are passed over.
@@ -33,6 +41,9 @@ private:
     void settle(int rounds);
     void answer();
     void answerError(const QString &reason);
+    void goOn();
+    void onIdle();
+    bool isFree() const { return m_isIdle && !m_isBusy && !m_isOver; }
 
     DescriptorLines m_lines;
     ScriptCommands m_commands;
@@ -41,6 +52,9 @@ private:
     QString m_command;     // under way
     bool m_isBusy = false; // with m_command
     bool m_isOver = false;
+    bool m_isIdle = true; // nothing is left to do at the present time; in real time nobody can tell
+    std::unique_ptr<QSocketNotifier> m_idleNotifier; // virtual clock only
+    std::unique_ptr<VirtualClock::Hold> m_hold;      // while the next line is waited for
 };
 
 #endif // SCRIPTRUNNER_H

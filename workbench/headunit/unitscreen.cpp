@@ -29,7 +29,12 @@ UnitScreen::~UnitScreen()
 bool UnitScreen::saveScreenshot(const QString &path, QString *error)
 {
     QImageWriter writer(path, "png");
+    // A screen that nobody looks at does without painting, see HeadUnitProgram; what it shows is painted
+    // here.
+    const bool isPainted = updatesEnabled();
+    setUpdatesEnabled(true);
     const bool ok = writer.write(grab().toImage());
+    setUpdatesEnabled(isPainted);
     if (!ok) {
         *error = path + ": " + writer.errorString();
     }

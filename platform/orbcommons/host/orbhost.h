@@ -32,8 +32,6 @@ public:
 
     /// Folder with gpioN folders, as the kernel shows them; empty for lines in memory only.
     void setGpioRoot(const QString &path);
-    int gpioValue(int line) const;
-    QString gpioDirection(int line) const;
 
     /// What FileSystemService::getDiskPartitionPaths answers.
     void setDiskPartitions(int disk, const QStringList &paths);

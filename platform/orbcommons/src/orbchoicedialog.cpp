@@ -45,7 +45,7 @@ QWidget *choiceRows(const QStringList &texts, int current, QButtonGroup *group)
 {
     QWidget *rows = new QWidget;
     QVBoxLayout *column = new QVBoxLayout(rows);
-    OrbQt::setMargin(column, 0);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(RowGap);
     for (int i = 0; i < texts.size(); ++i) {
         QCheckBox *box = new ChoiceRow(texts.at(i), rows);
@@ -70,7 +70,7 @@ OrbChoiceDialog::OrbChoiceDialog(const QString &title, const QStringList &texts,
 {
     setWindowTitle(title);
     QVBoxLayout *column = new QVBoxLayout(this);
-    OrbQt::setMargin(column, Margin);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(16);
     column->addWidget(titleLabel(title, this));
 

@@ -169,16 +169,6 @@ void OrbHost::setGpioRoot(const QString &path)
     d->gpioRoot = path;
 }
 
-int OrbHost::gpioValue(int line) const
-{
-    return d->gpioLines.value(line).value;
-}
-
-QString OrbHost::gpioDirection(int line) const
-{
-    return d->gpioLines.value(line).direction;
-}
-
 void OrbHost::setDiskPartitions(int disk, const QStringList &paths)
 {
     setOrRemove(&d->diskPartitions, disk, paths, paths.isEmpty());

@@ -103,7 +103,7 @@ void UpdateDialog::Private::arrange(UpdateDialog *dialog)
     buttons->addWidget(ok);
 
     QVBoxLayout *column = new QVBoxLayout(dialog);
-    OrbQt::setMargin(column, Margin);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(24);
     column->addLayout(head);
     column->addWidget(bar);

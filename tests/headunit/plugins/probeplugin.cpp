@@ -23,7 +23,7 @@ OrbEvent *keySetEvent(unsigned int param2)
 {
     OrbEvent *event = new OrbEvent(400, 1, OrbEvent::NotifyType);
     event->setParams(20497, param2);
-    event->setVariantParam(OrbQt::voidStarVariant(&keySet));
+    event->setVariantParam(QVariant::fromValue<void *>(&keySet));
     return event;
 }
 

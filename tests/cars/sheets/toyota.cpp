@@ -1,4 +1,6 @@
-#include "carvectors.h"
+// What the box of a Toyota, CAN-bus type 9, makes the unit do.
+
+#include "carsheet.h"
 
 using namespace Expect;
 
@@ -69,9 +71,31 @@ CarVectors climateRows()
     };
 }
 
-} // namespace
-
-CarVectors toyotaVectors()
+CarSheet sheet()
 {
-    return keysAndEvents() + climateRows();
+    CarSheet s;
+    s.type = CanBusTypeRaiseToyota;
+    s.startUp = "81 01|81 01|81 01";
+    s.timerInterval = 200;
+    s.keys = {{0x20, 1,
+               "1000072=01,81 1000070=02,82 1000083=03,84,14 1000082=04,83,13 100117e=07,88 1100008=08 "
+               "1100004=09 1100005=0a 1000061=15 1000005=16 1000102=85 10000c5=86",
+               nullptr}};
+    const Codes five = {{1, 1}, {2, 2}, {3, 4}, {4, 5}, {5, 6}};
+    s.radar = {{0x1D, 0x5019, "0--3", five, 0}, {0x1E, 0x501A, "0123", five, 0}};
+    s.temperatures = {
+        {"28 80 00 LL RR 00",
+         {{0, 0, 0, 0, "LO"},
+          {1, 29, 18.0, 0.5, "°C"},
+          {0x1F, 0x1F, 0, 0, "HI"},
+          {0x20, 0x23, 16.0, 0.5, "°C"}}},
+        {"28 80 00 LL RR 01", {{0, 0, 0, 0, "LO"}, {1, 254, 1, 1, "°F"}, {255, 255, 0, 0, "HI"}}}};
+    s.modePackage = "99 MM" + QByteArray(" 00").repeated(20);
+    s.modeCodes = "0000040504040104000700000004000700070700";
+    s.vectors = keysAndEvents() + climateRows();
+    return s;
 }
+
+const CarSheetEntry Entry(sheet, __FILE__);
+
+} // namespace

@@ -1,4 +1,6 @@
-#include "carvectors.h"
+// What the box of a GM, CAN-bus type 10, makes the unit do.
+
+#include "carsheet.h"
 
 #include "adapterfixture.h"
 
@@ -66,9 +68,33 @@ CarVector airDistribution()
     return {"air distribution, every code", "", packages.join('|'), trace};
 }
 
-} // namespace
-
-CarVectors gmVectors()
+CarSheet sheet()
 {
-    return keysAndEvents() + climateRows() + CarVectors{airDistribution()};
+    CarSheet s;
+    s.type = CanBusTypeRaiseGm;
+    s.startUp = "81 01|81 01|81 01|84 01";
+    s.timerInterval = 200;
+    s.keys = {
+        {0x01, 1, "1000072=01 1000070=02 1000082=03 1000083=04 100117e=05 1100008=06 1000071=07", nullptr},
+        {0x02, 0,
+         "10000b7=01 1000082=02,35 1000083=03,34 10000a4=04 10000a5=05 1000061=06 10000a2=07 10000a6=08,40 "
+         "1000071=09 1000005=16 1000086=1b 1000013=1c 1000015=1d 1000010=50,53 100117e=51 10000fd=54",
+         "1000072=17 1000070=18 1000014=19 1000012=1a"}};
+    const Codes asTheyAre = {{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}};
+    s.radar = {{0x22, 0x501A, "0123", asTheyAre, 6}, {0x23, 0x5019, "0123", asTheyAre, 6}};
+    s.temperatures = {{"03 80 01 LL RR 00 00 02",
+                       {{0, 0, 0, 0, "LO"},
+                        {1, 28, 17.0, 0.5, "°C"},
+                        {0x1D, 0x1D, 16.0, 0, "°C"},
+                        {0x1E, 0x1E, 0, 0, "HI"},
+                        {0x1F, 0x1F, 16.5, 0, "°C"},
+                        {0x20, 0x21, 15.0, 0.5, "°C"},
+                        {0x22, 0x22, 31.0, 0, "°C"},
+                        {0x23, 0xFF, 0, 0, "--°C"}}}};
+    s.vectors = keysAndEvents() + climateRows() + CarVectors{airDistribution()};
+    return s;
 }
+
+const CarSheetEntry Entry(sheet, __FILE__);
+
+} // namespace

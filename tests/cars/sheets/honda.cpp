@@ -1,4 +1,6 @@
-#include "carvectors.h"
+// What the box of a Honda, CAN-bus type 7, makes the unit do.
+
+#include "carsheet.h"
 
 using namespace Expect;
 
@@ -43,9 +45,29 @@ CarVectors keysAndEvents()
     };
 }
 
-} // namespace
-
-CarVectors hondaVectors()
+CarSheet sheet()
 {
-    return climateRows() + keysAndEvents();
+    CarSheet s;
+    s.type = CanBusTypeRaiseHonda;
+    s.startUp = "81 01|81 01|81 01|c6 50";
+    s.timerInterval = 10000;
+    s.timerRuns = true;
+    s.keys = {{0x20, 1,
+               "1000072=01,20,81 1000070=02,21,82 1000083=03,14,26 1000082=04,13,27 100117e=07,18 1100008=08 "
+               "1100004=09 1100005=0a 1000005=16 1000071=17,30,86 10000c5=22,24 1000102=23,25",
+               nullptr}};
+    const Codes four = {{1, 1}, {2, 2}, {3, 4}, {4, 6}};
+    s.radar = {{0x22, 0x501A, "0123", four, 0}, {0x23, 0x5019, "0123", four, 0}};
+    s.temperatures = {{"21 80 00 LL RR 01 00 00 00 00",
+                       {{0, 0, 0, 0, "LO"}, {1, 254, 0.5, 0.5, "°C"}, {255, 255, 0, 0, "HI"}}},
+                      {"21 80 00 LL RR 00 00 00 00 00",
+                       {{0, 0, 0, 0, "LO"}, {1, 254, 1, 1, "°F"}, {255, 255, 0, 0, "HI"}}}};
+    s.modePackage = "82 MM";
+    s.modeCodes = "0000040607070104000300000007000300030300";
+    s.vectors = climateRows() + keysAndEvents();
+    return s;
 }
+
+const CarSheetEntry Entry(sheet, __FILE__);
+
+} // namespace

@@ -1,30 +1,29 @@
-// The cars that report little: Jeep and Mazda.
-
-#include "carvectors.h"
+// What the box of a Mazda, CAN-bus type 5, makes the unit do.
 
 #include "adapterfixture.h"
+#include "carsheet.h"
 
 using namespace Expect;
 
-CarVectors jeepVectors()
-{
-    return {
-        {"wheel key held", "", "01 1d 02", held(0x01000082, 1)},
-        {"wheel key released that was never pressed", "", "01 19 00", released(0x01100005, 1)},
-        {"panel key held", "", "04 05 02", held(0x01000070, 0)},
-        {"panel key released that was never pressed", "", "04 0a 00", released(0x010000B7, 0)},
-        {"one byte short", "", "01 11 | 04 01", {}},
-        {"version and what the other panel cars report end in no call",
-         "",
-         "30 31 2e 30 | 02 01 01 | 03 80 01 05 05 00 00 00 | 22 01 02 03 04 | 23 01 02 03 04 | 24 f0 | 26 00 "
-         "10",
-         {}},
-    };
-}
+namespace {
 
-CarVectors mazdaVectors()
+CarSheet sheet()
 {
-    return {
+    CarSheet s;
+    s.type = CanBusTypeXbsMazda;
+    s.startUp = "81 01";
+    s.timerInterval = 200;
+    s.timerRuns = true;
+    s.otherPackage = "02 00";
+    s.endsReady = "7f 31";
+    s.keys = {{0x01, 0,
+               "1000072=01 1000070=02 1000083=03 1000082=04 1000071=08 1100008=09,22 1100004=0a 1100005=0b "
+               "10000fd=20 1000010=21 100117e=23 1000013=24 1000015=25 1000012=26 1000014=27 1000005=28 "
+               "100010f=29 1000061=2a",
+               "1000072=f0 1000070=f1 1000014=f2 1000012=f3"}};
+    s.radar = {{0x08, 0x5018, "12234556", {{1, 1}, {2, 2}, {3, 4}, {4, 6}}, 0}};
+    s.settingCommand = "84";
+    s.vectors = {
         {"wheel key held", "", "01 2a 02", held(0x01000061, 0)},
         {"wheel key released that was never pressed", "", "01 29 00", released(0x0100010F, 0)},
         {"knob three steps, none and 255", "", "01 f0 03 | 01 f1 00 | 01 f3 ff",
@@ -39,4 +38,9 @@ CarVectors mazdaVectors()
         {"unknown command", "", "30 31 2e 30", {}},
         {"one byte short", "", "01 01 | 07 00 | 08 00 01 02 03 04 03", {}},
     };
+    return s;
 }
+
+const CarSheetEntry Entry(sheet, __FILE__);
+
+} // namespace

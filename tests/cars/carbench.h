@@ -2,8 +2,9 @@
 #define CARBENCH_H
 
 #include "adapterfixture.h"
+#include "carsheet.h"
 
-#include "raise/raiseadapter.h"
+#include "adapterfactory.h"
 
 #include <QTimer>
 
@@ -14,30 +15,36 @@
 class CarBench
 {
 public:
-    template <class Car>
-    Car *use()
+    CanBusAdapter *use(CanBusType type)
     {
-        Car *const same = dynamic_cast<Car *>(m_car);
-        if (same) {
-            return same;
+        if (m_car && m_type == type) {
+            return m_car;
         }
-        m_fixture.reset();
+        reset();
+        m_type = type;
         m_fixture.reset(new AdapterFixture);
-        Car *const car = m_fixture->construct<Car>();
-        m_car = car;
+        m_car = m_fixture->take(AdapterFactory::create(type));
         m_fixture->open();
         m_fixture->settle();
         // What a car repeats by itself must not show up between a row's calls.
-        for (QTimer *timer : car->template findChildren<QTimer *>()) {
-            if (timer->interval() == 200 || timer->interval() >= 10000) {
+        for (QTimer *timer : m_car->findChildren<QTimer *>()) {
+            if (isPeriodic(timer)) {
                 timer->stop();
             }
         }
-        return car;
+        return m_car;
+    }
+    template <class Car>
+    Car *use(CanBusType type)
+    {
+        return static_cast<Car *>(use(type));
     }
 
-    /// The car by its class name: "CanBus_Raise_Toyota".
-    RaiseAdapter *useByName(const QString &name);
+    /// A car's own timer, not one of the framer's.
+    static bool isPeriodic(const QTimer *timer)
+    {
+        return timer->interval() == 200 || timer->interval() == 500 || timer->interval() >= 10000;
+    }
 
     /// Lets go of the car, for a table that needs a fresh one.
     void reset()
@@ -50,7 +57,8 @@ public:
 
 private:
     std::unique_ptr<AdapterFixture> m_fixture;
-    RaiseAdapter *m_car = nullptr;
+    CanBusAdapter *m_car = nullptr;
+    CanBusType m_type = CanBusTypeNone;
 };
 
 #endif // CARBENCH_H

@@ -1,8 +1,11 @@
-#include "carvectors.h"
+#include "carsheet.h"
 
+#include "adapterfactory.h"
 #include "adapterfixture.h"
 
-#include <QMap>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -65,11 +68,69 @@ QStringList Expect::climate(const QByteArray &calls)
     return lines;
 }
 
-QList<QPair<const char *, CarVectors>> allVectors()
+namespace {
+
+struct Entry
 {
-    return {{"CanBus_Raise_Toyota", toyotaVectors()},
-            {"CanBus_Raise_Honda", hondaVectors()},
-            {"CanBus_Raise_GM", gmVectors()},
-            {"CanBus_Raise_Jeep", jeepVectors()},
-            {"CanBus_XBS_Mazda", mazdaVectors()}};
+    CarSheet (*make)();
+    QByteArray car;
+};
+
+// A function's static object: the sheets of other files register before this one's objects exist.
+QList<Entry> &entries()
+{
+    static QList<Entry> all;
+    return all;
+}
+
+QList<CarSheet> readSheets()
+{
+    const QByteArray wanted = qgetenv("CANBUS_CAR");
+    QList<CarSheet> sheets;
+    for (const Entry &entry : entries()) {
+        if (areAllCarsTested() || entry.car == wanted) {
+            sheets << entry.make();
+            sheets.last().car = entry.car;
+        }
+    }
+    std::sort(sheets.begin(), sheets.end(),
+              [](const CarSheet &one, const CarSheet &other) { return one.type < other.type; });
+    if (sheets.isEmpty()) {
+        qFatal("there is no tests/cars/sheets/%s.cpp", wanted.constData());
+    }
+    return sheets;
+}
+
+} // namespace
+
+CarSheetEntry::CarSheetEntry(CarSheet (*make)(), const char *file)
+{
+    entries() << Entry{make, QFileInfo(file).baseName().toLatin1()};
+}
+
+bool areAllCarsTested()
+{
+    return !qEnvironmentVariableIsSet("CANBUS_CAR");
+}
+
+const QList<CarSheet> &carSheets()
+{
+    static const QList<CarSheet> sheets = readSheets();
+    return sheets;
+}
+
+const CarSheet *findSheet(int type)
+{
+    for (const CarSheet &sheet : carSheets()) {
+        if (int(sheet.type) == type) {
+            return &sheet;
+        }
+    }
+    return nullptr;
+}
+
+QByteArray CarSheet::name() const
+{
+    const char *const className = AdapterFactory::className(type);
+    return className ? QByteArray(className) : "type " + QByteArray::number(int(type));
 }

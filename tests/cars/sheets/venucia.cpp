@@ -1,0 +1,19 @@
+// The box of a Venucia, CAN-bus type 13: its packages are acknowledged, no more.
+
+#include "carsheet.h"
+
+namespace {
+
+CarSheet sheet()
+{
+    CarSheet s;
+    s.type = CanBusTypeRaiseVenucia;
+    s.startUp = "81 01|81 01|81 01";
+    s.timerInterval = 10000;
+    s.timerRuns = true;
+    return s;
+}
+
+const CarSheetEntry Entry(sheet, __FILE__);
+
+} // namespace
