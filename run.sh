@@ -23,7 +23,8 @@ case ${1:-} in
     shift
     ;;
 esac
-configure_and_build CanBus headunit decoderbox -- -DCANBUS_WORKBENCH=ON
+configure -DCANBUS_WORKBENCH=ON
+build_targets CanBus headunit decoderbox
 type=$("$build/workbench/decoderbox/decoderbox" --list | awk -v car="$car" '$3 == car && $4 == "box" { print $2 }')
 drive=$root/scenarios/$car.scn
 [ -n "$type" ] && [ -f "$drive" ] || fail "no such car: $car ($(cars))"

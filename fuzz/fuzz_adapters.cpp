@@ -3,25 +3,35 @@
 
 #include "hostileline.h"
 
+#include "adapterfactory.h"
 #include "orbapplication.h"
+
+#include <map>
+
+// Application and adapters live until the process ends, as they do in a head unit; nothing is destroyed at exit.
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static OrbApplication *const application = new OrbApplication(*argc, *argv);
+    Q_UNUSED(application)
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_adapters";
-    static char *argv[] = {name, nullptr};
-    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static OrbApplication app(argc, argv);
-    Q_UNUSED(offscreen)
-    if (size < 1)
+    if (size < 1) {
         return 0;
-    const CanBusType type = static_cast<CanBusType>(bytes[0] % 15 + 1);
-    static std::unique_ptr<CanBusAdapter> adapters[16];
-    if (!adapters[type])
-        adapters[type] = HostileLine::adapter(type);
+    }
+    const auto types = AdapterFactory::types();
+    const CanBusType type = types.at(bytes[0] % int(types.size()));
+    static std::map<CanBusType, CanBusAdapter *> adapters;
+    CanBusAdapter *&adapter = adapters[type];
+    if (!adapter) {
+        adapter = HostileLine::adapter(type).release();
+    }
     const QByteArray line(reinterpret_cast<const char *>(bytes) + 1, int(size) - 1);
-    HostileLine::decode(adapters[type].get(), type, line);
-    HostileLine::receive(adapters[type].get(), line, 38);
+    HostileLine::decode(adapter, type, line);
+    HostileLine::receive(adapter, line, 38);
     QCoreApplication::processEvents();
     return 0;
 }

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void randomBytes();
     void malformedArrays_data() { everyType(); }
     void malformedArrays();
+    void shellCommands_data();
+    void shellCommands();
 
 private:
     void everyType()
@@ -89,6 +91,27 @@ void TestHostileLine::malformedArrays()
     }
     adapter->onRecvAppProtocol(QByteArray(5000, '\xFF'));
     QCoreApplication::processEvents();
+}
+
+// The stand-in for the shell knows a command when it sees one.
+void TestHostileLine::shellCommands_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<bool>("harmless");
+    QTest::newRow("text") << QByteArray("echo 'V1.2' > /tmp/can_version") << true;
+    QTest::newRow("nothing") << QByteArray("echo '' > /tmp/can_version") << true;
+    QTest::newRow("quoted mark") << QByteArray("echo 'it'\\''s' > /tmp/can_version") << true;
+    QTest::newRow("mark") << QByteArray("echo 'it's; rm' > /tmp/can_version") << false;
+    QTest::newRow("end and begin") << QByteArray("echo 'a' $(rm) 'b' > /tmp/can_version") << false;
+    QTest::newRow("line end") << QByteArray("echo 'a\nb' > /tmp/can_version") << false;
+    QTest::newRow("elsewhere") << QByteArray("echo 'a' > /tmp/version") << false;
+    QTest::newRow("no end") << QByteArray("echo ' > /tmp/can_version") << false;
+}
+
+void TestHostileLine::shellCommands()
+{
+    QFETCH(QByteArray, command);
+    QTEST(HostileLine::isVersionCommand(command), "harmless");
 }
 
 CANBUS_TEST_MAIN(TestHostileLine)

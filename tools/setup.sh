@@ -1,9 +1,10 @@
 # shellcheck shell=sh
-# Sourced by run.sh and test.sh: installs what is missing, configures, builds.
+# Sourced by run.sh, test.sh and tools/lint.sh: installs what is missing, configures, builds.
 #
 # CANBUS_BUILD names the build folder (default: build). Says what it does, one line a step.
 
 root=$(cd "$(dirname "$0")" && pwd)
+root=${root%/tools}
 build=${CANBUS_BUILD:-$root/build}
 
 step() { printf '== %s\n' "$*"; }
@@ -40,24 +41,22 @@ need_packages() {
     rm -f "$log"
 }
 
-# configure_and_build TARGETS... -- CMAKE_OPTIONS...
-configure_and_build() {
-    targets=
-    while [ $# -gt 0 ] && [ "$1" != -- ]; do
-        targets="$targets $1"
-        shift
-    done
-    [ $# -eq 0 ] || shift
+# configure CMAKE_OPTIONS...
+configure() {
     need_packages g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev qttools5-dev-tools \
         libcli11-dev fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
-    cmake -S "$root" -B "$build" -G Ninja "$@" >"${TMPDIR:-/tmp}/canbus-configure.$$" 2>&1 || {
-        cat "${TMPDIR:-/tmp}/canbus-configure.$$" >&2
-        rm -f "${TMPDIR:-/tmp}/canbus-configure.$$"
+    log=$(mktemp)
+    if ! cmake -S "$root" -B "$build" -G Ninja "$@" >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
         fail "configuring failed"
-    }
-    rm -f "${TMPDIR:-/tmp}/canbus-configure.$$"
+    fi
+    rm -f "$log"
+}
+
+# build_targets TARGETS...
+build_targets() {
     step "Building (a few minutes the first time)"
-    # shellcheck disable=SC2086
-    cmake --build "$build" ${targets:+--target $targets} || fail "building failed"
+    cmake --build "$build" --target "$@" || fail "building failed"
 }

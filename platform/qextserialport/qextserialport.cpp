@@ -18,8 +18,9 @@ QextSerialPort::~QextSerialPort()
 
 bool QextSerialPort::open(OpenMode mode)
 {
-    if (isOpen())
+    if (isOpen()) {
         return false;
+    }
     m_failed = false;
     if (!m_port.open(mode & ReadWrite)) {
         setFailure(m_port.errorString());
@@ -33,10 +34,12 @@ bool QextSerialPort::open(OpenMode mode)
 
 void QextSerialPort::close()
 {
-    if (isOpen())
+    if (isOpen()) {
         QIODevice::close();
-    if (m_port.isOpen())
+    }
+    if (m_port.isOpen()) {
         m_port.close();
+    }
 }
 
 // A pseudo-terminal refuses what only a wire has (a line rate, parity); it carries the bytes all the same.
@@ -91,8 +94,9 @@ void QextSerialPort::onPortError(QSerialPort::SerialPortError error)
     // reports ResourceError. Settings that the device does not know are no reason to give it up.
     const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
                        error == QSerialPort::ResourceError || error == QSerialPort::PermissionError;
-    if (!fatal || m_failed || !isOpen())
+    if (!fatal || m_failed || !isOpen()) {
         return;
+    }
     m_failed = true;
     setFailure(m_port.errorString());
     Q_EMIT readChannelFinished();

@@ -23,7 +23,7 @@ enum DiskStatus { DiskGone = 0, DiskPresent = 1 };
 
 const int PacketSize = 128;
 const char Padding = '\xFF';
-const qint64 MaximumFileSize = 64 * 1024 * 1024;
+const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
 
 // Numbers of the dialog.
 const int DecoderFirmware = 1;

@@ -26,13 +26,13 @@ public:
     QByteArray take();
 
     /// Waits until the unit has sent \a count bytes since the last take(); false after \a timeout ms.
-    bool waitForBytes(int count, int timeout = 2000);
+    bool waitForBytes(int count, int timeout = 10000);
 
     /// Takes what the unit sends until nothing came for \a quiet ms.
     QByteArray takeUntilQuiet(int quiet = 80);
 
     /// Runs the event loop until \a condition holds; false after \a timeout ms.
-    static bool waitUntil(const std::function<bool()> &condition, int timeout = 2000);
+    static bool waitUntil(const std::function<bool()> &condition, int timeout = 10000);
 
 private:
     TerminalPair m_terminal;

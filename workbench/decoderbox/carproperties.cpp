@@ -7,13 +7,6 @@ namespace {
 
 const int None = 0;
 
-const CarProperty::Kind Switch = CarProperty::Switch;
-const CarProperty::Kind Integer = CarProperty::Integer;
-const CarProperty::Kind Choice = CarProperty::Choice;
-const CarProperty::Kind Temperature = CarProperty::Temperature;
-const CarProperty::Kind Text = CarProperty::Text;
-const CarProperty::Kind NumberList = CarProperty::NumberList;
-
 } // namespace
 
 const QVector<CarProperty> &CarProperty::all()
