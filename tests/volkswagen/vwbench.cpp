@@ -145,7 +145,7 @@ Page::Page(unsigned int pageId)
     : adapter(new CanBus_Raise_Volkswagen), page(new VWFunctionSetting(pageId, adapter.get()))
 {
     page->show();
-    sent();
+    requests = sent();
 }
 
 Page::~Page()

@@ -66,6 +66,9 @@ struct Page
     explicit Page(unsigned int pageId);
     ~Page();
 
+    /// What the page asked for when it opened.
+    QStringList requests;
+
     QStringList sent() { return VwBench::sent(trace); }
     int rowOf(int item) const { return VwBench::rowOf(*page, item); }
     QString valueOf(int item) const { return VwBench::valueOf(*page, rowOf(item)); }
