@@ -4,8 +4,8 @@
 
 #include "orbhost.h"
 
-/// The settings pages where they depart from the plain menu: the warning speed, what may happen while a page or
-/// its dialog is open, the service data and the reports.
+/// The settings pages where they depart from the plain menu: the warning speed, and what may happen while a page or
+/// its dialog is open.
 class TestVwPages : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,6 @@ private Q_SLOTS:
     void staleDialog();
     void secondPageOfAKind();
     void languageChangesWhileOpen();
-    void service_data();
-    void service();
-    void reports_data();
-    void reports();
-    void laterPageKnowsTheReports();
 };
 
 using VwBench::cancel;
@@ -163,110 +158,6 @@ void TestVwPages::languageChangesWhileOpen()
     QCOMPARE(bench.page->windowTitle(), QString("Tyres"));
     QCOMPARE(bench.valueOf(35), QString("Full load"));
     QCOMPARE(bench.valueOf(33), QString("80 km/h"));
-}
-
-void TestVwPages::service_data()
-{
-    QTest::addColumn<QByteArray>("package");
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("text");
-
-    const auto row = [](const char *name, const char *package, int item, const char *text) {
-        QTest::newRow(name) << QByteArray(package) << item << QString(text);
-    };
-    row("vehicle number", "63 00 57 56 57 31 32", 0, "WVW12");
-    row("vehicle number ends at a NUL", "63 00 57 56 00 57", 0, "WV");
-    row("vehicle number without what cannot be shown", "63 00 57 1f 7f 80 ff 7e 41", 0, "W~A");
-    row("vehicle number of 32 characters at most", ("63 00" + QByteArray(" 41").repeated(40)).constData(), 0,
-        QByteArray(32, 'A').constData());
-    row("vehicle number without characters", "63 00", 0, "--");
-    row("days left", "63 10 01 5a 00", 16, "90 days");
-    row("most days", "63 10 f9 ff ff", 16, "65535 days");
-    row("days unknown", "63 10 00 5a 00", 16, "--");
-    row("days overdue", "63 20 02 0a 01", 32, "overdue by 266 days");
-    row("kilometres left", "63 11 01 96 00", 17, "15000 km");
-    row("miles left", "63 11 11 96 00", 17, "15000 mi");
-    row("miles by another bit", "63 21 41 01 00", 33, "100 mi");
-    row("bit 7 is no mile", "63 21 81 01 00", 33, "100 km");
-    row("kilometres overdue", "63 21 02 ff ff", 33, "overdue by 6553500 km");
-    row("distance unknown", "63 21 10 01 00", 33, "--");
-    row("short counter", "63 10 01 5a", 16, "--");
-    row("wipers in their service position", "63 22 01", 140, "on");
-    row("the other bits say nothing of the wipers", "63 22 fe", 140, "off");
-}
-
-void TestVwPages::service()
-{
-    QFETCH(QByteArray, package);
-    QFETCH(int, item);
-    QFETCH(QString, text);
-    Page bench(779);
-    QStringList expected = bench.rows();
-    QString &row = expected[bench.rowOf(item)];
-    row = row.section('=', 0, 0) + '=' + text;
-    VwBench::feed(*bench.adapter, package);
-    QCOMPARE(bench.rows(), expected);
-}
-
-void TestVwPages::reports_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QByteArray>("package");
-    QTest::addColumn<QStringList>("rows");
-
-    const auto row = [](const char *name, int page, const char *package, const QStringList &rows) {
-        QTest::newRow(name) << page << QByteArray(package) << rows;
-    };
-    const QStringList none{"No entries available="};
-    row("start-stop: active, no text", 783, "60 00 01 02 03 04 05 06 01",
-        {"Start-stop system is activated="});
-    row("start-stop: texts", 783, "60 02 00 21 05 00 00 00 01",
-        {"Trailer mode=", "Start-stop system requires engine to be running="});
-    row("start-stop: off for a reason", 783, "60 01 12 00 00 00 00 00 fe",
-        {"Start-stop system is deactivated=", "Driver door open="});
-    row("start-stop: six texts at most", 783, "60 ff 01 01 01 01 01 01 01",
-        QStringList(QVector<QString>(6, "Windscreen could become fogged=").toList()));
-    row("start-stop: unknown texts", 783, "60 02 22 ff 00 00 00 00 01", {"Start-stop system is activated="});
-    row("start-stop: 7 bytes", 783, "60 01 01 00 00 00 00 00", none);
-    row("reports: none", 784, "61 00 00 01 02", none);
-    row("reports: seven at most", 784, "61 00 01 01 00 01 00 01 00 01 00 01 00 01 00 01 00 01 00",
-        QStringList(QVector<QString>(7, "Report code=1").toList()));
-    row("reports: fewer than claimed", 784, "61 05 00 e8 03 ff ff 02",
-        {"Report code=1000", "Report code=65535"});
-    row("reports: one byte", 784, "61 01", none);
-    row("consumers: none", 786, "62 00 01 02 03", none);
-    row("consumers: first and last", 786, "62 02 01 12 03", {"Air conditioning=", "Drink holder="});
-    row("consumers: three at most", 786, "62 09 02 03 04 05",
-        {"Auxiliary heater=", "Rear window heating=", "Left seat heating="});
-    row("consumers: unknown ones", 786, "62 03 00 13 ff", none);
-    row("consumers: 3 bytes", 786, "62 02 01 02", none);
-}
-
-void TestVwPages::reports()
-{
-    QFETCH(int, page);
-    QFETCH(QByteArray, package);
-    QFETCH(QStringList, rows);
-    Page bench(page);
-    QCOMPARE(bench.rows(), QStringList{"No entries available="});
-    VwBench::feed(*bench.adapter, package);
-    QCOMPARE(bench.rows(), rows);
-    // The next report replaces all of them.
-    VwBench::feed(*bench.adapter, "60 01 00 00 00 00 00 00 01 | 61 00 00 | 62 00 00 00 00");
-    QCOMPARE(bench.rows(), page == 783 ? QStringList{"Trailer mode="} : QStringList{"No entries available="});
-}
-
-void TestVwPages::laterPageKnowsTheReports()
-{
-    TestScreen screen;
-    CanBus_Raise_Volkswagen adapter;
-    VwBench::feed(adapter, "62 01 11 00 00 | 40 10 02");
-    VWFunctionSetting consumers(786, &adapter);
-    VWFunctionSetting top(782, &adapter);
-    consumers.show();
-    top.show();
-    QCOMPARE(VwBench::modelOf(consumers)->itemDatas(0).text(), QString("Socket"));
-    QCOMPARE(VwBench::valueOf(top, 0), QString());
 }
 
 CANBUS_TEST_MAIN(TestVwPages)
