@@ -3,6 +3,8 @@
 
 #include "golden.h"
 
+#include <QRegularExpression>
+
 #include <functional>
 
 namespace TestSupport {
@@ -24,6 +26,21 @@ inline QStringList play(const QString &file, const std::function<QStringList(con
         }
     }
     return lines;
+}
+
+/// A recorded call for a reader: "key 1000072 press, last 1" with the key's number in hexadecimal, and the
+/// climate display's calls without their class. Others stay as they are.
+inline QString readable(QString call)
+{
+    static const QRegularExpression key("^OrbApplication\\.simulateKey\\((\\d+),(\\w+),(\\w+),(\\d)\\)$");
+    const QRegularExpressionMatch match = key.match(call);
+    if (!match.hasMatch()) {
+        return call.remove("AirConditionDlg.");
+    }
+    const QString phase = match.captured(2) == "false" ? "release" : "press";
+    return QString("key %1 %2, last %3")
+        .arg(match.captured(1).toInt(), 0, 16)
+        .arg(match.captured(3) == "true" ? "held" : phase, match.captured(4));
 }
 
 } // namespace TestSupport

@@ -123,12 +123,6 @@ void cancel(SelectDialog &dialog)
     click(dialog, "btnCancel");
 }
 
-void choose(SelectDialog &dialog, int index)
-{
-    check(dialog, index);
-    click(dialog, "btnOk");
-}
-
 QStringList commands(int item, int value)
 {
     return {"c6 " + QByteArray(1, char(item)).toHex() + ' ' + QByteArray(1, char(value)).toHex()};

@@ -52,9 +52,7 @@ void check(SelectDialog &dialog, int index);
 void step(SelectDialog &dialog, int steps);
 void click(const QWidget &window, const QString &button);
 
-/// Answers of a dialog: Cancel; option \a index and OK.
 void cancel(SelectDialog &dialog);
-void choose(SelectDialog &dialog, int index);
 
 /// The package that sets \a item to \a value, as sent() gives it.
 QStringList commands(int item, int value);
