@@ -1,3 +1,4 @@
+#include "testfiles.h"
 #include "xinhangbench.h"
 
 #include "updatedialog.h"
@@ -9,6 +10,8 @@
 #include <QRegularExpression>
 
 #include <sys/stat.h>
+
+using TestSupport::writeFile;
 
 namespace {
 
@@ -25,13 +28,6 @@ QByteArray image(int size)
         byte = char(random.bounded(256));
     }
     return bytes;
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
 
 /// The call that answers a request for a packet.
@@ -82,7 +78,7 @@ public:
         writeFile(file(), firmware);
         insert();
         accept();
-        exchange("08 01");
+        feed("08 01");
     }
     /// The user accepts in the dialog.
     QStringList accept()
@@ -95,7 +91,7 @@ public:
         }
         return calls();
     }
-    QStringList ask(quint32 number) { return exchange("08 02 00 " + hex32(number)); }
+    QStringList ask(quint32 number) { return feed("08 02 00 " + hex32(number)); }
     bool answers(quint32 number) { return ask(number).value(0).startsWith("send 86 02 00 "); }
 
     QTemporaryDir disk;
@@ -169,7 +165,7 @@ void TestXinHangUpdate::quirk_xinhang_any_disk_fails()
     UpdateBench bench;
     QCOMPARE(bench.pull(), QStringList());
     bench.begin("firmware");
-    bench.exchange("08 02 00 00 00 00 00 | 08 03");
+    bench.feed("08 02 00 00 00 00 00 | 08 03");
     Q_EMIT OrbApplication::instance()->diskDeviceStatusChange(9, 0);
     QCOMPARE(bench.calls(), QStringList(Fails));
 }
@@ -183,7 +179,7 @@ void TestXinHangUpdate::wholeUpdate_data()
     QTest::newRow("one byte less than a packet") << 127 << 1u;
     QTest::newRow("one packet") << 128 << 1u;
     QTest::newRow("one byte more than a packet") << 129 << 2u;
-    QTest::newRow("1 MiB") << 1024 * 1024 << 8192u;
+    QTest::newRow("more packets than a byte counts") << 257 * 128 << 257u;
 }
 
 void TestXinHangUpdate::wholeUpdate()
@@ -194,37 +190,15 @@ void TestXinHangUpdate::wholeUpdate()
     const QByteArray firmware = image(size);
     writeFile(bench.file(), firmware);
     bench.insert();
-    bench.box.takeUntilQuiet(20);
-    QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00"));
-    bench.exchange("08 01");
-    const QByteArray answers =
-        XinHangWire::frame("86 00 00") + XinHangWire::frame("86 01 00 " + hex32(count));
-    QVERIFY(bench.box.waitForBytes(int(answers.size())));
-    QCOMPARE(bench.box.take().toHex(' '), answers.toHex(' '));
-
-    // The box puts the image together from what comes over the line.
-    const int packageSize = 138;
-    QByteArray received;
-    for (quint32 number = 0; number < count;) {
-        QByteArray requests;
-        const quint32 from = number;
-        for (; number < count && number < from + 64; ++number) {
-            requests += XinHangWire::frame("08 02 00 " + hex32(number));
-        }
-        bench.box.send(requests);
-        const int wanted = int(number - from) * packageSize;
-        QVERIFY(bench.box.waitForBytes(wanted));
-        const QByteArray sent = bench.box.take();
-        QCOMPARE(int(sent.size()), wanted);
-        for (quint32 i = from; i < number; ++i) {
-            const QByteArray package = sent.mid(int(i - from) * packageSize, packageSize);
-            QCOMPARE(package, XinHangWire::frame("86 02 00 " + hex32(i) + package.mid(9, 128).toHex()));
-            received += package.mid(9, 128);
-        }
+    QCOMPARE(bench.accept().join("; "), QString("send 86 00 00"));
+    QCOMPARE(bench.feed("08 01").join("; "),
+             "send " + QByteArray::fromHex("860100" + hex32(count)).toHex(' '));
+    for (quint32 number = 0; number < count; ++number) {
+        QCOMPARE(bench.ask(number).value(0), packetCall(firmware, number));
     }
-    QCOMPARE(received.left(size) == firmware, true);
-    QCOMPARE(received.mid(size), QByteArray(int(count) * 128 - size, '\xFF'));
-    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+    QCOMPARE(bench.ask(count), QStringList(Fails));
+    QCOMPARE(bench.feed("08 03").join("; "), QString("send 86 03 00"));
+    QCOMPARE(bench.ask(0), QStringList(Fails));
 }
 
 void TestXinHangUpdate::anyOrder()
@@ -267,12 +241,12 @@ void TestXinHangUpdate::refusedFiles()
         }
     }
     QCOMPARE(bench.accept(), QStringList(Fails));
-    QCOMPARE(bench.exchange("08 01"), QStringList(Fails));
+    QCOMPARE(bench.feed("08 01"), QStringList(Fails));
     // The right file again: the same dialog starts the update.
     QFile::remove(bench.file());
     QDir().rmdir(bench.file());
     writeFile(bench.file(), "firmware");
-    QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00"));
+    QCOMPARE(bench.accept().join("; "), QString("send 86 00 00"));
 }
 
 void TestXinHangUpdate::largestFile()
@@ -282,7 +256,7 @@ void TestXinHangUpdate::largestFile()
     QVERIFY(QFile(bench.file()).resize(64 * 1024 * 1024));
     bench.insert();
     bench.accept();
-    QCOMPARE(XinHang::joined(bench.exchange("08 01")), QString("send 86 01 00 00 08 00 00"));
+    QCOMPARE(bench.feed("08 01").join("; "), QString("send 86 01 00 00 08 00 00"));
     QVERIFY(bench.answers(0x7FFFF));
     QCOMPARE(bench.ask(0x80000), QStringList(Fails));
 }
@@ -306,10 +280,10 @@ void TestXinHangUpdate::failedRequests()
     bench.insert();
     bench.accept();
     QCOMPARE(bench.ask(0), QStringList(Fails)); // before the count
-    bench.exchange("08 01");
-    QTEST(XinHang::joined(bench.exchange(packages)), "calls");
+    bench.feed("08 01");
+    QTEST(bench.feed(packages).join("; "), "calls");
     QVERIFY(bench.answers(1));
-    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+    QCOMPARE(bench.feed("08 03").join("; "), QString("send 86 03 00"));
     QCOMPARE(bench.ask(0), QStringList(Fails));
 }
 
@@ -347,7 +321,7 @@ void TestXinHangUpdate::changedFile()
     for (const quint32 number : {1u, 2u, 3u, 4u, 5u, 6u, 7u}) {
         QVERIFY(bench.answers(number));
     }
-    QCOMPARE(XinHang::joined(bench.exchange("08 03")), QString("send 86 03 00"));
+    QCOMPARE(bench.feed("08 03").join("; "), QString("send 86 03 00"));
 }
 
 void TestXinHangUpdate::secondUpdate()
@@ -357,9 +331,9 @@ void TestXinHangUpdate::secondUpdate()
         writeFile(bench.file(name), image(200));
         QCOMPARE(bench.insert(), QStringList(Offers));
         bench.accept();
-        QCOMPARE(XinHang::joined(bench.accept()), QString("send 86 00 00")); // the user starts anew
-        QCOMPARE(XinHang::joined(bench.exchange("08 01")), QString("send 86 01 00 00 00 00 02"));
-        bench.exchange("08 03");
+        QCOMPARE(bench.accept().join("; "), QString("send 86 00 00")); // the user starts anew
+        QCOMPARE(bench.feed("08 01").join("; "), QString("send 86 01 00 00 00 00 02"));
+        bench.feed("08 03");
         QVERIFY(QFile::remove(bench.file(name))); // and the next one is elsewhere
     }
 }
