@@ -66,9 +66,9 @@ void TestHost::tickCount()
     const quint64 start = GetTickCountMs();
     QElapsedTimer timer;
     timer.start();
-    QTest::qWait(20);
+    QTRY_VERIFY(GetTickCountMs() >= start + 20);
     const quint64 passed = GetTickCountMs() - start;
-    QVERIFY(passed >= 19 && qint64(passed) <= timer.elapsed() + 1);
+    QVERIFY(qint64(passed) <= timer.elapsed() + 1);
 
     host()->holdTickCount(~quint64(0));
     QCOMPARE(GetTickCountMs(), ~quint64(0));
