@@ -88,7 +88,7 @@ QString textOf(const SelectDialog &dialog)
         parts << (box->isChecked() ? "[x]" : "[ ]") + box->text();
     }
     if (!dialog.getSliderValueText().isEmpty()) {
-        parts << "number" + dialog.getSliderValueText().rightJustified(2);
+        parts << "number \"" + dialog.getSliderValueText() + '"';
     }
     return parts.join(' ');
 }
@@ -360,7 +360,7 @@ void TestVwMenu::replies()
                 heard << QString::number(command, 16);
             }
         }
-        lines << QString("page %1 %2 hears %3")
+        lines << QString("page %1 \"%2\" hears [%3]")
                      .arg(page)
                      .arg(VWFunctionSetting::getAppTitleFromId(unsigned(page)), heard.join(' '));
         for (int mode : page == 785 ? QList<int>{0, 3, 6} : QList<int>{0}) {
