@@ -306,9 +306,14 @@ QString growthOf(int page, int mode, int subType)
 {
     QStringList steps;
     QMap<QString, QString> before = shownBy(stateOf(page, mode));
+    const int filled = mode == 6 ? 2 : 1; // a code that the rows of the mode know
+    Vw::PageState whole = stateOf(page, mode);
+    if (!take(whole, reply(subType, filled, mode)) || shownBy(whole) == before) {
+        return QString();
+    }
     for (int size = 1; size <= 8; ++size) {
         Vw::PageState state = stateOf(page, mode);
-        take(state, reply(subType, mode == 6 ? 2 : 1, mode, size));
+        take(state, reply(subType, filled, mode, size));
         const QMap<QString, QString> shown = shownBy(state);
         for (auto row = shown.begin(); row != shown.end(); ++row) {
             if (before.value(row.key()) != row.value()) {
