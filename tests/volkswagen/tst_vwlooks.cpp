@@ -2,6 +2,7 @@
 #include "testmain.h"
 #include "vwbench.h"
 
+#include "volkswagen/figurelabel.h"
 #include "volkswagen/volkswagenwindow.h"
 #include "volkswagen/vwsettingstable.h"
 
@@ -14,6 +15,7 @@ private Q_SLOTS:
     void initTestCase();
     void textsFit_data() { Looks::addRows(m_scenes); }
     void textsFit() { Looks::check(m_scenes); }
+    void figuresStayInside();
 
 private:
     void addDriving(const char *name, const char *button, const char *packages);
@@ -99,6 +101,27 @@ void TestVwLooks::initTestCase()
                               Vw::text("Parking and manoeuvring") + ' ' + VWFunctionSetting::tr("settings") +
                               " ?");
     });
+}
+
+// A figure shrinks to the room it has and fills it: no ink on the first and last line, some in the middle.
+void TestVwLooks::figuresStayInside()
+{
+    for (const QSize &size : {QSize(400, 40), QSize(140, 90), QSize(400, 30)}) {
+        FigureLabel figure;
+        figure.setText("6553.5 mph(UK)");
+        figure.resize(size);
+        const QImage picture = figure.grab().toImage();
+        const auto hasInk = [&picture](const QRect &area) {
+            const QImage part = picture.copy(area);
+            QImage blank(part.size(), part.format());
+            blank.fill(picture.pixelColor(0, 0));
+            return part != blank;
+        };
+        QVERIFY(!hasInk(QRect(0, 0, size.width(), 1)));
+        QVERIFY(!hasInk(QRect(0, size.height() - 1, size.width(), 1)));
+        QVERIFY(!hasInk(QRect(size.width() - 1, 0, 1, size.height())));
+        QVERIFY(hasInk(QRect(0, size.height() / 2, size.width() / 2, 1)));
+    }
 }
 
 CANBUS_TEST_MAIN(TestVwLooks)
