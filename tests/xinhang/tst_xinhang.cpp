@@ -18,6 +18,7 @@ private Q_SLOTS:
     void menuKey();
 
 private:
+    QStringList state() const;
     QStringList carryOut(const QString &order);
     QStringList each(const QString &package);
     void callUnit(const QString &what, const QStringList &with);
@@ -97,6 +98,17 @@ QStringList TestXinHang::carryOut(const QString &order)
     return m_bench->calls();
 }
 
+/// Which screen is shown, and whether the unit still tells the box that it is ready.
+QStringList TestXinHang::state() const
+{
+    if (!m_bench) {
+        return QStringList();
+    }
+    const bool tells = m_bench->adapter->findChild<QTimer *>("sendReadyTimer")->isActive();
+    return {QString("screen %1").arg(m_bench->adapter->getDisplay()),
+            tells ? "tells ready" : "no more ready"};
+}
+
 void TestXinHang::transcript()
 {
     const auto act = [this](const QString &order) {
@@ -104,10 +116,13 @@ void TestXinHang::transcript()
             m_bench.reset();
             return QStringList();
         }
-        const int before = m_bench ? m_bench->adapter->getDisplay() : 0;
+        const QStringList before = state();
         QStringList lines = carryOut(order);
-        const int display = m_bench ? m_bench->adapter->getDisplay() : 0;
-        return display == before ? lines : lines << QString("screen %1").arg(display);
+        const QStringList after = state();
+        for (int i = 0; i < after.size(); ++i) {
+            lines << (before.value(i) == after.at(i) ? QStringList() : QStringList(after.at(i)));
+        }
+        return lines;
     };
     const DebugLog quiet;
     COMPARE_WITH_TRANSCRIPT("xinhang.txt", act);

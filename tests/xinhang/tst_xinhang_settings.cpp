@@ -61,6 +61,7 @@ private Q_SLOTS:
     void storedValues();
     void window_data();
     void window();
+    void windowGoesWhileItAsks();
     void languageChange();
 };
 
@@ -176,6 +177,10 @@ void TestXinHangSettings::storedValues()
     QCOMPARE(OrbIniConfig("carsetting.ini", "CarSetting").value("SetItem132").toInt(), 2);
     const QByteArray shown = QByteArray(1, char(index * 5)).toHex();
     QCOMPARE(alone.box.sent, QByteArrayList({"8b 01 " + shown, "8b 01 0a"}));
+    setItems({});
+    SettingsAlone unlisted;
+    unlisted.settings.syncSettingDataToMcu(132);
+    QCOMPARE(unlisted.box.sent, QByteArrayList());
 }
 
 void TestXinHangSettings::window_data()
@@ -223,7 +228,31 @@ void TestXinHangSettings::window()
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(cell).center());
     QCOMPARE(asked, choice != -2);
     QTEST(rowTexts(view->model(), row).last(), "value");
+    const QString mark = static_cast<TableViewModel *>(view->model())->itemDatas(row).mark();
+    QCOMPARE(mark, QString(choice == -2 ? "" : ":/dazhong/set/xiala.png"));
     QTEST(bench.calls().filter(QRegularExpression("^(?!.*setVisible)")).join("; "), "calls");
+}
+
+// The unit may take its screen and the window away while the driver is asked.
+void TestXinHangSettings::windowGoesWhileItAsks()
+{
+    setItems({});
+    XinHangBench bench;
+    QWidget *const list = OrbHost::instance()->windows().last();
+    list->show();
+    bool asked = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget *const dialog = OrbHost::instance()->frontWindow();
+        asked = dialog != list;
+        delete list;
+        dialog->findChildren<QCheckBox *>().at(2)->click();
+        dialog->findChild<QAbstractButton *>("btnOk")->click();
+    });
+    auto *const view = list->findChild<TableListView *>();
+    bench.calls();
+    Q_EMIT view->clicked(view->model()->index(0, 2));
+    QVERIFY(asked);
+    QCOMPARE(bench.calls().filter("send"), QStringList());
 }
 
 void TestXinHangSettings::languageChange()
