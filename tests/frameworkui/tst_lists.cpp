@@ -103,8 +103,10 @@ void TestLists::removesWhatExists()
     } cases[] = {{1, 1, 4}, {3, 1000, 3}, {4, INT_MAX, 4}, {5, 1, 5}, {-1, 2, 5}, {0, 0, 5}, {0, -1, 5}};
     for (const auto &one : cases) {
         List list(5);
+        QSignalSpy removed(&list.model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
         list.model.removeItemDatas(one.row, one.count);
         QCOMPARE(list.model.rowCount(), one.left);
+        QCOMPARE(removed.size(), int(one.left < 5));
     }
 }
 

@@ -44,8 +44,8 @@ QString textOf(const QWidget *dialog)
     return parts.join(" | ");
 }
 
-/// A screen with windows A and B, dialogs D and E that want an answer, the climate display O and the update
-/// dialog U, each built when it is first named.
+/// A screen with windows A and B, dialogs D and E that want an answer, the climate display O, another such
+/// display P and the update dialog U, each built when it is first named.
 class Stage
 {
 public:
@@ -106,7 +106,7 @@ QWidget *Stage::thing(const QString &name)
         QObject::connect(update, &UpdateDialog::acceptUpdate, [this] { m_notes << "accepted"; });
         found = update;
     } else {
-        found = new PlainDialog(OrbDialog::Choice);
+        found = new PlainDialog(name == "P" ? OrbDialog::Overlay : OrbDialog::Choice);
         QVBoxLayout *const column = new QVBoxLayout(found);
         column->setContentsMargins(10, 10, 10, 10);
         column->addWidget(new QLabel);
@@ -138,6 +138,9 @@ QMap<QString, QString> Stage::state() const
     const OrbHost *const host = OrbHost::instance();
     state["window in front"] = nameOf(host->frontWindow());
     state["all in front"] = nameOf(host->frontWindow(false));
+    const QWidget *const area = host->windowArea();
+    const QWidget *const scrim = area ? area->findChild<QWidget *>("orbScrim") : nullptr;
+    state["scrim"] = scrim && !scrim->isHidden() ? "shown" : "none";
     state["application"] = QString::number(OrbWindowManager::getCurWindowAppId());
     return state;
 }
