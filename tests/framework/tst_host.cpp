@@ -12,8 +12,8 @@
 using TestSupport::contentOf;
 using TestSupport::writeFile;
 
-/// What the framework keeps: titles, icons, GPIO lines, language; and what it passes on. Mostly as it stands in
-/// framework.txt; transcript.h tells how to read that.
+/// What the framework keeps: titles, icons, GPIO lines, language; and what it passes on. Mostly as it stands
+/// in framework.txt; transcript.h tells how to read that.
 class TestHost : public QObject
 {
     Q_OBJECT

@@ -7,9 +7,9 @@
 
 namespace TestSupport {
 
-/// Compares \a lines with the text file \a path as a whole. Empty when they are the same, else the first lines
-/// that differ ("-" the file's, "+" the test's). With ORB_REWRITE_GOLDEN=1 in the environment the file is
-/// written anew instead; what then differs is to be read in the version control before it is committed.
+/// Compares \a lines with the text file \a path as a whole. Empty when they are the same, else the first
+/// lines that differ ("-" the file's, "+" the test's). With ORB_REWRITE_GOLDEN=1 in the environment the file
+/// is written anew instead; what then differs is to be read in the version control before it is committed.
 inline QString goldenDifference(const QString &path, const QStringList &lines)
 {
     const QByteArray actual = lines.join('\n').toUtf8() + '\n';

@@ -4,8 +4,8 @@
 
 #include "orbhost.h"
 
-/// The settings pages where they depart from the plain menu: the warning speed, and what may happen while a page or
-/// its dialog is open.
+/// The settings pages where they depart from the plain menu: the warning speed, and what may happen while a
+/// page or its dialog is open.
 class TestVwPages : public QObject
 {
     Q_OBJECT

@@ -9,8 +9,8 @@
 
 #include <QLabel>
 
-/// The screens as they follow packages and fingers: driving data, tyres, service data and reports. What happens
-/// and what is then to be seen stands in vwscreens.txt; transcript.h tells how to read it.
+/// The screens as they follow packages and fingers: driving data, tyres, service data and reports. What
+/// happens and what is then to be seen stands in vwscreens.txt; transcript.h tells how to read it.
 class TestVwScreens : public QObject
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 
 #include <QTimer>
 
-/// What the box's packages and the unit's calls come to: decoding, keys and display. It stands in xinhang.txt;
-/// transcript.h tells how to read it.
+/// What the box's packages and the unit's calls come to: decoding, keys and display. It stands in
+/// xinhang.txt; transcript.h tells how to read it.
 class TestXinHang : public QObject
 {
     Q_OBJECT
