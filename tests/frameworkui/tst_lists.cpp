@@ -210,15 +210,19 @@ void TestLists::columnsFollowTheTexts()
 void TestLists::switchIsDrawnAsItStands()
 {
     List list(2);
-    const auto colour = [&] {
+    const auto colour = [&](int fromRight) {
         const QRect cell = list.view.visualRect(list.model.index(1, 2));
         const QImage picture = list.view.viewport()->grab().toImage();
-        return picture.pixelColor(cell.right() - 24 - 36, cell.center().y());
+        return picture.pixelColor(cell.right() - 24 - fromRight, cell.center().y());
     };
-    const QColor on = colour();
+    const int right = 20;
+    const int middle = 36;
+    const int left = 52;
+    const QColor on = colour(middle);
+    QVERIFY(colour(right).lightness() > colour(left).lightness() + 60); // where the knob is
     list.model.setCellValue(1, 2, false);
-    const QColor off = colour();
-    QVERIFY(on.blue() > off.blue() + 60);
+    QVERIFY(on.blue() > colour(middle).blue() + 60);
+    QVERIFY(colour(left).lightness() > colour(right).lightness() + 60);
 }
 
 CANBUS_TEST_MAIN(TestLists)
