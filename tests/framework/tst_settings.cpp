@@ -258,6 +258,7 @@ void TestSettings::writeThatStopsAtAnyByte()
         QCOMPARE(::waitpid(child, &status, 0), child);
         if (status != 0) {
             ++stopped;
+            QVERIFY(dies || QDir(m_dir->filePath("set")).entryList({"*.new"}).isEmpty());
         }
         DebugLog log;
         QVERIFY(read("payload") == (status != 0 ? "second" : large));

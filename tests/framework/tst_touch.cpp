@@ -94,8 +94,7 @@ private:
 void TestTouch::init()
 {
     m_log.clear();
-    m_screen = new QWidget;
-    m_screen->resize(400, 200);
+    m_screen = new TouchPad("screen", QRect(0, 0, 400, 200), &m_log, nullptr);
     m_left = new TouchPad("left", QRect(0, 0, 100, 200), &m_log, m_screen);
     m_right = new TouchPad("right", QRect(100, 0, 100, 200), &m_log, m_screen);
     new TouchPad("child", QRect(10, 10, 50, 50), &m_log, m_right);
@@ -136,7 +135,10 @@ void TestTouch::touchReachesTheWidgetUnderIt_data()
         "left press 5,5|left release -1,-1|right press 90,190|right release 90,190");
     row("nothing without a press", {{Release, 5, 5}, {Move, 5, 5}}, "");
     row("press outside the screen", {{Press, 400, 5}, {Move, 5, 5}, {Press, -1, 5}, {Release, 5, 5}}, "");
-    row("press where nothing but the screen is", {{Press, 300, 5}, {Move, 5, 5}, {Release, 5, 5}}, "");
+    row("press outside after a lost release", {{Press, 5, 5}, {Press, 400, 5}, {Move, 5, 5}},
+        "left press 5,5|left release -1,-1");
+    row("press where nothing but the screen is", {{Press, 300, 5}, {Move, 5, 5}, {Release, 5, 5}},
+        "screen press 300,5|screen move 5,5|screen release 5,5");
     row("coordinates as large as they get",
         {{Press, 65535, 65535}, {Press, INT_MIN, INT_MAX}, {Release, INT_MAX, INT_MIN}}, "");
     row("type of another event", {{4, 5, 5}, {0, 5, 5}, {6, 5, 5}, {-1, 5, 5}}, "");

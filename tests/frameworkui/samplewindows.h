@@ -4,7 +4,6 @@
 #include "orbdialog.h"
 #include "orbmainwindow.h"
 
-#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -18,25 +17,33 @@ public:
     explicit HookedWindow(unsigned int appId = 769, QWidget *parent = nullptr) : OrbMainWindow(appId, parent)
     {}
 
-    QStringList hooks;
+    std::function<void(const QString &)> onHook;
     bool deleteOnHome = false;
     bool hideOnBack = false;
 
 protected:
-    void onLoadUiSkin() override { hooks << "load"; }
-    void onVisibleChange(bool visible) override { hooks << (visible ? "visible" : "hidden"); }
+    void onLoadUiSkin() override { note("load"); }
+    void onVisibleChange(bool visible) override { note(visible ? "visible" : "hidden"); }
     void onBackEvent() override
     {
-        hooks << "back";
+        note("back");
         if (hideOnBack) {
             hide();
         }
     }
     void onHomeEvent() override
     {
-        hooks << "home";
+        note("home");
         if (deleteOnHome) {
             deleteLater();
+        }
+    }
+
+private:
+    void note(const QString &hook)
+    {
+        if (onHook) {
+            onHook(hook);
         }
     }
 };
@@ -49,15 +56,11 @@ public:
     explicit PlainDialog(int kind, QWidget *parent = nullptr) : OrbDialog(parent, kind) { resize(300, 200); }
 };
 
-typedef std::function<void(HookedWindow &, PlainDialog &)> Action;
-
 /// Runs \a inside while \a dialog is open, and gives what exec() then returned.
 inline int execWhile(OrbDialog *dialog, const std::function<void()> &inside)
 {
     QTimer::singleShot(0, dialog, inside);
     return dialog->exec();
 }
-
-Q_DECLARE_METATYPE(Action)
 
 #endif // SAMPLEWINDOWS_H

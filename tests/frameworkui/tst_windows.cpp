@@ -1,6 +1,7 @@
 #include "samplewindows.h"
 #include "testmain.h"
 #include "tracerecorder.h"
+#include "transcript.h"
 #include "unitscreen.h"
 
 #include "airconditiondlg.h"
@@ -9,191 +10,230 @@
 #include "updatedialog.h"
 
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include <memory>
 
-/// Windows and dialogs on the unit's screen: what is reported, where they lie, how they outlive the screen.
+/// Windows and dialogs on the unit's screen: what is reported, where they lie, what dialogs return, how they
+/// outlive the screen. It stands in windows.txt; transcript.h tells how to read it.
 class TestWindows : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void callsAreTracedOnce_data();
-    void callsAreTracedOnce();
-    void hooksFollowTheWindow();
-    void hooksMayDeleteTheWindow();
-    void windowsAndDialogsHaveTheirPlaces();
-    void frontIsTheTopmost();
-    void screenGoesBeforeItsWindows();
-    void screenIsReplaced();
-    void deletedWindowsAreForgotten();
+    void transcript();
     void titleIsShown();
     void processEndsWithDialogsOpen();
 };
 
-void TestWindows::callsAreTracedOnce_data()
+namespace {
+
+/// "btnOk:Update btnCancel:Later 42": what of the update dialog is to be seen.
+QString textOf(const QWidget *dialog)
 {
-    QTest::addColumn<QString>("calls"); // setVisible of window and dialog, + for true
-    QTest::addColumn<Action>("action");
-    typedef HookedWindow W;
-    typedef PlainDialog D;
-    const auto row = [](const char *name, const char *calls, const Action &action) {
-        QTest::newRow(name) << QString(calls) << action;
-    };
-    row("nothing changes", "W+ W+ D- D-", [](W &w, D &d) { w.show(), w.show(), d.hide(), d.hide(); });
-    row("window back", "W+ W-", [](W &w, D &) { w.show(), w.back(); });
-    row("back hook hides itself", "W+ W-", [](W &w, D &) { w.hideOnBack = true, w.show(), w.back(); });
-    row("window home", "W+ W-", [](W &w, D &) { w.show(), w.home(); });
-    row("home of a hidden window", "", [](W &w, D &) { w.home(); });
-    row("window closed", "W+ W-", [](W &w, D &) { w.show(), w.close(); });
-    row("dialog accepted", "D+ D-", [](W &, D &d) { d.show(), d.accept(); });
-    row("dialog back", "D+ D-", [](W &, D &d) { d.show(), d.back(); });
-    row("dialog executed", "D+ D-", [](W &, D &d) { execWhile(&d, [&d] { d.accept(); }); });
-    row("screen goes", "W+ D+",
-        [](W &w, D &d) { w.show(), d.show(), OrbHost::instance()->setScreen(nullptr, nullptr); });
-}
-
-void TestWindows::callsAreTracedOnce()
-{
-    QFETCH(QString, calls);
-    QFETCH(Action, action);
-    TestScreen screen;
-    HookedWindow window;
-    PlainDialog dialog(OrbDialog::Choice);
-    TraceRecorder trace;
-    action(window, dialog);
-    calls.replace('W', "HookedWindow.setVisible").replace('D', "PlainDialog.setVisible");
-    QCOMPARE(trace.lines().join(' '), calls.replace('+', "(true)").replace('-', "(false)"));
-}
-
-void TestWindows::hooksFollowTheWindow()
-{
-    TestScreen screen;
-    HookedWindow window;
-    window.hide();
-    QCOMPARE(window.hooks, QStringList());
-    window.show();
-    window.show();
-    window.back();
-    window.show();
-    window.home();
-    QCOMPARE(window.hooks, QStringList({"load", "visible", "back", "hidden", "visible", "home", "hidden"}));
-    window.hooks.clear();
-    window.show();
-    OrbHost::instance()->setScreen(nullptr, nullptr);
-    QCOMPARE(window.hooks, QStringList({"visible", "hidden"}));
-}
-
-void TestWindows::hooksMayDeleteTheWindow()
-{
-    TestScreen screen;
-    QPointer<HookedWindow> window(new HookedWindow);
-    window->deleteOnHome = true;
-    window->show();
-    window->findChild<QPushButton *>("btnHome")->click();
-    QVERIFY(window && window->isHidden());
-    QTRY_VERIFY(!window);
-}
-
-void TestWindows::windowsAndDialogsHaveTheirPlaces()
-{
-    TestScreen screen;
-    HookedWindow window;
-    AirConditionDlg overlay;
-    PlainDialog choice(OrbDialog::Choice);
-    QVBoxLayout column(&choice);
-    QLabel content;
-    column.addWidget(&content);
-    window.show(), overlay.show(), choice.show();
-
-    const QRect area = screen.area()->rect();
-    QCOMPARE(window.geometry(), area);
-    QCOMPARE(overlay.geometry(), QRect(0, area.height() - 190, area.width(), 190));
-    QCOMPARE(choice.width(), 560);
-    QVERIFY((choice.geometry().center() - area.center()).manhattanLength() <= 2);
-
-    screen.resize(800, 480);
-    QCoreApplication::processEvents();
-    QCOMPARE(window.geometry(), screen.area()->rect());
-    QCOMPARE(overlay.geometry(), QRect(0, 432 - 190, 800, 190));
-
-    // What needs more room gets it, up to the screen.
-    content.setMinimumSize(700, 300);
-    QTRY_COMPARE(choice.width(), 700 + column.contentsMargins().left() + column.contentsMargins().right());
-    content.setMinimumSize(2000, 2000);
-    QTRY_COMPARE(choice.size(), QSize(800 - 32, 432 - 32));
-}
-
-void TestWindows::frontIsTheTopmost()
-{
-    TestScreen screen;
-    OrbHost *host = OrbHost::instance();
-    HookedWindow first(769), second(770);
-    AirConditionDlg overlay;
-    PlainDialog choice(OrbDialog::Choice);
-    QSignalSpy changes(host, SIGNAL(windowsChanged()));
-    QVERIFY(!host->frontWindow());
-    first.show(), second.show(), overlay.show();
-    QCOMPARE(changes.size(), 3);
-    QCOMPARE(host->frontWindow(), &second);
-    QCOMPARE(host->frontWindow(false), &overlay);
-    first.show();
-    QCOMPARE(host->frontWindow(), &first);
-    QCOMPARE(OrbWindowManager::getCurWindowAppId(), 769u);
-    // A window that is shown later still lies below the overlay.
-    QCOMPARE(host->frontWindow(false), &overlay);
-    QCOMPARE(screen.childAt(500, 500), &overlay);
-    choice.show();
-    overlay.show();
-    QCOMPARE(host->frontWindow(false), &choice);
-    choice.back();
-    first.back();
-    QCOMPARE(host->frontWindow(), &second);
-    QCOMPARE(host->windows(), QList<QWidget *>({&first, &second, &overlay, &choice}));
-}
-
-void TestWindows::screenGoesBeforeItsWindows()
-{
-    std::unique_ptr<TestScreen> screen(new TestScreen);
-    AirConditionDlg overlay;
-    HookedWindow window;
-    PlainDialog choice(OrbDialog::Choice);
-    overlay.show(), window.show(), choice.show();
-    screen.reset();
-    for (QWidget *widget : {static_cast<QWidget *>(&overlay), static_cast<QWidget *>(&window),
-                            static_cast<QWidget *>(&choice)}) {
-        QVERIFY(!widget->parentWidget());
-        QVERIFY(widget->isHidden());
+    QStringList parts;
+    for (const QWidget *part : dialog->findChildren<QWidget *>()) {
+        const QProgressBar *const bar = qobject_cast<const QProgressBar *>(part);
+        const QString text = bar ? QString::number(bar->value()) : part->property("text").toString();
+        if (!part->isHidden() && !text.isEmpty()) {
+            parts << part->objectName() + ':' + text;
+        }
     }
-    QVERIFY(!OrbHost::instance()->frontWindow(false));
+    return parts.join(" | ");
 }
 
-void TestWindows::screenIsReplaced()
+/// A screen with windows A and B, dialogs D and E that want an answer, the climate display O, another such
+/// display P and the update dialog U, each built when it is first named.
+class Stage
 {
-    TestScreen first;
-    HookedWindow window;
-    window.show();
-    TestScreen second(QSize(800, 480));
-    QVERIFY(window.isHidden());
-    window.show();
-    QCOMPARE(window.parentWidget(), second.area());
-    QCOMPARE(window.geometry(), second.area()->rect());
+public:
+    ~Stage()
+    {
+        for (const QPointer<QWidget> &thing : m_things) {
+            delete thing;
+        }
+    }
+
+    QStringList act(const QString &order)
+    {
+        const QMap<QString, QString> before = state();
+        m_notes.clear();
+        m_trace.take();
+        carryOut(order);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+        QStringList lines = m_trace.take() + m_notes;
+        const QMap<QString, QString> after = state();
+        for (auto part = after.begin(); part != after.end(); ++part) {
+            if (before.value(part.key()) != *part) {
+                lines << part.key() + ": " + *part;
+            }
+        }
+        return lines;
+    }
+
+private:
+    QWidget *thing(const QString &name);
+    QMap<QString, QString> state() const;
+    void carryOut(const QString &order);
+    void actOn(QWidget *thing, const QString &what, const QString &with);
+    void setScreen(const QString &what, const QSize &size);
+
+    std::unique_ptr<TestScreen> m_screen;
+    std::unique_ptr<TestScreen> m_second;
+    TraceRecorder m_trace;
+    QMap<QString, QPointer<QWidget>> m_things;
+    QStringList m_notes;
+};
+
+QWidget *Stage::thing(const QString &name)
+{
+    QPointer<QWidget> &found = m_things[name];
+    if (found) {
+        return found;
+    }
+    if (name == "A" || name == "B") {
+        auto *const window = new HookedWindow(name == "A" ? 769 : 770);
+        window->onHook = [this, name](const QString &hook) { m_notes << name + ' ' + hook; };
+        found = window;
+    } else if (name == "O") {
+        found = new AirConditionDlg;
+    } else if (name == "U") {
+        auto *const update = new UpdateDialog;
+        QObject::connect(update, &UpdateDialog::acceptUpdate, [this] { m_notes << "accepted"; });
+        found = update;
+    } else {
+        found = new PlainDialog(name == "P" ? OrbDialog::Overlay : OrbDialog::Choice);
+        QVBoxLayout *const column = new QVBoxLayout(found);
+        column->setContentsMargins(10, 10, 10, 10);
+        column->addWidget(new QLabel);
+        found->findChild<QLabel *>()->setMinimumSize(50, 50);
+    }
+    return found;
 }
 
-void TestWindows::deletedWindowsAreForgotten()
+QMap<QString, QString> Stage::state() const
 {
-    TestScreen screen;
-    OrbHost *host = OrbHost::instance();
-    HookedWindow below(1);
-    below.show();
-    HookedWindow *above = new HookedWindow(2);
-    above->show();
-    QCOMPARE(host->frontWindow(), above);
-    delete above;
-    QCOMPARE(host->windows(), QList<QWidget *>({&below}));
-    QCOMPARE(host->frontWindow(), &below);
+    QMap<QString, QString> state;
+    for (auto thing = m_things.begin(); thing != m_things.end(); ++thing) {
+        QWidget *const widget = *thing;
+        QStringList parts{!widget ? "deleted" : widget->isHidden() ? "hidden" : "shown"};
+        if (widget && !widget->parentWidget()) {
+            parts << "on no screen";
+        } else if (widget && thing.key() != "U" && !widget->isHidden()) {
+            const QRect place = widget->geometry();
+            parts << QString("%1,%2 %3x%4")
+                         .arg(place.x())
+                         .arg(place.y())
+                         .arg(place.width())
+                         .arg(place.height());
+        }
+        state[thing.key()] =
+            parts.join(' ') + (widget && thing.key() == "U" ? "; " + textOf(widget) : QString());
+    }
+    const auto nameOf = [this](QWidget *widget) { return widget ? m_things.key(widget, "another") : "none"; };
+    const OrbHost *const host = OrbHost::instance();
+    state["window in front"] = nameOf(host->frontWindow());
+    state["all in front"] = nameOf(host->frontWindow(false));
+    const QWidget *const area = host->windowArea();
+    const QWidget *const scrim = area ? area->findChild<QWidget *>("orbScrim") : nullptr;
+    state["scrim"] = scrim && !scrim->isHidden() ? "shown" : "none";
+    state["application"] = QString::number(OrbWindowManager::getCurWindowAppId());
+    return state;
+}
+
+void Stage::setScreen(const QString &what, const QSize &size)
+{
+    if (what == "new") {
+        m_screen.reset(new TestScreen(size));
+    } else if (what == "second") {
+        m_second.reset(new TestScreen(size));
+    } else if (what == "size") {
+        m_screen->resize(size);
+    } else if (what == "deleted") {
+        m_screen.reset();
+    } else {
+        OrbHost::instance()->setScreen(nullptr, nullptr);
+    }
+}
+
+void Stage::actOn(QWidget *thing, const QString &what, const QString &with)
+{
+    auto *const window = qobject_cast<HookedWindow *>(thing);
+    auto *const dialog = qobject_cast<OrbDialog *>(thing);
+    auto *const update = qobject_cast<UpdateDialog *>(thing);
+    const QMap<QString, std::function<void()>> orders{
+        {"show", [=] { thing->show(); }},
+        {"hide", [=] { thing->hide(); }},
+        {"close", [=] { thing->close(); }},
+        {"delete", [=] { delete thing; }},
+        {"back", [=] { window ? window->back() : dialog->back(); }},
+        {"home", [=] { window->home(); }},
+        {"hides-on-back", [=] { window->hideOnBack = true; }},
+        {"goes-on-home", [=] { window->deleteOnHome = true; }},
+        {"accept", [=] { dialog->accept(); }},
+        {"done", [=] { dialog->done(with.toInt()); }},
+        {"exec",
+         [=] {
+             const int result = execWhile(dialog, [=] {
+                 for (const QString &order : with.split("; ")) {
+                     carryOut(order);
+                 }
+             });
+             m_notes << QString("returned %1").arg(result);
+         }},
+        {"needs", [=] { thing->findChild<QLabel *>()->setMinimumSize(with.toInt(), 300); }},
+        {"asks", [=] { update->showUpdateDlg(with.toInt()); }},
+        {"percent", [=] { update->updatePercent(with.toInt()); }},
+        {"failed", [=] { update->setUpdateFailed(with.toInt()); }},
+        {"click", [=] { update->findChild<QPushButton *>(with)->click(); }},
+        {"silence", [=] {
+             QTimer *const timer = update->findChild<QTimer *>("silence");
+             m_notes << (timer->isActive() ? QString::number(timer->interval()) + " ms passed"
+                                           : "nobody waits");
+             if (timer->isActive()) {
+                 timer->stop();
+                 QMetaObject::invokeMethod(timer, "timeout");
+             }
+         }}};
+    if (!orders.contains(what)) {
+        qFatal("unknown order: %s", qPrintable(what));
+    }
+    orders[what]();
+}
+
+void Stage::carryOut(const QString &order)
+{
+    const QString name = order.section(' ', 0, 0);
+    const QString what = order.section(' ', 1, 1);
+    const QString with = order.section(' ', 2);
+    if (name == "screen") {
+        setScreen(what, QSize(with.section('x', 0, 0).toInt(), with.section('x', 1).toInt()));
+    } else if (name == "language") {
+        OrbHost::instance()->setLanguage(what);
+    } else {
+        actOn(thing(name), what, with);
+    }
+}
+
+} // namespace
+
+void TestWindows::transcript()
+{
+    OrbHost::instance()->addTranslationDir(TRANSLATION_FOLDER);
+    std::unique_ptr<Stage> stage;
+    const auto act = [&stage](const QString &order) {
+        if (order.startsWith("==")) {
+            stage.reset();
+            stage.reset(new Stage);
+            return QStringList();
+        }
+        return stage->act(order);
+    };
+    COMPARE_WITH_TRANSCRIPT("windows.txt", act);
 }
 
 void TestWindows::titleIsShown()

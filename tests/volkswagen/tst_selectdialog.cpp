@@ -1,5 +1,4 @@
 #include "adapterfixture.h"
-#include "unitscreen.h"
 #include "vwbench.h"
 
 #include "volkswagen/flowlayout.h"
@@ -202,25 +201,31 @@ void TestSelectDialog::ends()
 
 void TestSelectDialog::flowWraps()
 {
-    QWidget parent;
-    FlowLayout *flow = new FlowLayout(20, 20, 20, &parent);
-    QList<QWidget *> tiles;
+    FlowLayout flow(20, 30, 25);
     for (int i = 0; i < 4; ++i) {
-        tiles << new QWidget;
-        tiles.last()->setFixedSize(100, 60);
-        flow->addWidget(tiles.last());
+        flow.addItem(new QSpacerItem(100, i == 3 ? 80 : 60));
     }
-    QCOMPARE(flow->heightForWidth(260), 2 * 60 + 20 + 40);
-    QCOMPARE(flow->heightForWidth(259), 4 * 60 + 3 * 20 + 40);
-    QCOMPARE(flow->heightForWidth(1000), 60 + 40);
-    parent.resize(260, 300);
-    flow->setGeometry(parent.rect());
-    QCOMPARE(tiles.at(1)->pos(), QPoint(140, 20));
-    QCOMPARE(tiles.at(2)->pos(), QPoint(20, 100));
+    const auto places = [&flow](const QRect &room) {
+        flow.setGeometry(room);
+        QStringList tiles;
+        for (int i = 0; i < flow.count(); ++i) {
+            const QRect tile = flow.itemAt(i)->geometry();
+            tiles << QString("%1,%2 %3x%4").arg(tile.x()).arg(tile.y()).arg(tile.width()).arg(tile.height());
+        }
+        return tiles.join(" | ");
+    };
+    QCOMPARE(places(QRect(0, 0, 270, 300)),
+             QString("20,20 100x60 | 150,20 100x60 | 20,105 100x60 | 150,105 100x80"));
+    QCOMPARE(flow.heightForWidth(270), 205);
+    QCOMPARE(places(QRect(5, 7, 269, 300)),
+             QString("25,27 100x60 | 25,112 100x60 | 25,197 100x60 | 25,282 100x80"));
+    QCOMPARE(flow.heightForWidth(269), 375);
+    QCOMPARE(flow.heightForWidth(1000), 120);
     // A tile wider than the room gets the room.
-    flow->setGeometry(QRect(0, 0, 10, 10));
-    delete flow->takeAt(3);
-    QVERIFY(!flow->takeAt(3) && !flow->itemAt(7));
+    QCOMPARE(places(QRect(0, 0, 90, 900)),
+             QString("20,20 50x60 | 20,105 50x60 | 20,190 50x60 | 20,275 50x80"));
+    delete flow.takeAt(3);
+    QVERIFY(!flow.takeAt(3) && !flow.takeAt(-1) && !flow.itemAt(7));
 }
 
 CANBUS_TEST_MAIN(TestSelectDialog)

@@ -1,252 +1,226 @@
 #include "adapterfixture.h"
-#include "unitscreen.h"
+#include "golden.h"
 #include "vwbench.h"
-#include "vwmenu.h"
+
+#include "volkswagen/vwpagestate.h"
+
+#include "boxcatalog.h"
+#include "decoderbox.h"
 
 #include "orbhost.h"
 
 #include <QCheckBox>
 #include <QLabel>
 
-/// Walks the whole settings menu under a finger: every row of every page, its dialog, the command that goes
-/// out, the reply, and the text that then stands in the row.
+/// The car's settings menu as the text vwmenu.txt: what every row shows and does under a finger, with a virtual
+/// box behind it. golden.h says how the text is written anew.
 class TestVwMenu : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void pages_data();
-    void pages();
-    void rows_data();
-    void rows();
+    void menu();
 };
 
 namespace {
 
-using VwBench::cancel;
-using VwBench::choose;
-using VwBench::commands;
 using VwBench::Page;
-using VwMenu::Row;
 
-QString titleOf(const SelectDialog &dialog)
+/// A page, in a car in a driving mode; null for a car that says nothing.
+struct Scene
 {
-    return dialog.findChild<QLabel *>("txtTitle")->text();
-}
+    int page;
+    const char *mode;
+};
 
-void walkSwitch(Page &bench, const Row &row)
+/// A page with the virtual box behind it, without a line between them. Each hears the other when told to.
+struct BoxedPage : Page
 {
-    QVERIFY(!bench.tap(row.item, nullptr, 0));
-    QCOMPARE(bench.sent(), QStringList());
-    for (int value : {1, 0, 1}) {
-        QVERIFY(!bench.tap(row.item, nullptr, 2));
-        QCOMPARE(bench.sent(), commands(row.item, value));
-        QCOMPARE(bench.valueOf(row.item), QString(value ? "on" : "off"));
-    }
-}
-
-void walkOptions(Page &bench, const Row &row)
-{
-    const QStringList options = row.options();
-    QVERIFY(bench.tap(row.item, cancel));
-    // Nothing is known yet, so nothing is checked and OK chooses nothing.
-    QVERIFY(bench.tap(row.item, [](SelectDialog &dialog) {
-        QCOMPARE(dialog.getCheckedIndex(), -1);
-        VwBench::click(dialog, "btnOk");
-    }));
-    QCOMPARE(bench.sent(), QStringList());
-    QCOMPARE(bench.valueOf(row.item), QString());
-
-    for (int i = 0; i < options.size(); ++i) {
-        // The car's answer differs from the choice, so that it is seen to have the last word.
-        const int other = (i + 1) % options.size();
-        bench.feed(row.reply(row.code(other)));
-        QCOMPARE(bench.valueOf(row.item), options.at(other));
-        QVERIFY(bench.tap(row.item, [&](SelectDialog &dialog) {
-            QCOMPARE(titleOf(dialog), QString(row.label));
-            QStringList shown;
-            for (const QCheckBox *box : dialog.findChildren<QCheckBox *>()) {
-                shown << box->text();
-            }
-            QCOMPARE(shown, options);
-            QCOMPARE(dialog.getCheckedIndex(), other);
-            choose(dialog, i);
-        }));
-        QCOMPARE(bench.sent(), commands(row.item, row.code(i)));
-        QCOMPARE(bench.valueOf(row.item), options.at(i));
-        bench.feed(row.reply(row.code(other)));
-        QCOMPARE(bench.valueOf(row.item), options.at(other));
-        QVERIFY(bench.tap(row.item, cancel));
-        QCOMPARE(bench.sent(), QStringList());
-    }
-}
-
-void walkNumber(Page &bench, const Row &row)
-{
-    const QStringList range = row.options();
-    const int minimum = range.at(0).toInt();
-    const int maximum = range.at(1).toInt();
-    const int step = range.at(2).toInt();
-    const QString unit = range.at(3).isEmpty() ? QString() : ' ' + range.at(3);
-    const struct
+    explicit BoxedPage(const Scene &scene)
+        : Page(unsigned(scene.page)), box(scene.mode ? BoxCatalog::createBox(3, nullptr, nullptr) : nullptr)
     {
-        int before, steps, after;
-    } moves[] = {{minimum, 0, minimum},  {minimum, 1, minimum + step}, {maximum, -1, maximum - step},
-                 {minimum, 40, maximum}, {maximum, -40, minimum},      {maximum - 1, 1, maximum}};
-    for (const auto &move : moves) {
-        bench.feed(row.reply(move.before));
-        QCOMPARE(bench.valueOf(row.item), QString::number(move.before) + unit);
-        QVERIFY(bench.tap(row.item, [&](SelectDialog &dialog) {
-            QCOMPARE(titleOf(dialog), QString(row.label));
-            QCOMPARE(dialog.getSliderValueText().trimmed(), QString::number(move.before) + unit);
-            VwBench::step(dialog, move.steps);
-            VwBench::click(dialog, "btnOk");
-        }));
-        QCOMPARE(bench.sent(), commands(row.item, move.after));
-        QCOMPARE(bench.valueOf(row.item), QString::number(move.after) + unit);
+        if (!box) {
+            return;
+        }
+        box->car()->setValue("settings.drive.mode", scene.mode);
+        tell(requests);
+        VwBench::feed(*adapter, "60 02 12 03 00 00 00 00 00 | 61 01 00 05 00 | 62 01 03 00 00");
     }
-    if (row.item == 33) {
-        return;
+
+    /// Lets the box take packages of the unit, and the unit the box's answers. What changed in the car.
+    QStringList tell(const QStringList &packages)
+    {
+        if (!box) {
+            return QStringList();
+        }
+        QSignalSpy changed(box->car(), &SimulatedCar::changed);
+        QSignalSpy due(box->speaker(), &BoxSpeaker::reportDue);
+        for (const QString &package : packages) {
+            const QByteArray bytes = QByteArray::fromHex(package.toLatin1());
+            box->speaker()->receive({quint8(bytes.at(0)), bytes.mid(1)}, &meaning);
+        }
+        for (const QVariantList &report : due) {
+            const BoxPackage package = box->speaker()->reportPackage(report.first().toInt());
+            adapter->onRecvMcuProtocol(RaiseWire::frame(package.command, package.data));
+        }
+        QStringList properties;
+        for (const QVariantList &property : changed) {
+            const QString name = property.first().toString();
+            properties << name + '=' + box->car()->text(name);
+        }
+        return properties;
     }
-    QVERIFY(bench.tap(row.item, [](SelectDialog &dialog) {
-        VwBench::step(dialog, -1);
-        cancel(dialog);
-    }));
-    QCOMPARE(bench.sent(), QStringList());
-    QCOMPARE(bench.valueOf(row.item), QString::number(maximum) + unit);
-    // A value that no choice can have is shown, and the dialog brings it back into the range.
-    const int largest = (1 << row.width) - 1;
-    bench.feed(row.reply(largest));
-    QVERIFY(bench.tap(row.item, [](SelectDialog &dialog) { VwBench::click(dialog, "btnOk"); }));
-    QCOMPARE(bench.sent(), commands(row.item, maximum));
+
+    std::unique_ptr<DecoderBox> box;
+    QString meaning;
+};
+
+QString textOf(const SelectDialog &dialog)
+{
+    QStringList parts{"dialog \"" + dialog.findChild<QLabel *>("txtTitle")->text() + '"'};
+    if (const QLabel *text = dialog.findChild<QLabel *>("labelContent")) {
+        parts << '"' + text->text() + '"';
+    }
+    for (const QCheckBox *box : dialog.findChildren<QCheckBox *>()) {
+        parts << (box->isChecked() ? "[x]" : "[ ]") + box->text();
+    }
+    if (!dialog.getSliderValueText().isEmpty()) {
+        parts << "number \"" + dialog.getSliderValueText() + '"';
+    }
+    return parts.join(' ');
 }
 
-void walkConfirmed(Page &bench, const Row &row)
+/// What a test does in a dialog, and what it notes of it.
+typedef std::function<QString(SelectDialog &)> Answer;
+
+QString ok(SelectDialog &dialog)
 {
-    const bool factory = row.page == 781;
-    const QString label = row.label;
-    QVERIFY(bench.tap(row.item, [&](SelectDialog &dialog) {
-        QCOMPARE(titleOf(dialog), QString(factory ? "Factory settings" : "Driving data"));
-        QCOMPARE(dialog.findChild<QLabel *>("labelContent")->text(),
-                 factory ? "Are you sure restore " + label + " settings ?" : "Are you sure " + label + "?");
-        cancel(dialog);
-    }));
-    QCOMPARE(bench.sent(), QStringList());
-    QVERIFY(bench.tap(row.item, [](SelectDialog &dialog) { VwBench::click(dialog, "btnOk"); }));
-    QCOMPARE(bench.sent(), commands(row.item, 1));
+    VwBench::click(dialog, "btnOk");
+    return QString();
 }
 
-void walkLink(Page &bench, const Row &row)
+/// Rows that are new or, where their number has changed, gone ("-").
+QStringList changes(const QStringList &before, const QStringList &now)
 {
-    QVERIFY(!VwBench::tap(*bench.page, VwBench::rowOf(*bench.page, QString(row.label)), 0));
-    VWFunctionSetting *opened = qobject_cast<VWFunctionSetting *>(OrbHost::instance()->frontWindow());
-    QVERIFY(opened && opened != bench.page);
-    QCOMPARE(int(opened->appId()), row.item);
-    opened->back();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(OrbHost::instance()->frontWindow(), static_cast<QWidget *>(bench.page));
+    QStringList changed;
+    for (const QString &text : before) {
+        if (before.size() != now.size() && !now.contains(text)) {
+            changed << '-' + text;
+        }
+    }
+    for (const QString &text : now) {
+        if (!before.contains(text)) {
+            changed << text;
+        }
+    }
+    return changed;
+}
+
+/// Taps a cell and tells what came of it: the page that opened, the commands, the rows that changed with the
+/// tap, what changed in the car, and the rows that its answer changed.
+QString outcome(BoxedPage &bench, int row, int column, const Answer &answer)
+{
+    QStringList parts;
+    const QStringList before = bench.rows();
+    VwBench::tap(*bench.page, row, column, [&](SelectDialog &dialog) { parts << answer(dialog); });
+    parts.removeAll(QString());
+    const auto *front = qobject_cast<VWFunctionSetting *>(OrbHost::instance()->frontWindow());
+    if (front && front != bench.page) {
+        parts << QString("opens %1").arg(front->appId());
+        delete front;
+    }
+    const QStringList sent = bench.sent();
+    const QStringList shown = bench.rows();
+    parts << sent << changes(before, shown) << bench.tell(sent) << changes(shown, bench.rows());
+    return parts.isEmpty() ? "nothing" : parts.join("; ");
+}
+
+QString dataOf(const TableViewItemDatas &datas)
+{
+    QStringList parts;
+    for (int role = Vw::OptionsRole; role <= Vw::UnitRole; ++role) {
+        const QVariant data = datas.bindData(role);
+        const QSize range = data.toSize();
+        parts << (range.isValid() ? QString("%1..%2").arg(range.width()).arg(range.height())
+                                  : data.toStringList().join('|'));
+        parts.last() += data.userType() == QMetaType::Int ? data.toString() : QString();
+    }
+    return parts.join(' ');
+}
+
+/// Everything about the row \a row of a page. Taps of one outcome share a line.
+QStringList linesOf(const Scene &scene, int row)
+{
+    QStringList outcomes;
+    const auto note = [&](const QString &tap, const QString &outcome) {
+        const bool again = !outcomes.isEmpty() && outcomes.last().section(": ", 1) == outcome;
+        const QString taps = again ? outcomes.takeLast().section(": ", 0, 0) + ", " + tap : "    " + tap;
+        outcomes << taps + ": " + outcome;
+    };
+    int choices = 0;
+    bool isNumber = false;
+    BoxedPage first(scene);
+    const TableViewItemDatas datas = VwBench::modelOf(*first.page)->itemDatas(row);
+    const QString kind = datas.isHeading() ? "heading" : datas.icon().remove(":/dazhong/set/");
+    const QString mark = datas.mark().section('/', -1).remove(".png");
+    const QStringList head{QString::number(datas.getItemId()), kind, mark, first.rows().at(row),
+                           dataOf(datas)};
+    note("label", outcome(first, row, TableViewItemDatas::TextColumn, [&](SelectDialog &dialog) {
+             choices = int(dialog.findChildren<QCheckBox *>().size());
+             isNumber = !dialog.getSliderValueText().isEmpty();
+             const QString text = textOf(dialog);
+             VwBench::cancel(dialog);
+             return text;
+         }));
+    QMap<QString, Answer> answers;
+    if (choices == 0 && !isNumber) {
+        note("value", outcome(first, row, TableViewItemDatas::ValueColumn, ok));
+        note("value again", outcome(first, row, TableViewItemDatas::ValueColumn, ok));
+    }
+    for (int i = 0; i < choices; ++i) {
+        answers.insert(QString("choice %1").arg(i), [i](SelectDialog &dialog) {
+            VwBench::check(dialog, i);
+            return ok(dialog);
+        });
+    }
+    for (int steps : isNumber ? QList<int>{1, -1, 50, -50} : QList<int>()) {
+        answers.insert(QString("%1 steps").arg(steps), [steps](SelectDialog &dialog) {
+            VwBench::step(dialog, steps);
+            return ok(dialog);
+        });
+    }
+    for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
+        BoxedPage bench(scene);
+        note(answer.key(), outcome(bench, row, TableViewItemDatas::ValueColumn, *answer));
+    }
+    BoxedPage silent({scene.page, nullptr});
+    if (row < silent.rows().size()) {
+        note("car silent", outcome(silent, row, TableViewItemDatas::ValueColumn, ok));
+    }
+    return QStringList("  " + head.join(' ').simplified()) + outcomes;
 }
 
 } // namespace
 
-void TestVwMenu::pages_data()
+void TestVwMenu::menu()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("requests");
-
-    const auto row = [](int page, const char *title, const char *requests) {
-        QTest::newRow(title) << page << QString(title) << QString(requests);
-    };
-    row(782, "Car Setting", "90 40 10");
-    row(771, "Tyres", "90 40 20");
-    row(773, "Driver assistance", "90 40 30|90 40 31");
-    row(774, "Parking and manoeuvring", "90 40 40");
-    row(775, "Light", "90 40 50|90 40 51|90 40 52");
-    row(776, "Mirrors and wipers", "90 40 60");
-    row(777, "Opening and closing", "90 40 70");
-    row(778, "Multifunction display", "90 40 80");
-    row(779, "Service", "90 63 00|90 63 10|90 63 11|90 63 20|90 63 21|90 63 22");
-    row(780, "Units", "90 40 90");
-    row(781, "Factory settings", "");
-    row(783, "Vehice Start-stop", "");
-    row(784, "Vehice reports", "");
-    row(785, "Seat driver profile", "90 40 a0|90 40 b0|90 40 b1");
-    row(786, "Convenience consumer", "");
-    QTest::newRow("unknown page") << 772 << QString() << QString();
-}
-
-void TestVwMenu::pages()
-{
-    QFETCH(int, page);
-    QFETCH(QString, title);
-    QFETCH(QString, requests);
-    TestScreen screen;
-    TraceRecorder trace;
-    CanBus_Raise_Volkswagen adapter;
-    VWFunctionSetting window(page, &adapter);
-    QCOMPARE(VwBench::sent(trace).join('|'), QString());
-    window.show();
-    QCOMPARE(VwBench::sent(trace).join('|'), requests);
-    QCOMPARE(window.windowTitle(), title);
-    if (page == 783 || page == 784 || page == 786) {
-        return;
-    }
-
-    const QList<Row> expected = VwMenu::rowsOf(page);
-    QCOMPARE(VwBench::modelOf(window)->rowCount(), int(expected.size()));
-    for (int i = 0; i < expected.size(); ++i) {
-        const Row &row = expected.at(i);
-        const TableViewItemDatas datas = VwBench::modelOf(window)->itemDatas(i);
-        QCOMPARE(datas.text(), QString(row.label));
-        QCOMPARE(datas.getItemId(), row.kind == VwMenu::Link ? -1 : row.item);
-        QCOMPARE(datas.isHeading(), row.kind == VwMenu::Heading);
-        QCOMPARE(datas.mark() == ":/dazhong/set/xiala.png", row.kind == VwMenu::Options);
-    }
-}
-
-void TestVwMenu::rows_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < VwMenu::rows().size(); ++i) {
-        const Row &row = VwMenu::rows().at(i);
-        QTest::addRow("%d: %s", row.page, row.label) << i;
-    }
-}
-
-void TestVwMenu::rows()
-{
-    QFETCH(int, index);
-    const Row row = VwMenu::rows().at(index);
-    Page bench(row.page);
-    switch (row.kind) {
-    case VwMenu::Link:
-        walkLink(bench, row);
-        break;
-    case VwMenu::Switch:
-        walkSwitch(bench, row);
-        break;
-    case VwMenu::Options:
-        walkOptions(bench, row);
-        break;
-    case VwMenu::Number:
-        walkNumber(bench, row);
-        break;
-    case VwMenu::Confirmed:
-        walkConfirmed(bench, row);
-        break;
-    case VwMenu::Action:
-        QVERIFY(!bench.tap(row.item));
-        QCOMPARE(bench.sent(), commands(row.item, 1));
-        break;
-    case VwMenu::Heading:
-    case VwMenu::Reading:
-        for (int column : {0, 2}) {
-            QVERIFY(!VwBench::tap(*bench.page, VwBench::rowOf(*bench.page, QString(row.label)), column));
+    QStringList lines;
+    for (int page = 771; page <= 787; ++page) {
+        for (const char *mode : {"normal", "individual", "offroad_individual"}) {
+            if (page != 785 && qstrcmp(mode, "normal") != 0) {
+                continue;
+            }
+            const Scene scene = {page, mode};
+            BoxedPage bench(scene);
+            lines << QString("page %1 \"%2\" asks %3, %4")
+                         .arg(page)
+                         .arg(bench.page->windowTitle(), bench.requests.join(", "), mode);
+            for (int row = 0; row < bench.rows().size(); ++row) {
+                lines << linesOf(scene, row);
+            }
         }
-        QCOMPARE(bench.sent(), QStringList());
-        break;
     }
+    COMPARE_WITH_GOLDEN("vwmenu.txt", lines);
 }
 
 CANBUS_TEST_MAIN(TestVwMenu)

@@ -4,25 +4,21 @@
 
 #include "orbhost.h"
 
-/// The settings pages where they depart from the plain menu: the warning speed, the individual driving modes,
-/// and what may happen while a page or its dialog is open.
+/// The settings pages where they depart from the plain menu: the warning speed, and what may happen while a
+/// page or its dialog is open.
 class TestVwPages : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void quirk_vw_warning_speed();
-    void individualModes_data();
-    void individualModes();
+    void tapOnALeftPage();
     void staleDialog_data();
     void staleDialog();
     void secondPageOfAKind();
-    void languageChangesWhileOpen();
-    void reportRowsDoNothing();
 };
 
 using VwBench::cancel;
-using VwBench::choose;
 using VwBench::commands;
 using VwBench::Page;
 
@@ -46,46 +42,26 @@ void TestVwPages::quirk_vw_warning_speed()
     }));
     QCOMPARE(bench.sent(), commands(33, 80));
     QCOMPARE(bench.valueOf(33), QString("80 mph"));
+    const QMap<int, int> ends{{50, 150}, {-50, 20}};
+    for (auto end = ends.begin(); end != ends.end(); ++end) {
+        QVERIFY(bench.tap(33, [&](SelectDialog &dialog) {
+            VwBench::step(dialog, end.key());
+            VwBench::click(dialog, "btnOk");
+        }));
+        QCOMPARE(bench.sent(), commands(33, *end));
+    }
+    bench.feed(QByteArray::fromHex("200150"));
+    QCOMPARE(bench.valueOf(33), QString("80 km/h"));
 }
 
-void TestVwPages::individualModes_data()
+// A finger that comes between leaving a page and its end.
+void TestVwPages::tapOnALeftPage()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("item");
-    QTest::addColumn<int>("choice"); // -1: a row without a dialog
-    QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("rowsGo");
-    QTest::newRow("another driving mode") << 3 << 208 << 1 << 1 << true;
-    QTest::newRow("the individual mode, until the car has taken it") << 3 << 208 << 3 << 3 << true;
-    QTest::newRow("steering") << 3 << 209 << 1 << 1 << true;
-    QTest::newRow("engine") << 3 << 210 << 2 << 2 << true;
-    QTest::newRow("climate, first option") << 3 << 211 << 0 << 0 << false;
-    QTest::newRow("climate, second option") << 3 << 211 << 1 << 2 << false;
-    QTest::newRow("front lighting") << 3 << 213 << 1 << 1 << true;
-    QTest::newRow("reset") << 3 << 212 << -1 << 1 << false;
-    QTest::newRow("off-road climate, first option") << 6 << 228 << 0 << 0 << false;
-    QTest::newRow("off-road climate, second option") << 6 << 228 << 1 << 2 << false;
-    QTest::newRow("off-road reset") << 6 << 232 << -1 << 1 << false;
-}
-
-void TestVwPages::individualModes()
-{
-    QFETCH(int, mode);
-    QFETCH(int, item);
-    QFETCH(int, choice);
-    QFETCH(int, code);
-    QFETCH(bool, rowsGo);
-    Page bench(785);
-    const QByteArray reply = QByteArray::fromHex("a0000000").replace(1, 1, QByteArray(1, char(mode)));
-    bench.feed(reply);
-    const int rows = VwBench::modelOf(*bench.page)->rowCount();
-    QCOMPARE(bench.tap(item, [&](SelectDialog &dialog) { cancel(dialog); }), choice >= 0);
-    QCOMPARE(bench.sent(), choice >= 0 ? QStringList() : commands(item, code));
-    QCOMPARE(bench.tap(item, [&](SelectDialog &dialog) { choose(dialog, choice); }), choice >= 0);
-    QCOMPARE(bench.sent(), commands(item, code));
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rowsGo ? 3 : rows);
-    bench.feed(reply);
-    QCOMPARE(VwBench::modelOf(*bench.page)->rowCount(), rows);
+    Page bench(771);
+    bench.page->back();
+    TableViewModel *const model = VwBench::modelOf(*bench.page);
+    Q_EMIT VwBench::listOf(*bench.page)->itemColumnClicked(model, model->index(bench.rowOf(32), 2));
+    QCOMPARE(bench.sent(), QStringList());
 }
 
 void TestVwPages::staleDialog_data()
@@ -115,24 +91,22 @@ void TestVwPages::staleDialog()
     QFETCH(int, item);
     QFETCH(QByteArray, happens);
     Page bench(page);
+    const QMap<QByteArray, std::function<void()>> events{
+        {"home", [&] { bench.page->home(); }},
+        {"back", [&] { bench.page->back(); }},
+        {"deleted", [&] { delete bench.page; }},
+        {"mode", [&] { bench.feed(QByteArray::fromHex("a0000000")); }},
+        {"replies", [&] { bench.feed(QByteArray::fromHex("1000")); }}};
     bench.feed(QByteArray::fromHex("20017800"));
     bench.feed(QByteArray::fromHex("a0030000"));
     QVERIFY(bench.tap(item, [&](SelectDialog &dialog) {
         VwBench::check(dialog, 1);
-        if (happens == "home")
-            bench.page->home();
-        else if (happens == "back")
-            bench.page->back();
-        else if (happens == "deleted")
-            delete bench.page;
-        else if (happens == "mode")
-            bench.feed(QByteArray::fromHex("a0000000"));
-        else
-            bench.feed(QByteArray::fromHex("1000"));
+        events[happens]();
         // Whoever left the page has closed the dialog as well.
         QCOMPARE(VwBench::openDialog() == nullptr, happens != "mode" && happens != "replies");
-        if (SelectDialog *open = VwBench::openDialog())
+        if (SelectDialog *open = VwBench::openDialog()) {
             VwBench::click(*open, "btnOk");
+        }
     }));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const bool left = happens == "home" || happens == "back" || happens == "deleted";
@@ -153,39 +127,6 @@ void TestVwPages::secondPageOfAKind()
     delete bench.page;
     bench.feed(QByteArray::fromHex("1001"));
     QCOMPARE(VwBench::valueOf(second, 0), QString("Activated"));
-}
-
-void TestVwPages::languageChangesWhileOpen()
-{
-    OrbHost *host = OrbHost::instance();
-    host->addTranslationDir(TRANSLATION_FOLDER);
-    Page bench(771);
-    bench.feed(QByteArray::fromHex("20015002"));
-    QVERIFY(host->setLanguage("zh_CN"));
-    QCoreApplication::sendPostedEvents();
-    const QString title = bench.page->windowTitle();
-    const QString load = bench.valueOf(35);
-    const QStringList options = VwBench::modelOf(*bench.page)->itemDatas(3).bindData(4097).toStringList();
-    host->setLanguage("en");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(title, QString("轮胎"));
-    QCOMPARE(load, QString("满载"));
-    QCOMPARE(options, QStringList({"舒适", "标准", "满载"}));
-    QCOMPARE(bench.page->windowTitle(), QString("Tyres"));
-    QCOMPARE(bench.valueOf(35), QString("Full load"));
-    QCOMPARE(bench.valueOf(33), QString("80 km/h"));
-}
-
-void TestVwPages::reportRowsDoNothing()
-{
-    for (unsigned int page : {783u, 784u, 786u}) {
-        Page bench(page);
-        VwBench::feed(*bench.adapter, "60 02 01 02 00 00 00 00 01 | 61 01 00 05 00 | 62 01 03 00 00");
-        for (int column : {0, 2}) {
-            QVERIFY(!VwBench::tap(*bench.page, 0, column));
-        }
-        QCOMPARE(bench.sent(), QStringList());
-    }
 }
 
 CANBUS_TEST_MAIN(TestVwPages)

@@ -11,9 +11,9 @@
 
 namespace VwBench {
 
-void feed(CanBus_Raise_Volkswagen &adapter, const char *packages)
+void feed(CanBus_Raise_Volkswagen &adapter, const QByteArray &packages)
 {
-    for (const QByteArray &package : QByteArray(packages).split('|')) {
+    for (const QByteArray &package : packages.split('|')) {
         adapter.onRecvMcuProtocol(RaiseWire::frame(package));
     }
 }
@@ -28,22 +28,6 @@ TableViewModel *modelOf(const VWFunctionSetting &page)
     return static_cast<TableViewModel *>(listOf(page)->model());
 }
 
-int rowOf(const VWFunctionSetting &page, int item)
-{
-    return modelOf(page)->rowOfItem(item);
-}
-
-int rowOf(const VWFunctionSetting &page, const QString &label)
-{
-    const TableViewModel *model = modelOf(page);
-    for (int row = 0; row < model->rowCount(); ++row) {
-        if (model->itemDatas(row).text() == label) {
-            return row;
-        }
-    }
-    return -1;
-}
-
 QString valueOf(const VWFunctionSetting &page, int row)
 {
     const TableViewItemDatas datas = modelOf(page)->itemDatas(row);
@@ -52,6 +36,15 @@ QString valueOf(const VWFunctionSetting &page, int row)
         return value.toBool() ? "on" : "off";
     }
     return value.toString();
+}
+
+QStringList rowsOf(const VWFunctionSetting &page)
+{
+    QStringList rows;
+    for (int row = 0; row < modelOf(page)->rowCount(); ++row) {
+        rows << modelOf(page)->itemDatas(row).text() + '=' + valueOf(page, row);
+    }
+    return rows;
 }
 
 bool tap(VWFunctionSetting &page, int row, int column, const std::function<void(SelectDialog &)> &answer)
@@ -118,7 +111,7 @@ void step(SelectDialog &dialog, int steps)
     }
 }
 
-void click(const QWidget &window, const char *button)
+void click(const QWidget &window, const QString &button)
 {
     if (QAbstractButton *found = window.findChild<QAbstractButton *>(button)) {
         found->click();
@@ -130,12 +123,6 @@ void cancel(SelectDialog &dialog)
     click(dialog, "btnCancel");
 }
 
-void choose(SelectDialog &dialog, int index)
-{
-    check(dialog, index);
-    click(dialog, "btnOk");
-}
-
 QStringList commands(int item, int value)
 {
     return {"c6 " + QByteArray(1, char(item)).toHex() + ' ' + QByteArray(1, char(value)).toHex()};
@@ -145,22 +132,13 @@ Page::Page(unsigned int pageId)
     : adapter(new CanBus_Raise_Volkswagen), page(new VWFunctionSetting(pageId, adapter.get()))
 {
     page->show();
-    sent();
+    requests = sent();
 }
 
 Page::~Page()
 {
     delete page;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-QStringList Page::rows() const
-{
-    QStringList rows;
-    for (int row = 0; row < modelOf(*page)->rowCount(); ++row) {
-        rows << modelOf(*page)->itemDatas(row).text() + '=' + VwBench::valueOf(*page, row);
-    }
-    return rows;
 }
 
 } // namespace VwBench

@@ -23,18 +23,17 @@
 namespace VwBench {
 
 /// Hands the adapter packages "40 10 02 | 65 00 01 00 02" as its line would.
-void feed(CanBus_Raise_Volkswagen &adapter, const char *packages);
+void feed(CanBus_Raise_Volkswagen &adapter, const QByteArray &packages);
 
 /// Model and list of a settings page.
 TableViewModel *modelOf(const VWFunctionSetting &page);
 TableListView *listOf(const VWFunctionSetting &page);
 
-/// Row of item \a item, and the row with that label; -1 when the page has none.
-int rowOf(const VWFunctionSetting &page, int item);
-int rowOf(const VWFunctionSetting &page, const QString &label);
-
 /// Text of a row's value; a switch's is "on" or "off".
 QString valueOf(const VWFunctionSetting &page, int row);
+
+/// "LABEL=VALUE" of each row.
+QStringList rowsOf(const VWFunctionSetting &page);
 
 /// Brings a cell into view and taps it. \a answer runs once the dialog that the tap opens is there; false
 /// when none was.
@@ -51,11 +50,9 @@ SelectDialog *openDialog();
 /// 0), or presses a button of it.
 void check(SelectDialog &dialog, int index);
 void step(SelectDialog &dialog, int steps);
-void click(const QWidget &window, const char *button);
+void click(const QWidget &window, const QString &button);
 
-/// Answers of a dialog: Cancel; option \a index and OK.
 void cancel(SelectDialog &dialog);
-void choose(SelectDialog &dialog, int index);
 
 /// The package that sets \a item to \a value, as sent() gives it.
 QStringList commands(int item, int value);
@@ -66,8 +63,12 @@ struct Page
     explicit Page(unsigned int pageId);
     ~Page();
 
+    /// What the page asked for when it opened.
+    QStringList requests;
+
     QStringList sent() { return VwBench::sent(trace); }
-    int rowOf(int item) const { return VwBench::rowOf(*page, item); }
+    /// Row of item \a item, -1 when the page has none.
+    int rowOf(int item) const { return modelOf(*page)->rowOfItem(item); }
     QString valueOf(int item) const { return VwBench::valueOf(*page, rowOf(item)); }
     bool tap(int item, const std::function<void(SelectDialog &)> &answer = nullptr, int column = 0)
     {
@@ -75,8 +76,7 @@ struct Page
     }
     /// Hands the adapter a settings reply with \a data.
     void feed(const QByteArray &data) { adapter->onRecvMcuProtocol(RaiseWire::frame(0x40, data)); }
-    /// "LABEL=VALUE" of each row.
-    QStringList rows() const;
+    QStringList rows() const { return rowsOf(*page); }
 
     TestScreen screen;
     TraceRecorder trace;

@@ -1,3 +1,4 @@
+#include "golden.h"
 #include "xinhangbench.h"
 
 #include "orbchoicedialog.h"
@@ -8,18 +9,11 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QProcess>
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTimer>
 #include <QTranslator>
 
 namespace {
-
-const char Writer[] = "--write-settings";
-
-// What items 3 and 4 do when nothing is stored.
-const char NoneOn[] = "; dispatchOrbEvent(401,12,51007,20510,0); dispatchOrbEvent(401,12,51007,20509,0)";
 
 /// Turns every text into its mirror image in angle brackets.
 class Mirror : public QTranslator
@@ -60,17 +54,15 @@ class TestXinHangSettings : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void texts();
+    void itemsAndChoices();
     void shownItems_data();
     void shownItems();
-    void effects_data();
-    void effects();
     void storedValues_data();
     void storedValues();
     void window_data();
     void window();
+    void windowGoesWhileItAsks();
     void languageChange();
-    void killedWhileWriting();
 };
 
 // Read once per process, so all at once.
@@ -81,39 +73,46 @@ void TestXinHangSettings::initTestCase()
                                             "133=1=2", "134=x", "250=1", "", "138 = 2"});
 }
 
-void TestXinHangSettings::texts()
+// Every item with its values and what each choice sends: to the box of a car 2, and where that differs, of
+// others.
+void TestXinHangSettings::itemsAndChoices()
 {
-    const QString seconds = "0S,5S,10S,15S,20S,25S,30S";
-    const QString numbers = "1,2,3,4,5,6,7,8";
-    const QString mirrors = "Off,Horizontal,Vertical,Horizontal and vertical";
-    const QMap<int, QString> known = {
-        {1, "Reversing camera: Original car,360,Add camera"},
-        {2, "Right camera: Off,On"},
-        {3, "Reversing track: Off,On"},
-        {4, "Reversing radar: Off,On"},
-        {128, "Car type: " + numbers},
-        {129, "Display type: " + numbers},
-        {130, "Sound type: " + numbers},
-        {131, "Reverse camera: None,AfterMarket Camera,OE Camera,AfterMarket 360"},
-        {132, "Starting front view: " + seconds},
-        {133, "Steering front view: " + seconds},
-        {134, "Reversing front view: " + seconds},
-        {135, "Dedicated right view: Off,On"},
-        {136, "Front view after right view: " + seconds},
-        {137, "Rear video format: CVBS,VGA"},
-        {138, "Reverse condition: Parking Key,Reverse State,Gear Position"},
-        {144, "Front view mirror: " + mirrors},
-        {145, "Right view mirror: " + mirrors},
-        {146, "Rear view mirror: " + mirrors},
-        {147, "Reverse track: Off,On"},
-        {148, "Reverse radar: Off,On"}};
+    const QTemporaryDir folder;
+    OrbHost::instance()->setSettingsDir(folder.path());
+    TraceRecorder trace;
+    const auto effect = [&](int item, int index, quint16 carType) {
+        setItems({QString::number(item)});
+        SettingsAlone alone;
+        alone.box.type = carType;
+        trace.take();
+        alone.settings.choose(item, index);
+        QStringList calls = trace.take();
+        for (const QByteArray &package : alone.box.sent) {
+            calls << "send " + package;
+        }
+        return calls.join("; ");
+    };
+    QStringList lines;
     for (int item = -1; item < 300; ++item) {
-        QCOMPARE(XinHangSettings::getSetItemText(item) + ": " +
-                     XinHangSettings::getSetItemValueTexts(item).join(','),
-                 known.value(item, QString("SetItem%1: ").arg(item)));
-        const QMap<int, int> defaults = {{131, 2}, {132, 6}, {135, 1}, {138, 2}};
-        QCOMPARE(XinHangSettings::getSetItemDefValueIndex(item), defaults.value(item));
+        const QStringList texts = XinHangSettings::getSetItemValueTexts(item);
+        const QString name = XinHangSettings::getSetItemText(item);
+        const int preset = XinHangSettings::getSetItemDefValueIndex(item);
+        if (texts.isEmpty() && preset == 0 && name == QString("SetItem%1").arg(item)) {
+            continue; // what an unknown item has
+        }
+        lines << QString("%1 %2, at first %3").arg(item).arg(name).arg(preset);
+        for (int index = -1; index <= texts.size(); ++index) {
+            const QString usual = effect(item, index, 2);
+            QStringList parts{QString("  %1 %2").arg(index).arg(texts.value(index, "(no value)")), usual};
+            for (quint16 carType : {1, 4, 5}) {
+                const QString other = effect(item, index, carType);
+                parts << (other == usual ? QString() : QString("car %1: ").arg(carType) + other);
+            }
+            parts.removeAll(QString());
+            lines << parts.join("; ");
+        }
     }
+    COMPARE_WITH_GOLDEN("xinhangsettings.txt", lines);
 }
 
 void TestXinHangSettings::shownItems_data()
@@ -138,53 +137,6 @@ void TestXinHangSettings::shownItems()
     SettingsAlone alone;
     alone.settings.appendConfiguredItems();
     QTEST(alone.settings.items(), "items");
-}
-
-void TestXinHangSettings::effects_data()
-{
-    QTest::addColumn<int>("carType");
-    QTest::addColumn<QStringList>("items");
-    QTest::addColumn<QVariantMap>("stored");
-    QTest::addColumn<QString>("calls");
-    const auto row = [](const char *name, int carType, const QStringList &items, const QVariantMap &stored,
-                        const QString &calls) { QTest::newRow(name) << carType << items << stored << calls; };
-    const QString basics = QString("send 82 00 00") + NoneOn;
-    const auto boxRow = [&](const QByteArray &name, int item, int value, const char *call) {
-        row(name, 2, {QString::number(item)}, {{QString("SetItem%1").arg(item), value}}, basics + call);
-    };
-    row("original camera", 1, {}, {}, basics);
-    row("original camera, car 4", 4, {}, {},
-        QString("send 82 40 00") + NoneOn +
-            "; GPIOOperater.setDirection(34,out); GPIOOperater.setValue(34,0)");
-    row("360 camera", 2, {}, {{"SetItem1", 1}}, basics);
-    row("added camera", 5, {}, {{"SetItem1", 2}}, QString("send 82 01 00") + NoneOn);
-    row("track and radar on", 2, {}, {{"SetItem3", 1}, {"SetItem4", 1}},
-        "send 82 00 00; dispatchOrbEvent(401,12,51007,20510,1); dispatchOrbEvent(401,12,51007,20509,1)");
-    row("the box's track and radar, in list order", 2, {"148", "147"}, {{"SetItem147", 1}},
-        basics + "; dispatchOrbEvent(401,12,51007,20509,0); dispatchOrbEvent(401,12,51007,20510,1)");
-    boxRow("reverse camera", 131, 3, "; send 8b 00 03");
-    boxRow("starting front view in seconds", 132, 3, "; send 8b 01 0f");
-    boxRow("right view on", 135, 1, "; send 8b 02 01");
-    boxRow("steering front view in seconds", 133, 6, "; send 8b 03 1e");
-    boxRow("car type", 128, 7, "; send 8b 04 07");
-    boxRow("display type", 129, 1, "; send 8b 05 01");
-    boxRow("sound type", 130, 0, "; send 8b 06 00");
-    for (const int item : {134, 136, 137, 138, 139, 144, 145, 146}) {
-        boxRow("nothing for the box: " + QByteArray::number(item), item, 1, "");
-    }
-    row("a known item that is not listed", 2, {}, {{"SetItem132", 3}}, basics);
-}
-
-void TestXinHangSettings::effects()
-{
-    QFETCH(int, carType);
-    QFETCH(QStringList, items);
-    QFETCH(QVariantMap, stored);
-    QFETCH(QString, calls);
-    setItems(items);
-    XinHangBench bench(stored);
-    QCOMPARE(XinHang::joined(bench.exchange("0a 00 0" + QByteArray::number(carType))), calls);
-    QCOMPARE(XinHang::joined(bench.exchange("0a 00 0" + QByteArray::number(carType))), calls);
 }
 
 void TestXinHangSettings::storedValues_data()
@@ -225,6 +177,10 @@ void TestXinHangSettings::storedValues()
     QCOMPARE(OrbIniConfig("carsetting.ini", "CarSetting").value("SetItem132").toInt(), 2);
     const QByteArray shown = QByteArray(1, char(index * 5)).toHex();
     QCOMPARE(alone.box.sent, QByteArrayList({"8b 01 " + shown, "8b 01 0a"}));
+    setItems({});
+    SettingsAlone unlisted;
+    unlisted.settings.syncSettingDataToMcu(132);
+    QCOMPARE(unlisted.box.sent, QByteArrayList());
 }
 
 void TestXinHangSettings::window_data()
@@ -239,7 +195,6 @@ void TestXinHangSettings::window_data()
     row("camera", 0, 2, "Add camera", "send 82 01 00");
     row("cancelled", 0, -1, "Original car", "");
     row("same again", 0, 0, "Original car", "send 82 00 00");
-    row("track", 2, 1, "On", "dispatchOrbEvent(401,12,51007,20510,1)");
     row("seconds", 4, 3, "15S", "send 8b 01 0f");
     row("unknown item, no dialog", 5, -2, "", "");
 }
@@ -254,33 +209,50 @@ void TestXinHangSettings::window()
     QVERIFY(!list->isVisible());
     list->show();
     auto *const view = list->findChild<TableListView *>();
-    QVERIFY(QTest::qWaitForWindowExposed(list));
     QCOMPARE(view->model()->rowCount(), 6);
 
     bool asked = false;
-    QTimer answer;
-    answer.setInterval(5);
-    connect(&answer, &QTimer::timeout, this, [&] {
+    QTimer::singleShot(0, list, [&] {
         auto *const dialog = qobject_cast<OrbChoiceDialog *>(OrbHost::instance()->frontWindow());
-        if (!dialog) {
-            return;
+        if (dialog) {
+            asked = true;
+            if (choice >= 0) {
+                dialog->findChildren<QCheckBox *>().at(choice)->click();
+            }
+            dialog->findChild<QAbstractButton *>(choice >= 0 ? "btnOk" : "btnCancel")->click();
         }
-        asked = true;
-        answer.stop();
-        if (choice >= 0) {
-            dialog->findChildren<QCheckBox *>().at(choice)->click();
-        }
-        dialog->findChild<QAbstractButton *>(choice >= 0 ? "btnOk" : "btnCancel")->click();
     });
-    answer.start();
     bench.calls();
     const QModelIndex cell = view->model()->index(row, 2);
     view->scrollTo(cell);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(cell).center());
-    QTest::qWait(20);
     QCOMPARE(asked, choice != -2);
     QTEST(rowTexts(view->model(), row).last(), "value");
-    QTEST(XinHang::joined(bench.calls().filter(QRegularExpression("^(?!.*setVisible)"))), "calls");
+    const QString mark = static_cast<TableViewModel *>(view->model())->itemDatas(row).mark();
+    QCOMPARE(mark, QString(choice == -2 ? "" : ":/dazhong/set/xiala.png"));
+    QTEST(bench.calls().filter(QRegularExpression("^(?!.*setVisible)")).join("; "), "calls");
+}
+
+// The unit may take its screen and the window away while the driver is asked.
+void TestXinHangSettings::windowGoesWhileItAsks()
+{
+    setItems({});
+    XinHangBench bench;
+    QWidget *const list = OrbHost::instance()->windows().last();
+    list->show();
+    bool asked = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget *const dialog = OrbHost::instance()->frontWindow();
+        asked = dialog != list;
+        delete list;
+        dialog->findChildren<QCheckBox *>().at(2)->click();
+        dialog->findChild<QAbstractButton *>("btnOk")->click();
+    });
+    auto *const view = list->findChild<TableListView *>();
+    bench.calls();
+    Q_EMIT view->clicked(view->model()->index(0, 2));
+    QVERIFY(asked);
+    QCOMPARE(bench.calls().filter("send"), QStringList());
 }
 
 void TestXinHangSettings::languageChange()
@@ -300,54 +272,5 @@ void TestXinHangSettings::languageChange()
     QTRY_COMPARE(list->windowTitle(), QString("Car Setting"));
 }
 
-void TestXinHangSettings::killedWhileWriting()
-{
-    const QTemporaryDir folder;
-    OrbHost::instance()->setSettingsDir(folder.path());
-    OrbIniConfig("carsetting.ini", "CarSetting").setValue("SetItem1", 2);
-    QRandomGenerator random(11);
-    for (int run = 0; run < 12; ++run) {
-        QProcess writer;
-        writer.start(QCoreApplication::applicationFilePath(), {Writer, folder.path()});
-        QVERIFY(writer.waitForReadyRead());
-        QTest::qSleep(int(random.bounded(1, 20)));
-        writer.kill();
-        QVERIFY(writer.waitForFinished());
-        const int written = writer.readAllStandardOutput().trimmed().split('\n').last().toInt();
-        const OrbIniConfig config("carsetting.ini", "CarSetting");
-        const int stored = config.value("SetItem132", -1).toInt();
-        // The last one that was reported, or the one that was being written.
-        QVERIFY2(stored == written || stored == (written + 1) % 7,
-                 qPrintable(QString("reported %1, stored %2").arg(written).arg(stored)));
-        QCOMPARE(config.value("SetItem1").toInt(), 2);
-    }
-}
-
-namespace {
-
-int writeSettings(const QString &folder)
-{
-    OrbHost::instance()->setSettingsDir(folder);
-    setItems({"132"});
-    SettingsAlone alone;
-    for (int value = 0;; value = (value + 1) % 7) {
-        alone.settings.choose(132, value);
-        printf("%d\n", value);
-        fflush(stdout);
-    }
-}
-
-} // namespace
-
-int main(int argc, char **argv)
-{
-    OrbApplication application(argc, argv);
-    if (argc == 3 && QByteArray(argv[1]) == Writer) {
-        return writeSettings(argv[2]);
-    }
-    TestXinHangSettings test;
-    const int result = QTest::qExec(&test, argc, argv);
-    return result != 0 ? result : TestSupport::brokenConnects();
-}
-
+CANBUS_TEST_MAIN(TestXinHangSettings)
 #include "tst_xinhang_settings.moc"

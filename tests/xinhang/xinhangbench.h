@@ -9,27 +9,33 @@
 
 #include <QTemporaryDir>
 
-/// A XinHang adapter on a pseudo-terminal with a settings folder of its own.
+/// A XinHang adapter, started, with a settings folder of its own. Packages go straight into it, unless a test
+/// wants the line.
 class XinHangBench : public AdapterFixture
 {
 public:
+    enum Line { NoLine, OnLine };
+
     /// \a settings: what "carsetting.ini" holds at start, key and value.
-    explicit XinHangBench(const QVariantMap &settings = QVariantMap());
+    explicit XinHangBench(const QVariantMap &settings = QVariantMap(), Line line = NoLine);
 
     CanBus_XinHang *adapter;
 
-    /// Sends packages ("01 00 | 04 01") and returns what the unit then called, in order.
-    QStringList exchange(const QByteArray &packages);
+    /// Hands over packages ("01 00 | 04 01") and returns what the unit then called, in order.
+    QStringList feed(const QByteArray &packages);
 
-    /// What was called since the last take or exchange: "send 83 02", "key 1000013 press", everything else as
-    /// the recorder writes it.
+    /// What was called since the last take or feed: "send 83 02", everything else as TestSupport::readable().
     QStringList calls();
 
     /// Lets the box report a car type, and then a screen: "factory" or "own". What that does is forgotten.
-    void drive(int carType, const QByteArray &screen);
+    void drive(int carType, const QString &screen);
 
     /// Ends the long press that is running, as if its time had passed. False when none is.
     bool passLongPress();
+
+private:
+    QTemporaryDir m_folder;
+    quint8 m_change = 0; // two equal status packages would be one
 };
 
 /// A box without a line, for tests of single parts: keeps what it is sent, as "83 02".
@@ -45,18 +51,5 @@ public:
     quint16 type = 0;
     QByteArrayList sent;
 };
-
-namespace XinHang {
-
-/// "a; b; c" of a list of calls, for comparison in one piece.
-QString joined(const QStringList &calls);
-
-/// The unit's key of each code of wheel and panel.
-const QHash<int, int> &unitKeys();
-
-/// The settings folder of the process, and the file in it.
-QString settingsFile();
-
-} // namespace XinHang
 
 #endif // XINHANGBENCH_H
