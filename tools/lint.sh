@@ -37,6 +37,7 @@ failed=0
 need_packages clang clang-format clang-tidy git libbenchmark-dev
 findings=$(mktemp)
 trap 'rm -f "$findings" "$findings.errors" "$findings.files"' EXIT
+trap 'exit 1' HUP INT TERM
 
 step "Layout of everything"
 git ls-files -co --exclude-standard -- '*.cpp' '*.h' | xargs clang-format --dry-run -Werror || failed=1
