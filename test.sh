@@ -2,9 +2,10 @@
 # Builds everything and runs every test. Arguments go to ctest (./test.sh -R framing); then only what those tests need
 # is built.
 #
-#     ./test.sh [--sanitize] [ctest arguments]
+#     ./test.sh [--sanitize] [--car CAR | ctest arguments]
 #
 # --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder of its own.
+# --car foo runs what concerns that car: its sheet and its drives (the words are those of decoderbox --list).
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
 
@@ -20,12 +21,21 @@ else
     configure -DCANBUS_TESTS=ON
 fi
 
+if [ "${1:-}" = --car ]; then
+    car=${2:-}
+    [ -f "$root/tests/cars/sheets/$car.cpp" ] || fail "there is no tests/cars/sheets/$car.cpp"
+    shift 2
+    set -- -C car -L "^car_$car\$" "$@"
+fi
+
 targets=all
 if [ $# -gt 0 ]; then
     known=$(cmake --build "$build" --target help | sed -n 's/^\([^:/]*\): phony$/\1/p')
     targets=
     for name in $(cd "$build" && ctest -N "$@" | sed -n 's/^ *Test *#[0-9]*: //p'); do
-        # What is no program of its own looks at the plug-in or drives the head unit with a box.
+        # A car's tests are a program with the car behind its name. What is no program of its own looks at the plug-in
+        # or drives the head unit with a box.
+        printf '%s\n' "$known" | grep -qx "$name" || name=${name%_*}
         printf '%s\n' "$known" | grep -qx "$name" || name="CanBus headunit decoderbox"
         targets="$targets $name"
     done

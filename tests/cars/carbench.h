@@ -61,4 +61,10 @@ private:
     CanBusType m_type = CanBusTypeNone;
 };
 
+/// First line of a table's function: a table that says nothing of the car that is tested has no rows.
+#define SKIP_WITHOUT_ROWS()                                                                                  \
+    if (!QTest::currentDataTag()) {                                                                          \
+        QSKIP("nothing of this car");                                                                        \
+    }
+
 #endif // CARBENCH_H

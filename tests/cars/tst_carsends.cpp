@@ -65,6 +65,7 @@ void CarSendsTest::modes_data()
 // A car that is told no modes is told none.
 void CarSendsTest::modes()
 {
+    SKIP_WITHOUT_ROWS();
     QFETCH(int, type);
     QFETCH(QByteArray, package);
     QFETCH(QByteArray, codes);
