@@ -1,4 +1,3 @@
-#include "debuglog.h"
 #include "filesystemservice.h"
 #include "gpiooperater.h"
 #include "orbcommons.h"
@@ -19,12 +18,8 @@ class TestHost : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { host()->setGpioRoot(QString()); }
     void transcript();
     void tickCount();
-    void gpioInFiles();
-    void gpioExportsALine();
-    void gpioFileThatCannotBeWritten();
 
 private:
     static OrbHost *host() { return OrbHost::instance(); }
@@ -143,54 +138,6 @@ void TestHost::tickCount()
     QCOMPARE(GetTickCountMs(), quint64(0));
     host()->releaseTickCount();
     QVERIFY(GetTickCountMs() >= start + 19);
-}
-
-void TestHost::gpioInFiles()
-{
-    QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkdir("gpio34"));
-    writeFile(root.filePath("gpio34/direction"), "in\n");
-    writeFile(root.filePath("gpio34/value"), "1\n");
-    host()->setGpioRoot(root.path());
-
-    GPIOOperater line(34);
-    QCOMPARE(line.value(), 1); // an input reads as its file says
-    line.setDirection("out");
-    line.setValue(3);
-    QCOMPARE(contentOf(root.filePath("gpio34/direction")), QByteArray("out"));
-    QCOMPARE(contentOf(root.filePath("gpio34/value")), QByteArray("1"));
-    line.setValue(0);
-    QCOMPARE(contentOf(root.filePath("gpio34/value")), QByteArray("0"));
-    QCOMPARE(line.value(), 0);
-}
-
-void TestHost::gpioExportsALine()
-{
-    QTemporaryDir root;
-    writeFile(root.filePath("export"), "");
-    host()->setGpioRoot(root.path());
-    DebugLog log;
-    GPIOOperater(35).setValue(1);
-    QCOMPARE(contentOf(root.filePath("export")), QByteArray("35"));
-    QVERIFY(!QDir(root.filePath("gpio35")).exists());
-    QCOMPARE(log.lines().size(), 1);
-    QCOMPARE(GPIOOperater(35).value(), 1);
-}
-
-void TestHost::gpioFileThatCannotBeWritten()
-{
-    QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkpath("no-files/gpio36"));
-    QVERIFY(QDir(root.path()).mkpath("folder/gpio36/value"));
-    for (const char *path : {"absent", "no-files", "folder"}) {
-        host()->setGpioRoot(root.filePath(path));
-        GPIOOperater line(36);
-        DebugLog log;
-        line.setValue(1);
-        line.setValue(0);
-        QCOMPARE(log.lines().size(), 2);
-        QCOMPARE(line.value(), 0);
-    }
 }
 
 CANBUS_TEST_MAIN(TestHost)

@@ -30,9 +30,6 @@ public:
     void setSettingsDir(const QString &path);
     QString settingsDir() const;
 
-    /// Folder with gpioN folders, as the kernel shows them; empty for lines in memory only.
-    void setGpioRoot(const QString &path);
-
     /// What FileSystemService::getDiskPartitionPaths answers.
     void setDiskPartitions(int disk, const QStringList &paths);
 

@@ -6,10 +6,7 @@
 #include <QString>
 
 /// One GPIO line of the head unit. The object is a handle: several may name the same line, and a line keeps
-/// its state when the handle goes. Without a GPIO root folder the lines live in memory; with one (OrbHost)
-/// they are the folders gpioN below it, with their files `direction` and `value`; a line without a folder is
-/// exported first. A file that cannot be written is reported with one debug line; the state in memory follows
-/// all the same.
+/// its state when the handle goes. Off the unit the lines live in memory.
 class ORB_EXPORT GPIOOperater
 {
 public:
@@ -22,7 +19,7 @@ public:
     void setDirection(const QString &direction);
     QString direction() const;
 
-    /// 0 or 1 (anything but 0 counts as 1). A line starts as 0; an input with a file reads as the file says.
+    /// 0 or 1 (anything but 0 counts as 1). A line starts as 0.
     void setValue(int value);
     int value() const;
 

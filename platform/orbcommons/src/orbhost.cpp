@@ -164,11 +164,6 @@ QString OrbHost::settingsDir() const
     return d->settingsDir;
 }
 
-void OrbHost::setGpioRoot(const QString &path)
-{
-    d->gpioRoot = path;
-}
-
 void OrbHost::setDiskPartitions(int disk, const QStringList &paths)
 {
     setOrRemove(&d->diskPartitions, disk, paths, paths.isEmpty());

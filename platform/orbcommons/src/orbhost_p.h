@@ -48,7 +48,6 @@ public:
     QHash<QString, QVariant> productValues;
     QHash<QString, QStringList> factorySettings;
     QString settingsDir;
-    QString gpioRoot;
     QHash<int, GpioLine> gpioLines;
     QHash<int, QStringList> diskPartitions;
     int curWindowAppId; ///< -1: not overridden

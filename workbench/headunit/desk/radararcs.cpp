@@ -45,18 +45,6 @@ QPainterPath RadarArcs::band(int sensor, int level) const
     return path;
 }
 
-QRectF RadarArcs::bounds() const
-{
-    QRectF result;
-    for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
-        result |= band(sensor, 1).boundingRect() | band(sensor, CarState::FarthestLevel).boundingRect();
-    }
-    for (int sensor = 0; sensor < CarState::Sensors; ++sensor) {
-        result |= figurePlace(sensor);
-    }
-    return result;
-}
-
 QRectF RadarArcs::figurePlace(int sensor) const
 {
     const qreal away = (sensor - (CarState::Sensors - 1) / 2.0) * SectorSpan;

@@ -20,12 +20,9 @@ public:
     /// edge.
     RadarArcs(Side side, const QRectF &car, qreal reach);
 
-    /// The band of \a level (1 to CarState::farthestLevel) in the sector of \a sensor (0 to 3, from left to
+    /// The band of \a level (1 to CarState::FarthestLevel) in the sector of \a sensor (0 to 3, from left to
     /// right).
     QPainterPath band(int sensor, int level) const;
-
-    /// What the whole fan covers.
-    QRectF bounds() const;
 
     /// Red for what is near, amber for what comes near, green for what is far.
     static QColor colour(int level);
