@@ -32,6 +32,7 @@ void HeadUnit::unloadPlugin()
     if (OrbPlugin *plugin = m_plugin) {
         m_plugin = nullptr;
         m_library.destroy(plugin);
+        m_library.unload();
     }
 }
 

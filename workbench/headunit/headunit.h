@@ -26,8 +26,7 @@ public:
     /// asks for its decoder type while it is built. False, with one sentence in \a error, when that fails or
     /// a plug-in is loaded already.
     bool loadPlugin(const QString &path, QString *error);
-    /// Has the plug-in delete its object; the library stays, since its adapters live on. Does nothing without
-    /// one.
+    /// Has the plug-in delete its object and lets go of its library. Does nothing without a plug-in.
     void unloadPlugin();
 
     /// Posts \a event, which becomes the unit's, to the plug-in object: the handler runs from the event loop,

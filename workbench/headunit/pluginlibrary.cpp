@@ -1,7 +1,6 @@
 #include "pluginlibrary.h"
 
 #include <QFileInfo>
-#include <QLibrary>
 
 bool PluginLibrary::load(const QString &path, QString *error)
 {
@@ -10,14 +9,14 @@ bool PluginLibrary::load(const QString &path, QString *error)
         *error = path + ": there is no such plug-in";
         return false;
     }
-    QLibrary library(file.absoluteFilePath());
-    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    if (!library.load()) {
-        *error = library.errorString();
+    m_library.setFileName(file.absoluteFilePath());
+    m_library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
+    if (!m_library.load()) {
+        *error = m_library.errorString();
         return false;
     }
-    m_create = reinterpret_cast<OrbPluginCreateFunction>(library.resolve("create"));
-    m_destroy = reinterpret_cast<OrbPluginDestroyFunction>(library.resolve("destroy"));
+    m_create = reinterpret_cast<OrbPluginCreateFunction>(m_library.resolve("create"));
+    m_destroy = reinterpret_cast<OrbPluginDestroyFunction>(m_library.resolve("destroy"));
     if (!m_create || !m_destroy) {
         *error = QString("%1: no plug-in, it lacks the entry point '%2'")
                      .arg(path, QLatin1String(m_create ? "destroy" : "create"));
