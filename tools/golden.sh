@@ -13,7 +13,9 @@ drives=${GOLDEN_DRIVES:-$root/scenarios}
 headunit=$build/workbench/headunit/headunit
 decoderbox=$build/workbench/decoderbox/decoderbox
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+# A drive writes the version file, as a unit does.
+left=$([ -e /tmp/can_version ] || echo /tmp/can_version)
+trap 'rm -rf "$work" $left' EXIT
 
 complain() {
     printf '%s: %s\n' "$name" "$*"

@@ -1,11 +1,10 @@
 #include "unitlink.h"
 
+#include "versionfile.h"
+
 #include "orbapplication.h"
 #include "orbevent.h"
 
-#include <QDebug>
-
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -94,10 +93,7 @@ QByteArray UnitLink::versionCommand(const QByteArray &version)
 
 void UnitLink::publishVersion(const QByteArray &version)
 {
-    const QByteArray command = versionCommand(version);
-    if (system(command.constData()) != 0) {
-        qWarning("The decoder's version could not be written to /tmp/can_version");
-    }
+    VersionFile::instance()->publish(versionCommand(version));
 }
 
 int UnitLink::truncated(float value)

@@ -57,7 +57,7 @@ bool isTwelveHourClock();
 /// first NUL, loses its control characters, and reaches the shell as data, never as a command.
 void publishVersion(const QByteArray &version);
 
-/// The shell command that publishVersion runs.
+/// The shell command that publishVersion has run (see VersionFile for when).
 QByteArray versionCommand(const QByteArray &version);
 
 /// \a value cut toward zero, saturated at the ends of int; 0 for not-a-number. The same on every processor.

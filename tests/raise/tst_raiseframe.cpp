@@ -1,7 +1,27 @@
 #include "adapterfixture.h"
 
 #include "raise/canbus_raise_toyota.h"
+#include "testfiles.h"
 #include "unitlink.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+#include <dlfcn.h>
+
+namespace {
+
+QByteArrayList shellCommands;
+
+}
+
+// Stands before the C library's own: what the unit has run is written down, and run.
+extern "C" int system(const char *command)
+{
+    shellCommands << command;
+    typedef int (*System)(const char *);
+    return reinterpret_cast<System>(dlsym(RTLD_NEXT, "system"))(command);
+}
 
 // The frame of the Raise family: builder, checksum, and the framer's hooks on a live line.
 class RaiseFrameTest : public QObject
@@ -15,7 +35,10 @@ private Q_SLOTS:
     void line();
     void versionCommand_data();
     void versionCommand();
+    void versionFile_data();
     void versionFile();
+    void versionFileInTheWay();
+    void versionFlood();
 };
 
 void RaiseFrameTest::makeCanBusProtocol()
@@ -98,17 +121,68 @@ void RaiseFrameTest::versionCommand()
     QCOMPARE(UnitLink::versionCommand(version), "echo '" + echoed + "' > /tmp/can_version");
 }
 
+void RaiseFrameTest::versionFile_data()
+{
+    QTest::addColumn<QByteArray>("before"); // a shell command that prepares the place
+    QTest::newRow("nothing there") << QByteArray();
+    QTest::newRow("an older version") << QByteArray("echo old > /tmp/can_version");
+    QTest::newRow("a pipe, on which a shell would wait for ever") << QByteArray("mkfifo /tmp/can_version");
+    QTest::newRow("a link") << QByteArray("ln -s can_version_target /tmp/can_version");
+}
+
 // The version's whole way, from the line into the file, with a text that must not run.
 void RaiseFrameTest::versionFile()
 {
+    QFETCH(QByteArray, before);
     QFile file("/tmp/can_version");
     file.remove();
+    if (!before.isEmpty()) {
+        QCOMPARE(system(before.constData()), 0);
+    }
     AdapterFixture fixture;
     fixture.start<CanBus_Raise_Toyota>();
     fixture.exchange(QByteArrayList{RaiseWire::frame(0x30, "V1'; echo broken; '$(id)")});
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("V1'; echo broken; '$(id)\n"));
+    QTRY_COMPARE(TestSupport::contentOf(file.fileName()), QByteArray("V1'; echo broken; '$(id)\n"));
+    QVERIFY(!QFile::exists("/tmp/can_version_target"));
     file.remove();
+}
+
+// A folder in the way stays; nothing is written, and one line says so.
+void RaiseFrameTest::versionFileInTheWay()
+{
+    QFile::remove("/tmp/can_version");
+    QVERIFY(QDir("/tmp").mkdir("can_version"));
+    AdapterFixture fixture;
+    fixture.start<CanBus_Raise_Toyota>();
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is not written: /tmp/can_version"));
+    shellCommands.clear();
+    fixture.exchange("30 31");
+    fixture.exchange("30 32");
+    QTest::qWait(500);
+    QVERIFY(QDir("/tmp").rmdir("can_version"));
+    QCOMPARE(shellCommands, QByteArrayList());
+}
+
+// A box that repeats itself at line speed must not hold the unit up.
+void RaiseFrameTest::versionFlood()
+{
+    QFile::remove("/tmp/can_version");
+    AdapterFixture fixture;
+    fixture.start<CanBus_Raise_Toyota>();
+    shellCommands.clear();
+    const QByteArrayList same = QVector<QByteArray>(60, RaiseWire::frame(0x30, "same")).toList();
+    fixture.exchange(same);
+    QTest::qWait(300);
+    fixture.exchange(same);
+    QTest::qWait(300);
+    QCOMPARE(int(shellCommands.size()), 1);
+    for (int round = 0; round < 100; ++round) { // for a second
+        fixture.exchange(QByteArrayList{RaiseWire::frame(0x30, "V" + QByteArray::number(round))});
+        QTest::qWait(10);
+    }
+    QTRY_COMPARE(TestSupport::contentOf("/tmp/can_version"), QByteArray("V99\n"));
+    QVERIFY2(shellCommands.size() <= 1 + 20, qPrintable(QString::number(shellCommands.size())));
+    QFile::remove("/tmp/can_version");
 }
 
 CANBUS_TEST_MAIN(RaiseFrameTest)

@@ -83,6 +83,7 @@ void TestXinHangLink::versionFile()
     XinHangBench bench;
     bench.drive(5, "own");
     bench.feed("05 " + QByteArray("V1.2 'x'; rm\n -r\0 padding", 24).toHex());
+    QTest::qWait(200);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray written = file.readAll();
     file.close();
