@@ -256,11 +256,11 @@
         <translation>Fahrerprofil Sitz</translation>
     </message>
     <message>
-        <source>Vehicle status Start-stop</source>
+        <source>Vehice status Start-stop</source>
         <translation>Fahrzeugstatus Start-Stopp</translation>
     </message>
     <message>
-        <source>Vehicle status reports</source>
+        <source>Vehice status reports</source>
         <translation>Fahrzeugstatus Meldungen</translation>
     </message>
     <message>

@@ -256,11 +256,11 @@
         <translation>座椅驾驶员配置</translation>
     </message>
     <message>
-        <source>Vehicle status Start-stop</source>
+        <source>Vehice status Start-stop</source>
         <translation>车辆状态 启停系统</translation>
     </message>
     <message>
-        <source>Vehicle status reports</source>
+        <source>Vehice status reports</source>
         <translation>车辆状态 报告</translation>
     </message>
     <message>

@@ -34,7 +34,7 @@ const int TyreMessageCount = sizeof TyreMessages / sizeof TyreMessages[0];
 
 const char MarkedTyreStyle[] = "border:2px solid #ff0;background-color:#ff0;border-radius:10px;";
 const char UnmarkedTyreStyle[] = "border-color:transparent;";
-const char NormalTyreStyle[] = "border-color:#fff;";
+const char NormalTyreStyle[] = "border-color:#fff";
 const char FaultyTyreStyle[] = "border-color:#f00;color:#f00;";
 const int TyreLabelWidth = 220;
 

@@ -79,8 +79,9 @@ const Row CarSettingRows[] = {
     link(ServicePage, QT_TR_NOOP("Service"), "service.png"),
     link(UnitsPage, QT_TR_NOOP("Units"), "units.png"),
     link(ProfilePage, QT_TR_NOOP("Seat driver profile"), "seat.png"),
-    link(StartStopPage, QT_TR_NOOP("Vehicle status Start-stop"), "startstop.png"),
-    link(ReportsPage, QT_TR_NOOP("Vehicle status reports"), "report.png"),
+    // The misspellings here and below are the system's own: makers' translation files are keyed by them.
+    link(StartStopPage, QT_TR_NOOP("Vehice status Start-stop"), "startstop.png"),
+    link(ReportsPage, QT_TR_NOOP("Vehice status reports"), "report.png"),
     link(ConsumersPage, QT_TR_NOOP("Convenience consumer"), "consumer.png"),
     link(FactoryPage, QT_TR_NOOP("Factory settings"), "reset.png"),
 };

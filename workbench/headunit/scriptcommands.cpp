@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int ManyTexts = 64;
+constexpr quint32 LanguageNotification = 20486;
 constexpr quint32 LongestWaitMs = 24 * 3600 * 1000;
 constexpr quint32 FirstEventType = QEvent::User; // the types below act on any object, whatever it is
 constexpr quint32 LastEventType = QEvent::MaxUser;
@@ -64,6 +65,7 @@ const QVector<ScriptCommands::Row> &ScriptCommands::rows()
         {"tag", "ID VALUE", 1, 1, 1, 1, &C::tag},
         {"product", "KEY VALUE", 0, 0, 2, 2, &C::product},
         {"front", "APPID", 1, 1, 0, 0, &C::front},
+        {"language", "en|de|zh_CN", 0, 0, 1, 1, &C::language},
         {"windows", "", 0, 0, 0, 0, &C::windows},
         {"open", "TITLE", 0, 0, 1, ManyTexts, &C::open},
         {"text", "NAME", 0, 0, 1, 1, &C::textOf},
@@ -183,6 +185,15 @@ ScriptCommands::Outcome ScriptCommands::front()
 {
     OrbHost::instance()->setCurWindowAppId(int(number(0)));
     return Done;
+}
+
+ScriptCommands::Outcome ScriptCommands::language()
+{
+    if (!OrbHost::instance()->setLanguage(text(0))) {
+        return fail(QString("there is no translation to '%1'").arg(text(0)));
+    }
+    m_unit->notify(LanguageNotification);
+    return Posted;
 }
 
 ScriptCommands::Outcome ScriptCommands::windows()

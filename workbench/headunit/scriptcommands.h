@@ -63,6 +63,7 @@ private:
     Outcome tag();
     Outcome product();
     Outcome front();
+    Outcome language();
     Outcome windows();
     Outcome open();
     Outcome textOf();

@@ -62,6 +62,8 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
 
     connect(m_keyStrip, &KeyStrip::keyUsed, m_shell, &UnitShell::useKey);
     UnitPage *unitPage = m_sidePanel->unitPage();
+    // The driver reads English from the English file; headless a trace shows the source texts.
+    OrbHost::instance()->setLanguage(OrbHost::instance()->language());
     unitPage->setLanguage(OrbHost::instance()->language());
     connect(unitPage, &UnitPage::languageChosen, this, &DeskWindow::chooseLanguage);
     connect(unitPage, &UnitPage::diskChanged, this, [this](bool isIn, const QString &path) {
