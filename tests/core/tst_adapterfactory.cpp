@@ -160,6 +160,7 @@ void AdapterFactoryTest::secondInit()
     CountingAdapter adapter;
     QVERIFY(!adapter.isInited());
     QCOMPARE(adapter.getCanBusType(), CanBusTypeNone);
+    QCOMPARE(adapter.objectName(), QString("CanBusAdapter"));
     adapter.initAdapter();
     QVERIFY(adapter.isInited());
     QTimerEvent other(-1);

@@ -122,6 +122,8 @@ void TestPackageView::findStart()
 {
     QFETCH(int, from);
     QTEST(Framing::findStart(QByteArray("a.bc.d"), from, '.'), "at");
+    // Zeros lie around the array, which are not its own.
+    QCOMPARE(Framing::findStart(QByteArray("a.bc.d"), from < 0 ? -2 : from, '\0'), -1);
 }
 
 // Sums are formed eight bytes at a time, so every length around that, with carries in every lane.
