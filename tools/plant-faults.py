@@ -9,6 +9,7 @@ to read the result. Ends with 1 when under 90 % of the faults are seen.
 
 import argparse
 import collections
+import fcntl
 import fnmatch
 import json
 import math
@@ -220,7 +221,7 @@ class Tree:
             began = time.monotonic()
             process = subprocess.Popen(test.command, cwd=test.folder, env=dict(self.environment, **test.environment),
                                        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                                       errors="replace", start_new_session=True)
+                                       errors="replace", process_group=0)
             timer = threading.Timer(limit, lambda: os.killpg(process.pid, signal.SIGKILL))
             timer.start()
             output = []
@@ -273,6 +274,17 @@ class Tree:
 
 def step(text):
     print("== " + text, flush=True)
+
+
+def alone():
+    """Holds the copies until this program ends; two runs would plant in the same one."""
+    os.makedirs(os.path.join(ROOT, "build-faults"), exist_ok=True)
+    lock = open(os.path.join(ROOT, "build-faults", "lock"), "w", encoding="utf-8")
+    try:
+        fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except BlockingIOError:
+        sys.exit("another run works in build-faults/")
+    return lock
 
 
 def prepared(jobs):
@@ -338,10 +350,12 @@ def main():
                                              shown(fault.new)))
         return 0
     known = equivalents()
+    lock = alone()
     trees = prepared(options.jobs)
     step("Planting %d faults" % len(faults))
     began = time.monotonic()
     outcomes = plant(trees, faults, known)
+    lock.close()
     counted = outcomes["seen"] + outcomes["NOT SEEN"]
     share = outcomes["seen"] / counted if counted else 0.0
     print("%d planted: %d seen, %d not seen, %d did not compile, %d equivalent; %.0f %% of %d seen, %.0f s a fault" % (
