@@ -9,6 +9,7 @@ to read the result. Ends with 1 when under 90 % of the faults are seen.
 
 import argparse
 import collections
+import fcntl
 import fnmatch
 import json
 import math
@@ -156,9 +157,13 @@ class Tree:
         self.must_run("cmake", "-S", self.source, "-B", self.build, *CONFIGURE, *launcher)
         listing = self.must_run("ninja", "-C", self.build, "-t", "targets", "all")
         self.known = set(re.findall(r"^(\S+): phony$", listing, re.M))
-        # What a test runs is known once its program is there.
+        # What a test runs is known once its program is there, and so is which headers went into it.
+        may_read = "-I%s/plugin" % self.source
+        commands = json.loads(read(os.path.join(self.build, "compile_commands.json")))
+        maybe = {name for command in commands if may_read in command["command"]
+                 for name in re.findall(r"CMakeFiles/(\w+)\.dir/", command["command"])}
         unbuilt = [entry["name"] for entry in self.listed() if "command" not in entry]
-        self.build_all(name for name in unbuilt if self.links_plugin(name))
+        self.build_all(name for name in unbuilt if name in maybe or self.links_plugin(name))
         tests = [self.described(entry) for entry in self.listed() if "command" in entry]
         self.tests = [test for test in tests if self.concerns_plugin(test)]
         self.build_all(target for test in self.tests for target in test.targets)
@@ -183,14 +188,18 @@ class Tree:
                     bool(properties.get("RESOURCE_LOCK")), properties.get("TIMEOUT", 60),
                     targets + ["CanBus", "headunit", "decoderbox"])
 
+    def inputs(self, name):
+        return self.must_run("ninja", "-C", self.build, "-t", "inputs", name) if name in self.known else ""
+
     def links_plugin(self, name):
-        inputs = self.must_run("ninja", "-C", self.build, "-t", "inputs", name) if name in self.known else ""
-        return "canbusadapters.dir/" in inputs or "libCanBus.so" in inputs or "/plugin/core/" in inputs
+        inputs = self.inputs(name)
+        return "canbusadapters.dir/" in inputs or "libCanBus.so" in inputs
 
     def concerns_plugin(self, test):
-        if test.name in self.known:
-            return self.links_plugin(test.name)
-        return not re.search(r"/(platform|workbench)/", " ".join(test.command))
+        if test.name not in self.known:
+            return not re.search(r"/(platform|workbench)/", " ".join(test.command))
+        own = [name for name in self.inputs(test.name).split() if "/%s.dir/" % test.name in name and name.endswith(".o")]
+        return self.links_plugin(test.name) or "/plugin/" in self.must_run("ninja", "-C", self.build, "-t", "deps", *own)
 
     def measure(self):
         """Every test passes as long as nothing is planted; one that does not is left out, and named."""
@@ -220,7 +229,7 @@ class Tree:
             began = time.monotonic()
             process = subprocess.Popen(test.command, cwd=test.folder, env=dict(self.environment, **test.environment),
                                        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                                       errors="replace", start_new_session=True)
+                                       errors="replace", process_group=0)
             timer = threading.Timer(limit, lambda: os.killpg(process.pid, signal.SIGKILL))
             timer.start()
             output = []
@@ -273,6 +282,17 @@ class Tree:
 
 def step(text):
     print("== " + text, flush=True)
+
+
+def alone():
+    """Holds the copies until this program ends; two runs would plant in the same one."""
+    os.makedirs(os.path.join(ROOT, "build-faults"), exist_ok=True)
+    lock = open(os.path.join(ROOT, "build-faults", "lock"), "w", encoding="utf-8")
+    try:
+        fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except BlockingIOError:
+        sys.exit("another run works in build-faults/")
+    return lock
 
 
 def prepared(jobs):
@@ -338,10 +358,12 @@ def main():
                                              shown(fault.new)))
         return 0
     known = equivalents()
+    lock = alone()
     trees = prepared(options.jobs)
     step("Planting %d faults" % len(faults))
     began = time.monotonic()
     outcomes = plant(trees, faults, known)
+    lock.close()
     counted = outcomes["seen"] + outcomes["NOT SEEN"]
     share = outcomes["seen"] / counted if counted else 0.0
     print("%d planted: %d seen, %d not seen, %d did not compile, %d equivalent; %.0f %% of %d seen, %.0f s a fault" % (
