@@ -7,19 +7,19 @@
 
 #include <memory>
 
-/// One car under the orders of its sheet, sheets/CAR.txt: what every package makes the unit do, and what the unit
-/// says. A sheet's orders:
+/// One car under the orders of its sheet, sheets/CAR.txt: what every package makes the unit do, and what the
+/// unit says. A sheet's orders:
 ///
-///     start                   a new adapter; the line, what it sends within 25 ms and 150 ms more, its timers
+///     start                   a new adapter; the line, what it sends in 25 ms and 150 ms more, its timers
 ///     still                   a new adapter that repeats nothing by itself, for the orders below
 ///     20 01 01 | 20 01 00     packages over the line, and all that the unit then calls
-///     each 20 ?? 01           a package with every byte in the place of "??"; bytes that do nothing are left out
+///     each 20 ?? 01           a package with every byte for "??"; bytes that do nothing are left out
 ///     each 28 ?? 00: setFan   of that only the calls of one name
 ///     wait MS                 what the unit sends meanwhile
 ///     modes                   the unit's application modes 0 to 19, and one that is none
 ///     write ITEM VALUE, sync TYPE PARAM    a setting is changed, data asked for (hexadecimal)
 ///     call SLOT               a slot of the adapter
-///     tag ID [VALUE], product NAME [VALUE] values of the unit: a number, "a text" in quotes, or none
+///     tag ID [VALUE], product NAME [VALUE] values of the unit: hexadecimal, "a text", or none
 ///     current                 the key of the wheel that was reported last
 class CarBench
 {
@@ -37,8 +37,8 @@ public:
     }
     AdapterFixture &fixture() { return *m_fixture; }
 
-    /// "sends COMMAND DATA" of each package that the unit has queued since the last call; of a car's clock, whose
-    /// seconds nobody can foretell, as far as the hour.
+    /// "sends COMMAND DATA" of each package that the unit has queued since the last call; of a car's clock,
+    /// whose seconds nobody can foretell, as far as the hour.
     QStringList sent();
 
 private:

@@ -10,8 +10,8 @@
 #include <QDir>
 #include <QSet>
 
-// Every car by its sheet: packages in through the line, the whole ordered trace of framework calls out; and whether
-// each decoder of the plug-in has a sheet that says so.
+// Every car by its sheet: packages in through the line, the whole ordered trace of framework calls out; and
+// whether each decoder of the plug-in has a sheet that says so.
 class CarsTest : public QObject
 {
     Q_OBJECT
@@ -96,7 +96,8 @@ void CarsTest::sheets()
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
-// A decoder has no command twice and none without a handler, its sheet reaches each, and a virtual box speaks them.
+// A decoder has no command twice and none without a handler, its sheet reaches each, and a virtual box speaks
+// them.
 void CarsTest::commands()
 {
     QFETCH(int, type);

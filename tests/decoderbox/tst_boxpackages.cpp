@@ -1,9 +1,9 @@
-// What each box puts into its packages, and what it understands of the unit's: boxes/CAR.txt, a transcript that was
-// held against the box's data sheet. Its orders:
+// What each box puts into its packages, and what it understands of the unit's: boxes/CAR.txt, a transcript
+// that was held against the box's data sheet. Its orders:
 //
 //     new            a box of a car as it starts
 //     car            the same, and all that it tells of the car
-//     car CHANGES    a new box of a car with changes ("climate.ac on; climate.fan 3"): what it tells otherwise
+//     car CHANGES    a new box, its car with changes ("climate.ac on; climate.fan 3"): what differs
 //     hear PACKAGES  packages from the unit, apart by bars: what comes of each
 //     keys           each key pressed, held and released; knobs at 255 clicks
 //     touch N X Y    a touch

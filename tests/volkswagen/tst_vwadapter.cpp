@@ -4,8 +4,8 @@
 
 #include "orbhost.h"
 
-/// The adapter on a pseudo-terminal: its start, what it hands on to the screens and what it sends. What it decodes
-/// itself stands in tests/cars/sheets/volkswagen.txt.
+/// The adapter on a pseudo-terminal: its start, what it hands on to the screens and what it sends. What it
+/// decodes itself stands in tests/cars/sheets/volkswagen.txt.
 class TestVwAdapter : public QObject
 {
     Q_OBJECT
