@@ -146,7 +146,7 @@ void TestTrace::goneReaderEndsNothing()
     QTemporaryDir folder;
     const QByteArray path = QFile::encodeName(folder.filePath("trace"));
     QCOMPARE(::mkfifo(path.constData(), 0600), 0);
-    const int reader = ::open(path.constData(), O_RDONLY | O_NONBLOCK);
+    const int reader = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     HeadUnitRun run;
     run.process().setStandardOutputFile(folder.filePath("trace"));
     QVERIFY(run.startProbe());
