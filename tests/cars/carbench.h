@@ -2,63 +2,53 @@
 #define CARBENCH_H
 
 #include "adapterfixture.h"
-#include "carsheet.h"
 
 #include "adapterfactory.h"
 
-#include <QTimer>
-
 #include <memory>
 
-/// The car that the rows of a table share: built at the first row that asks for it, in place of the one
-/// before.
+/// One car under the orders of its sheet, sheets/CAR.txt: what every package makes the unit do, and what the
+/// unit says. A sheet's orders:
+///
+///     start                   a new adapter; the line, what it sends in 25 ms and 150 ms more, its timers
+///     still                   a new adapter that repeats nothing by itself, for the orders below
+///     20 01 01 | 20 01 00     packages over the line, and all that the unit then calls
+///     each 20 ?? 01           a package with every byte for "??"; bytes that do nothing are left out
+///     each 28 ?? 00: setFan   of that only the calls of one name
+///     wait MS                 what the unit sends meanwhile
+///     modes                   the unit's application modes 0 to 19, and one that is none
+///     write ITEM VALUE, sync TYPE PARAM    a setting is changed, data asked for (hexadecimal)
+///     call SLOT               a slot of the adapter
+///     tag ID [VALUE], product NAME [VALUE] values of the unit: hexadecimal, "a text", or none
+///     current                 the key of the wheel that was reported last
 class CarBench
 {
 public:
-    CanBusAdapter *use(CanBusType type)
-    {
-        if (m_car && m_type == type) {
-            return m_car;
-        }
-        reset();
-        m_type = type;
-        m_fixture.reset(new AdapterFixture);
-        m_car = m_fixture->take(AdapterFactory::create(type));
-        m_fixture->open();
-        m_fixture->settle();
-        // What a car repeats by itself must not show up between a row's calls.
-        for (QTimer *timer : m_car->findChildren<QTimer *>()) {
-            if (isPeriodic(timer)) {
-                timer->stop();
-            }
-        }
-        return m_car;
-    }
+    explicit CarBench(CanBusType type) : m_type(type) {}
+
+    QStringList act(const QString &order);
+
+    /// The adapter; a still one when none has been started.
+    CanBusAdapter *car();
     template <class Car>
-    Car *use(CanBusType type)
+    Car *car()
     {
-        return static_cast<Car *>(use(type));
+        return static_cast<Car *>(car());
     }
-
-    /// A car's own timer, not one of the framer's.
-    static bool isPeriodic(const QTimer *timer)
-    {
-        return timer->interval() == 200 || timer->interval() == 500 || timer->interval() >= 10000;
-    }
-
-    /// Lets go of the car, for a table that needs a fresh one.
-    void reset()
-    {
-        m_car = nullptr;
-        m_fixture.reset();
-    }
-
     AdapterFixture &fixture() { return *m_fixture; }
 
+    /// "sends COMMAND DATA" of each package that the unit has queued since the last call; of a car's clock,
+    /// whose seconds nobody can foretell, as far as the hour.
+    QStringList sent();
+
 private:
+    QStringList start();
+    QStringList each(const QString &order);
+    QStringList modes();
+
+    CanBusType m_type;
     std::unique_ptr<AdapterFixture> m_fixture;
     CanBusAdapter *m_car = nullptr;
-    CanBusType m_type = CanBusTypeNone;
 };
 
 /// First line of a table's function: a table that says nothing of the car that is tested has no rows.

@@ -1,186 +1,134 @@
 #include "carbench.h"
+#include "transcript.h"
 
 #include "boxcatalog.h"
 #include "decoderbox.h"
-#include "orbhost.h"
-#include "raise/raiseadapter.h"
 #include "xinhang/canbus_xinhang.h"
 
+#include "raise/raiseadapter.h"
+
+#include <QDir>
 #include <QSet>
 
-// Every car: packages in through the line, the whole ordered trace of framework calls out; and whether each
-// decoder of the plug-in has a sheet that says so.
+// Every car by its sheet: packages in through the line, the whole ordered trace of framework calls out; and
+// whether each decoder of the plug-in has a sheet that says so.
 class CarsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("TZ", "UTC"); } // a car's clock is set to the local time
     void everyDecoderHasItsSheet();
-    void everyDecodedCarHasItsBox();
-    void vectors_data();
-    void vectors();
-    void phoneKey();
-    void commandTables_data() { eachSheet(); }
-    void commandTables();
-    void cutPackages_data() { eachSheet(); }
+    void sheets_data() { eachCar(); }
+    void sheets();
+    void commands_data() { eachCar(); }
+    void commands();
+    void cutPackages_data() { eachCar(); }
     void cutPackages();
-
-    void cleanupTestCase();
+    void silentBoxes_data() { eachCar(); }
+    void silentBoxes();
+    void cleanupTestCase() { QFile::remove("/tmp/can_version"); }
 
 private:
-    void eachSheet();
-
-    CarBench m_bench;
+    void eachCar();
 };
 
 namespace {
 
-// A decoder's rows, whatever its frame: command and fewest data bytes.
+// A decoder's rows, whatever its frame: command (-1 without a handler) and fewest data bytes.
 typedef QList<QPair<int, int>> Rows;
 
 template <class Adapter>
-bool readRows(CanBusAdapter *adapter, Rows *rows)
+void readRows(CanBusAdapter *adapter, Rows *rows)
 {
     const Adapter *const framed = dynamic_cast<const Adapter *>(adapter);
-    if (!framed) {
-        return false;
+    for (int i = 0; framed && i < framed->commands().count; ++i) {
+        const auto &row = framed->commands().rows[i];
+        *rows << qMakePair(row.handler || row.shared ? int(row.command) : -1, int(row.minimumN));
     }
-    const auto table = framed->commands();
-    for (int i = 0; i < table.count; ++i) {
-        const bool isHandled = table.rows[i].handler != nullptr || table.rows[i].shared != nullptr;
-        *rows << qMakePair(isHandled ? int(table.rows[i].command) : -1, int(table.rows[i].minimumN));
-    }
-    return true;
 }
 
 Rows rowsOf(CanBusAdapter *adapter)
 {
     Rows rows;
-    if (!readRows<RaiseAdapter>(adapter, &rows)) {
-        readRows<CanBus_XinHang>(adapter, &rows);
-    }
+    readRows<RaiseAdapter>(adapter, &rows);
+    readRows<CanBus_XinHang>(adapter, &rows);
     return rows;
 }
 
-QString hex(int number)
+QString sheetOf(const char *car)
 {
-    return "0x" + QString::number(number, 16).rightJustified(2, '0');
+    return QString(SHEETS "/%1.txt").arg(car);
 }
 
 } // namespace
 
-void CarsTest::everyDecoderHasItsSheet()
-{
-    if (!areAllCarsTested()) {
-        QSKIP("one car only");
-    }
-    QList<int> sheets;
-    for (const CarSheet &sheet : carSheets()) {
-        QVERIFY2(AdapterFactory::className(sheet.type),
-                 "a sheet of " + sheet.name() + ", which the plug-in lacks");
-        sheets << sheet.type;
-        const auto isItsBox = [&](const BoxCatalog::Row &row) {
-            return row.type == int(sheet.type) && sheet.car == row.car;
-        };
-        QVERIFY2(std::any_of(BoxCatalog::rows().begin(), BoxCatalog::rows().end(), isItsBox),
-                 "the boxes' catalog has another word than '" + sheet.car + "' for " + sheet.name());
-    }
-    for (const CanBusType type : AdapterFactory::types()) {
-        QVERIFY2(sheets.count(type) == 1, qPrintable(QString("%1 has %2 sheets in tests/cars/sheets")
-                                                         .arg(AdapterFactory::className(type))
-                                                         .arg(sheets.count(type))));
-    }
-}
-
-// What a decoder understands, a virtual box can say.
-void CarsTest::everyDecodedCarHasItsBox()
-{
-    for (const CarSheet &sheet : carSheets()) {
-        const bool isDecoded = !rowsOf(m_bench.use(sheet.type)).isEmpty();
-        QString error;
-        const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(int(sheet.type), nullptr, &error));
-        // A box that only knows the handshake reports its version, and nothing else.
-        QVERIFY2(!isDecoded || (box && box->speaker()->keys().size() + box->speaker()->reports().size() > 1),
-                 sheet.name() + " decodes commands, but no virtual box speaks them");
-    }
-}
-
-void CarsTest::vectors_data()
+// CANBUS_CAR, a car's word, leaves one.
+void CarsTest::eachCar()
 {
     QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("setup");
-    QTest::addColumn<QByteArray>("packages");
-    QTest::addColumn<QStringList>("trace");
-    for (const CarSheet &sheet : carSheets()) {
-        for (const CarVector &vector : sheet.vectors) {
-            QTest::addRow("%s, %s", sheet.name().constData(), vector.name)
-                << int(sheet.type) << QByteArray(vector.setup) << vector.packages << vector.trace;
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        if (qEnvironmentVariable("CANBUS_CAR", row.car) == row.car) {
+            QTest::newRow(row.car) << row.type;
         }
     }
 }
 
-void CarsTest::vectors()
+// That catalog and plug-in have the same numbers is tst_adapterfactory's.
+void CarsTest::everyDecoderHasItsSheet()
+{
+    QStringList sheets = QDir(SHEETS).entryList({"*.txt"});
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        QVERIFY2(sheets.removeAll(QString(row.car) + ".txt") == 1,
+                 qPrintable(QString("%1 has no tests/cars/sheets/%2.txt").arg(row.className, row.car)));
+    }
+    QVERIFY2(sheets.isEmpty(),
+             qPrintable("sheets of cars that the boxes' catalog lacks: " + sheets.join(' ')));
+}
+
+void CarsTest::sheets()
 {
     SKIP_WITHOUT_ROWS();
     QFETCH(int, type);
-    QFETCH(QByteArray, setup);
-    QFETCH(QByteArray, packages);
-    QFETCH(QStringList, trace);
-    m_bench.use(static_cast<CanBusType>(type));
-    if (!setup.isEmpty()) {
-        m_bench.fixture().exchange(setup.constData());
-    }
-    QCOMPARE(m_bench.fixture().exchange(packages.constData()), trace);
+    CarBench bench(static_cast<CanBusType>(type));
+    const QString sheet = sheetOf(QTest::currentDataTag());
+    const QString difference = TestSupport::goldenDifference(
+        sheet, TestSupport::play(sheet, [&bench](const QString &order) { return bench.act(order); }));
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
-// The phone key takes a call or, without one, dials by voice.
-void CarsTest::phoneKey()
-{
-    const QList<QPair<quint64, int>> calls = {
-        {~quint64(0x3000000), 0x01100008}, {0x1000000, 0x01100004}, {0x2000000, 0x01100004}};
-    for (const CanBusType type : {CanBusTypeRaiseGm, CanBusTypeRaiseJeep}) {
-        if (!findSheet(type)) {
-            continue;
-        }
-        m_bench.use(type);
-        for (const auto &call : calls) {
-            OrbHost::instance()->setTag(0x10001, call.first);
-            const QStringList trace =
-                m_bench.fixture().exchange(type == CanBusTypeRaiseGm ? "01 06 01" : "01 17 01");
-            OrbHost::instance()->setTag(0x10001, QVariant());
-            QCOMPARE(trace, Expect::pressed(call.second, 1));
-        }
-    }
-}
-
-void CarsTest::eachSheet()
-{
-    QTest::addColumn<int>("type");
-    for (const CarSheet &sheet : carSheets()) {
-        QTest::newRow(sheet.name().constData()) << int(sheet.type);
-    }
-}
-
-// A car's data sheet has no command twice and none without a handler, and the sheet's vectors reach each row.
-void CarsTest::commandTables()
+// A decoder has no command twice and none without a handler, its sheet reaches each, and a virtual box speaks
+// them.
+void CarsTest::commands()
 {
     QFETCH(int, type);
     QByteArrayList packages;
-    for (const CarVector &vector : findSheet(type)->vectors) {
-        packages << vector.packages.split('|');
+    const QRegularExpression order("^> (each )?([0-9a-f?]{2}( [0-9a-f?]{2}| \\|)*)$");
+    for (const QString &line :
+         QString(TestSupport::contentOf(sheetOf(QTest::currentDataTag()))).split('\n')) {
+        const QString sent = order.match(line).captured(2).replace('?', '0');
+        packages << (sent.isEmpty() ? QByteArrayList() : sent.toLatin1().split('|'));
     }
+    CarBench bench(static_cast<CanBusType>(type));
+    const Rows rows = rowsOf(bench.car());
     QSet<int> commands;
-    for (const auto &row : rowsOf(m_bench.use(static_cast<CanBusType>(type)))) {
+    for (const auto &row : rows) {
+        const QByteArray name = "command 0x" + QByteArray::number(row.first, 16).rightJustified(2, '0');
         QVERIFY2(row.first >= 0, "a row without a handler");
-        QVERIFY2(!commands.contains(row.first), qPrintable("command " + hex(row.first) + " twice"));
+        QVERIFY2(!commands.contains(row.first), name + " twice");
         commands << row.first;
-        bool reached = false;
-        for (const QByteArray &package : packages) {
-            const QByteArray bytes = QByteArray::fromHex(package);
-            reached = reached || (quint8(bytes.at(0)) == row.first && bytes.size() > row.second);
-        }
-        QVERIFY2(reached, qPrintable("command " + hex(row.first) + " has no vector"));
+        const bool isReached =
+            std::any_of(packages.begin(), packages.end(), [&row](const QByteArray &package) {
+                const QByteArray bytes = QByteArray::fromHex(package);
+                return quint8(bytes.at(0)) == row.first && bytes.size() > row.second;
+            });
+        QVERIFY2(isReached, name + " is not in the sheet");
     }
+    QString error;
+    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
+    // A box that only knows the handshake reports its version, and nothing else.
+    QVERIFY2(rows.isEmpty() || (box && box->speaker()->keys().size() + box->speaker()->reports().size() > 1),
+             "decodes commands, but no virtual box speaks them");
 }
 
 // Packages that end anywhere, with a length byte that lies: every read stays inside.
@@ -190,8 +138,9 @@ void CarsTest::cutPackages()
     if (type == CanBusTypeXinHang) {
         QSKIP("another frame");
     }
-    CanBusAdapter *const car = m_bench.use(static_cast<CanBusType>(type));
-    m_bench.fixture().trace.take();
+    CarBench bench(static_cast<CanBusType>(type));
+    CanBusAdapter *const car = bench.car();
+    bench.fixture().trace.take();
     for (int command = 0; command < 256; ++command) {
         const QByteArray whole = QByteArray("\x2E") + char(command) + QByteArray(14, '\xFF');
         // The version would run the shell each time.
@@ -199,16 +148,28 @@ void CarsTest::cutPackages()
             car->onRecvMcuProtocol(QByteArray(whole.constData(), size));
         }
     }
-    QStringList sent = m_bench.fixture().trace.linesOf("ProtocolUtils");
+    QStringList sent = bench.fixture().trace.linesOf("ProtocolUtils");
     sent.removeDuplicates();
     const bool isFramed = dynamic_cast<RaiseAdapter *>(car) != nullptr;
     QCOMPARE(sent, isFramed ? QStringList("ProtocolUtils.writeDatas_direct(ff)") : QStringList());
 }
 
-void CarsTest::cleanupTestCase()
+// Boxes whose frame is not known: whatever they send, nothing is delivered, answered or kept.
+void CarsTest::silentBoxes()
 {
-    m_bench.reset();
-    QFile::remove("/tmp/can_version");
+    QFETCH(int, type);
+    if (type != CanBusTypeHuidaZd && type != CanBusTypeLiHangJmcE200N) {
+        QSKIP("a box that is understood");
+    }
+    CarBench bench(static_cast<CanBusType>(type));
+    CanBusAdapter *const car = bench.car();
+    bench.fixture().trace.take();
+    QVERIFY(bench.fixture().box.send(RaiseWire::frame("20 01 01").repeated(20000)));
+    QCOMPARE(bench.fixture().box.takeUntilQuiet(), QByteArray());
+    car->showApp(1);
+    car->onKeyEvent(0x01000072, true, false);
+    car->onRecvAppProtocol("x");
+    QCOMPARE(bench.fixture().trace.take(), QStringList());
 }
 
 CANBUS_TEST_MAIN(CarsTest)

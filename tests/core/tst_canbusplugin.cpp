@@ -169,7 +169,9 @@ void CanBusPluginTest::keySetTakesTheKeys()
     sendEvent(&plugin, 51006, 0x2F00007, 1);
     sendEvent(&plugin, 51006, 0x2F00003, 0);
     sendEvent(&plugin, 51006, 0x1234, 1);
-    QCOMPARE(trace.take(), TestSupport::taps(0x01000061) + TestSupport::taps(0x01000012));
+    const QString calls = trace.take().join(' ').remove("OrbApplication.simulateKey");
+    QCOMPARE(calls, QString("(16777313,true,false,0) (16777313,false,false,0) " // back, left
+                            "(16777234,true,false,0) (16777234,false,false,0)"));
     QCOMPARE(asked, QStringList());
     sendEvent(&plugin, 51001, 4, 0);
     QCOMPARE(asked, QStringList{"showApp 4"});

@@ -4,6 +4,8 @@
 #include "decoderbox.h"
 #include "scenarioplayer.h"
 #include "simulatedunit.h"
+#include "transcript.h"
+#include "virtualmain.h"
 
 #include <QProcess>
 #include <QSignalSpy>
@@ -29,56 +31,26 @@ class TestBoxOrders : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void wrongScenario_data();
     void wrongScenario();
     void shippedScenarios_data();
     void shippedScenarios();
     void scenarioPlaysInTime();
     void scriptAnswers();
-    void programEnds_data();
     void programEnds();
     void programServesAUnit();
 };
 
-void TestBoxOrders::wrongScenario_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("error");
-    const auto row = [](const char *name, const char *text, const char *error) {
-        QTest::newRow(name) << QString(text) << QString(error);
-    };
-    const char faultUsage[] = "1: expected: fault noise N, fault cut N, fault corrupt or fault silence MS";
-    const char keyUsage[] = "1: expected: key NAME press|hold|release|tap [MS]";
-    row("unknown property", "# drive\n1 climate.ac on\n2 x 1\n", "3: unknown property 'x'");
-    row("bad value", "0 climate.ac 9", "1: 'climate.ac' takes on or off, not '9'");
-    row("negative time", "-1 climate.ac on", "1: '-1' is no time in seconds");
-    row("time without end", "inf climate.ac on", "1: 'inf' is no time in seconds");
-    row("no order", "1.5", "1: nothing to do at this time");
-    row("time goes back", "2 start\n1 start", "2: time goes back, before 2");
-    row("after the end", "2 end\n3 start", "2: an order after the end");
-    row("after the last order", "2 again\n3 start", "2: an order after the end");
-    row("a drive without length", "0 start\n0 again", "2: a drive that starts over takes some time");
-    row("no key at all", "1 key", "1: unknown key ''");
-    row("unknown key action", "1 key next push", keyUsage);
-    row("time for a press", "1 key next press 100", keyUsage);
-    row("key as knob", "1 knob next 3", "1: unknown knob 'next'");
-    row("no hex", "1 raw zz", "1: expected: raw HEX, two digits for each byte");
-    row("unknown fault", "1 fault fire 3", faultUsage);
-    row("fault without size", "1 fault cut", faultUsage);
-    row("touch without a screen", "1 touch 1 1 press", "1: this box reports no touches");
-}
-
 void TestBoxOrders::wrongScenario()
 {
-    QFETCH(QString, text);
     QTemporaryDir folder;
-    const QString path = writeScenario(folder, text);
     const auto box = openBox(9);
-    Scenario scenario;
-    QString said;
-    QVERIFY(!scenario.load(path, *box, &said));
-    QFETCH(QString, error);
-    QCOMPARE(said, path + ':' + error);
+    const auto act = [&](const QString &drive) {
+        const QString path = writeScenario(folder, QString(drive).replace(" | ", "\n"));
+        Scenario scenario;
+        QString said;
+        return QStringList(scenario.load(path, *box, &said) ? "good" : said.remove(path + ':'));
+    };
+    COMPARE_WITH_TRANSCRIPT("wrongdrives.txt", act);
 }
 
 void TestBoxOrders::shippedScenarios_data()
@@ -154,7 +126,7 @@ void TestBoxOrders::scriptAnswers()
         "observed mode\n\nstate\nstart\nstate\nwait soon\nkey next tap";
     // The line that is still being written when the first half is read counts whole.
     QCOMPARE(int(::write(ends[1], lines.constData(), 20)), 20);
-    QTest::qWait(10);
+    QTRY_COMPARE(int(answers.size()), 1);
     QCOMPARE(int(::write(ends[1], lines.constData() + 20, size_t(lines.size()) - 20)),
              int(lines.size()) - 20);
     ::close(ends[1]);
@@ -167,54 +139,34 @@ void TestBoxOrders::scriptAnswers()
     QCOMPARE(answers.join('\n'), expected);
 }
 
-void TestBoxOrders::programEnds_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("said");
-    const auto row = [](const char *name, const char *arguments, int exitCode, const char *said) {
-        QTest::newRow(name) << QString(arguments) << exitCode << QString(said);
-    };
-    row("no type", "", 2, "--type takes");
-    row("unknown type", "--type 16", 2, "not '16'");
-    row("type with a tail", "--type 9a", 2, "not '9a'");
-    row("class name in another case", "--type canbus_xinhang", 2, "not 'canbus_xinhang'");
-    row("unknown option", "--type 9 --colour", 2, "Usage: ");
-    row("stray argument", "--type 9 drive.scn", 2, "what is 'drive.scn'?");
-    row("box that nobody knows", "--type 0x2", 1, "CanBus_Huida_ZD");
-    row("missing scenario", "--type 9 --scenario /nowhere/a.scn", 1, "/nowhere/a.scn: ");
-    row("scenario of another box", "--type 6 --scenario SCENARIOS/toyota.scn", 1,
-        "toyota.scn:27: unknown key 'volume_up'");
-    row("log in no folder", "--type 9 --log /nowhere/log", 1, "/nowhere/log: ");
-    row("link in no folder", "--type 9 --link /nowhere/can", 1, "'/nowhere/can'");
-}
-
 void TestBoxOrders::programEnds()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, said);
-    QProcess program;
-    program.start(DECODERBOX,
-                  arguments.split(' ', Qt::SkipEmptyParts).replaceInStrings("SCENARIOS", SCENARIO_FOLDER));
-    QVERIFY(program.waitForFinished(5000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QTEST(program.exitCode(), "exitCode");
-    const QString output = QString::fromLocal8Bit(program.readAllStandardError());
-    QVERIFY2(output.contains(said), qPrintable(output));
+    const auto act = [](QString line) {
+        const VirtualClock::Hold hold;
+        QProcess program;
+        program.start(DECODERBOX, line.replace("SCENARIOS", SCENARIO_FOLDER).split(' ').mid(1));
+        const bool hasEnded = program.waitForFinished(5000) && program.exitStatus() == QProcess::NormalExit;
+        const QString said = QString::fromLocal8Bit(program.readAllStandardError()).remove(SCENARIO_FOLDER);
+        return QStringList{hasEnded ? QString("ends with %1").arg(program.exitCode()) : "does not end",
+                           said.section('\n', 0, 0),
+                           said.contains("\nUsage: ") ? "and the usage" : "no more"};
+    };
+    COMPARE_WITH_TRANSCRIPT("commandline.txt", act);
 }
 
 void TestBoxOrders::programServesAUnit()
 {
+    const VirtualClock::Hold hold; // another process
     QTemporaryDir folder;
     const QString link = folder.filePath("can");
     const QString log = folder.filePath("log");
     QProcess program;
     program.start(DECODERBOX,
                   {"--type", "CanBus_Raise_Toyota", "--link", link, "--log", log, "--script", "-"});
-    QTRY_VERIFY(program.canReadLine());
+    QVERIFY(program.waitForReadyRead(5000));
     QCOMPARE(QString::fromLocal8Bit(program.readLine()).trimmed(), QFile::symLinkTarget(link));
     program.write("start\nwait 50\nget climate.left\n");
-    QTRY_VERIFY(program.bytesAvailable() > 0);
+    QVERIFY(program.waitForReadyRead(5000)); // without an end of the script
     program.closeWriteChannel();
     QVERIFY(program.waitForFinished(5000));
     QCOMPARE(program.readAllStandardOutput(), QByteArray("ok\nok\nclimate.left 21\n"));
@@ -225,5 +177,5 @@ void TestBoxOrders::programServesAUnit()
     QVERIFY(lines.readLine().contains(" box>unit 2e3020"));
 }
 
-QTEST_GUILESS_MAIN(TestBoxOrders)
+CANBUS_VIRTUAL_MAIN(QCoreApplication, TestBoxOrders)
 #include "tst_boxorders.moc"

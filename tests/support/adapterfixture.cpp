@@ -99,29 +99,3 @@ QStringList AdapterFixture::exchange(const char *packages)
     }
     return exchange(frames);
 }
-
-QStringList TestSupport::words(const QString &prefix, const QString &text)
-{
-    QStringList lines;
-    for (const QString &word : text.split(' ', Qt::SkipEmptyParts)) {
-        lines << prefix + word;
-    }
-    return lines;
-}
-
-QString TestSupport::key(int code, bool press, bool autoRepeat, int last)
-{
-    return QString("OrbApplication.simulateKey(%1,%2,%3,%4)")
-        .arg(code)
-        .arg(press ? "true" : "false", autoRepeat ? "true" : "false")
-        .arg(last);
-}
-
-QStringList TestSupport::taps(int code, int count, int last)
-{
-    QStringList lines;
-    for (int i = 0; i < count; ++i) {
-        lines << key(code, true, false, last) << key(code, false, false, last);
-    }
-    return lines;
-}

@@ -65,16 +65,4 @@ private:
     CanBusAdapter *m_adapter = nullptr;
 };
 
-namespace TestSupport {
-
-/// "a b c" becomes {"PREFIXa", "PREFIXb", "PREFIXc"}.
-QStringList words(const QString &prefix, const QString &text);
-
-/// Trace line of one simulated key.
-QString key(int code, bool press, bool autoRepeat, int last);
-/// Trace lines of \a count presses and releases of a key.
-QStringList taps(int code, int count = 1, int last = 0);
-
-} // namespace TestSupport
-
 #endif // ADAPTERFIXTURE_H

@@ -1,6 +1,7 @@
 #include "ptybox.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 #include <unistd.h>
@@ -8,7 +9,7 @@
 PtyBox::PtyBox()
 {
     QString error;
-    if (!m_terminal.open(&error) || !m_terminal.holdLine()) {
+    if (!m_terminal.open(&error) || !m_terminal.holdLine() || !QFile::link(m_terminal.devicePath(), path())) {
         qFatal("no serial line: %s", qPrintable(error));
     }
 }

@@ -4,6 +4,7 @@
 #include "terminalpair.h"
 
 #include <QByteArray>
+#include <QTemporaryDir>
 
 #include <functional>
 
@@ -15,8 +16,9 @@ public:
     /// Holds the line up while the unit has it closed.
     PtyBox();
 
-    /// Device file for the unit.
-    QString path() const { return m_terminal.devicePath(); }
+    /// Device file for the unit: a name of this line alone. The system gives the number of a terminal that is gone
+    /// to the next one, which may be another test's, and a unit tries for ever to open what it has lost.
+    QString path() const { return m_folder.filePath("line"); }
 
     /// Writes all of \a bytes to the unit; while the line is full the event loop runs. False after 5 s.
     bool send(const QByteArray &bytes);
@@ -35,6 +37,7 @@ public:
     static bool waitUntil(const std::function<bool()> &condition, int timeout = 10000);
 
 private:
+    QTemporaryDir m_folder;
     TerminalPair m_terminal;
     QByteArray m_received;
 };

@@ -10,9 +10,9 @@
 namespace TestSupport {
 
 /// Plays the text \a file: each line "> ORDER" is given to \a act, and the lines that it returns are what
-/// must stand below it. "== TITLE" begins a new case and is given to \a act as well; lines with "#" and empty ones
-/// are for the reader. Returns the whole text as it should be, for COMPARE_WITH_GOLDEN. A new case is written
-/// as orders alone; ORB_REWRITE_GOLDEN=1 then fills in what came of them.
+/// must stand below it. "== TITLE" begins a new case and is given to \a act as well; lines with "#" and empty
+/// ones are for the reader. Returns the whole text as it should be, for COMPARE_WITH_GOLDEN. A new case is
+/// written as orders alone; ORB_REWRITE_GOLDEN=1 then fills in what came of them.
 inline QStringList play(const QString &file, const std::function<QStringList(const QString &)> &act)
 {
     QStringList lines;
