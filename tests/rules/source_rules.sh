@@ -25,6 +25,13 @@ grep -nE 'connect\([^;]*&[A-Za-z_]+::[A-Za-z_]+' $portable | complain "functor c
 # shellcheck disable=SC2086
 grep -n 'QT_VERSION' $portable | complain "version check outside orbqtcompat.h"
 
+# Qt 4.8's QElapsedTimer has no constructor: a member is garbage until it is invalidated, or started as a clock is.
+# shellcheck disable=SC2086
+grep -HoE '^ +QElapsedTimer \w+;' $portable | sed 's/: *QElapsedTimer / /; s/;//' | while read -r file member; do
+    case $member in *clock | timer) begin=start ;; *) begin=invalidate ;; esac
+    cat "$file" "${file%.h}.cpp" 2>/dev/null | grep -qE "^ +$member\.$begin\(\);" || echo "$file: $member"
+done | complain "a timer that is not initialised"
+
 # Arrows point one way.
 grep -rnE '#include.*"(orbhost|orbtrace|orbhost_p|windowstack)' plugin --include='*.cpp' --include='*.h' |
     complain "the plug-in looks behind the framework's interface"
