@@ -1,4 +1,4 @@
-# One set of targets, whatever the Qt generation: CanBus::QtCore, CanBus::QtWidgets, CanBus::QtSerialPort (5 and 6).
+# One set of targets, whatever the Qt generation: CanBus::QtCore, CanBus::QtWidgets.
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)

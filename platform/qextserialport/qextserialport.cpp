@@ -1,15 +1,70 @@
 #include "qextserialport.h"
 
+#include <QFile>
+#include <QSocketNotifier>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+speed_t speedOf(BaudRateType rate)
+{
+    switch (rate) {
+    case BAUD9600:
+        return B9600;
+    case BAUD19200:
+        return B19200;
+    case BAUD38400:
+        return B38400;
+    case BAUD57600:
+        return B57600;
+    case BAUD115200:
+        break;
+    }
+    return B115200;
+}
+
+tcflag_t dataBitsOf(DataBitsType bits)
+{
+    static const tcflag_t flags[] = {CS5, CS6, CS7, CS8};
+    return flags[bits - DATA_5];
+}
+
+tcflag_t parityOf(ParityType parity)
+{
+    static const tcflag_t flags[] = {0, PARENB | PARODD, PARENB, PARENB | CMSPAR};
+    return flags[parity];
+}
+
+QString openFailure(const QString &name)
+{
+    switch (errno) {
+    case ENOENT:
+        return QString::fromLatin1("The %1 file doesn't exists").arg(name);
+    case EACCES:
+        return QString::fromLatin1("Permission denied: %1").arg(name);
+    default:
+        return QString::fromLatin1("The file opened by the port is not a valid device");
+    }
+}
+
+} // namespace
+
 QextSerialPort::QextSerialPort(const QString &name, const PortSettings &settings, QueryMode mode,
                                QObject *parent)
-    : QIODevice(parent), m_settings(settings), m_mode(mode), m_failed(false)
-{
-    m_port.setPortName(name);
-    connect(&m_port, SIGNAL(readyRead()), this, SIGNAL(readyRead()));
-    connect(&m_port, SIGNAL(bytesWritten(qint64)), this, SIGNAL(bytesWritten(qint64)));
-    connect(&m_port, SIGNAL(errorOccurred(QSerialPort::SerialPortError)), this,
-            SLOT(onPortError(QSerialPort::SerialPortError)));
-}
+    : QIODevice(parent)
+    , m_name(name)
+    , m_settings(settings)
+    , m_mode(mode)
+    , m_descriptor(-1)
+    , m_notifier(nullptr)
+{}
 
 QextSerialPort::~QextSerialPort()
 {
@@ -21,83 +76,118 @@ bool QextSerialPort::open(OpenMode mode)
     if (isOpen()) {
         return false;
     }
-    m_failed = false;
-    if (!m_port.open(mode & ReadWrite)) {
-        setFailure(m_port.errorString());
+    m_failure.clear();
+    m_descriptor = ::open(QFile::encodeName(m_name).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    if (m_descriptor < 0 || !setUpLine()) {
+        m_failure = openFailure(m_name);
+        if (m_descriptor >= 0) {
+            ::close(m_descriptor);
+            m_descriptor = -1;
+        }
         return false;
     }
-    applySettings();
-    setFailure(QString());
-    // The port keeps the only buffer.
+    if (m_mode == EventDriven) {
+        m_notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read, this);
+        connect(m_notifier, &QSocketNotifier::activated, this, &QextSerialPort::onReadable);
+    }
     return QIODevice::open(mode | Unbuffered);
 }
 
 void QextSerialPort::close()
 {
-    if (isOpen()) {
-        QIODevice::close();
+    if (!isOpen()) {
+        return;
     }
-    if (m_port.isOpen()) {
-        m_port.close();
+    QIODevice::close();
+    if (m_notifier) {
+        m_notifier->setEnabled(false);
+        m_notifier->deleteLater(); // it may be the one that called
+        m_notifier = nullptr;
     }
+    ::close(m_descriptor);
+    m_descriptor = -1;
 }
 
-// A pseudo-terminal refuses what only a wire has (a line rate, parity); it carries the bytes all the same.
-void QextSerialPort::applySettings()
+// False when the device is no terminal. One that refuses what only a wire has carries the bytes all the same.
+bool QextSerialPort::setUpLine()
 {
-    static const QSerialPort::Parity parities[] = {QSerialPort::NoParity, QSerialPort::OddParity,
-                                                   QSerialPort::EvenParity, QSerialPort::SpaceParity};
-    static const QSerialPort::FlowControl flows[] = {QSerialPort::NoFlowControl, QSerialPort::HardwareControl,
-                                                     QSerialPort::SoftwareControl};
-    m_port.setBaudRate(m_settings.BaudRate);
-    m_port.setDataBits(static_cast<QSerialPort::DataBits>(m_settings.DataBits));
-    m_port.setParity(parities[m_settings.Parity]);
-    m_port.setStopBits(m_settings.StopBits == STOP_2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
-    m_port.setFlowControl(flows[m_settings.FlowControl]);
-    m_port.clearError();
+    termios line;
+    if (::tcgetattr(m_descriptor, &line) != 0) {
+        return false;
+    }
+    ::cfmakeraw(&line);
+    line.c_cflag &= ~tcflag_t(CSIZE | PARENB | PARODD | CMSPAR | CSTOPB | CRTSCTS);
+    line.c_cflag |= CLOCAL | CREAD | dataBitsOf(m_settings.DataBits) | parityOf(m_settings.Parity);
+    if (m_settings.StopBits == STOP_2) {
+        line.c_cflag |= CSTOPB;
+    }
+    if (m_settings.FlowControl == FLOW_HARDWARE) {
+        line.c_cflag |= CRTSCTS;
+    }
+    if (m_settings.FlowControl == FLOW_XONXOFF) {
+        line.c_iflag |= IXON | IXOFF;
+    }
+    ::cfsetispeed(&line, speedOf(m_settings.BaudRate));
+    ::cfsetospeed(&line, speedOf(m_settings.BaudRate));
+    ::tcsetattr(m_descriptor, TCSANOW, &line);
+    return true;
+}
+
+// The kernel may still hold back what a pseudo-terminal's other end has written: this look hands it on.
+bool QextSerialPort::isReadable(int timeout) const
+{
+    pollfd look = {m_descriptor, POLLIN, 0};
+    return ::poll(&look, 1, timeout) != 0;
 }
 
 qint64 QextSerialPort::bytesAvailable() const
 {
-    return QIODevice::bytesAvailable() + m_port.bytesAvailable();
-}
-
-qint64 QextSerialPort::bytesToWrite() const
-{
-    return m_port.bytesToWrite();
+    if (!isOpen() || !isReadable(0)) {
+        return 0;
+    }
+    int count = 0;
+    return ::ioctl(m_descriptor, FIONREAD, &count) == 0 ? count : -1;
 }
 
 QString QextSerialPort::errorString()
 {
-    return m_failure;
-}
-
-void QextSerialPort::setFailure(const QString &text)
-{
-    m_failure = text;
-    setErrorString(text); // what QIODevice answers is never empty
+    return m_failure.isEmpty() ? QString::fromLatin1("No Error has occurred") : m_failure;
 }
 
 qint64 QextSerialPort::readData(char *data, qint64 maxSize)
 {
-    return m_failed ? -1 : m_port.read(data, maxSize);
+    ssize_t count = ::read(m_descriptor, data, size_t(maxSize));
+    if (count < 0 && errno == EAGAIN && m_mode == Polling && m_settings.Timeout_Millisec > 0) {
+        isReadable(int(m_settings.Timeout_Millisec));
+        count = ::read(m_descriptor, data, size_t(maxSize));
+    }
+    if (count < 0 && errno != EAGAIN && errno != EINTR) {
+        m_failure = QString::fromLatin1("General read operation failure");
+        return -1;
+    }
+    if (m_notifier) {
+        m_notifier->setEnabled(count != 0); // 0: hung up
+    }
+    return qMax<qint64>(count, 0);
 }
 
 qint64 QextSerialPort::writeData(const char *data, qint64 maxSize)
 {
-    return m_failed ? -1 : m_port.write(data, maxSize);
+    const ssize_t count = ::write(m_descriptor, data, size_t(maxSize));
+    if (count < 0 && errno != EAGAIN && errno != EINTR) {
+        m_failure = QString::fromLatin1("General write operation failure");
+        return -1;
+    }
+    return qMax<qint64>(count, 0);
 }
 
-void QextSerialPort::onPortError(QSerialPort::SerialPortError error)
+void QextSerialPort::onReadable()
 {
-    // After a hang-up the port reports ReadError, over and over, and stays open; a device that is pulled out
-    // reports ResourceError. Settings that the device does not know are no reason to give it up.
-    const bool fatal = error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
-                       error == QSerialPort::ResourceError || error == QSerialPort::PermissionError;
-    if (!fatal || m_failed || !isOpen()) {
-        return;
+    // Until somebody reads: what nobody reads, and a terminal that has hung up, stays readable.
+    m_notifier->setEnabled(false);
+    if (bytesAvailable() >= 0) {
+        Q_EMIT readyRead();
+    } else {
+        Q_EMIT readChannelFinished();
     }
-    m_failed = true;
-    setFailure(m_port.errorString());
-    Q_EMIT readChannelFinished();
 }

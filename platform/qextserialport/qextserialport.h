@@ -2,11 +2,12 @@
 #define QEXTSERIALPORT_H
 
 #include <QIODevice>
-#include <QSerialPort>
 #include <QString>
 
-/// The published names of QextSerialPort over Qt SerialPort, as far as this project uses them, for machines
-/// on which the library itself is not installed.
+class QSocketNotifier;
+
+/// The published names of QextSerialPort, as far as this project uses them, for machines on which the library
+/// itself is not installed. What the library does badly is done badly here, so that a desk shows it.
 
 enum BaudRateType {
     BAUD9600 = 9600,
@@ -24,7 +25,8 @@ enum StopBitsType { STOP_1, STOP_2 };
 
 enum FlowType { FLOW_OFF, FLOW_HARDWARE, FLOW_XONXOFF };
 
-/// Settings of a serial line. Timeout_Millisec bounds nothing here: reads and writes never wait.
+/// Settings of a serial line. Timeout_Millisec: how long a read of a polled port waits when nothing has
+/// arrived, in ms; -1 and 0 do not wait.
 struct PortSettings
 {
     BaudRateType BaudRate;
@@ -35,51 +37,54 @@ struct PortSettings
     long Timeout_Millisec;
 };
 
-/// A serial port as a QIODevice. Reads return what has arrived and never wait; writes are buffered and leave
-/// as the line takes them. An error of the line (unplugged, hung up) ends reading: readChannelFinished is
-/// emitted, once per opening, and read and write answer -1 from then on.
+/// A serial port as a QIODevice. Writes never wait: what the line does not take at once is refused (write
+/// answers fewer bytes, or 0). After a hang-up bytesAvailable() answers -1 and read() 0, for as long as the
+/// port stays open, and a write fails.
 class QextSerialPort : public QIODevice
 {
     Q_OBJECT
 
 public:
-    /// Polling leaves reading at the right time to the caller. readyRead is emitted in either mode.
+    /// Polling announces nothing at all, neither data nor a hang-up, and a read waits for the first byte.
+    /// EventDriven emits readyRead, and readChannelFinished once at a hang-up; reads do not wait.
     enum QueryMode { Polling, EventDriven };
 
-    /// \a name: path or name of the device; nothing is opened yet.
+    /// \a name: path of the device; nothing is opened yet.
     QextSerialPort(const QString &name, const PortSettings &settings, QueryMode mode = EventDriven,
                    QObject *parent = nullptr);
     ~QextSerialPort() override;
 
-    QString portName() const { return m_port.portName(); }
+    QString portName() const { return m_name; }
     QueryMode queryMode() const { return m_mode; }
 
-    /// False with errorString() set when there is no such device, it is no terminal, or it is in use.
+    /// False with errorString() set when there is no such device or it is no terminal, and when the port is
+    /// open already. What a pseudo-terminal lacks (parity, a line rate) is no failure.
     bool open(OpenMode mode) override;
     void close() override;
     bool isSequential() const override { return true; }
-    qint64 bytesAvailable() const override;
-    qint64 bytesToWrite() const override;
 
-    /// What went wrong last; empty when nothing did.
+    /// Bytes that have arrived; 0 while closed, -1 once the line has hung up.
+    qint64 bytesAvailable() const override;
+
+    /// What went wrong last, "No Error has occurred" when nothing did. Not virtual: whoever has a QIODevice
+    /// gets that class's text, which says nothing.
     QString errorString();
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;
     qint64 writeData(const char *data, qint64 maxSize) override;
 
-private Q_SLOTS:
-    void onPortError(QSerialPort::SerialPortError error);
-
 private:
-    void applySettings();
-    void setFailure(const QString &text);
+    void onReadable();
+    bool setUpLine();
+    bool isReadable(int timeout) const;
 
-    QSerialPort m_port;
+    const QString m_name;
     const PortSettings m_settings;
     const QueryMode m_mode;
-    bool m_failed;
-    QString m_failure;
+    int m_descriptor; // -1 while closed
+    QSocketNotifier *m_notifier;
+    QString m_failure; // empty: none
 };
 
 #endif // QEXTSERIALPORT_H

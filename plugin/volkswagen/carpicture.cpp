@@ -32,7 +32,9 @@ void CarPicture::setTyreFrame(Vw::Tyre tyre, QWidget *frame)
 
 QRect CarPicture::pictureRect() const
 {
-    QRect picture(QPoint(0, 0), m_car.size().scaled(size(), Qt::KeepAspectRatio));
+    QSize fitting = m_car.size();
+    fitting.scale(size(), Qt::KeepAspectRatio);
+    QRect picture(QPoint(0, 0), fitting);
     picture.moveCenter(rect().center());
     return picture;
 }

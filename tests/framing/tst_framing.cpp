@@ -27,6 +27,9 @@ QByteArrayList delivered(const QByteArray &stream, int readSize)
     if (largest > qMin(readSize, LongestRead) + LongestUnfinished) {
         receiver.packages.append("buffer grew to " + QByteArray::number(largest));
     }
+    if (device.wouldHaveWaited()) {
+        receiver.packages.append("more was asked for than was there");
+    }
     return receiver.packages;
 }
 
@@ -302,9 +305,13 @@ void TestFraming::silentDeviceIsPolled()
     Receiver receiver;
     MemoryDevice device(Streams::clean(5), 16);
     receiver.attachIODevice(&device);
-    QTest::qWait(400);
     while (device.arm()) {
-        QTest::qWait(20);
+        QTest::qWait(400);
+        const qint64 waiting = device.bytesAvailable();
+        device.arm();
+        QTest::qWait(5);
+        QCOMPARE(device.bytesAvailable(), qint64(0));
+        QCOMPARE(waiting, qint64(0));
     }
     QCOMPARE(receiver.packages, Streams::packages(5));
 }

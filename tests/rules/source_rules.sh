@@ -18,12 +18,19 @@ portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | sort)
 
 # One source for three Qt generations. These came after 4.8, or went with 6.
 # shellcheck disable=SC2086
-grep -nE 'QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|QRegExp|QDesktopWidget|->grab\(|setSectionResizeMode|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|\bforeach *\(' $portable |
+grep -nE 'QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|QRegExp|QDesktopWidget|->grab\(|setSectionResizeMode|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|[sS]ize\(\)\.scaled\(|\bforeach *\(' $portable |
     complain "not in every Qt generation"
 # shellcheck disable=SC2086
 grep -nE 'connect\([^;]*&[A-Za-z_]+::[A-Za-z_]+' $portable | complain "functor connect"
 # shellcheck disable=SC2086
 grep -n 'QT_VERSION' $portable | complain "version check outside orbqtcompat.h"
+
+# Qt 4.8's QElapsedTimer has no constructor: a member is garbage until it is invalidated, or started as a clock is.
+# shellcheck disable=SC2086
+grep -HoE '^ +QElapsedTimer \w+;' $portable | sed 's/: *QElapsedTimer / /; s/;//' | while read -r file member; do
+    case $member in *clock | timer) begin=start ;; *) begin=invalidate ;; esac
+    cat "$file" "${file%.h}.cpp" 2>/dev/null | grep -qE "^ +$member\.$begin\(\);" || echo "$file: $member"
+done | complain "a timer that is not initialised"
 
 # Arrows point one way.
 grep -rnE '#include.*"(orbhost|orbtrace|orbhost_p|windowstack)' plugin --include='*.cpp' --include='*.h' |

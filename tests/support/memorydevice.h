@@ -12,7 +12,7 @@ class MemoryDevice : public QIODevice
 {
 public:
     MemoryDevice(const QByteArray &stream, int readSize)
-        : m_stream(stream), m_readSize(readSize), m_at(0), m_arrived(0)
+        : m_stream(stream), m_readSize(readSize), m_at(0), m_arrived(0), m_wouldHaveWaited(false)
     {
         open(QIODevice::ReadWrite | QIODevice::Unbuffered);
     }
@@ -30,12 +30,16 @@ public:
         m_arrived = 0;
     }
 
+    /// Whether more was asked for than had arrived: a serial port would have waited for it.
+    bool wouldHaveWaited() const { return m_wouldHaveWaited; }
+
     bool isSequential() const override { return true; }
     qint64 bytesAvailable() const override { return m_arrived - m_at; }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override
     {
+        m_wouldHaveWaited |= maxSize > m_arrived - m_at;
         const int count = int(qMin<qint64>(maxSize, m_arrived - m_at));
         memcpy(data, m_stream.constData() + m_at, size_t(count));
         m_at += count;
@@ -49,6 +53,7 @@ private:
     const int m_readSize;
     int m_at;
     int m_arrived;
+    bool m_wouldHaveWaited;
 };
 
 #endif // MEMORYDEVICE_H

@@ -20,7 +20,9 @@ const int FlickPause = 60;
 
 DragScroller::DragScroller(QScrollBar *bar, QObject *parent)
     : QObject(parent), m_bar(bar), m_state(Idle), m_pressY(0), m_lastY(0), m_speed(0), m_place(0)
-{}
+{
+    m_sinceMove.invalidate();
+}
 
 bool DragScroller::press(int y)
 {

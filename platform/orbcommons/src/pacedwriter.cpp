@@ -5,7 +5,7 @@
 namespace {
 
 const int QueueLimit = 4096;
-// Bytes that a device would not take; direct writes past this are dropped.
+// Bytes that wait here and in the device; direct writes past this are dropped, queued packages wait.
 const int UnsentLimit = 64 * 1024;
 const int RetryInterval = 4;
 
@@ -14,6 +14,7 @@ const int RetryInterval = 4;
 PacedWriter::PacedWriter(QObject *parent)
     : QObject(parent), m_device(nullptr), m_interval(0), m_refusing(false)
 {
+    m_sinceWrite.invalidate(); // Qt 4.8 leaves it as the memory was
     m_timer.setSingleShot(true);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(onTimer()));
 }
@@ -42,7 +43,7 @@ void PacedWriter::enqueue(const QByteArray &package)
 
 void PacedWriter::writeNow(const QByteArray &bytes)
 {
-    if (m_device && m_unsent.size() < UnsentLimit) {
+    if (m_device && m_unsent.size() + m_device->bytesToWrite() + bytes.size() <= UnsentLimit) {
         write(bytes);
     }
 }
@@ -52,9 +53,9 @@ void PacedWriter::sendQueued()
 {
     while (m_device && !m_queue.isEmpty()) {
         const qint64 wait = m_sinceWrite.isValid() ? m_interval - m_sinceWrite.elapsed() : 0;
-        if (wait > 0 || !m_unsent.isEmpty()) {
+        if (wait > 0 || !m_unsent.isEmpty() || m_device->bytesToWrite() >= UnsentLimit) {
             if (!m_timer.isActive()) {
-                m_timer.start(int(qMax<qint64>(wait, 1)));
+                m_timer.start(wait > 0 ? int(wait) : RetryInterval);
             }
             return;
         }

@@ -28,7 +28,8 @@ public:
     /// Queues one package; past 4096 waiting ones it is refused, with one log line.
     void enqueue(const QByteArray &package);
 
-    /// Writes past the queue; dropped without a device.
+    /// Writes past the queue. Dropped without a device, and while 64 KiB wait here and in the device: a box
+    /// that does not read wants no further acknowledgement.
     void writeNow(const QByteArray &bytes);
 
 Q_SIGNALS:

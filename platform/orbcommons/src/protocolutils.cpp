@@ -17,18 +17,20 @@ namespace {
 const int ReadSize = 4096;
 const int LongestPackage = 512;
 
-// Boxes want their acknowledgement within 10 ms. A device that announces its data needs the poll only as a
-// net.
-const int BusyPollInterval = 4;
-const int IdlePollInterval = 8;
-const int AnnouncedPollInterval = 250;
-const int BusyTime = 250;
+// Boxes want their acknowledgement within 10 ms, and a device need not announce what arrives.
+const int PollInterval = 4;
 
 // No package pauses for so long in its middle.
 const int PauseTime = 40;
 // A GUI thread that was busy for longer than this has not been listening; such time ages no candidate.
 const int LongestPollGap = 50;
-const int ReopenInterval = 1000;
+
+// Pauses before each try to open a lost device again (50, 100, 250 and 500 ms after the loss); the last one
+// repeats.
+const int ReopenPauses[] = {50, 50, 150, 250, 1000};
+const int LastReopenPause = int(sizeof ReopenPauses / sizeof ReopenPauses[0]) - 1;
+// A device that hangs up again sooner than this, without a word, is not tried again as soon as that.
+const int SteadyTime = 1000;
 
 } // namespace
 
@@ -42,7 +44,8 @@ public:
         , device(nullptr)
         , isOpen(false)
         , openMode(QIODevice::ReadWrite)
-        , announces(false)
+        , tries(0)
+        , heard(false)
         , received(false)
         , minimum(1)
         , cursor(0)
@@ -52,13 +55,19 @@ public:
         , quietTime(0)
         , emitting(false)
         , debug(false)
-    {}
-
-    void setPollInterval(int milliseconds)
     {
-        if (poll->interval() != milliseconds || !poll->isActive()) {
-            poll->start(milliseconds);
-        }
+        poll->setInterval(PollInterval);
+        reopen->setSingleShot(true);
+        // Qt 4.8 leaves them as the memory was.
+        sinceOpened.invalidate();
+        sincePoll.invalidate();
+        clock.start();
+    }
+
+    void tryAgainLater()
+    {
+        reopen->start(ReopenPauses[tries]);
+        tries = qMin(tries + 1, LastReopenPause);
     }
 
     void log(const char *direction, const QByteArray &package) const
@@ -94,15 +103,17 @@ public:
     QIODevice *device;
     bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
     QIODevice::OpenMode openMode;
-    bool announces; // the device has emitted readyRead
-    bool received;  // something was read since the last poll
+    int tries;     // to open the device again
+    bool heard;    // something was read since it was opened
+    bool received; // something was read since the last poll
+    QElapsedTimer sinceOpened;
 
     int minimum;       // bytes from which the size of a package can be read
     int cursor;        // index in recvBuffer of the first byte that is not framed yet
     int candidateSize; // length of the unfinished package at the cursor, 0 while it is not known
     int needed;        // bytes from the cursor on without which there is nothing to frame
     qint64 streamBase; // place of recvBuffer[0] in all that was ever read
-    int quietTime;     // ms without data
+    int quietTime;     // ms without data, as long as something is unfinished
     QElapsedTimer sincePoll;
     StreamAge age;
 
@@ -116,8 +127,6 @@ public:
 
 ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
 {
-    m_d->clock.start();
-    m_d->reopen->setInterval(ReopenInterval);
     connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
     connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
     connect(m_d->writer, SIGNAL(sent(QByteArray)), this, SLOT(onPackageSent(QByteArray)));
@@ -136,7 +145,6 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     }
     m_d->device = device;
     m_d->isOpen = device && device->isOpen();
-    m_d->announces = false;
     m_d->writer->setDevice(nullptr);
     recvBuffer.reserve(ReadSize + LongestPackage);
     m_d->poll->stop();
@@ -145,7 +153,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
         return;
     }
     m_d->minimum = qMax(1, getPackageMinSize());
-    connect(device, SIGNAL(readyRead()), this, SLOT(onDeviceAnnouncesData()));
+    connect(device, SIGNAL(readyRead()), this, SLOT(onReadDeviceDatas()));
     connect(device, SIGNAL(readChannelFinished()), this, SLOT(onDeviceLost()));
     connect(device, SIGNAL(destroyed()), this, SLOT(onDeviceDestroyed()));
     if (m_d->isOpen) {
@@ -153,7 +161,8 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
         startPolling();
     } else {
         m_d->openMode = QIODevice::ReadWrite;
-        m_d->reopen->start();
+        m_d->tries = 0;
+        m_d->tryAgainLater();
     }
 }
 
@@ -165,41 +174,39 @@ void ProtocolUtils::startPolling()
     m_d->needed = 0;
     m_d->age.clear();
     m_d->quietTime = 0;
+    m_d->heard = false;
+    m_d->sinceOpened.start();
     m_d->sincePoll.start();
-    m_d->setPollInterval(BusyPollInterval);
+    m_d->poll->start();
     m_d->writer->setDevice(m_d->device);
 }
 
 // ---------------------------------------------------------------------------------------------- reading
 
-void ProtocolUtils::onDeviceAnnouncesData()
-{
-    m_d->announces = true;
-    m_d->setPollInterval(BusyPollInterval);
-    onReadDeviceDatas();
-}
-
 void ProtocolUtils::onReadDeviceDatas()
 {
-    while (m_d->isOpen) {
+    qint64 available = m_d->isOpen ? ReadSize + 1 : 0;
+    while (m_d->isOpen && available > ReadSize) {
+        // A read may wait for what is not there, and Qt 4's for as much as it was asked for.
+        available = m_d->device->bytesAvailable();
+        if (available <= 0) {
+            if (available < 0 || !m_d->device->isOpen()) {
+                onDeviceLost();
+            }
+            return;
+        }
         // The device writes behind the bytes that are held, into reserved room; the size follows what came.
         char *const room = m_d->compact(&recvBuffer);
         const int held = int(room - recvBuffer.constData());
-        const int count = int(m_d->device->read(room, ReadSize));
+        const int count = int(m_d->device->read(room, qMin<qint64>(available, ReadSize)));
         recvBuffer.resize(held + qMax(count, 0));
         if (count <= 0) {
-            if (count < 0) {
-                onDeviceLost();
-            }
+            onDeviceLost();
             return;
         }
         m_d->received = true;
         if (held + count >= m_d->needed) {
             framePackages();
-        }
-        // A full read says that there may be more; after a short one the device is asked.
-        if (count < ReadSize && (!m_d->isOpen || m_d->device->bytesAvailable() <= 0)) {
-            return;
         }
     }
 }
@@ -304,13 +311,15 @@ void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
     onReadDeviceDatas();
-    if (!m_d->isOpen) {
+    const bool isWaiting = recvBuffer.size() > m_d->cursor;
+    if (!m_d->isOpen || (!isWaiting && !m_d->received)) {
         return;
     }
 
     const int elapsed = int(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
-    m_d->quietTime = m_d->received ? 0 : qMin(m_d->quietTime + elapsed, BusyTime);
+    m_d->quietTime = m_d->received ? 0 : m_d->quietTime + elapsed;
     m_d->received = false;
+    m_d->heard = true;
     m_d->age.advance(elapsed, m_d->streamBase + recvBuffer.size());
     // A box says what is not acknowledged again after 100 ms, and only three times: it must not wait for a
     // candidate that its own repetitions fill up.
@@ -320,11 +329,6 @@ void ProtocolUtils::onPollTimer()
         ++m_d->cursor;
         m_d->candidateSize = 0;
         framePackages();
-    }
-    if (m_d->quietTime < BusyTime || recvBuffer.size() > m_d->cursor) {
-        m_d->setPollInterval(BusyPollInterval);
-    } else {
-        m_d->setPollInterval(m_d->announces ? AnnouncedPollInterval : IdlePollInterval);
     }
 }
 
@@ -365,11 +369,13 @@ void ProtocolUtils::onDeviceLost()
     if (!m_d->isOpen) {
         return;
     }
-    qWarning("ProtocolUtils: lost the device (%s), trying again every second",
-             qPrintable(m_d->device->errorString()));
+    qWarning("ProtocolUtils: lost the device, trying to open it again");
     m_d->poll->stop();
     m_d->writer->setDevice(nullptr);
-    m_d->reopen->start();
+    if (m_d->heard || m_d->sinceOpened.elapsed() >= SteadyTime) {
+        m_d->tries = 0;
+    }
+    m_d->tryAgainLater();
     m_d->isOpen = false;
     m_d->device->close();
 }
@@ -383,10 +389,10 @@ void ProtocolUtils::onDeviceDestroyed()
 void ProtocolUtils::onReopenTimer()
 {
     if (!m_d->device->isOpen() && !m_d->device->open(m_d->openMode)) {
+        m_d->tryAgainLater();
         return;
     }
     m_d->isOpen = true;
-    m_d->reopen->stop();
     qWarning("ProtocolUtils: the device is there again");
     startPolling();
 }
