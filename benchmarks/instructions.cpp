@@ -71,9 +71,10 @@ extern "C" __attribute__((noinline)) qint64 measuredDevice(MemoryDevice *device,
 {
     qint64 total = 0;
     while (device->arm()) {
-        do {
-            total += device->read(buffer, size);
-        } while (device->bytesAvailable() > 0);
+        // As whoever reads a serial port must: never more than is there.
+        for (qint64 available; (available = device->bytesAvailable()) > 0;) {
+            total += device->read(buffer, qMin(size, available));
+        }
     }
     return total;
 }

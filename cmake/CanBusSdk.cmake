@@ -1,13 +1,16 @@
 # The plug-in alone, against a head unit maker's SDK: CANBUS_ORB_SDK names a folder with include/ (the framework's
-# headers and, where the maker ships it, qextserialport.h) and lib/ (libOrbCommons, libqextserialport).
+# headers and qextserialport.h) and lib/ (libOrbCommons, libqextserialport). It is the only place that is searched: the
+# build machine may have libraries of these names, and a toolchain's root path knows nothing of the SDK.
 
 find_path(ORBCOMMONS_INCLUDE_DIR orbapplication.h
   PATHS ${CANBUS_ORB_SDK}/include PATH_SUFFIXES orbcommons OrbCommons NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
 find_library(ORBCOMMONS_LIBRARY OrbCommons
   PATHS ${CANBUS_ORB_SDK}/lib PATH_SUFFIXES ${CMAKE_LIBRARY_ARCHITECTURE} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
 find_path(QEXTSERIALPORT_INCLUDE_DIR qextserialport.h
-  PATHS ${CANBUS_ORB_SDK}/include PATH_SUFFIXES orbcommons QtExtSerialPort qextserialport)
-find_library(QEXTSERIALPORT_LIBRARY NAMES qextserialport QtExtSerialPort Qt5ExtSerialPort PATHS ${CANBUS_ORB_SDK}/lib)
+  PATHS ${CANBUS_ORB_SDK}/include PATH_SUFFIXES orbcommons QtExtSerialPort qextserialport
+  NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_library(QEXTSERIALPORT_LIBRARY NAMES qextserialport QtExtSerialPort Qt5ExtSerialPort
+  PATHS ${CANBUS_ORB_SDK}/lib PATH_SUFFIXES ${CMAKE_LIBRARY_ARCHITECTURE} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
 
 foreach(piece ORBCOMMONS_INCLUDE_DIR ORBCOMMONS_LIBRARY QEXTSERIALPORT_INCLUDE_DIR QEXTSERIALPORT_LIBRARY)
   if(NOT ${piece})

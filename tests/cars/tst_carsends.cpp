@@ -22,6 +22,7 @@ void CarSendsTest::toyota()
     bench.sent();
     car->enableOEMSound(false);
     QCOMPARE(bench.sent(), QStringList("sends 84 08 00"));
+    QVERIFY(!car->appState());
     car->orbAppStateChange(4, 4);
     QVERIFY(car->appState());
     car->orbAppStateChange(0, 5); // of another mask

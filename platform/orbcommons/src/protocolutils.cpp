@@ -76,16 +76,15 @@ public:
                package.toHex().constData());
     }
 
-    // Moves what is not framed yet to the front of \a buffer and returns the place behind it, with room for
-    // one read.
-    char *compact(QByteArray *buffer)
+    // Moves what is not framed yet to the front of \a buffer, makes room for one read behind it, and returns
+    // its size. Nobody else holds the buffer from then on.
+    int compact(QByteArray *buffer)
     {
         const int rest = int(buffer->size()) - cursor;
-        char *bytes = buffer->data();
         if (buffer->capacity() < rest + ReadSize) {
             buffer->reserve(LongestPackage + ReadSize);
-            bytes = buffer->data();
         }
+        char *const bytes = buffer->data();
         if (cursor > 0) {
             if (rest > 0) {
                 memmove(bytes, bytes + cursor, size_t(rest));
@@ -93,7 +92,7 @@ public:
             streamBase += cursor;
             cursor = 0;
         }
-        return bytes + rest;
+        return rest;
     }
 
     QTimer *const poll;
@@ -185,27 +184,29 @@ void ProtocolUtils::startPolling()
 
 void ProtocolUtils::onReadDeviceDatas()
 {
-    qint64 available = m_d->isOpen ? ReadSize + 1 : 0;
-    while (m_d->isOpen && available > ReadSize) {
+    Private *const p = m_d;
+    while (p->isOpen) {
         // A read may wait for what is not there, and Qt 4's for as much as it was asked for.
-        available = m_d->device->bytesAvailable();
-        if (available <= 0) {
-            if (available < 0 || !m_d->device->isOpen()) {
-                onDeviceLost();
-            }
+        const qint64 available = p->device->bytesAvailable();
+        if (available == 0) {
             return;
         }
-        // The device writes behind the bytes that are held, into reserved room; the size follows what came.
-        char *const room = m_d->compact(&recvBuffer);
-        const int held = int(room - recvBuffer.constData());
-        const int count = int(m_d->device->read(room, qMin<qint64>(available, ReadSize)));
-        recvBuffer.resize(held + qMax(count, 0));
-        if (count <= 0) {
+        if (available < 0) {
             onDeviceLost();
             return;
         }
-        m_d->received = true;
-        if (held + count >= m_d->needed) {
+        // The device writes behind the bytes that are held, into reserved room; the size follows what came.
+        const int held = p->compact(&recvBuffer);
+        char *const room = const_cast<char *>(recvBuffer.constData()) + held;
+        const int count = int(p->device->read(room, qMin<qint64>(available, ReadSize)));
+        if (count <= 0) {
+            recvBuffer.resize(held);
+            onDeviceLost();
+            return;
+        }
+        recvBuffer.resize(held + count);
+        p->received = true;
+        if (held + count >= p->needed) {
             framePackages();
         }
     }
@@ -311,6 +312,9 @@ void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
     onReadDeviceDatas();
+    if (m_d->isOpen && !m_d->device->isOpen()) {
+        onDeviceLost(); // somebody else has closed it
+    }
     const bool isWaiting = recvBuffer.size() > m_d->cursor;
     if (!m_d->isOpen || (!isWaiting && !m_d->received)) {
         return;
