@@ -114,7 +114,7 @@ void AdapterFactoryTest::rules_data()
     QTest::addColumn<QString>("port");
     QTest::addColumn<QString>("types");
     QTest::addColumn<QStringList>("lines");
-    const QString opened = "Open CanBus Serial Port  \"%1\"  Ret: false \"No such file or directory\"";
+    const QString opened = "Open CanBus Serial Port  \"%1\"  Ret: false \"The %1 file doesn't exists\"";
     const QStringList built = {"CanBusAdapter: CanBus_Raise_Haval 11", opened,
                                "11 CanBus_Raise_Haval inited=1 type=11", "start-up packages: 3"};
     QTest::newRow("unknown types build nothing and log nothing")

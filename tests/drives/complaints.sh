@@ -40,7 +40,7 @@ cp jeep.trace whole
 head -n 12 whole >jeep.trace
 expect jeep 'is cut at 1.'
 sed '11s/true/false/' whole >jeep.trace
-expect jeep 'differs at 1.022 s, row 11'
+expect jeep 'differs at 1.025 s, row 11'
 sed 's/2 key.*/2.5 key mode tap/' jeep.scn >changed && mv changed jeep.scn && mv whole jeep.trace
 expect jeep 'differs at 2.'
 exit $failed

@@ -27,7 +27,7 @@ configure() {
 
 fail() {
     printf '%s\n' "$1" >&2
-    cat "$work/log" >&2
+    cat "$work/log" "$work/build/CMakeCache.txt" >&2
     exit 1
 }
 
@@ -45,7 +45,7 @@ lay machine OrbCommons qextserialport
 # As a toolchain file does that names a target's root.
 configure sdk -DCMAKE_FIND_ROOT_PATH="$work/machine" -DCMAKE_FIND_ROOT_PATH_MODE_LIBRARY=ONLY \
     -DCMAKE_FIND_ROOT_PATH_MODE_INCLUDE=ONLY || fail "a root path hides the SDK"
-[ "$(grep -cE "^(ORBCOMMONS|QEXTSERIALPORT)_[A-Z_]*=$work/sdk/" "$work/build/CMakeCache.txt")" = 4 ] ||
+[ "$(grep -cE "^(ORBCOMMONS|QEXTSERIALPORT)_[A-Z_:]*=$work/sdk/" "$work/build/CMakeCache.txt")" = 4 ] ||
     fail "something is not the SDK's"
 configure poor-sdk -DCMAKE_PREFIX_PATH="$work/machine" && fail "the build machine's serial library was taken"
 exit 0
