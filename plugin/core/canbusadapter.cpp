@@ -14,12 +14,24 @@ namespace {
 
 const int InitDelay = 50; // ms that the box gets between the opening of the port and the first command
 
-}
+// While the line is lost. No QIODevice tells that it was opened.
+const int WatchInterval = 10; // ms
+const int MostKept = 256;     // packages
+
+} // namespace
 
 CanBusAdapter *CanBusAdapter::s_instance = nullptr;
 
 CanBusAdapter::CanBusAdapter(QObject *parent)
-    : ProtocolUtils(parent), initTimerId(0), canBusType(CanBusTypeNone), serialPort(nullptr)
+    : ProtocolUtils(parent)
+    , initTimerId(0)
+    , canBusType(CanBusTypeNone)
+    , serialPort(nullptr)
+    , m_isLineLost(false)
+    , m_isStarting(false)
+    , m_isGreetingQueued(false)
+    , m_watchTimerId(0)
+    , m_looksOpen(0)
 {
     setObjectName(QLatin1String("CanBusAdapter"));
     connect(this, SIGNAL(recvProtocolData(QByteArray)), this, SLOT(onRecvMcuProtocol(QByteArray)));
@@ -70,6 +82,7 @@ void CanBusAdapter::initAdapter()
     const QString name = getPortName();
     if (serialPort) {
         attachIODevice(nullptr); // the framer would take the closing for a loss
+        disconnect(serialPort, nullptr, this, nullptr);
         serialPort->close();
         serialPort->deleteLater();
         serialPort = nullptr;
@@ -83,17 +96,89 @@ void CanBusAdapter::initAdapter()
     const bool opened = serialPort->open(QIODevice::ReadWrite);
     qDebug() << "Open CanBus Serial Port " << name << " Ret:" << opened << serialPort->errorString();
     attachIODevice(serialPort);
+    connect(serialPort, SIGNAL(aboutToClose()), this, SLOT(onLineClosing()));
+    if (!opened) {
+        setLineLost();
+    }
     initTimerId = startTimer(InitDelay);
 }
 
 void CanBusAdapter::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != initTimerId) {
+    if (event->timerId() == m_watchTimerId) {
+        watchLine();
+    } else if (event->timerId() == initTimerId) {
+        killTimer(initTimerId);
+        initTimerId = 0;
+        m_isGreetingQueued = m_isLineLost;
+        m_isStarting = true;
+        onInited();
+        m_isStarting = false;
+    }
+}
+
+// ------------------------------------------------------------------------------------------- a lost line
+
+void CanBusAdapter::onLineClosing()
+{
+    setLineLost();
+}
+
+void CanBusAdapter::setLineLost()
+{
+    m_isLineLost = true;
+    m_looksOpen = 0;
+    if (m_watchTimerId == 0) {
+        m_watchTimerId = startTimer(WatchInterval);
+    }
+}
+
+void CanBusAdapter::watchLine()
+{
+    m_looksOpen = serialPort && serialPort->isOpen() ? m_looksOpen + 1 : 0;
+    if (m_looksOpen * WatchInterval <= InitDelay) {
         return;
     }
-    killTimer(initTimerId);
-    initTimerId = 0;
+    killTimer(m_watchTimerId);
+    m_watchTimerId = 0;
+    m_isLineLost = false;
+    if (!m_isGreetingQueued) {
+        greetBox(); // what it says anew is dropped from what was kept
+    }
+    m_isGreetingQueued = false;
+    while (!m_kept.isEmpty()) {
+        writeDatas(m_kept.takeFirst().package);
+    }
+}
+
+void CanBusAdapter::greetBox()
+{
     onInited();
+}
+
+void CanBusAdapter::writeOrKeep(const QByteArray &package, int kindSize)
+{
+    if (kindSize > 0) {
+        dropKept(package.left(kindSize));
+    }
+    if (!m_isLineLost || (m_isStarting && kindSize == 0)) {
+        writeDatas(package);
+    } else if (kindSize > 0) {
+        const Kept kept = {package, kindSize};
+        m_kept.append(kept);
+        if (m_kept.size() > MostKept) {
+            m_kept.removeFirst();
+        }
+    }
+}
+
+void CanBusAdapter::dropKept(const QByteArray &kind)
+{
+    for (int i = m_kept.size() - 1; i >= 0; --i) {
+        if (m_kept.at(i).package.left(m_kept.at(i).kindSize) == kind) {
+            m_kept.removeAt(i);
+        }
+    }
 }
 
 void CanBusAdapter::showApp(unsigned int) {}

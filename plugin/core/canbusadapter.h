@@ -5,6 +5,8 @@
 
 #include "protocolutils.h"
 
+#include <QList>
+
 class OrbEvent;
 class QextSerialPort;
 struct PortSettings;
@@ -61,6 +63,9 @@ public Q_SLOTS:
     /// A key of the head unit. \a isAutoRepeat: a repeat of a held key.
     virtual void onKeyEvent(unsigned int keyCode, bool isPress, bool isAutoRepeat) = 0;
 
+private Q_SLOTS:
+    void onLineClosing();
+
 public:
     /// Runs once, 50 ms after the port was attached: the place for start-up commands.
     virtual void onInited();
@@ -68,15 +73,46 @@ public:
 protected:
     void timerEvent(QTimerEvent *event) override;
 
+    /// Greets a box whose line was lost and is open again for 50 ms: it hears once more what it is told at
+    /// start. By default that is all of onInited; an adapter that tells the framework something there
+    /// overrides this with what is for the box alone.
+    virtual void greetBox();
+
+    /// True while the port is closed, since the line was lost or has never been there, and until the box is
+    /// greeted.
+    bool isLineLost() const { return m_isLineLost; }
+
+    /// Queues \a package. While the line is lost it is kept instead, and leaves behind the greeting: of the
+    /// packages that agree in their first \a kindSize bytes the newest only. 0: of no use later, not kept;
+    /// what start-up says is queued all the same, and waits for a line that has never been there.
+    void writeOrKeep(const QByteArray &package, int kindSize);
+
     /// The line settings that decoders differ in; eight data bits, no parity, one stop bit, no flow control.
     static void setLine(PortSettings &settings, int baudRate, long timeout);
 
 private:
+    struct Kept
+    {
+        QByteArray package;
+        int kindSize;
+    };
+
+    void setLineLost();
+    void watchLine();
+    void dropKept(const QByteArray &kind);
+
     static CanBusAdapter *s_instance;
 
     int initTimerId;
     CanBusType canBusType;
     QextSerialPort *serialPort;
+
+    bool m_isLineLost;
+    bool m_isStarting;       // onInited runs
+    bool m_isGreetingQueued; // it ran without a line: the framer still holds the ready packages
+    int m_watchTimerId;      // runs while the line is lost
+    int m_looksOpen;         // that found the port open, in a row
+    QList<Kept> m_kept;      // for the time when the line is back, oldest first
 };
 
 #endif // CANBUSADAPTER_H

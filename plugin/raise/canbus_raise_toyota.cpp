@@ -87,10 +87,14 @@ void CanBus_Raise_Toyota::onInited()
     sendReady(3);
     AppendAppTitle(View360App, QLatin1String("360"));
     periodicTimer()->stop();
-    if (m_enableOemSound) {
-        enableOEMSound(true);
-    }
+    startOEMSound();
     reportModes(ModeCommand, ModeDataLength, ModeCodes);
+}
+
+void CanBus_Raise_Toyota::greetBox()
+{
+    sendReady(3);
+    startOEMSound();
 }
 
 RaiseAdapter::CommandTable CanBus_Raise_Toyota::commands() const
@@ -162,6 +166,13 @@ void CanBus_Raise_Toyota::on360View(const PackageView &d)
 }
 
 // ---------------------------------------------------------------------------------------------- sent
+
+void CanBus_Raise_Toyota::startOEMSound()
+{
+    if (m_enableOemSound) {
+        enableOEMSound(true);
+    }
+}
 
 void CanBus_Raise_Toyota::enableOEMSound(bool on)
 {

@@ -21,6 +21,8 @@ public:
     void enableOEMSound(bool on);
 
 private:
+    void greetBox() override;
+    void startOEMSound();
     void onSteeringAngle(const PackageView &d);
     void onClimate(const PackageView &d);
     void on360View(const PackageView &d);

@@ -19,6 +19,12 @@ const int ReadyInterval = 200; // ms
 const int WriteInterval = 30;  // ms that the boxes want between two packages
 const unsigned long AppStateMask = 4;
 
+// A box repeats an unanswered package three times, 100 ms apart, and then falls silent until it hears a ready. Four
+// of a kind at once are what it said while the unit's thread stood still.
+const int RepetitionTime = 50;     // ms, in which they are read
+const int ReminderInterval = 1000; // ms, at least
+const qint64 LongAgo = -ReminderInterval;
+
 } // namespace
 
 RaiseAdapter::RaiseAdapter()
@@ -34,7 +40,11 @@ RaiseAdapter::RaiseAdapter()
     , m_modeCodes(nullptr)
     , m_modeCount(0)
     , m_appState(false)
+    , m_lastReminder(LongAgo)
 {
+    std::fill(m_lastArrivals, m_lastArrivals + MostRepetitions, LongAgo);
+    m_clock.start();
+    m_lastPackage.reserve(Framing::overhead<RaiseFrame>() + 255);
     setWritePackageIntval(WriteInterval);
 }
 
@@ -60,7 +70,23 @@ void RaiseAdapter::onRecvMcuProtocol(const QByteArray &byteArray)
 {
     // The box waits 10 ms for this byte: it goes first, and past the queue.
     writeDatas_direct(QByteArray(1, Acknowledgement));
+    noteRepetition(byteArray);
     dispatch(byteArray);
+}
+
+void RaiseAdapter::noteRepetition(const QByteArray &package)
+{
+    const qint64 now = m_clock.elapsed();
+    if (package != m_lastPackage) {
+        m_lastPackage.resize(package.size());
+        std::copy(package.constBegin(), package.constEnd(), m_lastPackage.begin());
+        std::fill(m_lastArrivals, m_lastArrivals + MostRepetitions, LongAgo);
+    } else if (now - m_lastArrivals[0] <= RepetitionTime && now - m_lastReminder >= ReminderInterval) {
+        m_lastReminder = now;
+        onSendReadyTimer();
+    }
+    std::copy(m_lastArrivals + 1, m_lastArrivals + MostRepetitions, m_lastArrivals);
+    m_lastArrivals[MostRepetitions - 1] = now;
 }
 
 void RaiseAdapter::onRecvAppProtocol(const QByteArray &) {}
@@ -127,7 +153,22 @@ void RaiseAdapter::onSignedSteeringAngle(const PackageView &d)
 
 void RaiseAdapter::writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len)
 {
-    writeDatas(makeCanBusProtocol(cmd, data, len));
+    const QByteArray package = makeCanBusProtocol(cmd, data, len);
+    writeOrKeep(package, kindSize(cmd, int(package.size())));
+}
+
+// Bytes of a package of \a size that tell what it is about.
+int RaiseAdapter::kindSize(quint8 command, int size) const
+{
+    if (command == ReadyCommand) {
+        return 0; // the greeting says it again
+    }
+    if (command == m_requestCommand) {
+        return size;
+    }
+    const int header = RaiseFrame::DataAt;
+    const bool hasItem = command != m_modeCommand && size > header + 2; // item, value, checksum
+    return hasItem ? header + 1 : header;
 }
 
 void RaiseAdapter::writePair(quint8 command, quint8 first, quint8 second)
@@ -160,7 +201,7 @@ void RaiseAdapter::startModeReport(quint8 command, quint8 length, const ModeCode
     m_modeCodes = rows;
     m_modeCount = count;
     connect(OrbApplication::instance(), SIGNAL(modeAppChanged(uint, uint)), this,
-            SLOT(onModeAppChange(uint, uint)));
+            SLOT(onModeAppChange(uint, uint)), Qt::UniqueConnection);
 }
 
 void RaiseAdapter::onModeAppChange(uint mode, uint)

@@ -3,6 +3,8 @@
 
 #include "framedadapter.h"
 
+#include <QElapsedTimer>
+
 class KeySource;
 class QTimer;
 
@@ -37,7 +39,8 @@ public:
     /// Frame with the low byte of \a cmd and \a len data bytes; null \a data stands for zeros.
     static QByteArray makeCanBusProtocol(unsigned short cmd, const unsigned char *data, unsigned char len);
 
-    /// Queues one frame.
+    /// Queues one frame. While the line is lost the newest is kept of the mode, of each setting and of each
+    /// request (see writeOrKeep), and no ready command.
     void writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len);
 
     /// One key of the steering wheel or of the car's panel: \a d[0] code, \a d[1] state (or detents of a
@@ -117,6 +120,8 @@ protected:
     void onSignedSteeringAngle(const PackageView &d);
 
 private:
+    void noteRepetition(const QByteArray &package);
+    int kindSize(quint8 command, int size) const;
     void startModeReport(quint8 command, quint8 length, const ModeCode *rows, int count);
 
     QTimer *m_periodicTimer;
@@ -130,6 +135,13 @@ private:
     const ModeCode *m_modeCodes;
     int m_modeCount;
     bool m_appState;
+
+    enum { MostRepetitions = 3 };
+    QByteArray m_lastPackage; // an array of its own: the framer's stays free for the next package
+    qint64 m_lastArrivals
+        [MostRepetitions]; // ms, of the packages that were like it, oldest first; or NeverArrived
+    qint64 m_lastReminder; // ms, of the ready that answered repetitions
+    QElapsedTimer m_clock;
 };
 
 #endif // RAISEADAPTER_H

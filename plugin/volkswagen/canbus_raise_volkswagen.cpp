@@ -97,6 +97,11 @@ void CanBus_Raise_Volkswagen::onInited()
         QString::fromLatin1("%1,%2").arg(QLatin1String(NormalIcon), QLatin1String(HighlightedIcon)));
     OrbApplication::instance()->dispatchOrbEvent(&icons);
 
+    greetBox();
+}
+
+void CanBus_Raise_Volkswagen::greetBox()
+{
     const unsigned char hello[] = {0x00};
     writeCanBusData(Vw::ReadyCommand, hello, sizeof hello);
     sendReady(1);

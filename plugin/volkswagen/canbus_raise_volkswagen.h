@@ -51,6 +51,7 @@ protected:
     void onOtherPackage(const PackageView &package) override;
 
 private:
+    void greetBox() override;
     void processFKKey20(const PackageView &d);
     void onClimate(const PackageView &d);
     void onRadar22(const PackageView &d);

@@ -23,7 +23,13 @@
 namespace {
 
 enum ReceivedCommand { WheelKeyCommand = 0x03, PanelKeyCommand = 0x0B };
-enum SentCommand { ReadyCommand = 0x81, BrightnessCommand = 0x89, BoxScreenCommand = 0x8A };
+enum SentCommand {
+    ReadyCommand = 0x81,
+    UpdateCommand = 0x86,
+    BrightnessCommand = 0x89,
+    BoxScreenCommand = 0x8A,
+    SettingCommand = 0x8B
+};
 
 const int ReadyInterval = 500; // ms
 const int MaximumReadyCount = 51;
@@ -106,6 +112,11 @@ void CanBus_XinHang::onInited()
     if (m_settingsWindow) {
         m_settingsWindow->resetListTexts();
     }
+    greetBox();
+}
+
+void CanBus_XinHang::greetBox()
+{
     m_readyTimer->start();
 }
 
@@ -287,12 +298,29 @@ void CanBus_XinHang::onCursorKey(const PackageView &d)
 
 void CanBus_XinHang::send(quint8 command, const QByteArray &data)
 {
-    writeDatas(
-        makeMcuProtocol(command, reinterpret_cast<const unsigned char *>(data.constData()), data.size()));
+    const auto *const bytes = reinterpret_cast<const unsigned char *>(data.constData());
+    writeOrKeep(makeMcuProtocol(command, bytes, int(data.size())), kindSize(command));
+}
+
+// Bytes of a package that tell what it is about.
+int CanBus_XinHang::kindSize(quint8 command)
+{
+    switch (command) {
+    case ReadyCommand:
+    case UpdateCommand:
+        return 0; // neither the greeting nor an update goes on where it was
+    case SettingCommand:
+        return XinHangFrame::DataAt + 1;
+    default:
+        return XinHangFrame::DataAt;
+    }
 }
 
 void CanBus_XinHang::onSendReadyTimeout()
 {
+    if (isLineLost()) {
+        return; // nobody hears it, so it does not count
+    }
     send(ReadyCommand, QByteArray(2, 0x01));
     // QUIRK xinhang-ready-count: the count is the process's and never starts again, so that a unit without
     // its box falls silent for good after 51 sendings.

@@ -77,7 +77,9 @@ private:
     enum { RadarSensors = 8 };
 
     bool filterKey(unsigned int key, bool pressed, bool held) override;
+    void greetBox() override;
 
+    static int kindSize(quint8 command);
     void send(quint8 command, const QByteArray &data) override;
     quint16 carType() const override { return m_carType; }
 

@@ -27,7 +27,7 @@ configure() {
 
 fail() {
     printf '%s\n' "$1" >&2
-    cat "$work/log" >&2
+    cat "$work/log" "$work/build/CMakeCache.txt" >&2
     exit 1
 }
 
