@@ -35,9 +35,9 @@ private Q_SLOTS:
     void line();
     void versionCommand_data();
     void versionCommand();
+    void versionFileInTheWay();
     void versionFile_data();
     void versionFile();
-    void versionFileInTheWay();
     void versionFlood();
 };
 
