@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -52,6 +53,16 @@ inline QPoint mouseGlobalPos(const QMouseEvent *event)
 #else
     return event->globalPos();
 #endif
+}
+
+/// The largest size with the proportions of \a size that fits into \a room; \a size is not empty. Qt 4.8 has no
+/// QSize::scaled, and Qt 5's scale() calls it.
+inline QSize fitted(const QSize &size, const QSize &room)
+{
+    const int width = int(qint64(room.height()) * size.width() / size.height());
+    return width <= room.width()
+               ? QSize(width, room.height())
+               : QSize(room.width(), int(qint64(room.width()) * size.height() / size.width()));
 }
 
 /// \a source (UTF-8) in the application's language; \a context as in its Linguist file.

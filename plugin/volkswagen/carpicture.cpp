@@ -1,5 +1,7 @@
 #include "carpicture.h"
 
+#include "orbqtcompat.h"
+
 #include <QPainter>
 
 namespace {
@@ -32,9 +34,7 @@ void CarPicture::setTyreFrame(Vw::Tyre tyre, QWidget *frame)
 
 QRect CarPicture::pictureRect() const
 {
-    QSize fitting = m_car.size();
-    fitting.scale(size(), Qt::KeepAspectRatio);
-    QRect picture(QPoint(0, 0), fitting);
+    QRect picture(QPoint(0, 0), OrbQt::fitted(m_car.size(), size()));
     picture.moveCenter(rect().center());
     return picture;
 }

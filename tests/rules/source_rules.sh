@@ -18,7 +18,7 @@ portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | sort)
 
 # One source for three Qt generations. These came after 4.8, or went with 6.
 # shellcheck disable=SC2086
-grep -nE 'QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|QRegExp|QDesktopWidget|->grab\(|setSectionResizeMode|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|[sS]ize\(\)\.scaled\(|\bforeach *\(' $portable |
+grep -nE 'QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|QRegExp|QDesktopWidget|->grab\(|setSectionResizeMode|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|[sS]ize(\(\))?\.scaled?\(|\bforeach *\(' $portable |
     complain "not in every Qt generation"
 # shellcheck disable=SC2086
 grep -nE 'connect\([^;]*&[A-Za-z_]+::[A-Za-z_]+' $portable | complain "functor connect"

@@ -74,7 +74,7 @@ void drawPicture(QPainter *painter, const QRect &room, const QString &path)
     }
     QSize size = picture.size();
     if (size.width() > room.width() || size.height() > room.height()) {
-        size.scale(room.size(), Qt::KeepAspectRatio);
+        size = OrbQt::fitted(size, room.size());
     }
     QRect target(QPoint(0, 0), size);
     target.moveCenter(room.center());
