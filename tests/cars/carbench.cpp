@@ -106,7 +106,9 @@ QStringList CarBench::act(const QString &order)
     } else if (word == "each") {
         return each(rest);
     } else {
-        return folded(m_fixture->exchange(order.toLatin1().constData()));
+        static const QRegularExpression packages("^[0-9a-f]{2}( [0-9a-f]{2}| \\| [0-9a-f]{2})*$");
+        return packages.match(order).hasMatch() ? folded(m_fixture->exchange(order.toLatin1().constData()))
+                                                : QStringList("there is no such order");
     }
     return sent();
 }
