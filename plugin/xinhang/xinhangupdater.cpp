@@ -68,8 +68,9 @@ void XinHangUpdater::onDiskStatusChange(int disk, int status)
     if (status != DiskPresent) {
         return;
     }
-    // QUIRK xinhang-path-kept: a path once found stays until the box reports the end of an update.
-    if (m_filePath.isEmpty()) {
+    // QUIRK xinhang-path-kept: a path once found stays until the box reports the end of an update, as long as
+    // there is a file.
+    if (!QFileInfo(m_filePath).isFile()) {
         m_filePath = findUpdateFile(disk);
     }
     if (m_filePath.isEmpty()) {
@@ -82,15 +83,18 @@ void XinHangUpdater::onDiskStatusChange(int disk, int status)
     m_dialog->showUpdateDlg(DecoderFirmware);
 }
 
-QString XinHangUpdater::findUpdateFile(int disk) const
+QString XinHangUpdater::findUpdateFile(int number) const
 {
     if (m_fileName.isEmpty()) {
         return QString();
     }
-    const QStringList partitions = FileSystemService::getDiskPartitionPaths(disk);
+    const QStringList partitions = FileSystemService::getDiskPartitionPaths(number);
     for (int i = 0; i < partitions.size(); ++i) {
         const QString path = partitions.at(i) + QLatin1Char('/') + m_fileName;
-        if (QFileInfo(path).isFile()) {
+        // A disk could hold a link to anything that the unit may read.
+        const QString disk = QFileInfo(partitions.at(i)).canonicalFilePath();
+        const QFileInfo file(path);
+        if (file.isFile() && file.canonicalFilePath().startsWith(disk + QLatin1Char('/'))) {
             qDebug() << "find update file:" << path;
             return path;
         }
@@ -118,6 +122,7 @@ void XinHangUpdater::onStartUpdateMCU()
         return;
     }
     m_packetCount = 0;
+    m_fileTime = QFileInfo(m_filePath).lastModified();
     m_box.send(UpdateCommand, message(Start));
 }
 
@@ -175,9 +180,13 @@ void XinHangUpdater::onPacketRequest(quint32 number)
     qDebug() << "update percent:" << percent;
 }
 
-/// False also for a file that holds less than was announced: the box must not take padding for firmware.
+/// False also for a file that is another than was announced: the box must not take half of each for firmware.
 bool XinHangUpdater::readPacket(quint32 number, QByteArray *packet)
 {
+    const QFileInfo now(m_filePath);
+    if (now.size() != m_fileSize || now.lastModified() != m_fileTime) {
+        return false;
+    }
     const qint64 position = qint64(number) * PacketSize;
     const qint64 length = qMin<qint64>(PacketSize, m_fileSize - position);
     packet->fill(Padding, PacketSize);

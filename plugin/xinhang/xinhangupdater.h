@@ -2,6 +2,7 @@
 #define XINHANGUPDATER_H
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QObject>
 #include <QPointer>
 #include <QScopedPointer>
@@ -38,7 +39,7 @@ public Q_SLOTS:
     void onStartUpdateMCU();
 
 private:
-    QString findUpdateFile(int disk) const;
+    QString findUpdateFile(int number) const;
     bool openFile();
     void sendPacketCount();
     void onPacketRequest(quint32 number);
@@ -51,7 +52,8 @@ private:
     QString m_fileName;
     QString m_filePath; // empty: none found
     QScopedPointer<QFile> m_file;
-    qint64 m_fileSize; // as announced to the box
+    qint64 m_fileSize;    // as announced to the box
+    QDateTime m_fileTime; // of its last change, when the user accepted it
     quint32 m_packetCount;
 };
 

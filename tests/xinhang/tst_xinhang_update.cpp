@@ -58,6 +58,7 @@ public:
 
 private:
     QString path(const QString &name) const { return m_disk.filePath(name); }
+    bool setTime(const QString &name, int seconds) const;
     bool changeFile(const QString &what, const QString &name, const QString &with);
     void changeDisk(int disk, int status);
     QStringList ask(quint32 number);
@@ -68,11 +69,25 @@ private:
     QByteArray m_firmware; // what was last put on the disk
 };
 
+// A disk that comes back has its files as they were.
+bool UpdateBench::setTime(const QString &name, int seconds) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadWrite) &&
+           file.setFileTime(QDateTime(QDate(2026, 1, 1), QTime(0, 0, seconds)),
+                            QFileDevice::FileModificationTime);
+}
+
 bool UpdateBench::changeFile(const QString &what, const QString &name, const QString &with)
 {
     if (what == "file") {
         m_firmware = image(with.toInt());
         TestSupport::writeFile(path(name), m_firmware);
+        return setTime(name, 0);
+    } else if (what == "touch") {
+        return setTime(name, 1);
+    } else if (what == "link") {
+        return QFile::link(with, path(name));
     } else if (what == "size") {
         return QFile(path(name)).resize(with.toInt());
     } else if (what == "remove") {
