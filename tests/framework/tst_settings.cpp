@@ -4,9 +4,12 @@
 #include "testfiles.h"
 #include "testmain.h"
 
+#include <QRandomGenerator>
+
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -49,6 +52,8 @@ private Q_SLOTS:
     void fileByHand_data();
     void fileByHand();
     void damagedAnywhereThePredecessorIsUsed();
+    void damagedInManyPlaces();
+    void missingFileLeavesItsPredecessor();
     void fileThatCannotBeWritten();
     void writeThatStopsAtAnyByte_data();
     void writeThatStopsAtAnyByte();
@@ -210,6 +215,65 @@ void TestSettings::damagedAnywhereThePredecessorIsUsed()
     QCOMPARE(contentOf(path() + ".bak"), predecessor);
     QCOMPARE(read("SetItem1"), QString("old"));
     QCOMPARE(QDir(m_dir->filePath("set")).entryList(QDir::Files), QStringList({"car.ini", "car.ini.bak"}));
+}
+
+// Whatever befalls a file, in one place or in several: it loads what was written, or counts as absent.
+void TestSettings::damagedInManyPlaces()
+{
+    writeBoth("SetItem1", "old", "new");
+    const QByteArray whole = contentOf(path());
+    const int firstLine = int(whole.indexOf('\n'));
+    const int lastLine = int(whole.lastIndexOf('\n', whole.size() - 2)) + 1;
+    QVERIFY(QFile::remove(path() + ".bak"));
+    DebugLog log;
+    QRandomGenerator random(15);
+    const int rounds = qEnvironmentVariableIsSet("ORB_MANY_DAMAGES") ? 100000 : 10000;
+    for (int round = 0; round < rounds; ++round) {
+        QByteArray content = whole;
+        // Half of them in both lines by which the file is known, the others anywhere.
+        const bool isInBoth = round % 2 == 0;
+        for (int place = isInBoth ? 0 : random.bounded(1, 5); place < (isInBoth ? 2 : 5); ++place) {
+            const int from = isInBoth && place == 1 ? lastLine : 0;
+            const int to = isInBoth && place == 0 ? firstLine : int(whole.size());
+            const int at = qMin(random.bounded(from, to), int(content.size()) - 1);
+            const int count = random.bounded(1, 4);
+            switch (at < 0 ? 3 : int(random.bounded(4))) {
+            case 0:
+                content[at] = char(content.at(at) ^ (1 << random.bounded(8)));
+                break;
+            case 1:
+                content.remove(at, count);
+                break;
+            case 2:
+                content.insert(at, QByteArray(count, char(random.bounded(32, 127))));
+                break;
+            default:
+                content.replace(qMax(at, 0), count, QByteArray(count, '\xFF'));
+            }
+        }
+        writeFile(path(), content);
+        const QString value = read("SetItem1");
+        QVERIFY2(content == whole || value == "(default)", content.constData());
+    }
+}
+
+// The unit stopped between its two renames, or somebody took the file away.
+void TestSettings::missingFileLeavesItsPredecessor()
+{
+    writeBoth("SetItem1", "old", "new");
+    QVERIFY(QFile::remove(path()));
+    DebugLog log;
+    QCOMPARE(read("SetItem1"), QString("old"));
+    // Nor does a pipe of that name hold the unit up.
+    QCOMPARE(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    QCOMPARE(read("SetItem1"), QString("old"));
+    // The file beside is never somebody else's.
+    const QString other = m_dir->filePath("other");
+    writeFile(other, "untouched");
+    QVERIFY(QFile::remove(path()) && QFile::link(other, path() + ".new"));
+    QVERIFY(OrbIniConfig("car.ini", "Car").setValue("SetItem1", "next"));
+    QCOMPARE(contentOf(other), QByteArray("untouched"));
+    QCOMPARE(read("SetItem1"), QString("next"));
 }
 
 void TestSettings::fileThatCannotBeWritten()

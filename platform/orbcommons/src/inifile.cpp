@@ -15,7 +15,7 @@ const int MaxFileBytes = 1024 * 1024;
 
 IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
 {
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(path) && !QFile::exists(predecessor())) {
         return;
     }
     const QByteArray content = SafeFile::read(path, MaxFileBytes);
@@ -24,7 +24,7 @@ IniFile::IniFile(const QString &path) : m_path(path), m_unsaved(false)
         return;
     }
     const bool found = IniText::read(SafeFile::read(predecessor(), MaxFileBytes), &m_sections);
-    qDebug("Settings: %s is damaged, %s", qPrintable(path),
+    qDebug("Settings: %s is damaged or gone, %s", qPrintable(path),
            found ? "its predecessor is used" : "it counts as empty");
 }
 

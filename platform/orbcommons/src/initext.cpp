@@ -8,6 +8,7 @@ namespace {
 const char HeadLine[] =
     "; Kept by the head unit. Remove this line and the last one to edit the file by hand.\n";
 const char ChecksumMark[] = "; sha1=";
+const int ChecksumDigits = 40;
 
 QByteArray checksumLine(const QByteArray &content)
 {
@@ -62,7 +63,36 @@ QString unescaped(const QString &text)
     return result;
 }
 
-/// Whether a file that bears our first or last line, or a piece of the first, is as it was written.
+/// Whether \a line may be \a own after some damage: half of it or more, though moved by a few places.
+bool resembles(const QByteArray &line, const QByteArray &own)
+{
+    const int mostShift = 8;
+    for (int shift = -mostShift; shift <= mostShift; ++shift) {
+        int same = 0;
+        for (int i = qMax(0, -shift); i < own.size() && i + shift < line.size(); ++i) {
+            same += line.at(i + shift) == own.at(i);
+        }
+        if (same * 2 >= own.size()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The same for a checksum's line, of which the sum itself is anything.
+bool resemblesChecksum(const QByteArray &line)
+{
+    int digits = 0;
+    for (int i = 0; i < line.size(); ++i) {
+        const char c = line.at(i);
+        digits += (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
+    }
+    // Some of its digits may be gone, but no line by hand has so many and little else.
+    const bool isHash = digits * 4 >= ChecksumDigits * 3 && digits * 4 >= int(line.size()) * 3;
+    return isHash || resembles(line.left(int(sizeof ChecksumMark) - 1), ChecksumMark);
+}
+
+/// Whether a file that bears our first or last line, or what is left of them, is as it was written.
 bool isWhole(const QByteArray &bytes)
 {
     const QByteArray head(HeadLine);
@@ -70,7 +100,7 @@ bool isWhole(const QByteArray &bytes)
         return false;
     }
     const int lastLine = int(bytes.lastIndexOf('\n', bytes.size() - 2)) + 1;
-    if (!bytes.startsWith(head) && !bytes.mid(lastLine).startsWith(ChecksumMark)) {
+    if (!resembles(bytes.left(head.size()), head) && !resemblesChecksum(bytes.mid(lastLine))) {
         return true;
     }
     return bytes.startsWith(head) && bytes.mid(lastLine) == checksumLine(bytes.left(lastLine));

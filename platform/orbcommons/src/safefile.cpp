@@ -34,11 +34,20 @@ void flushFolder(const QString &path)
     ::close(descriptor);
 }
 
+/// The file is made anew: what lies there under its name, a link to somewhere perhaps, is none of ours.
 bool writeFlushed(const QString &path, const QByteArray &bytes)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size() &&
-           file.flush() && flushToDisk(file.handle());
+    const QByteArray name = QFile::encodeName(path);
+    ::unlink(name.constData());
+    const int descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    if (descriptor < 0) {
+        return false;
+    }
+    QFile file;
+    const bool isWritten = file.open(descriptor, QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+                           file.flush() && flushToDisk(descriptor);
+    file.close();
+    return ::close(descriptor) == 0 && isWritten;
 }
 
 } // namespace
@@ -60,7 +69,8 @@ bool SafeFile::replace(const QString &path, const QByteArray &bytes)
 QByteArray SafeFile::read(const QString &path, qint64 limit)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A pipe of that name would hold up whoever opens it.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return QByteArray();
     }
     const QByteArray bytes = file.read(limit + 1);
