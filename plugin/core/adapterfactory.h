@@ -45,6 +45,13 @@ public:
     /// A new decoder, which is the caller's and not started; null for an unknown \a type.
     static CanBusAdapter *create(CanBusType type);
 
+    /// How a row of CANBUS_ADAPTER makes its decoder.
+    template <class Adapter>
+    static CanBusAdapter *make()
+    {
+        return new Adapter;
+    }
+
 private:
     static const Row *find(CanBusType type);
 
@@ -54,11 +61,7 @@ private:
 /// The row of a decoder with a default constructor; once per decoder, at file scope of its source file.
 #define CANBUS_ADAPTER(Type, Class)                                                                          \
     namespace {                                                                                              \
-    CanBusAdapter *make##Class()                                                                             \
-    {                                                                                                        \
-        return new Class;                                                                                    \
-    }                                                                                                        \
-    const AdapterFactory::Row row##Class(Type, Class::staticMetaObject, make##Class);                        \
+    const AdapterFactory::Row row##Class(Type, Class::staticMetaObject, AdapterFactory::make<Class>);        \
     }
 
 #endif // ADAPTERFACTORY_H
