@@ -43,10 +43,12 @@ bool writeFlushed(const QString &path, const QByteArray &bytes)
     if (descriptor < 0) {
         return false;
     }
-    QFile file;
-    const bool isWritten = file.open(descriptor, QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-                           file.flush() && flushToDisk(descriptor);
-    file.close();
+    bool isWritten = false;
+    {
+        QFile file;
+        isWritten = file.open(descriptor, QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+                    file.flush() && flushToDisk(descriptor);
+    }
     return ::close(descriptor) == 0 && isWritten;
 }
 
