@@ -56,8 +56,9 @@ inside 'apt-get install -qq -y --no-install-recommends cmake make g++ pkg-config
     done
     printf "event 51006 7 1\nwait 100\ntext lblKey\n" |
         headunit --headless --plugin /tmp/plugin/libHello.so --script - | grep "Key 7 pressed"
-    g++ -fPIC -shared -o /tmp/byhand.so -x c++ /usr/share/doc/liborbcommons-dev/examples/plugin/helloplugin.h \
-        $(pkg-config --cflags --libs orbcommons)
+    printf "#include \"orbevent.h\"\nint main() { return int(OrbEvent(0, 0, 51001).getParam()); }\n" |
+        g++ -fPIC -x c++ - -x none $(pkg-config --cflags --libs orbcommons) -o /tmp/byhand
+    /tmp/byhand
     printf "wait 2000\npress volume_up\nwait 1000\n" | headunit --headless --virtual-clock --can-bus-type 9 \
         --box /tmp/box/libMyBox.so --trace - --script - | grep simulateKey'
 step "Removing"
