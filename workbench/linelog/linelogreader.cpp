@@ -13,7 +13,7 @@ void flatten(QString *text)
         }
     }
     text->truncate(LongestText);
-    if (!text->isEmpty() && text->back().isHighSurrogate()) {
+    if (!text->isEmpty() && text->at(text->size() - 1).isHighSurrogate()) {
         text->chop(1);
     }
     *text = text->simplified();

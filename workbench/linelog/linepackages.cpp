@@ -7,7 +7,11 @@ void LinePackages::feed(const LineRecord &record)
         append(record, LinePiece::Skipped);
         return;
     }
-    LineFramer &framer = record.isTowardsUnit() ? m_toUnit : m_toBox;
+    const bool isTowardsUnit = record.isTowardsUnit();
+    LineFramer &framer = isTowardsUnit ? m_toUnit : m_toBox;
+    LineFramer &other = isTowardsUnit ? m_toBox : m_toUnit;
+    other.feed({}, record.microseconds);
+    fetch(&other, isTowardsUnit ? LineRecord::ToBox : LineRecord::ToUnit);
     if (record.kind == LineRecord::Unframed) {
         framer.giveUp();
         fetch(&framer, LineRecord::ToUnit);
