@@ -191,14 +191,21 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
 
 } // namespace
 
-bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
+bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const UnitCommand *command)
 {
     CLI::App app(
-        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
-        "headunit");
+        command
+            ? command->description
+            : "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     Texts texts;
+    if (command) {
+        command->addOptions(&app);
+    } else {
+        app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    }
     addOptions(&app, this, &texts);
     usage = QString::fromStdString(app.help());
     std::vector<std::string> words;
