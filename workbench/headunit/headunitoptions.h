@@ -39,6 +39,8 @@ struct HeadUnitOptions
     QString scenario;        ///< of the decoder box; empty for none
     QString trace;           ///< file, "-" for standard output, empty for none
     QString script;          ///< file, "-" for standard input, empty for none
+    QString record;          ///< file for the line's log, "-" for standard output, empty for none
+    QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
     bool listsPorts = false; ///< and nothing else
     bool wantsHelp = false;
     QString usage; ///< what there is to ask for; set by parse()
