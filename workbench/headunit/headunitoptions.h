@@ -25,8 +25,7 @@ struct HeadUnitOptions
     QString scenario; ///< of the decoder box; empty for none
     QString trace;    ///< file, "-" for standard output, empty for none
     QString script;   ///< file, "-" for standard input, empty for none
-    bool wantsHelp = false;
-    QString usage; ///< what there is to ask for; set by parse()
+    QString answer;   ///< what is to be printed instead of a run: the help or the version; empty for a run
 
     /// Reads \a arguments, the program's name first; needs no application object. False, with the reason in
     /// \a error, when they are wrong.

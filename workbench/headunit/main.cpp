@@ -24,6 +24,20 @@ bool hasDisplay()
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
+// Qt tells at length why it has no display, and aborts. What it tells about one that it has is nobody's concern.
+void sayThatDisplayFails(QtMsgType type, const QMessageLogContext &, const QString &)
+{
+    if (type == QtFatalMsg) {
+        QByteArray name;
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            name = qEnvironmentVariableIsEmpty(variable) ? name : qgetenv(variable);
+        }
+        complain(
+            QString("the display '%1' cannot be opened; use --headless").arg(QString::fromLocal8Bit(name)));
+        ::_exit(CannotRun);
+    }
+}
+
 // A standard stream that was closed must not become another file's number: it reads as empty and swallows.
 void keepStandardStreams()
 {
@@ -47,11 +61,11 @@ int main(int argc, char *argv[])
     QString error;
     if (!options.parse(arguments, &error)) {
         complain(error);
-        std::fputs(qPrintable(options.usage), stderr);
+        std::fputs("Usage: headunit [OPTIONS]\nheadunit --help tells what there is.\n", stderr);
         return WrongUsage;
     }
-    if (options.wantsHelp) {
-        std::fputs(qPrintable(options.usage), stdout);
+    if (!options.answer.isEmpty()) {
+        std::fputs(qPrintable(options.answer), stdout);
         return Fine;
     }
     if (options.isHeadless) {
@@ -65,7 +79,9 @@ int main(int argc, char *argv[])
         return CannotRun;
     }
     int ownArgument = 1; // the others are not Qt's
+    const QtMessageHandler usual = qInstallMessageHandler(sayThatDisplayFails);
     OrbApplication application(ownArgument, argv);
+    qInstallMessageHandler(usual);
     HeadUnitProgram program(options);
     if (!program.begin(&error)) {
         complain(error);
