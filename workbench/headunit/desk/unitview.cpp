@@ -57,8 +57,7 @@ QSize UnitView::minimumSizeHint() const
 
 void UnitView::resizeEvent(QResizeEvent *event)
 {
-    const qreal fitting =
-        qMin(qreal(width()) / m_unitSize.width(), qreal(height()) / m_unitSize.height());
+    const qreal fitting = qMin(qreal(width()) / m_unitSize.width(), qreal(height()) / m_unitSize.height());
     const qreal scale = qBound(LeastScale, fitting, GreatestScale);
     setTransform(QTransform::fromScale(scale, scale));
     QGraphicsView::resizeEvent(event);
