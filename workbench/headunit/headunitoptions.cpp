@@ -197,18 +197,26 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
 
 } // namespace
 
-bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
+bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const UnitCommand *command)
 {
     CLI::App app(
-        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
-        "headunit");
+        command
+            ? command->description
+            : "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     app.set_version_flag("--version",
                          QString("headunit %1 (Qt %2)").arg(CANBUS_VERSION, qVersion()).toStdString(),
                          "prints the version");
     Texts texts;
+    if (command) {
+        command->addOptions(&app);
+    } else {
+        app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    }
     addOptions(&app, this, &texts);
+    usage = QString::fromStdString(app.help());
     std::vector<std::string> words;
     for (int i = int(arguments.size()) - 1; i > 0; --i) {
         words.push_back(arguments.at(i).toStdString()); // the library takes them from the back
@@ -216,10 +224,10 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
     try {
         app.parse(words);
     } catch (const CLI::CallForHelp &) {
-        answer = QString::fromStdString(app.help());
+        wantsHelp = true;
         return true;
-    } catch (const CLI::CallForVersion &version) {
-        answer = QString::fromLatin1(version.what()) + '\n';
+    } catch (const CLI::CallForVersion &asked) {
+        version = QString::fromLatin1(asked.what());
         return true;
     } catch (const CLI::ParseError &problem) {
         *error = QString::fromStdString(problem.what());

@@ -7,6 +7,20 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+/// A sub-command that runs the unit: it takes the unit's options and some of its own.
+struct UnitCommand
+{
+    const char *name;
+    const char *description;
+    std::function<void(CLI::App *)> addOptions;
+};
+
 /// What the command line of `headunit` asks for.
 struct HeadUnitOptions
 {
@@ -22,14 +36,17 @@ struct HeadUnitOptions
     bool isHeadless = false;
     QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
-    QString scenario; ///< of the decoder box; empty for none
-    QString trace;    ///< file, "-" for standard output, empty for none
-    QString script;   ///< file, "-" for standard input, empty for none
-    QString answer;   ///< what is to be printed instead of a run: the help or the version; empty for a run
+    QString scenario;        ///< of the decoder box; empty for none
+    QString trace;           ///< file, "-" for standard output, empty for none
+    QString script;          ///< file, "-" for standard input, empty for none
+    bool listsPorts = false; ///< and nothing else
+    bool wantsHelp = false;
+    QString version; ///< "headunit 1.0.0 (Qt 5.15.8)" when that was asked for, and nothing else
+    QString usage; ///< what there is to ask for; set by parse()
 
-    /// Reads \a arguments, the program's name first; needs no application object. False, with the reason in
-    /// \a error, when they are wrong.
-    bool parse(const QStringList &arguments, QString *error);
+    /// Reads \a arguments, the program's name first; needs no application object. \a command is the
+    /// sub-command in front of them, null for none. False, with the reason in \a error, when they are wrong.
+    bool parse(const QStringList &arguments, QString *error, const UnitCommand *command = nullptr);
 
     /// The decoder type that the plug-in will read; 0 for none.
     uint canBusType() const { return tags.value(CanBusTypeTag).toUInt(); }
