@@ -26,7 +26,8 @@ public:
     /// All types, in order of their numbers.
     static const QVector<Row> &rows();
 
-    /// The type that \a text names, by number (decimal or 0x-hexadecimal) or by class name; 0 for none.
+    /// The type that \a text names: by number (decimal or 0x-hexadecimal), by the car's word, or by class name,
+    /// whole or without what stands before any of its underscores, in any case; 0 for none.
     static int typeFromText(const QString &text);
 
     /// The class name of \a type; empty for one that does not exist.
@@ -37,6 +38,9 @@ public:
 
     /// The commands with which a box of \a type is known to report something to the unit.
     static QSet<quint8> reportedBy(int type);
+
+    /// Every type's number and class, each on a line of its own that begins with the line break.
+    static QString list();
 
     /// A box for \a type with its own car, owned by \a parent or else by the caller. Null, with one sentence
     /// in \a error, for a type that does not exist or whose box nobody knows.

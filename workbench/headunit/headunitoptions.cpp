@@ -11,6 +11,8 @@ namespace {
 // When the virtual clock starts unless it is told: drives with a clock in them look the same every day.
 const char *const StandardStart = "2026-01-01T12:00:00";
 
+const quint32 KeySets = 2; // 0 is a unit without one
+
 // What the command line holds, as text.
 struct Texts
 {
@@ -67,14 +69,17 @@ bool readType(const std::string &text, quint32 *number)
 std::string typeComplaint(const std::string &text)
 {
     quint32 number = 0;
-    return readType(text, &number) ? std::string() : "takes a number or a class name, not '" + text + "'";
+    return readType(text, &number) ? std::string()
+                                   : "takes the number or the name of a type, not '" + text +
+                                         "'; the types are" + BoxCatalog::list().toStdString();
 }
 
-std::string numberComplaint(const std::string &text)
+std::string keySetComplaint(const std::string &text)
 {
     quint32 number = 0;
-    return NumberText::read(QString::fromStdString(text), &number) ? std::string()
-                                                                   : "takes a number, not '" + text + "'";
+    return NumberText::read(QString::fromStdString(text), &number) && number <= KeySets
+               ? std::string()
+               : "takes the number of a key set, 1 or 2, not '" + text + "'";
 }
 
 // The library gives an option the next word, whatever it is.
@@ -114,12 +119,13 @@ CLI::Option *addPath(CLI::App *app, const char *name, std::string *text, const c
 void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
 {
     app->add_option("--can-bus-type", texts->type,
-                    "the decoder box that is fitted: number or class name; decoderbox --list has them")
+                    "the decoder box that is fitted: number, class or short name (toyota); decoderbox --list "
+                    "has them")
         ->type_name("N|CLASS")
         ->check(typeComplaint);
     app->add_option("--key-redef", texts->keyRedef, "the unit's own key set: 1 or 2")
         ->type_name("N")
-        ->check(numberComplaint);
+        ->check(keySetComplaint);
     CLI::Option *const port =
         addPath(app, "--port", &texts->port, "PATH", "the serial device of a decoder box");
     app->add_option("--decoder-box", texts->scenario, "a virtual box instead; it drives the scenario")
@@ -208,6 +214,9 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
         command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    app.set_version_flag("--version",
+                         QString("headunit %1 (Qt %2)").arg(CANBUS_VERSION, qVersion()).toStdString(),
+                         "prints the version");
     Texts texts;
     if (command) {
         command->addOptions(&app);
@@ -224,6 +233,9 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
         app.parse(words);
     } catch (const CLI::CallForHelp &) {
         wantsHelp = true;
+        return true;
+    } catch (const CLI::CallForVersion &asked) {
+        version = QString::fromLatin1(asked.what());
         return true;
     } catch (const CLI::ParseError &problem) {
         *error = QString::fromStdString(problem.what());

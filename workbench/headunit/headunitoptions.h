@@ -43,6 +43,7 @@ struct HeadUnitOptions
     QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
     bool listsPorts = false; ///< and nothing else
     bool wantsHelp = false;
+    QString version; ///< "headunit 1.0.0 (Qt 5.15.8)" when that was asked for, and nothing else
     QString usage; ///< what there is to ask for; set by parse()
 
     /// Reads \a arguments, the program's name first; needs no application object. \a command is the

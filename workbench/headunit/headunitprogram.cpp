@@ -18,6 +18,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <cstdio>
 
@@ -39,19 +40,39 @@ bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, 
     return ok;
 }
 
+// Writes nothing that stays: the folder is made when there is something to keep.
+bool canKeepSettings(const QString &path, QString *error)
+{
+    QFileInfo folder(QDir(path).absolutePath());
+    while (!folder.exists() && !folder.isSymLink() && !folder.isRoot()) {
+        folder.setFile(folder.absolutePath());
+    }
+    QTemporaryFile probe(folder.absoluteFilePath() + "/.headunit-XXXXXX");
+    const bool ok = folder.isDir() && probe.open();
+    if (!ok) {
+        *error = QString("settings cannot be kept in %1: %2")
+                     .arg(path,
+                          folder.isDir() ? probe.errorString() : folder.absoluteFilePath() + " is no folder");
+    }
+    return ok;
+}
+
 // The plug-in goes on in silence.
 void sayWhyNoDecoder(const HeadUnitOptions &options)
 {
     const uint lastType = uint(BoxCatalog::rows().last().type);
     const QVariant port = options.productValues.value("CANPortName");
     QString reason;
+    QString list;
     if (options.canBusType() > lastType) {
+        list = "; the types are" + BoxCatalog::list();
         reason = QString("CAN-bus type %1 is none of 1 to %2").arg(options.canBusType()).arg(lastType);
     } else if (port.isValid() && port.toString().isEmpty()) {
         reason = "the port has no name";
     }
     if (!reason.isEmpty()) {
-        std::fprintf(stderr, "headunit: %s, the unit runs without a decoder\n", qPrintable(reason));
+        std::fprintf(stderr, "headunit: %s, the unit runs without a decoder%s\n", qPrintable(reason),
+                     qPrintable(list));
     }
 }
 
@@ -76,6 +97,9 @@ bool HeadUnitProgram::begin(QString *error)
 {
     quitOnSignals(this);
     if (!openTrace(error) || !openScript(error)) {
+        return false;
+    }
+    if (!m_options.settingsDir.isEmpty() && !canKeepSettings(m_options.settingsDir, error)) {
         return false;
     }
     configureUnit();

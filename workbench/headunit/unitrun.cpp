@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace {
 
 void complain(const QString &problem)
@@ -21,6 +23,20 @@ bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+// Qt tells at length why it has no display, and aborts. What it tells about one that it has is nobody's concern.
+void sayThatDisplayFails(QtMsgType type, const QMessageLogContext &, const QString &)
+{
+    if (type == QtFatalMsg) {
+        QByteArray name;
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            name = qEnvironmentVariableIsEmpty(variable) ? name : qgetenv(variable);
+        }
+        complain(
+            QString("the display '%1' cannot be opened; use --headless").arg(QString::fromLocal8Bit(name)));
+        ::_exit(Command::FoundSomething);
+    }
 }
 
 QString listOfCommands()
@@ -41,17 +57,21 @@ bool readOptions(const QStringList &arguments, const UnitCommand *command, HeadU
     options->usage += command ? QString() : listOfCommands();
     if (!isRead) {
         complain(error);
-        std::fputs(qPrintable(options->usage), stderr);
+        const QString name = command ? QString("headunit ") + command->name : QString("headunit");
+        const QString usage = QString("Usage: %1 [OPTIONS]\n%1 --help tells what there is.\n").arg(name);
+        std::fputs(qPrintable(usage), stderr);
         *exitCode = Command::WrongUsage;
         return false;
     }
     *exitCode = Command::Fine;
     if (options->wantsHelp) {
         std::fputs(qPrintable(options->usage), stdout);
+    } else if (!options->version.isEmpty()) {
+        std::puts(qPrintable(options->version));
     } else if (options->listsPorts) {
         *exitCode = listPorts(false);
     }
-    return !options->wantsHelp && !options->listsPorts;
+    return !options->wantsHelp && options->version.isEmpty() && !options->listsPorts;
 }
 
 } // namespace
@@ -76,7 +96,9 @@ int runUnit(const QStringList &arguments, const UnitCommand *command)
     QByteArray name = arguments.first().toLocal8Bit();
     char *words[] = {name.data(), nullptr};
     int wordCount = 1; // the others are not Qt's
+    const QtMessageHandler usual = qInstallMessageHandler(sayThatDisplayFails);
     OrbApplication application(wordCount, words);
+    qInstallMessageHandler(usual);
     HeadUnitProgram program(options);
     QString error;
     if (!program.begin(&error)) {

@@ -8,18 +8,19 @@
 #include "sidepanel.h"
 #include "unitpage.h"
 #include "unitshell.h"
+#include "unitview.h"
 
 #include <QEvent>
 #include <QFile>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QScreen>
+#include <QShortcut>
+#include <QToolButton>
 
 namespace {
 
 const int Margin = 12;
-const int PreferredHeight = 860;
-const int TitleBarHeight = 40; // about what a desktop puts around windows
+const QSize Surroundings(8, 44); // about what a desktop puts around windows
 const AppTagId KeySetTag = 0x1000c;
 const uint LanguageNotification = 20486;
 const int UsbDisk = 0;
@@ -47,20 +48,30 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     }
 
     m_screen = new UnitScreen(screenSize);
+    m_screen->setStyleSheet(styleSheet()); // it is a window of its own
     m_shell = new UnitShell(unit, m_screen, this);
+    m_view = new UnitView(m_screen); // what the screen holds is shown with it
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
     m_sidePanel = new SidePanel(box);
     new ClimateWatch(ClimatePatience, this);
+    m_fold = new QToolButton;
+    m_fold->setObjectName(QStringLiteral("foldBar"));
+    m_fold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    m_fold->setFocusPolicy(Qt::NoFocus);
     QGridLayout *layout = new QGridLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
-    layout->addWidget(m_screen, 0, 0);
-    layout->addWidget(m_keyStrip, 1, 0, Qt::AlignTop);
-    layout->addWidget(m_sidePanel, 0, 1, 2, 1);
-    layout->setRowStretch(1, 1);
+    layout->addWidget(m_view, 0, 0);
+    layout->addWidget(m_keyStrip, 1, 0);
+    layout->addWidget(m_fold, 0, 1, 2, 1);
+    layout->addWidget(m_sidePanel, 0, 2, 2, 1);
+    layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
 
     connect(m_keyStrip, &KeyStrip::keyUsed, m_shell, &UnitShell::useKey);
+    connect(m_view, &UnitView::keyUsed, m_shell, &UnitShell::useKey);
+    connect(m_fold, &QToolButton::clicked, this, [this] { foldPanel(!isPanelFolded()); });
+    addShortcuts();
     UnitPage *unitPage = m_sidePanel->unitPage();
     // The driver reads English from the English file; headless a trace shows the source texts.
     OrbHost::instance()->setLanguage(OrbHost::instance()->language());
@@ -70,10 +81,8 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
         m_unit->setDisk(UsbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
     });
     retranslate();
-    // The panel has much to show: as high as fits the display, though not more than it needs.
-    const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(sizeHint().width(),
-           qMax(sizeHint().height(), qMin(display.height() - TitleBarHeight, PreferredHeight)));
+    m_view->setFocus();
+    resize(QWidget::screen()->availableSize() - Surroundings);
 }
 
 DeskWindow::~DeskWindow()
@@ -89,8 +98,30 @@ void DeskWindow::chooseLanguage(const QString &language)
     m_unit->notify(LanguageNotification);
 }
 
+void DeskWindow::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, auto act) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
+    };
+    add(Qt::CTRL | Qt::Key_Q, [this] { close(); });
+    add(Qt::Key_F9, [this] { foldPanel(!isPanelFolded()); });
+}
+
+bool DeskWindow::isPanelFolded() const
+{
+    return m_sidePanel->isHidden();
+}
+
+void DeskWindow::foldPanel(bool isFolded)
+{
+    m_sidePanel->setVisible(!isFolded);
+    m_fold->setText(isFolded ? QStringLiteral("‹") : QStringLiteral("›"));
+    m_fold->setToolTip(isFolded ? tr("Show the panel (F9)") : tr("Fold the panel away (F9)"));
+}
+
 void DeskWindow::retranslate()
 {
+    foldPanel(isPanelFolded());
     setWindowTitle(tr("Head unit on the desk"));
     m_shell->retranslate();
 }

@@ -8,11 +8,14 @@
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
+class QToolButton;
 class SidePanel;
 class UnitShell;
+class UnitView;
 
-/// The head unit on the desk: its screen, its keys below, and beside it the panel of the virtual box. To be
-/// built before the plug-in is loaded, and after the trace listener is set.
+/// The head unit on the desk: its screen, its keys below, and beside it the panel of the virtual box, which
+/// folds away (F9). The screen takes the room that the window has. Ctrl+Q closes the window. To be built before
+/// the plug-in is loaded, and after the trace listener is set.
 class DeskWindow : public QWidget
 {
     Q_OBJECT
@@ -24,21 +27,29 @@ public:
     ~DeskWindow() override;
 
     UnitScreen *screen() const { return m_screen; }
+    UnitView *view() const { return m_view; }
     UnitShell *shell() const { return m_shell; }
     KeyStrip *keyStrip() const { return m_keyStrip; }
     SidePanel *sidePanel() const { return m_sidePanel; }
+
+    /// The unit's language, \a language being one of UnitPage::languages(); the plug-in is told.
+    void chooseLanguage(const QString &language);
+    void foldPanel(bool isFolded);
+    bool isPanelFolded() const;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void chooseLanguage(const QString &language);
+    void addShortcuts();
     void retranslate();
 
     HeadUnit *m_unit;
     UnitScreen *m_screen;
+    UnitView *m_view;
     UnitShell *m_shell;
     KeyStrip *m_keyStrip;
+    QToolButton *m_fold;
     SidePanel *m_sidePanel;
 };
 

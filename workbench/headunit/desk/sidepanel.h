@@ -6,13 +6,14 @@
 
 class BoxPage;
 class DecoderBox;
+class QLineEdit;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
 class UnitPage;
 
-/// Beside the unit: the virtual box and its car, and what is done to the unit itself. One page at a time,
-/// each scrolls.
+/// Beside the unit: the virtual box and its car, and what is done to the unit itself. One page at a time; each
+/// scrolls, also by dragging, and what has many controls is searched by name.
 class SidePanel : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void search();
+    void setTexts();
     QScrollArea *addPage(const char *title, QWidget *page);
 
     struct Tab
@@ -45,6 +48,7 @@ private:
 
     DecoderBox *m_box;
     QVector<Tab> m_tabs;
+    QLineEdit *m_search;
     QStackedWidget *m_pages;
     QScrollArea *m_carArea = nullptr;
     QScrollArea *m_keysArea = nullptr;
