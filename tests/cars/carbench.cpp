@@ -136,6 +136,15 @@ QStringList CarBench::start()
     m_fixture.reset();
     m_fixture.reset(new AdapterFixture);
     m_car = m_fixture->take(AdapterFactory::create(m_type));
+    if (RaiseAdapter *const raise = dynamic_cast<RaiseAdapter *>(m_car)) {
+        // What a screen would get.
+        QObject::connect(
+            raise, &RaiseAdapter::recvCanDatas, [this](quint8 cmd, const quint8 *datas, quint8 dataLen) {
+                m_fixture->trace.called(
+                    "adapter", "recvCanDatas",
+                    {QByteArray(1, char(cmd)), QByteArray(reinterpret_cast<const char *>(datas), dataLen)});
+            });
+    }
     m_fixture->open();
     PortSettings settings;
     QStringList lines = {

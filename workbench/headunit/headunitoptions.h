@@ -24,7 +24,8 @@ struct HeadUnitOptions
     bool hasDecoderBox = false;
     QString scenario; ///< of the decoder box; empty for none
     QString trace;    ///< file, "-" for standard output, empty for none
-    QString script;   ///< file, "-" for standard input, empty for none
+    bool tracesValues = false;
+    QString script; ///< file, "-" for standard input, empty for none
     bool wantsHelp = false;
     QString usage; ///< what there is to ask for; set by parse()
 
