@@ -201,6 +201,7 @@ void TestUnitShell::titleStaysUnderADialog()
 {
     // Without the clock, which may go on meanwhile.
     const auto title = [this] {
+        QCoreApplication::processEvents();
         QWidget *const bar = m_desk->screen()->statusArea();
         return bar->grab(QRect(bar->width() / 10, 0, bar->width() / 2, bar->height())).toImage();
     };
