@@ -72,10 +72,14 @@ QSize FigureLabel::unitRoom(UnitPlace place) const
     return QSize(width > 0 ? width + Gap : 0, 0);
 }
 
+// Widths grow with the size, but for the rounding to whole pixels: one guess, and a step or two down.
 int FigureLabel::fittingSize(UnitPlace place) const
 {
     const QSize room = contentsRect().size() - unitRoom(place);
-    int size = LargestFigure;
+    const int width = qMax(1, figureWidth(LargestFigure));
+    const int height = QFontMetrics(fontOf(LargestFigure)).height();
+    const int guess = qMin(LargestFigure * room.width() / width, LargestFigure * room.height() / height);
+    int size = qBound(SmallestFigure, guess, LargestFigure);
     while (size > SmallestFigure &&
            (figureWidth(size) > room.width() || QFontMetrics(fontOf(size)).height() > room.height())) {
         --size;

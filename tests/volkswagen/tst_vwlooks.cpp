@@ -19,7 +19,7 @@ private Q_SLOTS:
     void figuresHaveOneSize();
 
 private:
-    void addDriving(const char *name, const char *button, const char *packages);
+    void addDriving(const char *name, const char *button, const char *packages, int age = 0);
     void addPage(const char *name, unsigned int page, const char *packages);
     void addDialog(const char *name, const std::function<void(SelectDialog &)> &fill);
 
@@ -45,7 +45,7 @@ const char *const Reports =
 
 } // namespace
 
-void TestVwLooks::addDriving(const char *name, const char *button, const char *packages)
+void TestVwLooks::addDriving(const char *name, const char *button, const char *packages, int age)
 {
     m_scenes << Looks::Scene{name, [=] {
                                  std::unique_ptr<QWidget> window(new VolkswagenWindow(newAdapter()));
@@ -53,6 +53,7 @@ void TestVwLooks::addDriving(const char *name, const char *button, const char *p
                                  VwBench::click(*window, button);
                                  QTest::qWait(Vw::AnswerPatience + 1000);
                                  VwBench::feed(*m_adapter, packages);
+                                 QTest::qWait(age);
                                  return window;
                              }};
 }
@@ -96,6 +97,9 @@ void TestVwLooks::initTestCase()
     addDriving("tyre-states", "btnTPMS", "68 00 00 | 65 00 01 02 00");
     addDriving("tyre-warning", "btnTPMS", "65 00 01 02 00 | 68 02 02");
     addDriving("tyre-both", "btnTPMS", "68 09 04 | 65 01 00 00 01");
+    const int age = 55 * 60 * 1000; // ms
+    addDriving("driving-old", "btnRange", "50 10 01 08 02 00 00 | 50 20 01 10 27 00 00", age);
+    addDriving("tyre-old", "btnTPMS", "68 00 00", age);
     for (unsigned int page = Vw::TyresPage; page <= Vw::ConsumersPage; ++page) {
         if (Vw::settingPage(page)) {
             addPage(Vw::settingPage(page)->title, page, Reports);
