@@ -3,10 +3,12 @@
 
 #include "packageview.h"
 #include "vwreports.h"
+#include "vwrowlooks.h"
 #include "vwsettingstable.h"
 
 #include <QHash>
 #include <QList>
+#include <QStringList>
 
 class TableViewItemDatas;
 
@@ -34,6 +36,11 @@ public:
     /// it was; values that a row has no text for are left out.
     bool take(const PackageView &package);
 
+    /// The page's requests that the box has not answered yet, in their order.
+    QList<quint8> unanswered() const;
+    /// Whether the page shows what the car tells, and it has told nothing yet.
+    bool isSilent() const;
+
     /// What the list shows, in the unit's language.
     QList<TableViewItemDatas> rows() const;
 
@@ -46,6 +53,10 @@ public:
     bool isKnown(int item) const { return m_values.contains(item); }
     /// The driver's choice; it stands until the car reports something else.
     void setValue(int item, int value) { m_values.insert(item, value); }
+    void forgetValue(int item) { m_values.remove(item); }
+
+    /// The row of \a item says "Sent" from now on, until it is another one's turn; NoItem: none's.
+    void setSent(int item) { m_sent = item; }
 
     NumberRange rangeOf(const SettingRow &row) const;
 
@@ -58,6 +69,7 @@ private:
     void showProfileRows();
 
     TableViewItemDatas itemOf(const SettingRow &row) const;
+    RowState stateOf(const SettingRow &row) const;
     QString valueText(const SettingRow &row) const;
     QList<TableViewItemDatas> startStopRows() const;
     QList<TableViewItemDatas> reportRows() const;
@@ -65,13 +77,18 @@ private:
 
     const unsigned int m_id;
     const SettingPage *const m_page;
+    QList<quint8> m_unanswered;
     QList<SettingRow> m_rows;
+    int m_sent;
     QHash<int, int> m_values; // by item
     bool m_speedInMph;
     QHash<int, ServiceReading> m_readings; // by item
     StartStopReport m_startStop;
     NumbersReport m_numbers; // vehicle reports or consumers
 };
+
+/// Texts of the options of \a row, in the unit's language.
+QStringList optionTexts(const SettingRow &row);
 
 /// Value and unit of a number's row ("80 km/h"); the value alone without a unit.
 QString numberText(int value, const QString &unit);
