@@ -13,8 +13,7 @@
 namespace {
 
 const int SilenceLimit = 2000; // ms
-const char WaitingStyle[] =
-    "background-color:#171C24;color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
+const char WaitingStyle[] = "color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
 
 } // namespace
 
@@ -31,7 +30,7 @@ VWFunctionSetting::VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen
     setWindowTitle(getAppTitleFromId(appId));
     m_list->setObjectName(QLatin1String("listSettings"));
     m_list->setModel(m_model);
-    // At the foot, so that no row moves under a finger when it comes or goes.
+    // Below the rows, so that none moves under a finger when it comes or goes.
     m_waiting->setObjectName(QLatin1String("labelWaiting"));
     m_waiting->setAlignment(Qt::AlignCenter);
     m_waiting->setStyleSheet(QLatin1String(WaitingStyle));
@@ -88,8 +87,11 @@ void VWFunctionSetting::onCarSilent()
 
 void VWFunctionSetting::showWaiting()
 {
+    const bool waits = m_state.isSilent() && !m_silenceTimer.isActive();
     m_waiting->setText(tr("Waiting for the car"));
-    m_waiting->setVisible(m_state.isSilent() && !m_silenceTimer.isActive());
+    m_waiting->setVisible(waits);
+    // Without rows the words have the page for themselves.
+    m_list->setMaximumHeight(waits && m_model->rowCount() == 0 ? 0 : QWIDGETSIZE_MAX);
 }
 
 void VWFunctionSetting::onSentShown()

@@ -25,6 +25,7 @@ private:
 
     VwBench::SettingsFolder m_settings;
     CanBus_Raise_Volkswagen m_adapter;
+    CanBus_Raise_Volkswagen m_silentAdapter;
     QList<Looks::Scene> m_scenes;
 };
 
@@ -63,19 +64,17 @@ void TestVwLooks::addPage(const char *name, unsigned int page, const char *packa
 // The page of a car that says nothing, with an order that has just left.
 void TestVwLooks::addSilentPage(const char *name, unsigned int page)
 {
-    m_scenes << Looks::Scene{name, [=] {
-                                 std::unique_ptr<VWFunctionSetting> window(
-                                     new VWFunctionSetting(page, &m_adapter));
-                                 window->show();
-                                 QTest::qWait(2100); // virtual
-                                 if (page == Vw::ServicePage) {
-                                     const int row = VwBench::modelOf(*window)->rowOfItem(138);
-                                     VwBench::tap(*window, row, 0, [](SelectDialog &dialog) {
-                                         VwBench::click(dialog, "btnOk");
-                                     });
-                                 }
-                                 return std::unique_ptr<QWidget>(std::move(window));
-                             }};
+    m_scenes << Looks::Scene{
+        name, [=] {
+            std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(page, &m_silentAdapter));
+            window->show();
+            QTest::qWait(2200); // virtual
+            if (page == Vw::ServicePage) {
+                const int row = VwBench::modelOf(*window)->rowOfItem(138);
+                VwBench::tap(*window, row, 0, [](SelectDialog &dialog) { VwBench::click(dialog, "btnOk"); });
+            }
+            return std::unique_ptr<QWidget>(std::move(window));
+        }};
 }
 
 void TestVwLooks::addDialog(const char *name, const std::function<void(SelectDialog &)> &fill)
@@ -131,9 +130,10 @@ void TestVwLooks::initTestCase()
         dialog.setCheckBoxListMode(options, options.first(), true);
     });
     addDialog("Factory settings", [](SelectDialog &dialog) {
-        dialog.setContentText(VWFunctionSetting::tr("Are you sure restore") + ' ' +
-                              Vw::text("Parking and manoeuvring") + ' ' + VWFunctionSetting::tr("settings") +
-                              " ?");
+        dialog.setContentText(VWFunctionSetting::tr("%1 %2 %3 ?")
+                                  .arg(VWFunctionSetting::tr("Are you sure restore"),
+                                       Vw::text("Parking and manoeuvring"),
+                                       VWFunctionSetting::tr("settings")));
     });
 }
 
