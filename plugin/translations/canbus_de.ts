@@ -42,10 +42,6 @@
         <translation>Wirklich </translation>
     </message>
     <message>
-        <source>Waiting for the car</source>
-        <translation>Warten auf das Fahrzeug</translation>
-    </message>
-    <message>
         <source>The car has not told its value</source>
         <translation>Das Fahrzeug hat den Wert noch nicht gemeldet</translation>
     </message>
@@ -99,10 +95,6 @@
     <message>
         <source>Avg. speed</source>
         <translation>Ø Tempo</translation>
-    </message>
-    <message>
-        <source>Driving time</source>
-        <translation>Fahrzeit</translation>
     </message>
     <message>
         <source>Tire pressure status</source>
@@ -179,6 +171,18 @@
     <message>
         <source>mph(US)</source>
         <translation>mpg (US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>Service überfällig</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>Fahrzeit (h:min)</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>nicht vorhanden</translation>
     </message>
 </context>
 <context>
@@ -1014,6 +1018,18 @@
     <message>
         <source>Sent</source>
         <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>Warten auf das Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>Letzte Meldung vor %1 min</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>Letzte Meldung vor %1 h</translation>
     </message>
 </context>
 <context>

@@ -42,10 +42,6 @@
         <translation>确定要</translation>
     </message>
     <message>
-        <source>Waiting for the car</source>
-        <translation>正在等待车辆</translation>
-    </message>
-    <message>
         <source>The car has not told its value</source>
         <translation>车辆尚未报告当前值</translation>
     </message>
@@ -99,10 +95,6 @@
     <message>
         <source>Avg. speed</source>
         <translation>平均车速</translation>
-    </message>
-    <message>
-        <source>Driving time</source>
-        <translation>行驶时间</translation>
     </message>
     <message>
         <source>Tire pressure status</source>
@@ -179,6 +171,18 @@
     <message>
         <source>mph(US)</source>
         <translation>mpg(US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>保养已逾期</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>行驶时间（时:分）</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>本车不支持</translation>
     </message>
 </context>
 <context>
@@ -1014,6 +1018,18 @@
     <message>
         <source>Sent</source>
         <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>正在等待车辆</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>%1 分钟前的数据</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>%1 小时前的数据</translation>
     </message>
 </context>
 <context>

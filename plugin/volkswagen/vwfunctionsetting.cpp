@@ -2,6 +2,7 @@
 
 #include "canbus_raise_volkswagen.h"
 #include "selectdialog.h"
+#include "vwtexts.h"
 
 #include "tablelistview.h"
 #include "tableviewmodel.h"
@@ -13,7 +14,8 @@
 namespace {
 
 const int SilenceLimit = 2000; // ms
-const char WaitingStyle[] = "color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
+const int AgeInterval = 10000;
+const char FootStyle[] = "color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
 
 } // namespace
 
@@ -23,7 +25,7 @@ VWFunctionSetting::VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen
     , m_state(appId)
     , m_model(new TableViewModel(this))
     , m_list(new TableListView(this))
-    , m_waiting(new QLabel(this))
+    , m_foot(new QLabel(this))
     , m_asked(Vw::SettingRow())
     , m_left(false)
 {
@@ -31,22 +33,23 @@ VWFunctionSetting::VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen
     m_list->setObjectName(QLatin1String("listSettings"));
     m_list->setModel(m_model);
     // Below the rows, so that none moves under a finger when it comes or goes.
-    m_waiting->setObjectName(QLatin1String("labelWaiting"));
-    m_waiting->setAlignment(Qt::AlignCenter);
-    m_waiting->setStyleSheet(QLatin1String(WaitingStyle));
-    m_waiting->hide();
+    m_foot->setObjectName(QLatin1String("labelFoot"));
+    m_foot->setAlignment(Qt::AlignCenter);
+    m_foot->setStyleSheet(QLatin1String(FootStyle));
+    m_foot->hide();
     QWidget *const content = new QWidget(this);
     QVBoxLayout *const column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_list);
-    column->addWidget(m_waiting);
+    column->addWidget(m_foot);
     setCentralWidget(content);
 
     m_memory.recall(m_state);
     m_silenceTimer.setSingleShot(true);
     m_sentTimer.setSingleShot(true);
     connect(&m_silenceTimer, SIGNAL(timeout()), SLOT(onCarSilent()));
+    connect(&m_ageTimer, SIGNAL(timeout()), SLOT(showFoot()));
     connect(&m_sentTimer, SIGNAL(timeout()), SLOT(onSentShown()));
     connect(adapter, SIGNAL(recvCanDatas(quint8, const quint8 *, quint8)), this,
             SLOT(onRecvCanDatas(quint8, const quint8 *, quint8)));
@@ -65,6 +68,9 @@ void VWFunctionSetting::onLoadUiSkin()
     m_adapter->repeatReports(this);
     sendRequests();
     m_silenceTimer.start(SilenceLimit);
+    if (m_state.reportCommand() != 0) {
+        m_ageTimer.start(AgeInterval);
+    }
     connect(m_list, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)), this,
             SLOT(onItemColumnClicked(QAbstractItemModel *, QModelIndex)));
 }
@@ -82,14 +88,16 @@ void VWFunctionSetting::sendRequests()
 void VWFunctionSetting::onCarSilent()
 {
     sendRequests();
-    showWaiting();
+    showFoot();
 }
 
-void VWFunctionSetting::showWaiting()
+void VWFunctionSetting::showFoot()
 {
     const bool waits = m_state.isSilent() && !m_silenceTimer.isActive();
-    m_waiting->setText(tr("Waiting for the car"));
-    m_waiting->setVisible(waits);
+    const QString text =
+        waits ? Vw::waitingText() : Vw::ageText(m_adapter->reportAge(m_state.reportCommand()));
+    m_foot->setText(text);
+    m_foot->setVisible(!text.isEmpty());
     // Without rows the words have the page for themselves.
     m_list->setMaximumHeight(waits && m_model->rowCount() == 0 ? 0 : QWIDGETSIZE_MAX);
 }
@@ -104,7 +112,7 @@ void VWFunctionSetting::onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 d
 {
     if (m_state.take(PackageView(cmd, datas, dataLen))) {
         refresh();
-        showWaiting();
+        showFoot();
     }
 }
 
@@ -157,7 +165,7 @@ void VWFunctionSetting::retranslate()
 {
     setWindowTitle(getAppTitleFromId(appId()));
     refresh();
-    showWaiting();
+    showFoot();
     translateDialog();
 }
 

@@ -19,8 +19,8 @@ class TableListView;
 class TableViewModel;
 
 /// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. What the car
-/// has not told looks so; a car that is silent for two seconds is asked once more, and `labelWaiting` says that
-/// the page waits. The page deletes itself when the driver leaves it (back or home).
+/// has not told looks so. `labelFoot` says that the page waits for a car that has been silent for two seconds (it is
+/// then asked once more), or how old a report is. The page deletes itself when the driver leaves it (back or home).
 class VWFunctionSetting : public OrbMainWindow
 {
     Q_OBJECT
@@ -47,13 +47,13 @@ private Q_SLOTS:
     void onItemColumnClicked(QAbstractItemModel *model, const QModelIndex &index);
     void onCarSilent();
     void onSentShown();
+    void showFoot();
     void retranslate();
 
 private:
     void onItemClicked(const QModelIndex &index);
     void sendRequests();
     void refresh();
-    void showWaiting();
     void leave();
 
     void toggleSwitch(const Vw::SettingRow &row);
@@ -78,9 +78,10 @@ private:
     Vw::PageState m_state;
     TableViewModel *const m_model;
     TableListView *const m_list;
-    QLabel *const m_waiting;
+    QLabel *const m_foot;
     Vw::ChoiceMemory m_memory;
     QTimer m_silenceTimer;
+    QTimer m_ageTimer;
     QTimer m_sentTimer;
     QPointer<SelectDialog> m_dialog; // the open one,
     Vw::SettingRow m_asked;          // and the row that it is about

@@ -95,22 +95,24 @@ PageState::PageState(unsigned int page)
 
 // ---------------------------------------------------------------------------------------------- replies
 
+quint8 PageState::reportCommand() const
+{
+    switch (m_id) {
+    case StartStopPage:
+        return StartStopReply;
+    case ReportsPage:
+        return ReportsReply;
+    case ConsumersPage:
+        return ConsumersReply;
+    default:
+        return 0;
+    }
+}
+
 bool PageState::take(const PackageView &d)
 {
-    if (m_id == StartStopPage && d.command() == StartStopReply) {
-        const StartStopReport report = startStopReport(d);
-        if (report.valid) {
-            m_startStop = report;
-        }
-        return report.valid;
-    }
-    if ((m_id == ReportsPage && d.command() == ReportsReply) ||
-        (m_id == ConsumersPage && d.command() == ConsumersReply)) {
-        const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
-        if (report.valid) {
-            m_numbers = report;
-        }
-        return report.valid;
+    if (reportCommand() != 0) {
+        return d.command() == reportCommand() && takeReport(d);
     }
     if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0) {
         return false;
@@ -120,6 +122,22 @@ bool PageState::take(const PackageView &d)
     return true;
 }
 
+bool PageState::takeReport(const PackageView &d)
+{
+    if (m_id == StartStopPage) {
+        const StartStopReport report = startStopReport(d);
+        if (report.valid) {
+            m_startStop = report;
+        }
+        return report.valid;
+    }
+    const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
+    if (report.valid) {
+        m_numbers = report;
+    }
+    return report.valid;
+}
+
 QList<quint8> PageState::unanswered() const
 {
     return m_unanswered;
@@ -127,15 +145,10 @@ QList<quint8> PageState::unanswered() const
 
 bool PageState::isSilent() const
 {
-    switch (m_id) {
-    case StartStopPage:
-        return !m_startStop.valid;
-    case ReportsPage:
-    case ConsumersPage:
-        return !m_numbers.valid;
-    default:
-        return m_page && m_page->requestCount > 0 && m_unanswered.size() == m_page->requestCount;
+    if (reportCommand() != 0) {
+        return !m_startStop.valid && !m_numbers.valid;
     }
+    return m_page && m_page->requestCount > 0 && m_unanswered.size() == m_page->requestCount;
 }
 
 void PageState::takeSettings(const PackageView &d)
@@ -207,7 +220,7 @@ NumberRange PageState::rangeOf(const SettingRow &row) const
 
 QList<TableViewItemDatas> PageState::rows() const
 {
-    if (isSilent() && m_rows.isEmpty()) {
+    if (reportCommand() != 0 && isSilent()) {
         return QList<TableViewItemDatas>();
     }
     if (m_id == StartStopPage) {

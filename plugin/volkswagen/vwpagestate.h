@@ -36,6 +36,9 @@ public:
     /// it was; values that a row has no text for are left out.
     bool take(const PackageView &package);
 
+    /// The command of the report that the page shows, which nobody can ask for; 0 for a page of settings.
+    quint8 reportCommand() const;
+
     /// The page's requests that the box has not answered yet, in their order.
     QList<quint8> unanswered() const;
     /// Whether the page shows what the car tells, and it has told nothing yet.
@@ -64,6 +67,7 @@ public:
     void dropProfileRows();
 
 private:
+    bool takeReport(const PackageView &d);
     void takeSettings(const PackageView &d);
     void takeField(const SettingRow &row, const ReplyField &field, const PackageView &d);
     void showProfileRows();
