@@ -34,6 +34,12 @@ bool isCounter(const ServiceReading &reading)
 
 } // namespace
 
+KeptReports::Report::Report(const PackageView &package)
+    : bytes(QByteArray(1, char(package.command())) + package.bytes())
+{
+    clock.start();
+}
+
 void KeptReports::take(const PackageView &package)
 {
     if (package.command() == ServiceReply) {
@@ -51,17 +57,14 @@ void KeptReports::take(const PackageView &package)
             m_reports.removeAt(i);
         }
     }
-    Report report;
-    report.bytes = QByteArray(1, char(package.command())) + package.bytes();
-    report.since.start();
-    m_reports.append(report);
+    m_reports.append(Report(package));
 }
 
 qint64 KeptReports::age(quint8 command) const
 {
     for (int i = 0; i < m_reports.size(); ++i) {
         if (quint8(m_reports.at(i).bytes.at(0)) == command) {
-            return m_reports.at(i).since.elapsed();
+            return m_reports.at(i).clock.elapsed();
         }
     }
     return -1;

@@ -38,8 +38,10 @@ public:
 private:
     struct Report
     {
-        QByteArray bytes; // the command byte before the data
-        QElapsedTimer since;
+        explicit Report(const PackageView &package);
+
+        QByteArray bytes;    // the command byte before the data
+        QElapsedTimer clock; // runs since it came
     };
 
     QList<Report> m_reports;    // in order of arrival
