@@ -45,7 +45,10 @@ void KeptReports::take(const PackageView &package)
     if (package.command() == ServiceReply) {
         const ServiceReading reading = serviceReading(package);
         if (isCounter(reading)) {
-            m_overdue.insert(reading.item, reading.form == ServiceReading::Overdue);
+            m_overdue.removeAll(reading.item);
+        }
+        if (reading.form == ServiceReading::Overdue) {
+            m_overdue.append(reading.item);
         }
         return;
     }
@@ -72,7 +75,7 @@ qint64 KeptReports::age(quint8 command) const
 
 bool KeptReports::isServiceOverdue() const
 {
-    return !m_overdue.keys(true).isEmpty();
+    return !m_overdue.isEmpty();
 }
 
 } // namespace Vw
