@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>settings</source>
-        <translation>auf Werkseinstellungen zurücksetzen</translation>
+        <translation>auf Werkseinstellung zurücksetzen</translation>
     </message>
     <message>
         <source>Driving data</source>
@@ -39,7 +39,19 @@
     </message>
     <message>
         <source>Are you sure </source>
-        <translation>Sind Sie sicher: </translation>
+        <translation>Wirklich </translation>
+    </message>
+    <message>
+        <source>The car has not told its value</source>
+        <translation>Das Fahrzeug hat den Wert noch nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3 ?</source>
+        <translation>%1 „%2“ %3?</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -90,11 +102,11 @@
     </message>
     <message>
         <source>Since start</source>
-        <translation>Seit Start</translation>
+        <translation>Ab Start</translation>
     </message>
     <message>
         <source>Since refueling</source>
-        <translation>Seit Tanken</translation>
+        <translation>Ab Tanken</translation>
     </message>
     <message>
         <source>Long-term</source>
@@ -146,19 +158,19 @@
     </message>
     <message>
         <source>L/100km</source>
-        <translation>L/100km</translation>
+        <translation>l/100 km</translation>
     </message>
     <message>
         <source>km/L</source>
-        <translation>km/L</translation>
+        <translation>km/l</translation>
     </message>
     <message>
         <source>mph(UK)</source>
-        <translation>mph(UK)</translation>
+        <translation>mpg (UK)</translation>
     </message>
     <message>
         <source>mph(US)</source>
-        <translation>mph(US)</translation>
+        <translation>mpg (US)</translation>
     </message>
     <message>
         <source>Service overdue</source>
@@ -181,7 +193,7 @@
     </message>
     <message>
         <source>overdue by</source>
-        <translation>überfällig seit</translation>
+        <translation>überfällig:</translation>
     </message>
     <message>
         <source>Start-stop system is deactivated</source>
@@ -261,15 +273,15 @@
     </message>
     <message>
         <source>Seat driver profile</source>
-        <translation>Fahrerprofil Sitz</translation>
+        <translation>Fahrerprofil und Sitz</translation>
     </message>
     <message>
         <source>Vehice status Start-stop</source>
-        <translation>Fahrzeugstatus Start-Stopp</translation>
+        <translation>Fahrzeugstatus: Start-Stopp</translation>
     </message>
     <message>
         <source>Vehice status reports</source>
-        <translation>Fahrzeugstatus Meldungen</translation>
+        <translation>Fahrzeugstatus: Meldungen</translation>
     </message>
     <message>
         <source>Convenience consumer</source>
@@ -305,7 +317,7 @@
     </message>
     <message>
         <source>TPMS SET</source>
-        <translation>RDKS SETZEN</translation>
+        <translation>Reifendruck speichern</translation>
     </message>
     <message>
         <source>Direct tyres pressure monitoring</source>
@@ -353,7 +365,7 @@
     </message>
     <message>
         <source>Front assist</source>
-        <translation>Umfeldbeobachtung</translation>
+        <translation>Front Assist</translation>
     </message>
     <message>
         <source>Advance warning</source>
@@ -397,7 +409,7 @@
     </message>
     <message>
         <source>Front tone setting</source>
-        <translation>Klang vorn</translation>
+        <translation>Tonhöhe vorn</translation>
     </message>
     <message>
         <source>Rear volume</source>
@@ -405,7 +417,7 @@
     </message>
     <message>
         <source>Rear tone setting</source>
-        <translation>Klang hinten</translation>
+        <translation>Tonhöhe hinten</translation>
     </message>
     <message>
         <source>Radar sound</source>
@@ -601,7 +613,7 @@
     </message>
     <message>
         <source>Convenience consumption</source>
-        <translation>Komfortverbraucher</translation>
+        <translation>Verbrauch der Komfortverbraucher</translation>
     </message>
     <message>
         <source>Eco tips</source>
@@ -629,23 +641,23 @@
     </message>
     <message>
         <source>Vehicle NO.</source>
-        <translation>Fahrzeugnummer</translation>
+        <translation>Fahrgestellnummer</translation>
     </message>
     <message>
         <source>Inspection days</source>
-        <translation>Inspektion in Tagen</translation>
+        <translation>Inspektion (Zeit)</translation>
     </message>
     <message>
         <source>Inspection distance</source>
-        <translation>Inspektion Strecke</translation>
+        <translation>Inspektion (Strecke)</translation>
     </message>
     <message>
         <source>Oil change service days</source>
-        <translation>Ölwechsel in Tagen</translation>
+        <translation>Ölwechsel (Zeit)</translation>
     </message>
     <message>
         <source>Oil change service distance</source>
-        <translation>Ölwechsel Strecke</translation>
+        <translation>Ölwechsel (Strecke)</translation>
     </message>
     <message>
         <source>Wiper in maintenance position</source>
@@ -653,7 +665,7 @@
     </message>
     <message>
         <source>Reset &quot;Since start&quot;</source>
-        <translation>„Seit Start“ zurücksetzen</translation>
+        <translation>„Ab Start“ zurücksetzen</translation>
     </message>
     <message>
         <source>Reset &quot;Long-term&quot;</source>
@@ -677,31 +689,31 @@
     </message>
     <message>
         <source>L</source>
-        <translation>L</translation>
+        <translation>l</translation>
     </message>
     <message>
         <source>gal(UK)</source>
-        <translation>gal(UK)</translation>
+        <translation>gal (UK)</translation>
     </message>
     <message>
         <source>gal(US)</source>
-        <translation>gal(US)</translation>
+        <translation>gal (US)</translation>
     </message>
     <message>
         <source>mpg(UK)</source>
-        <translation>mpg(UK)</translation>
+        <translation>mpg (UK)</translation>
     </message>
     <message>
         <source>L/100km</source>
-        <translation>L/100km</translation>
+        <translation>l/100 km</translation>
     </message>
     <message>
         <source>mpg(US)</source>
-        <translation>mpg(US)</translation>
+        <translation>mpg (US)</translation>
     </message>
     <message>
         <source>km/L</source>
-        <translation>km/L</translation>
+        <translation>km/l</translation>
     </message>
     <message>
         <source>bar</source>
@@ -765,7 +777,7 @@
     </message>
     <message>
         <source>Remote key memory matching</source>
-        <translation>Funkschlüssel-Memory anlernen</translation>
+        <translation>Memory dem Funkschlüssel zuordnen</translation>
     </message>
     <message>
         <source>Driving mode</source>
@@ -1004,6 +1016,10 @@
         <translation>Getränkehalter</translation>
     </message>
     <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
         <source>Waiting for the car</source>
         <translation>Warten auf das Fahrzeug</translation>
     </message>
@@ -1020,7 +1036,7 @@
     <name>XinHangSettings</name>
     <message>
         <source>Original car</source>
-        <translation>Originalfahrzeug</translation>
+        <translation>Originalkamera</translation>
     </message>
     <message>
         <source>360</source>
@@ -1116,7 +1132,7 @@
     </message>
     <message>
         <source>Reverse camera</source>
-        <translation>Rückfahrkamera</translation>
+        <translation>Art der Rückfahrkamera</translation>
     </message>
     <message>
         <source>Starting front view</source>
@@ -1144,7 +1160,7 @@
     </message>
     <message>
         <source>Reverse condition</source>
-        <translation>Rückfahrbedingung</translation>
+        <translation>Rückwärtsgang erkennen an</translation>
     </message>
     <message>
         <source>Front view mirror</source>

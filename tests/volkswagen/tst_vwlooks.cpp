@@ -21,6 +21,7 @@ private Q_SLOTS:
 private:
     void addDriving(const char *name, const char *button, const char *packages, int age = 0);
     void addPage(const char *name, unsigned int page, const char *packages);
+    void addSilentPage(const char *name, unsigned int page);
     void addDialog(const char *name, const std::function<void(SelectDialog &)> &fill);
 
     /// A car that has told nothing yet; what was built on the one before is gone.
@@ -30,6 +31,7 @@ private:
         return m_adapter.get();
     }
 
+    VwBench::SettingsFolder m_settings;
     std::unique_ptr<CanBus_Raise_Volkswagen> m_adapter;
     QList<Looks::Scene> m_scenes;
 };
@@ -66,6 +68,22 @@ void TestVwLooks::addPage(const char *name, unsigned int page, const char *packa
                                  VwBench::feed(*m_adapter, packages);
                                  return window;
                              }};
+}
+
+// The page of a car that says nothing, with an order that has just left.
+void TestVwLooks::addSilentPage(const char *name, unsigned int page)
+{
+    m_scenes << Looks::Scene{
+        name, [=] {
+            std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(page, newAdapter()));
+            window->show();
+            QTest::qWait(2200); // virtual
+            if (page == Vw::ServicePage) {
+                const int row = VwBench::modelOf(*window)->rowOfItem(138);
+                VwBench::tap(*window, row, 0, [](SelectDialog &dialog) { VwBench::click(dialog, "btnOk"); });
+            }
+            return std::unique_ptr<QWidget>(std::move(window));
+        }};
 }
 
 void TestVwLooks::addDialog(const char *name, const std::function<void(SelectDialog &)> &fill)
@@ -106,6 +124,10 @@ void TestVwLooks::initTestCase()
         }
     }
     addPage("nothing reported", Vw::ReportsPage, "61 00 00");
+    addSilentPage("silent-assistance", Vw::DriverAssistancePage);
+    addSilentPage("silent-service", Vw::ServicePage);
+    addSilentPage("silent-report", Vw::StartStopPage);
+    addPage("overdue", Vw::ServicePage, "63 10 02 0c 00 | 63 11 02 06 00 | 63 20 02 0c 00 | 63 21 12 06 00");
     addDialog("Driving mode", [](SelectDialog &dialog) {
         QStringList options;
         for (const char *option :
@@ -114,11 +136,22 @@ void TestVwLooks::initTestCase()
         }
         dialog.setCheckBoxListMode(options, options.last(), true);
     });
-    addDialog("Warning speed", [](SelectDialog &dialog) { dialog.setSliderMode(30, 240, 10, 120, " km/h"); });
+    addDialog("Warning speed", [](SelectDialog &dialog) {
+        dialog.setSliderMode(30, 240, 10, 30, " km/h");
+        dialog.setHint(VWFunctionSetting::tr("The car has not told its value"));
+    });
+    addDialog("Distance", [](SelectDialog &dialog) {
+        QStringList options;
+        for (const char *option : {"Very close", "Close", "Far", "Very far"}) {
+            options << Vw::text(option);
+        }
+        dialog.setCheckBoxListMode(options, options.first(), true);
+    });
     addDialog("Factory settings", [](SelectDialog &dialog) {
-        dialog.setContentText(VWFunctionSetting::tr("Are you sure restore") + ' ' +
-                              Vw::text("Parking and manoeuvring") + ' ' + VWFunctionSetting::tr("settings") +
-                              " ?");
+        dialog.setContentText(VWFunctionSetting::tr("%1 %2 %3 ?")
+                                  .arg(VWFunctionSetting::tr("Are you sure restore"),
+                                       Vw::text("Parking and manoeuvring"),
+                                       VWFunctionSetting::tr("settings")));
     });
 }
 

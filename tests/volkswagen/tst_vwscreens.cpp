@@ -83,6 +83,7 @@ struct Bench
 
     TestScreen screen;
     TraceRecorder trace;
+    VwBench::SettingsFolder settings;
     CanBus_Raise_Volkswagen adapter;
     std::unique_ptr<VolkswagenWindow> window;
     QPointer<VWFunctionSetting> page;

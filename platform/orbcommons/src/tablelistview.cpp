@@ -34,16 +34,29 @@ int unbrokenWidth(const QAbstractItemModel *model, const QFontMetrics &metrics)
     return width;
 }
 
-// Whether any row has a text or a switch in \a column.
+// Whether any row has a text or a switch in \a column, or draws something there.
 bool hasContents(const QAbstractItemModel *model, int column)
 {
+    const int drawn = TableItemDelegate::Unknown | TableItemDelegate::Button;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, column);
-        if (!index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
+        const bool isDrawn = column == TableViewItemDatas::ValueColumn &&
+                             (index.data(TableItemDelegate::LooksRole).toInt() & drawn) != 0;
+        if (isDrawn || !index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
             return true;
         }
     }
     return false;
+}
+
+// Whether a tap on the cell does something: a switch has its own cell, and what is only read has none.
+bool reacts(const QModelIndex &index)
+{
+    if (index.data(TableItemDelegate::LooksRole).toInt() & TableItemDelegate::Inert) {
+        return false;
+    }
+    const QModelIndex value = index.sibling(index.row(), TableViewItemDatas::ValueColumn);
+    return index.column() == value.column() || !value.data(Qt::CheckStateRole).isValid();
 }
 
 } // namespace
@@ -137,7 +150,9 @@ void TableListView::mousePressEvent(QMouseEvent *event)
         return;
     }
     d->pressed = index;
-    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (reacts(index)) {
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
     Q_EMIT pressed(index);
 }
 

@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Head</source>
-        <translation>Kopf</translation>
+        <translation>Dach</translation>
     </message>
     <message>
         <source>Heating driver</source>

@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Head</source>
-        <translation>头部</translation>
+        <translation>车顶</translation>
     </message>
     <message>
         <source>Heating driver</source>
