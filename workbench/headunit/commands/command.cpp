@@ -1,11 +1,13 @@
 #include "command.h"
 
 #include "checkcommand.h"
+#include "convertcommand.h"
 
 const QVector<Command> &Command::all()
 {
     static const QVector<Command> commands = {
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
+        {"convert", "turns one log of a serial line into another", convertCommand},
     };
     return commands;
 }
