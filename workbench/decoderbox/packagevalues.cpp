@@ -25,6 +25,18 @@ QString withoutValues(const QString &text)
     return words.isEmpty() ? text : words.join(' ');
 }
 
+// The words that both begin with, or both.
+QString common(const QString &one, const QString &other)
+{
+    const QStringList words = one.split(' ');
+    const QStringList others = other.split(' ');
+    int count = 0;
+    while (count < words.size() && count < others.size() && words.at(count) == others.at(count)) {
+        ++count;
+    }
+    return count > 0 ? QStringList(words.mid(0, count)).join(' ') : one + ", " + other;
+}
+
 } // namespace
 
 std::unique_ptr<PackageValues> PackageValues::create(int type, QString *error)
@@ -84,9 +96,7 @@ LineValueSource::Meaning PackageValues::fromUnit(const BoxPackage &package)
     m_isListening = true;
     const BoxSpeaker::Understanding understanding = m_speaker->receive(package, &meaning.name);
     m_isListening = false;
-    if (understanding == BoxSpeaker::UnknownCommand) {
-        meaning.name.clear();
-    }
+    meaning.name = understanding == BoxSpeaker::UnknownCommand ? QString() : withoutValues(meaning.name);
     meaning.values = m_told;
     return meaning;
 }
@@ -120,7 +130,7 @@ bool PackageValues::readKey(const BoxPackage &package, Meaning *meaning) const
 }
 
 // Several reports may go by one command; the one that fits best is meant.
-bool PackageValues::readReport(const BoxPackage &package, Meaning *meaning)
+bool PackageValues::readReport(const BoxPackage &package, Meaning *meaning) const
 {
     const ReportFit *best = nullptr;
     int least = 0;
@@ -128,31 +138,33 @@ bool PackageValues::readReport(const BoxPackage &package, Meaning *meaning)
         if (fit.report().command != package.command) {
             continue;
         }
-        SimulatedCar trial;
-        const int distance = fit.fit(package.data, &trial);
-        if (!best || distance < least) {
-            best = &fit;
-            least = distance;
+        SimulatedCar car;
+        const int distance = fit.fit(package.data, &car);
+        if (best && distance >= least) {
+            continue;
+        }
+        best = &fit;
+        least = distance;
+        *meaning = {fit.report().meaning, {}};
+        for (const CarProperty *property : fit.told(package.data, &car)) {
+            meaning->values.append({property->name, car.text(property->name)});
         }
     }
-    if (!best) {
-        return false;
-    }
-    meaning->name = best->report().meaning;
-    best->fit(package.data, &m_car);
-    for (const CarProperty *property : best->told(package.data, &m_car)) {
-        meaning->values.append({property->name, m_car.text(property->name)});
-    }
-    return true;
+    return best;
 }
 
 QString PackageValues::commandName(quint8 command, bool isTowardsUnit)
 {
     if (!isTowardsUnit) {
-        QString name;
-        const bool isKnown =
-            m_speaker->receive({command, QByteArray(ProbeSize, '\0')}, &name) != BoxSpeaker::UnknownCommand;
-        return isKnown ? withoutValues(name) : QString();
+        QStringList names;
+        for (const char first : {'\1', '\0'}) {
+            QString name;
+            const QByteArray data = first + QByteArray(ProbeSize, '\0');
+            if (m_speaker->receive({command, data}, &name) != BoxSpeaker::UnknownCommand) {
+                names << withoutValues(name);
+            }
+        }
+        return names.isEmpty() ? QString() : common(names.first(), names.last());
     }
     QStringList names;
     for (const BoxReport &report : m_speaker->reports()) {

@@ -32,7 +32,7 @@ private:
     Meaning fromBox(const BoxPackage &package);
     Meaning fromUnit(const BoxPackage &package);
     bool readKey(const BoxPackage &package, Meaning *meaning) const;
-    bool readReport(const BoxPackage &package, Meaning *meaning);
+    bool readReport(const BoxPackage &package, Meaning *meaning) const;
 
     SimulatedCar m_car;
     std::unique_ptr<BoxSpeaker> m_speaker;

@@ -15,7 +15,7 @@ public:
     int fit(const QByteArray &data, SimulatedCar *car) const;
 
     /// The properties whose values \a data tell, with \a car as fit() has left it: each that changes bits of the report,
-    /// where all of those are as in \a data.
+    /// where all of those are as in \a data, and that could not be otherwise.
     QVector<const CarProperty *> told(const QByteArray &data, SimulatedCar *car) const;
 
     const BoxReport &report() const { return m_report; }
@@ -27,8 +27,14 @@ private:
         QVector<QVariant> values; // to try; few enough
     };
 
+    int tryEveryWay(const QByteArray &data, int best, SimulatedCar *car) const;
     int distance(const QByteArray &data, const SimulatedCar &car) const;
-    int descend(const QByteArray &data, SimulatedCar *car) const;
+    using IsFixed = std::function<bool(const CarProperty &)>;
+
+    int descend(const QByteArray &data, SimulatedCar *car, const IsFixed &isFixed) const;
+    bool changesWhatFits(const Row &row, const QByteArray &data, SimulatedCar *car) const;
+    bool couldBeOtherwise(const Row &row, const QByteArray &data, const SimulatedCar &car) const;
+    void copy(const SimulatedCar &from, SimulatedCar *to) const;
     int choose(const Row &row, const QByteArray &data, int best, SimulatedCar *car) const;
     QVector<QVariant> textsIn(const QByteArray &data, const CarProperty &property) const;
     QVector<QVariant> numbersIn(const QByteArray &data, const CarProperty &property, SimulatedCar *car) const;

@@ -17,7 +17,7 @@ TextLogReader::Outcome HexLinesReader::take(const QByteArray &line, LineRecord *
         }
         return Comment;
     }
-    if (text.isEmpty() || text.startsWith(';') || text.startsWith("//") || text.startsWith("--") ||
+    if (text.isEmpty() || text.startsWith(';') || text.startsWith("//") || (text.startsWith("--") && !text.startsWith("-->")) ||
         text.startsWith('*')) {
         return Comment;
     }
