@@ -115,7 +115,8 @@ bool beginsWithNumber(const Cursor &line)
     skip(&behind, " \t,;:");
     const bool isMarked = behind.peek() == '0' && behind.peek(1) == 'x';
     LineRecord::Kind kind = LineRecord::ToUnit;
-    return isLabel || count % 2 != 0 || hexDigits(behind) == 2 || isMarked || HexLine::takeDirection(&behind, &kind);
+    return isLabel || count % 2 != 0 || hexDigits(behind) == 2 || isMarked ||
+           HexLine::takeDirection(&behind, &kind);
 }
 
 // "00000010  2e 20" and "00000010: 2e20".
