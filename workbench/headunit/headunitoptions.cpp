@@ -244,5 +244,5 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
     } else if (hasDecoderBox && canBusType() == 0) {
         *error = "--decoder-box needs --can-bus-type: which box is it?";
     }
-    return error->isEmpty();
+    return error->isEmpty() && (!command || command->apply(this, error));
 }

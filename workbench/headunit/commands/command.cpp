@@ -1,10 +1,14 @@
 #include "command.h"
 
 #include "checkcommand.h"
+#include "recordcommand.h"
+#include "replaycommand.h"
 
 const QVector<Command> &Command::all()
 {
     static const QVector<Command> commands = {
+        {"record", "runs the unit and writes its serial line's bytes to a log", recordCommand},
+        {"replay", "runs the unit on the bytes of a log in place of a box", replayCommand},
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
     };
     return commands;
