@@ -1,9 +1,8 @@
 #include "linereplayer.h"
 
 #include "serialtap.h"
-#include "virtualclock.h"
+#include "virtualline.h"
 
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
@@ -11,8 +10,6 @@ namespace {
 const qint64 AnswerPatience = 1000000; // us for which a package waits for the answer to the one before
 const int AnswerLookInterval = 1;      // ms
 const qint64 Punctual = 500;           // us before which a chunk may leave: timers know milliseconds only
-const int LongestSettling = 1000;      // looks
-const useconds_t SettlingPause = 20;   // us
 
 } // namespace
 
@@ -177,11 +174,11 @@ void LineReplayer::playNext()
 
 void LineReplayer::send(const QByteArray &bytes)
 {
-    const int there = waitingAtUnit();
+    const int there = VirtualLine::waitingAtUnit(m_terminal);
     m_unsent = bytes;
     flush();
-    if (VirtualClock::isOn() && !m_options.isFast && m_unsent.isEmpty()) {
-        settle(there + int(bytes.size()));
+    if (!m_options.isFast && m_unsent.isEmpty()) {
+        VirtualLine::waitUntilThere(m_terminal, there + int(bytes.size()));
     }
 }
 
@@ -198,21 +195,6 @@ void LineReplayer::flush()
     if (m_unsent.isEmpty() && m_state == Playing && !m_timer.isActive()) {
         m_timer.start(0);
     }
-}
-
-// The kernel takes real time to hand bytes on; time that jumps would pass meanwhile.
-void LineReplayer::settle(int expected)
-{
-    const VirtualClock::Hold hold;
-    for (int i = 0; i < LongestSettling && waitingAtUnit() < expected; ++i) {
-        ::usleep(SettlingPause);
-    }
-}
-
-int LineReplayer::waitingAtUnit() const
-{
-    int count = 0;
-    return ::ioctl(m_terminal.unitEnd(), FIONREAD, &count) == 0 ? count : 0;
 }
 
 void LineReplayer::drainFramer()

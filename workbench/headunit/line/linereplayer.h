@@ -62,8 +62,6 @@ private:
     void playNext();
     void send(const QByteArray &bytes);
     void flush();
-    void settle(int expected);
-    int waitingAtUnit() const;
     void drainFramer();
     void takeAnswers();
     bool mayPlay();
