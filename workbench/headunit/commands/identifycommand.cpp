@@ -158,7 +158,8 @@ QByteArray toJson(const QVector<TypeFit> &fits, const Heard &heard)
                             {"class", BoxCatalog::className(fit.type)},
                             {"framed", fit.framed},
                             {"packages", fit.packages},
-                            {"explained", fit.explained()},
+                            {"evidence", fit.evidence},
+                            {"explained", fit.packages == 0 ? 0 : double(fit.explainedCount) / fit.packages},
                             {"explained-packages", fit.explainedCount},
                             {"unknown-commands", unknown}};
     }
@@ -174,10 +175,11 @@ QByteArray toJson(const QVector<TypeFit> &fits, const Heard &heard)
 
 void printRows(const QVector<TypeFit> &fits)
 {
-    std::puts("framed  explained      type  class");
+    std::puts("evidence  framed  explained  type  class");
     for (const TypeFit &fit : fits) {
-        std::printf("%5d%%  %4d%% (%d/%d)  %4d  %s%s\n", percent(fit.framed), percent(fit.explained()),
-                    fit.explainedCount, fit.packages, fit.type, qPrintable(BoxCatalog::className(fit.type)),
+        std::printf("%7d%%  %5d%%  %9s  %4d  %s%s\n", percent(fit.evidence), percent(fit.framed),
+                    qPrintable(QString("%1 of %2").arg(fit.explainedCount).arg(fit.packages)), fit.type,
+                    qPrintable(BoxCatalog::className(fit.type)),
                     fit.unknown.isEmpty() ? "" : qPrintable("  unknown: " + hexCommands(fit.unknown)));
     }
 }
@@ -215,7 +217,8 @@ int identify(const Options &options, const CommandLine &line)
         std::printf("It is type %d, %s.\n", fits.first().type,
                     qPrintable(BoxCatalog::className(fits.first().type)));
     } else if (heard.framed() > 0) {
-        std::puts("Not sure: the first should explain 90% at least, and the second 60% at most.");
+        std::puts("Not sure: 90% at least of the evidence should speak for the first, and 60% at most for "
+                  "the second.");
     } else {
         std::puts(isPort && !options.greets ? "No package was heard; --hello greets the box."
                                             : "No package was heard.");

@@ -3,7 +3,7 @@
 #include "boxcatalog.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QHash>
 #include <QThread>
 
 #include <algorithm>
@@ -20,8 +20,8 @@ const double LeastFramed = 0.5; // of a line that speaks the type's frame at all
 
 bool TypeFits::isSure(const QVector<TypeFit> &fits)
 {
-    return !fits.isEmpty() && fits.first().framed >= LeastFramed && fits.first().explained() >= SureFirst &&
-           (fits.size() < 2 || fits.at(1).explained() <= SureSecond);
+    return !fits.isEmpty() && fits.first().framed >= LeastFramed && fits.first().evidence >= SureFirst &&
+           (fits.size() < 2 || fits.at(1).evidence <= SureSecond);
 }
 
 bool TypeFits::find(const PackageCensus &raise, const PackageCensus &xinHang, QVector<TypeFit> *fits,
@@ -34,6 +34,7 @@ bool TypeFits::find(const PackageCensus &raise, const PackageCensus &xinHang, QV
             Probe probe;
             probe.census = format == &xinHang.format() ? &xinHang : &raise;
             probe.fit.type = row.type;
+            probe.fit.frame = format;
             probe.fit.framed = probe.census->framed();
             probe.fit.packages = int(probe.census->packages().size());
             probes.push_back(std::move(probe));
@@ -50,10 +51,33 @@ bool TypeFits::find(const PackageCensus &raise, const PackageCensus &xinHang, QV
         }
         *fits << probes[done].fit;
     }
-    std::stable_sort(fits->begin(), fits->end(), [](const TypeFit &a, const TypeFit &b) {
-        return a.explained() != b.explained() ? a.explained() > b.explained() : a.framed > b.framed;
-    });
+    weigh(fits);
     return true;
+}
+
+// Types of one frame have tried the same packages; the frame with more of the bytes goes first.
+void TypeFits::weigh(QVector<TypeFit> *fits)
+{
+    QHash<const FrameFormat *, QVector<double>> types; // that explain each package
+    for (const TypeFit &fit : qAsConst(*fits)) {
+        QVector<double> &counts = types[fit.frame];
+        counts.resize(fit.packages);
+        for (int i = 0; i < fit.explained.size(); ++i) {
+            counts[i] += fit.explained.at(i) ? 1 : 0;
+        }
+    }
+    for (TypeFit &fit : *fits) {
+        double total = 0;
+        for (int i = 0; i < fit.explained.size(); ++i) {
+            const double count = types[fit.frame].at(i);
+            total += count > 0 ? 1 / count : 0;
+            fit.evidence += fit.explained.at(i) ? 1 / count : 0;
+        }
+        fit.evidence = total > 0 ? fit.evidence / total : 0;
+    }
+    std::stable_sort(fits->begin(), fits->end(), [](const TypeFit &a, const TypeFit &b) {
+        return a.evidence * a.framed > b.evidence * b.framed;
+    });
 }
 
 void TypeFits::start(Probe *probe)
@@ -87,7 +111,8 @@ bool TypeFits::readAnswer(Probe *probe)
     QSet<quint8> explained = BoxCatalog::reportedBy(probe->fit.type);
     const FrameFormat &format = probe->census->format();
     for (int i = 0; i < probe->fit.packages; ++i) {
-        if (answers.value(i) == "1") {
+        probe->fit.explained << (answers.value(i) == "1");
+        if (probe->fit.explained.last()) {
             ++probe->fit.explainedCount;
             explained << format.package(probe->census->packages().at(i)).command;
         }

@@ -12,13 +12,16 @@
 struct TypeFit
 {
     int type = 0;
+    const FrameFormat *frame = nullptr;
     double framed = 0;       ///< part of the bytes that are packages of this type, 0 to 1
     int packages = 0;        ///< different ones
     int explainedCount = 0;  ///< of them, by the plug-in
+    QVector<bool> explained; ///< for each package; empty without packages
     QVector<quint8> unknown; ///< commands of which the plug-in explains no package, in order
 
-    /// Part of the packages that the plug-in explains, 0 to 1.
-    double explained() const { return packages == 0 ? 0 : double(explainedCount) / packages; }
+    /// Part of what the packages tell about the type that speaks for this one, 0 to 1. A package that several
+    /// types explain tells as much less, and one that no type explains tells nothing.
+    double evidence = 0;
 };
 
 /// Tries what a box has said on the plug-in of every type. The plug-in builds one decoder per process, so each
@@ -37,8 +40,8 @@ public:
     bool find(const PackageCensus &raise, const PackageCensus &xinHang, QVector<TypeFit> *fits,
               QString *error);
 
-    /// Whether the first of \a fits is the box's type: at least 90 % of the packages explained, and at most
-    /// 60 % by the second.
+    /// Whether the first of \a fits is the box's type: at least 90 % of the evidence speak for it, and at most
+    /// 60 % for the second.
     static bool isSure(const QVector<TypeFit> &fits);
 
 private:
@@ -51,6 +54,7 @@ private:
 
     void start(Probe *probe);
     static bool readAnswer(Probe *probe);
+    static void weigh(QVector<TypeFit> *fits);
 
     const QString m_plugin;
 };
