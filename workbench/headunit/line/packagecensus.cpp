@@ -1,5 +1,11 @@
 #include "packagecensus.h"
 
+namespace {
+
+const qint64 RepetitionTime = 150000; // us
+
+} // namespace
+
 void PackageCensus::add(const QByteArray &bytes, qint64 microseconds)
 {
     m_bytes += bytes.size();
@@ -23,6 +29,9 @@ void PackageCensus::drain()
             continue;
         }
         ++m_packageCount;
+        m_repetitions +=
+            piece.bytes == m_last.bytes && piece.microseconds - m_last.microseconds < RepetitionTime ? 1 : 0;
+        m_last = piece;
         if (m_packages.size() < MostPackages && !m_seen.contains(piece.bytes)) {
             m_seen.insert(piece.bytes);
             m_packages << piece.bytes;

@@ -25,6 +25,8 @@ public:
     const QVector<QByteArray> &packages() const { return m_packages; }
     qint64 packageCount() const { return m_packageCount; }
     qint64 badCount() const { return m_badCount; }
+    /// Packages that came twice within 150 ms: a box says again what nobody has acknowledged.
+    qint64 repetitions() const { return m_repetitions; }
     qint64 byteCount() const { return m_bytes; }
     /// Part of all bytes that belongs to packages and answers, 0 to 1; 0 of none.
     double framed() const { return m_bytes == 0 ? 0 : double(m_framedBytes) / double(m_bytes); }
@@ -37,6 +39,8 @@ private:
     QSet<QByteArray> m_seen;
     qint64 m_packageCount = 0;
     qint64 m_badCount = 0;
+    qint64 m_repetitions = 0;
+    LinePiece m_last; // package
     qint64 m_bytes = 0;
     qint64 m_framedBytes = 0;
 };

@@ -27,6 +27,7 @@ bool PortListener::open(int baud, QString *error)
     m_raise = PackageCensus(FrameFormat::raise());
     m_xinHang = PackageCensus(FrameFormat::xinHang());
     m_answers = false;
+    m_answeredAfter = -1;
     m_isLost = false;
     if (!m_port->open(QIODevice::ReadWrite)) {
         *error = QString("%1 does not open: %2").arg(m_path, m_port->errorString());
@@ -56,7 +57,9 @@ bool PortListener::listen(int ms, QString *error)
 
 void PortListener::greet()
 {
+    read(); // what came before is no answer
     m_answers = true;
+    m_greetedAt = SerialTap::now();
     for (const FrameFormat *format : {&FrameFormat::raise(), &FrameFormat::xinHang()}) {
         m_port->write(format->frame(Ready));
     }
@@ -69,6 +72,9 @@ void PortListener::read()
     m_isLost = available < 0 || (available > 0 && bytes.isEmpty());
     if (bytes.isEmpty()) {
         return;
+    }
+    if (m_answers && m_answeredAfter < 0) {
+        m_answeredAfter = SerialTap::now() - m_greetedAt;
     }
     const qint64 before = m_raise.packageCount();
     m_raise.add(bytes, SerialTap::now());

@@ -29,6 +29,9 @@ public:
     /// Greets the box as a unit does, in both frames, and from now on acknowledges its packages as it does.
     void greet();
 
+    /// Microseconds from greet() to the first byte behind it; -1 when none came.
+    qint64 answeredAfter() const { return m_answeredAfter; }
+
     const PackageCensus &raise() const { return m_raise; }
     const PackageCensus &xinHang() const { return m_xinHang; }
     /// The one of both with more in its frame.
@@ -41,7 +44,9 @@ private:
     std::unique_ptr<QextSerialPort> m_port;
     PackageCensus m_raise{FrameFormat::raise()};
     PackageCensus m_xinHang{FrameFormat::xinHang()};
-    bool m_answers = false;
+    bool m_answers = false; // since it was greeted
+    qint64 m_greetedAt = 0;
+    qint64 m_answeredAfter = -1;
     bool m_isLost = false;
 };
 
