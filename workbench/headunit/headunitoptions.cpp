@@ -23,6 +23,8 @@ struct Texts
     std::string clock;
     std::string trace;
     std::string script;
+    std::string record;
+    std::string saveBad;
     std::vector<std::string> tags;
     std::vector<std::string> products;
     std::vector<std::string> factory;
@@ -145,6 +147,10 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
             "writes what the plug-in does as JSON lines; - is standard output");
     addPath(app, "--script", &texts->script, "FILE|-",
             "carries out commands, one a line; - is standard input");
+    addPath(app, "--record", &texts->record, "FILE|-",
+            "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--save-bad", &texts->saveBad, "FILE",
+            "writes the line's last minute to a log when the first bad package comes");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -187,6 +193,8 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->scenario = QString::fromStdString(texts.scenario);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
+    options->record = QString::fromStdString(texts.record);
+    options->saveBad = QString::fromStdString(texts.saveBad);
 }
 
 } // namespace
@@ -236,5 +244,5 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
     } else if (hasDecoderBox && canBusType() == 0) {
         *error = "--decoder-box needs --can-bus-type: which box is it?";
     }
-    return error->isEmpty();
+    return error->isEmpty() && (!command || command->apply(this, error));
 }
