@@ -23,6 +23,8 @@ struct Texts
     std::string clock;
     std::string trace;
     std::string script;
+    std::string record;
+    std::string saveBad;
     std::vector<std::string> tags;
     std::vector<std::string> products;
     std::vector<std::string> factory;
@@ -147,6 +149,10 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
                   "the trace has the values besides that the car tells and no display takes");
     addPath(app, "--script", &texts->script, "FILE|-",
             "carries out commands, one a line; - is standard input");
+    addPath(app, "--record", &texts->record, "FILE|-",
+            "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--save-bad", &texts->saveBad, "FILE",
+            "writes the line's last minute to a log when the first bad package comes");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -189,18 +195,27 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->scenario = QString::fromStdString(texts.scenario);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
+    options->record = QString::fromStdString(texts.record);
+    options->saveBad = QString::fromStdString(texts.saveBad);
 }
 
 } // namespace
 
-bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
+bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const UnitCommand *command)
 {
     CLI::App app(
-        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
-        "headunit");
+        command
+            ? command->description
+            : "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     Texts texts;
+    if (command) {
+        command->addOptions(&app);
+    } else {
+        app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    }
     addOptions(&app, this, &texts);
     usage = QString::fromStdString(app.help());
     std::vector<std::string> words;
@@ -231,5 +246,5 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
     } else if (hasDecoderBox && canBusType() == 0) {
         *error = "--decoder-box needs --can-bus-type: which box is it?";
     }
-    return error->isEmpty();
+    return error->isEmpty() && (!command || command->apply(this, error));
 }

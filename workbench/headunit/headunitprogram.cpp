@@ -7,6 +7,7 @@
 #include "headunit.h"
 #include "lineoutput.h"
 #include "quitonsignals.h"
+#include "replayrun.h"
 #include "scenarioplayer.h"
 #include "scriptrunner.h"
 #include "sidepanel.h"
@@ -69,6 +70,7 @@ HeadUnitProgram::~HeadUnitProgram()
         m_unit->unloadPlugin();
     }
     m_window.reset();
+    m_replay.reset();
     OrbTrace::setListener(nullptr);
 }
 
@@ -83,6 +85,12 @@ bool HeadUnitProgram::begin(QString *error)
         return false;
     }
     m_unit.reset(new HeadUnit);
+    if (!startRecorder(error)) {
+        return false;
+    }
+    if (m_replay) {
+        m_replay->begin(m_unit->lineRecorder());
+    }
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -146,8 +154,26 @@ void HeadUnitProgram::configureUnit()
     sayWhyNoDecoder(m_options);
 }
 
+bool HeadUnitProgram::startRecorder(QString *error)
+{
+    LineRecorder *recorder = m_unit->lineRecorder();
+    recorder->setType(int(m_options.canBusType()));
+    recorder->saveAtBadPackage(m_options.saveBad);
+    connect(recorder, &LineRecorder::fileFailed, this,
+            [](const QString &problem) { std::fprintf(stderr, "headunit: %s\n", qPrintable(problem)); });
+    const bool isWanted = !m_options.record.isEmpty() || !m_options.saveBad.isEmpty();
+    if (isWanted && !SerialTap::isWired()) {
+        *error = "the serial library that this program was built with cannot be listened to";
+        return false;
+    }
+    return m_options.record.isEmpty() || recorder->startFile(m_options.record, error);
+}
+
 bool HeadUnitProgram::openBox(QString *error)
 {
+    if (m_options.replay) {
+        return openReplay(error);
+    }
     if (!m_options.hasDecoderBox) {
         return true;
     }
@@ -157,6 +183,30 @@ bool HeadUnitProgram::openBox(QString *error)
     }
     OrbHost::instance()->setProductValue("CANPortName", m_box->portPath());
     return m_options.scenario.isEmpty() || openScenario(error);
+}
+
+bool HeadUnitProgram::openReplay(QString *error)
+{
+    m_replay.reset(new ReplayRun(*m_options.replay, int(m_options.canBusType())));
+    if (!m_replay->open(error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", m_replay->portPath());
+    connect(m_replay.get(), &ReplayRun::finished, this,
+            [this] { QTimer::singleShot(LastPackagesMs, this, &HeadUnitProgram::endReplay); });
+    return true;
+}
+
+// A script, and a window, go on without the log.
+void HeadUnitProgram::endReplay()
+{
+    const QByteArray text = m_options.replay->asJson ? m_replay->json() : m_replay->summary().toLocal8Bit();
+    const bool isTraceOnOutput = m_output && m_traceFile.handle() == STDOUT_FILENO;
+    std::fprintf(isTraceOnOutput ? stderr : stdout, "%s\n", text.constData());
+    std::fflush(stdout);
+    if (m_options.isHeadless && m_options.script.isEmpty()) {
+        QCoreApplication::exit(m_replay->isFine() ? 0 : 1);
+    }
 }
 
 // Read before anything else starts, played when the unit has opened its port.
@@ -182,7 +232,8 @@ bool HeadUnitProgram::openScenario(QString *error)
 bool HeadUnitProgram::hasAnEnd(QString *error) const
 {
     const bool hasEnd = !m_options.virtualStart.isValid() || !m_options.script.isEmpty() ||
-                        (m_player && !m_player->isEndless());
+                        (m_player && !m_player->isEndless()) ||
+                        (m_options.replay && !m_options.replay->loops);
     if (!hasEnd) {
         *error = "under the virtual clock this would never end: it takes a script, or a scenario with an end";
     }

@@ -11,6 +11,7 @@
 class DecoderBox;
 class HeadUnit;
 class LineOutput;
+class ReplayRun;
 class ScenarioPlayer;
 class ScriptRunner;
 class TraceWriter;
@@ -36,7 +37,10 @@ public:
 private:
     bool openTrace(QString *error);
     void configureUnit();
+    bool startRecorder(QString *error);
     bool openBox(QString *error);
+    bool openReplay(QString *error);
+    void endReplay();
     bool openScenario(QString *error);
     bool hasAnEnd(QString *error) const;
     void playOnce();
@@ -51,6 +55,7 @@ private:
     std::unique_ptr<LineOutput> m_output;
     std::unique_ptr<TraceWriter> m_writer;
     std::unique_ptr<DecoderBox> m_box;
+    std::unique_ptr<ReplayRun> m_replay;
     ScenarioPlayer *m_player = nullptr;
     bool m_hasPlayed = false;
     std::unique_ptr<QWidget> m_window;
