@@ -35,7 +35,8 @@ const QVector<BoxCommand::Row> &BoxCommand::rows()
     using C = BoxCommand;
     static const QVector<Row> table = {
         {"key", "NAME press|hold|release|tap [MS]",
-         "a key goes down, goes down and stays (the box repeats it every 200 ms), comes up, or goes down and comes up "
+         "a key goes down, goes down and stays (the box repeats it every 200 ms), comes up, or goes down and "
+         "comes up "
          "after MS (50)",
          &C::parseKey},
         {"knob", "NAME COUNT", "a knob turns by 0 to 255 clicks", &C::parseKnob},
@@ -66,7 +67,8 @@ const QVector<BoxCommand::LineOrder> &BoxCommand::lineOrders()
 
 QVector<BoxCommand::Syntax> BoxCommand::syntax()
 {
-    QVector<Syntax> result = {{"PROPERTY VALUE", "a property of the car changes; the box tells what its protocol can tell"}};
+    QVector<Syntax> result = {
+        {"PROPERTY VALUE", "a property of the car changes; the box tells what its protocol can tell"}};
     for (const Row &row : rows()) {
         if (row.parser != &BoxCommand::parseFault) {
             result << Syntax{QString("%1 %2").arg(row.verb, row.arguments).trimmed(), row.help};
@@ -76,7 +78,8 @@ QVector<BoxCommand::Syntax> BoxCommand::syntax()
             result << Syntax{QString("fault %1 %2").arg(order.name, order.amount).trimmed(), order.help};
         }
         for (const LineFaults::Row &fault : LineFaults::rows()) {
-            result << Syntax{QString("fault %1 %2").arg(fault.name, fault.amount).trimmed() + " [RATE%]", fault.help};
+            result << Syntax{QString("fault %1 %2").arg(fault.name, fault.amount).trimmed() + " [RATE%]",
+                             fault.help};
         }
     }
     return result;

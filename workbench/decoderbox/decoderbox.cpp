@@ -27,7 +27,7 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     m_heldKeyTimer.setTimerType(Qt::PreciseTimer);
     m_tongueTimer.setSingleShot(true);
     m_replugTimer.setSingleShot(true);
-    m_terminal.setBaud(speaker->format().baud);
+    m_terminal.setBaud(speaker->baudRate());
     m_clock.start();
 
     connect(&m_terminal, &PseudoTerminal::received, &m_receiver, &FrameReceiver::feed);
@@ -224,7 +224,8 @@ void DecoderBox::onAcknowledgementMissing()
 void DecoderBox::onObserved(const QString &topic, const QString &value)
 {
     m_observations.insert(topic, value);
-    if (m_cutUpdateAt > 0 && topic == "firmware" && value.startsWith(QString("receiving %1/").arg(m_cutUpdateAt))) {
+    if (m_cutUpdateAt > 0 && topic == "firmware" &&
+        value.startsWith(QString("receiving %1/").arg(m_cutUpdateAt))) {
         m_cutUpdateAt = 0;
         unplug();
     }

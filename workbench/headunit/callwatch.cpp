@@ -9,10 +9,9 @@ namespace {
 
 QString textOf(const QVariant &value)
 {
-    return value.userType() == QMetaType::QString ? value.toString()
-           : value.userType() == QMetaType::QByteArray
-               ? QString::fromLatin1(value.toByteArray().toHex())
-               : QString::fromUtf8(JsonText::fromVariant(value));
+    return value.userType() == QMetaType::QString      ? value.toString()
+           : value.userType() == QMetaType::QByteArray ? QString::fromLatin1(value.toByteArray().toHex())
+                                                       : QString::fromUtf8(JsonText::fromVariant(value));
 }
 
 } // namespace

@@ -84,7 +84,8 @@ bool Expectation::fits(const CallWatch::Call &call) const
     const bool isEvent = call.name == "event" || call.name == "dispatchOrbEvent";
     for (int i = 0; i < m_args.size(); ++i) {
         const QString &arg = m_args.at(i);
-        if (isEvent ? !call.args.contains(arg) : i >= call.args.size() || (arg != "*" && arg != call.args.at(i))) {
+        if (isEvent ? !call.args.contains(arg)
+                    : i >= call.args.size() || (arg != "*" && arg != call.args.at(i))) {
             return false;
         }
     }
@@ -104,5 +105,6 @@ QString Expectation::instead() const
         }
     }
     const QStringList &told = same.isEmpty() ? others : same;
-    return told.isEmpty() ? "nothing came" : "came instead: " + told.mid(qMax(0, int(told.size()) - MostTold)).join("; ");
+    return told.isEmpty() ? "nothing came"
+                          : "came instead: " + told.mid(qMax(0, int(told.size()) - MostTold)).join("; ");
 }

@@ -22,9 +22,14 @@ struct HeadUnitOptions
     bool isHeadless = false;
     QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
-    QString scenario; ///< of the decoder box; empty for none
-    QString trace;    ///< file, "-" for standard output, empty for none
-    QString script;   ///< file, "-" for standard input, empty for none
+    QString scenario;       ///< of the decoder box; empty for none
+    QString trace;          ///< file, "-" for standard output, empty for none
+    QString script;         ///< file, "-" for standard input, empty for none
+    bool isStrict = false;  ///< the script's first error ends the run
+    QString junit;          ///< file for what became of the script's lines; empty for none
+    bool isUnpaced = false; ///< bytes take no time on the box's line
+    quint32 seed = 0;       ///< of the chances on the box's line; counts when hasSeed
+    bool hasSeed = false;
     bool wantsHelp = false;
     QString usage; ///< what there is to ask for; set by parse()
 

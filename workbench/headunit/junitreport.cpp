@@ -27,14 +27,15 @@ QString seconds(double value)
 bool JUnitReport::open(const QString &path, QString *error)
 {
     m_file.setFileName(path);
-    const bool ok = m_file.open(QFile::WriteOnly);
+    const bool ok = m_file.open(QIODevice::WriteOnly);
     if (!ok) {
         *error = QString("%1: %2").arg(path, m_file.errorString());
     }
     return ok;
 }
 
-void JUnitReport::add(int line, const QString &command, double seconds, Outcome outcome, const QString &message)
+void JUnitReport::add(int line, const QString &command, double seconds, Outcome outcome,
+                      const QString &message)
 {
     m_cases << Case{writable(QString("%1: %2").arg(line).arg(command)), seconds, outcome, writable(message)};
 }
