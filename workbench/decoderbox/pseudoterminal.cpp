@@ -127,9 +127,13 @@ void PseudoTerminal::lookForUnit()
 
 void PseudoTerminal::drain()
 {
-    char bytes[4096];
+    char bytes[MostUnheardBytes];
+    const int room = MostUnheardBytes - m_in.size();
+    if (room <= 0) {
+        return;
+    }
     // One read per turn of the event loop, so that a unit that never stops sending starves nobody.
-    const ssize_t count = ::read(m_terminal->farEnd(), bytes, sizeof bytes);
+    const ssize_t count = ::read(m_terminal->farEnd(), bytes, size_t(room));
     if (count > 0) {
         m_in.put(QByteArray(bytes, int(count)));
         m_readNotifier->setEnabled(m_in.size() < MostUnheardBytes);

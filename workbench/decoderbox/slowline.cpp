@@ -8,6 +8,9 @@ const qint64 Second = 1000000000; // ns
 const qint64 Millisecond = 1000000;
 const int BitsPerByte = 10;
 const qint64 LongestTick = 4 * Millisecond;
+// Timers are late by up to a millisecond, and answers to answers would add that up: a byte may come out so
+// much too early instead. The line as a whole is never faster for it.
+const qint64 Early = Millisecond;
 
 qint64 roundUp(qint64 ns)
 {
@@ -44,7 +47,7 @@ void SlowLine::put(const QByteArray &bytes, int pauseMs)
         return;
     }
     if (m_pieces.isEmpty()) {
-        m_begin = m_clock.nsecsElapsed();
+        m_begin = qMax(m_begin, m_clock.nsecsElapsed());
     }
     m_pieces.enqueue({bytes, pauseMs * Millisecond});
     m_size += int(bytes.size());
@@ -56,6 +59,7 @@ void SlowLine::put(const QByteArray &bytes, int pauseMs)
 void SlowLine::clear()
 {
     m_timer.stop();
+    m_begin = 0;
     m_pieces.clear();
     m_size = 0;
 }
@@ -72,7 +76,7 @@ QByteArray SlowLine::takeAll()
 
 void SlowLine::work()
 {
-    const qint64 now = m_clock.nsecsElapsed();
+    const qint64 now = m_clock.nsecsElapsed() + Early;
     QByteArray out;
     while (!m_pieces.isEmpty() && now - m_begin >= m_pieces.head().pause) {
         Piece &piece = m_pieces.head();
@@ -101,6 +105,6 @@ void SlowLine::waitForMore()
     }
     const Piece &piece = m_pieces.head();
     const qint64 sending = qMin(LongestTick, piece.bytes.size() * m_byteTime);
-    const qint64 due = m_begin + piece.pause + sending - m_clock.nsecsElapsed();
-    m_timer.start(int(qMax(qint64(0), roundUp(due))));
+    const qint64 due = m_begin + piece.pause + sending - Early - m_clock.nsecsElapsed();
+    m_timer.start(due > 0 ? int(qMax(Millisecond, due) / Millisecond) : 0);
 }

@@ -46,7 +46,7 @@ private:
     qint64 m_byteTime = 0; // ns
     QQueue<Piece> m_pieces;
     int m_size = 0;
-    qint64 m_begin = 0; // when the first piece's pause or first byte began, ns of m_clock
+    qint64 m_begin = 0; // when the first piece's pause or first byte began or will, ns of m_clock
     QElapsedTimer m_clock;
     QTimer m_timer;
 };

@@ -24,7 +24,7 @@ bool Expectation::read(const QStringList &words, QString *error)
     const int first = words.value(0) == "none" ? 1 : 0;
     if (count < first + 3 || words.at(count - 2) != "within" || !NumberText::read(words.last(), &ms) ||
         ms > LongestMs) {
-        *error = "expected: expect [none] CALL [ARG...] within MS";
+        *error = "expected: expect [none] [OBJECT.]CALL [ARG...] within MS";
         return false;
     }
     m_isNone = first == 1;
