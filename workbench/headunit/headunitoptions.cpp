@@ -24,6 +24,8 @@ struct Texts
     std::string trace;
     std::string script;
     std::string junit;
+    std::string record;
+    std::string saveBad;
     std::vector<std::string> tags;
     std::vector<std::string> products;
     std::vector<std::string> factory;
@@ -154,6 +156,11 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->needs(script);
     addPath(app, "--junit", &texts->junit, "FILE", "writes what became of the script's lines as a JUnit file")
         ->needs(script);
+    -is standard input ");
+        addPath(app, "--record", &texts->record, "FILE|-",
+                "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--save-bad", &texts->saveBad, "FILE",
+            "writes the line's last minute to a log when the first bad package comes");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -197,18 +204,27 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
     options->junit = QString::fromStdString(texts.junit);
+    options->record = QString::fromStdString(texts.record);
+    options->saveBad = QString::fromStdString(texts.saveBad);
 }
 
 } // namespace
 
-bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
+bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const UnitCommand *command)
 {
     CLI::App app(
-        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
-        "headunit");
+        command
+            ? command->description
+            : "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     Texts texts;
+    if (command) {
+        command->addOptions(&app);
+    } else {
+        app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    }
     addOptions(&app, this, &texts);
     usage = QString::fromStdString(app.help());
     std::vector<std::string> words;

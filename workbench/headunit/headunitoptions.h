@@ -7,6 +7,20 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+/// A sub-command that runs the unit: it takes the unit's options and some of its own.
+struct UnitCommand
+{
+    const char *name;
+    const char *description;
+    std::function<void(CLI::App *)> addOptions;
+};
+
 /// What the command line of `headunit` asks for.
 struct HeadUnitOptions
 {
@@ -30,12 +44,15 @@ struct HeadUnitOptions
     bool isUnpaced = false; ///< bytes take no time on the box's line
     quint32 seed = 0;       ///< of the chances on the box's line; counts when hasSeed
     bool hasSeed = false;
+    QString record;          ///< file for the line's log, "-" for standard output, empty for none
+    QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
+    bool listsPorts = false; ///< and nothing else
     bool wantsHelp = false;
     QString usage; ///< what there is to ask for; set by parse()
 
-    /// Reads \a arguments, the program's name first; needs no application object. False, with the reason in
-    /// \a error, when they are wrong.
-    bool parse(const QStringList &arguments, QString *error);
+    /// Reads \a arguments, the program's name first; needs no application object. \a command is the
+    /// sub-command in front of them, null for none. False, with the reason in \a error, when they are wrong.
+    bool parse(const QStringList &arguments, QString *error, const UnitCommand *command = nullptr);
 
     /// The decoder type that the plug-in will read; 0 for none.
     uint canBusType() const { return tags.value(CanBusTypeTag).toUInt(); }

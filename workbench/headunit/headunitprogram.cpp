@@ -88,6 +88,9 @@ bool HeadUnitProgram::begin(QString *error)
         return false;
     }
     m_unit.reset(new HeadUnit);
+    if (!startRecorder(error)) {
+        return false;
+    }
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -152,6 +155,21 @@ void HeadUnitProgram::configureUnit()
         host->setSettingsDir(m_options.settingsDir);
     }
     sayWhyNoDecoder(m_options);
+}
+
+bool HeadUnitProgram::startRecorder(QString *error)
+{
+    LineRecorder *recorder = m_unit->lineRecorder();
+    recorder->setType(int(m_options.canBusType()));
+    recorder->saveAtBadPackage(m_options.saveBad);
+    connect(recorder, &LineRecorder::fileFailed, this,
+            [](const QString &problem) { std::fprintf(stderr, "headunit: %s\n", qPrintable(problem)); });
+    const bool isWanted = !m_options.record.isEmpty() || !m_options.saveBad.isEmpty();
+    if (isWanted && !SerialTap::isWired()) {
+        *error = "the serial library that this program was built with cannot be listened to";
+        return false;
+    }
+    return m_options.record.isEmpty() || recorder->startFile(m_options.record, error);
 }
 
 bool HeadUnitProgram::openBox(QString *error)

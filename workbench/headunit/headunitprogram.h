@@ -40,6 +40,7 @@ public:
 private:
     bool openTrace(QString *error);
     void configureUnit();
+    bool startRecorder(QString *error);
     bool openBox(QString *error);
     bool openScenario(QString *error);
     bool hasAnEnd(QString *error) const;

@@ -55,7 +55,6 @@ ScriptCommands::ScriptCommands(HeadUnit *unit, DecoderBox *box, CallWatch *watch
 {}
 
 ScriptCommands::~ScriptCommands() = default;
-
 ScriptCommands::Outcome ScriptCommands::carryOut(const QStringList &words)
 {
     m_result.clear();
@@ -244,6 +243,11 @@ ScriptCommands::Outcome ScriptCommands::screenshot()
         return fail("the unit has no screen");
     }
     return screen->saveScreenshot(text(0), &m_error) ? Done : Failed;
+}
+
+ScriptCommands::Outcome ScriptCommands::save()
+{
+    return m_unit->lineRecorder()->save(text(0), &m_error) ? Done : Failed;
 }
 
 ScriptCommands::Outcome ScriptCommands::quit()

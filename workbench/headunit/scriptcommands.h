@@ -94,6 +94,7 @@ private:
     Outcome row();
     Outcome wait();
     Outcome screenshot();
+    Outcome save();
     Outcome quit();
     Outcome expect();
     Outcome set();

@@ -46,6 +46,8 @@ const QVector<ScriptCommands::Row> &ScriptCommands::rows()
         {"row", "N [COLUMN]", "a click on that cell of the list", 1, 2, 0, 0, &C::row},
         {"wait", "MS", "the next line comes so much later", 1, 1, 0, 0, &C::wait},
         {"screenshot", "FILE", "writes a picture of the unit's screen", 0, 0, 1, 1, &C::screenshot},
+        {"save", "FILE", "writes what went over the serial line in the last minute to a log", 0, 0, 1, 1,
+         &C::save},
         {"expect", "[none] [OBJECT.]CALL [ARG...] within MS",
          "waits until the plug-in makes that call, or sees to it that none comes", 0, 0, 3, Many, &C::expect},
         {"set", "PROPERTY VALUE", "a property of the virtual box's car changes", 0, 0, 2, Many, &C::set},
