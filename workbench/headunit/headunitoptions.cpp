@@ -156,9 +156,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->needs(script);
     addPath(app, "--junit", &texts->junit, "FILE", "writes what became of the script's lines as a JUnit file")
         ->needs(script);
-    -is standard input ");
-        addPath(app, "--record", &texts->record, "FILE|-",
-                "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--record", &texts->record, "FILE|-",
+            "writes the serial line's bytes to a log; - is standard output");
     addPath(app, "--save-bad", &texts->saveBad, "FILE",
             "writes the line's last minute to a log when the first bad package comes");
 }
