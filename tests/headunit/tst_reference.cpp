@@ -1,11 +1,11 @@
 #include "boxcommand.h"
 #include "golden.h"
-#include "headunitoptions.h"
 #include "scriptcommands.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -28,14 +28,25 @@ QString cell(QString text)
     return text.replace('|', "\\|");
 }
 
+QStringList help(const QStringList &words)
+{
+    QProcess program;
+    program.start(HEADUNIT, words + QStringList("--help"));
+    program.waitForFinished();
+    QStringList lines;
+    for (const QString &line : QString::fromUtf8(program.readAllStandardOutput()).trimmed().split('\n')) {
+        lines << (line.isEmpty() ? line : "    " + line);
+    }
+    return lines;
+}
+
+// The program's own, and those of each command in front of them.
 QStringList options()
 {
-    HeadUnitOptions headunit;
-    QString error;
-    headunit.parse({"headunit"}, &error);
-    QStringList lines;
-    for (const QString &line : headunit.usage.trimmed().split('\n')) {
-        lines << (line.isEmpty() ? line : "    " + line);
+    QStringList lines = help({});
+    const int last = int(lines.size());
+    for (int i = int(lines.indexOf(QRegularExpression(" *Commands, .*"))) + 1; i > 0 && i < last; ++i) {
+        lines << QString() << help({lines.at(i).simplified().section(' ', 0, 0)});
     }
     return lines;
 }

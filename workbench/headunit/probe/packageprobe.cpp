@@ -50,7 +50,7 @@ PackageProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
 
 QString readable(const QString &value)
 {
-    return value.isEmpty() ? QString("empty") : value;
+    return value.isEmpty() ? QString("called") : value;
 }
 
 QString absentOr(const PackageProbe::Effects &effects, const QString &call)
@@ -66,6 +66,11 @@ bool readNumber(const QString &text, double *number, QString *unit)
     *number = match.captured(1).toDouble();
     *unit = match.captured(2);
     return match.hasMatch();
+}
+
+QString numberText(int number)
+{
+    return number < 10 ? QString::number(number) : "0x" + QString::number(number, 16);
 }
 
 // How many values from \a from on rise or fall by the same step, in the same unit.
@@ -284,7 +289,7 @@ QString PackageProbe::mapping(const QStringList &values)
         if (values.at(i) != rest || (steady > 2 && values.at(i + 1) != values.at(i))) {
             const bool isOne = values.at(i) == values.at(i + count - 1);
             parts << QString("%1 = %2").arg(
-                count == 1 ? QString::number(i) : QString("%1..%2").arg(i).arg(i + count - 1),
+                count == 1 ? numberText(i) : numberText(i) + ".." + numberText(i + count - 1),
                 isOne ? values.at(i) : values.at(i) + ".." + values.at(i + count - 1));
         }
         i += count;

@@ -48,7 +48,7 @@ public:
     /// Whether a dialog waits after some of the packages.
     bool hasDialogs() const { return m_hasDialogs; }
 
-    /// "0 = LO, 1..29 = 18.0..32.0, 31 = HI, else empty": \a values by number from 0 on.
+    /// "0 = LO, 1..0x1d = 18.0..32.0, 0x1f = HI, else empty": \a values by number from 0 on.
     static QString mapping(const QStringList &values);
 
 private:

@@ -126,7 +126,7 @@
         <translation>Byte verdoppeln</translation>
     </message>
     <message>
-        <source>Lie about a length</source>
+        <source>Wrong length</source>
         <translation>Falsche Länge</translation>
     </message>
     <message>
@@ -134,31 +134,31 @@
         <translation>Stocken, 300 ms</translation>
     </message>
     <message>
-        <source>Garbage before a package</source>
-        <translation>Müll vor einem Paket</translation>
+        <source>Garbage</source>
+        <translation>Müll</translation>
     </message>
     <message>
-        <source>Late acknowledgement</source>
-        <translation>Späte Bestätigung</translation>
+        <source>Late answer</source>
+        <translation>Späte Antwort</translation>
     </message>
     <message>
-        <source>Cut the update at packet 10</source>
-        <translation>Update bei Paket 10 kappen</translation>
+        <source>Cut the update</source>
+        <translation>Update kappen</translation>
     </message>
     <message>
-        <source>Pull the line out</source>
+        <source>Pull the line</source>
         <translation>Leitung ziehen</translation>
     </message>
     <message>
-        <source>Put it back</source>
-        <translation>Wieder stecken</translation>
+        <source>Plug it in</source>
+        <translation>Einstecken</translation>
     </message>
     <message>
-        <source>A bad line</source>
+        <source>Bad line</source>
         <translation>Schlechte Leitung</translation>
     </message>
     <message>
-        <source>A good line</source>
+        <source>Good line</source>
         <translation>Gute Leitung</translation>
     </message>
 </context>

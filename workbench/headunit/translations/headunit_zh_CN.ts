@@ -126,7 +126,7 @@
         <translation>重复一个字节</translation>
     </message>
     <message>
-        <source>Lie about a length</source>
+        <source>Wrong length</source>
         <translation>错误长度</translation>
     </message>
     <message>
@@ -134,31 +134,31 @@
         <translation>停顿 300 毫秒</translation>
     </message>
     <message>
-        <source>Garbage before a package</source>
-        <translation>数据包前加乱码</translation>
+        <source>Garbage</source>
+        <translation>乱码</translation>
     </message>
     <message>
-        <source>Late acknowledgement</source>
+        <source>Late answer</source>
         <translation>延迟应答</translation>
     </message>
     <message>
-        <source>Cut the update at packet 10</source>
-        <translation>升级到第 10 包时断线</translation>
+        <source>Cut the update</source>
+        <translation>中断升级</translation>
     </message>
     <message>
-        <source>Pull the line out</source>
+        <source>Pull the line</source>
         <translation>拔出线路</translation>
     </message>
     <message>
-        <source>Put it back</source>
+        <source>Plug it in</source>
         <translation>重新插入</translation>
     </message>
     <message>
-        <source>A bad line</source>
+        <source>Bad line</source>
         <translation>线路不良</translation>
     </message>
     <message>
-        <source>A good line</source>
+        <source>Good line</source>
         <translation>线路良好</translation>
     </message>
 </context>
