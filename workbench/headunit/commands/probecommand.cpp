@@ -24,6 +24,7 @@ struct Order
     std::string frame;
     std::string plugin;
     int byte = -1;
+    bool isAll = false;
     bool walksValues = false;
     bool asMarkdown = false;
     bool asJson = false;
@@ -35,8 +36,9 @@ void addOptions(CLI::App *app, Order *order)
         ->required()
         ->type_name("N|CLASS");
     app->add_option("--frame", order->frame, "the package: a whole frame, or its command and data")
-        ->required()
         ->type_name("HEX");
+    app->add_flag("--all", order->isAll,
+                  "each package that the virtual box of the type sends, in place of one");
     app->add_option("--byte", order->byte, "this data byte only, counted from 0")
         ->type_name("N")
         ->check(CLI::NonNegativeNumber);
@@ -69,6 +71,19 @@ bool readPackage(const std::string &text, const FrameFormat &format, BoxPackage 
     return error->isEmpty();
 }
 
+// What the box says at start, but for the package that is asked about: some decoders want to know their box.
+QVector<QByteArray> greeting(const BoxSpeaker &speaker, int command)
+{
+    QVector<QByteArray> frames;
+    for (int i = 0; i < speaker.reports().size(); ++i) {
+        const BoxReport &report = speaker.reports().at(i);
+        if (report.atStart && int(report.command) != command) {
+            frames << speaker.format().frame(speaker.reportPackage(i));
+        }
+    }
+    return frames;
+}
+
 void answer(const PackageProbe &probe, const Order &order, const QString &title)
 {
     if (order.asJson) {
@@ -80,6 +95,83 @@ void answer(const PackageProbe &probe, const Order &order, const QString &title)
     }
 }
 
+// A package to probe, and what the box calls it.
+struct Subject
+{
+    BoxPackage package;
+    QString name;
+};
+
+// All that the box tells of its own accord, as it is for a car that stands, and one key of each kind.
+QVector<Subject> subjects(const BoxSpeaker &speaker)
+{
+    QVector<Subject> result;
+    for (int i = 0; i < speaker.reports().size(); ++i) {
+        result << Subject{speaker.reportPackage(i), speaker.reports().at(i).meaning};
+    }
+    QList<quint8> commands;
+    for (const BoxKey &key : speaker.keys()) {
+        const QVector<BoxPackage> packages = key.source == BoxKey::Knob
+                                                 ? QVector<BoxPackage>{speaker.knobPackage(key, 1)}
+                                                 : speaker.keyPackages(key, BoxSpeaker::Pressed);
+        if (!packages.isEmpty() && !commands.contains(packages.first().command)) {
+            commands << packages.first().command;
+            result << Subject{packages.first(), "keys"};
+        }
+    }
+    return result;
+}
+
+int probe(const CommandLine &line, const Order &order, int type, const BoxSpeaker &speaker,
+          const QVector<Subject> &all)
+{
+    char name[] = "headunit";
+    char *arguments[] = {name, nullptr};
+    int count = 1;
+    QString error;
+    OrbApplication application(count, arguments);
+    ProbeUnit unit;
+    const QString plugin =
+        order.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(order.plugin);
+    if (!unit.start(plugin, type, greeting(speaker, all.size() == 1 ? all.first().package.command : -1),
+                    &error)) {
+        return line.complain(error);
+    }
+    for (const Subject &subject : all) {
+        PackageProbe one(&unit, speaker.format(), subject.package);
+        if (!subject.package.data.isEmpty() && !one.run(order.byte, order.walksValues, &error)) {
+            return line.complain(error);
+        }
+        answer(one, order,
+               QString("%1, package 0x%2%3: %4")
+                   .arg(BoxCatalog::rows().at(type - 1).className)
+                   .arg(subject.package.command, 2, 16, QLatin1Char('0'))
+                   .arg(subject.name.isEmpty() ? QString() : ", " + subject.name,
+                        QString::fromLatin1(subject.package.data.toHex(' '))));
+    }
+    return Command::Fine;
+}
+
+// What is to be probed, or why nothing can be.
+bool readSubjects(const Order &order, const BoxSpeaker &speaker, QVector<Subject> *all, QString *error)
+{
+    if (order.isAll) {
+        *all = subjects(speaker);
+        return true;
+    }
+    Subject subject;
+    if (order.frame.empty()) {
+        *error = "--frame or --all says what is to be probed";
+    } else if (readPackage(order.frame, speaker.format(), &subject.package, error) &&
+               order.byte >= subject.package.n()) {
+        *error = QString("the package has %1 data bytes, there is no byte %2")
+                     .arg(subject.package.n())
+                     .arg(order.byte);
+    }
+    *all = {subject};
+    return error->isEmpty();
+}
+
 } // namespace
 
 int probeCommand(const QStringList &words)
@@ -89,25 +181,23 @@ int probeCommand(const QStringList &words)
     Order order;
     int exitCode = 0;
     QString error;
+    QVector<Subject> all;
     addOptions(&line.app, &order);
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
     const int type = BoxCatalog::typeFromText(QString::fromStdString(order.type));
     const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-    BoxPackage package;
+    if (type == 0) {
+        return line.complain(
+            QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
+    }
     if (!box) {
         return line.complain(
-            type == 0 ? QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type))
-                      : "the frame of this type is not known, so it decodes nothing that could be probed");
+            "the frame of this type is not known, so it decodes nothing that could be probed");
     }
-    const FrameFormat &format = box->speaker()->format();
-    if (!readPackage(order.frame, format, &package, &error)) {
+    if (!readSubjects(order, *box->speaker(), &all, &error)) {
         return line.complain(error);
-    }
-    if (order.byte >= package.n()) {
-        return line.complain(
-            QString("the package has %1 data bytes, there is no byte %2").arg(package.n()).arg(order.byte));
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!VirtualClock::start(StartOfClock)) {
@@ -115,24 +205,5 @@ int probeCommand(const QStringList &words)
     }
     qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext &, const QString &) {}); // of hundreds of trials
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int count = 1;
-    OrbApplication application(count, arguments);
-    ProbeUnit unit;
-    const QString plugin =
-        order.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(order.plugin);
-    if (!unit.start(plugin, type, &error)) {
-        return line.complain(error);
-    }
-    PackageProbe probe(&unit, format, package);
-    if (!probe.run(order.byte, order.walksValues, &error)) {
-        return line.complain(error);
-    }
-    answer(probe, order,
-           QString("%1, package 0x%2: %3")
-               .arg(BoxCatalog::rows().at(type - 1).className)
-               .arg(package.command, 2, 16, QLatin1Char('0'))
-               .arg(QString::fromLatin1(package.data.toHex(' '))));
-    return Command::Fine;
+    return probe(line, order, type, *box->speaker(), all);
 }

@@ -1,5 +1,7 @@
 #include "packageprobe.h"
 
+#include "orbevent.h"
+
 #include <QRegularExpression>
 #include <QSet>
 
@@ -14,24 +16,26 @@ const int Bits = 8;
 void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
 {
     if (call.name == "dispatchOrbEvent" || call.name == "event") {
-        QStringList parts;
-        QString about = call.name;
+        QString about = "event";
         for (const QString &arg : call.args) {
             const QString key = arg.section('=', 0, 0);
-            if (key == "param") {
-                about = "event " + arg.section('=', 1);
+            const QString value = arg.section('=', 1);
+            if (key == "type" && value != QString::number(OrbEvent::NotifyType)) {
+                about += ' ' + value;
+            } else if (key == "param") {
+                about += ' ' + value;
             } else if (key != "source" && key != "id" && key != "type") {
-                parts << (key == "param2" ? arg.section('=', 1) : arg);
+                (*values)[about + (key == "param2" ? QString() : ' ' + key)] << value;
             }
         }
-        (*values)[about] << parts.join(' ');
     } else if (call.object != "OrbApplication" && call.args.size() > 1) {
         for (int i = 0; i < call.args.size(); ++i) {
             (*values)[QString("%1 #%2").arg(call.name).arg(i + 1)] << call.args.at(i);
         }
     } else {
         const bool isOwn = call.object == "AirConditionDlg" || call.object == "OrbApplication";
-        (*values)[isOwn ? call.name : call.object + '.' + call.name] << call.args.join(' ');
+        (*values)[isOwn ? call.name : call.object + '.' + call.name]
+            << (call.args.isEmpty() ? QString("called") : call.args.join(' '));
     }
 }
 
@@ -50,7 +54,7 @@ PackageProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
 
 QString readable(const QString &value)
 {
-    return value.isEmpty() ? QString("called") : value;
+    return value.isEmpty() ? QString("empty") : value;
 }
 
 QString absentOr(const PackageProbe::Effects &effects, const QString &call)
@@ -73,24 +77,43 @@ QString numberText(int number)
     return number < 10 ? QString::number(number) : "0x" + QString::number(number, 16);
 }
 
-// How many values from \a from on rise or fall by the same step, in the same unit.
+// How many values from \a from on rise or fall steadily, in the same unit; roundings to whole numbers count.
 int steadyCount(const QStringList &values, int from)
 {
-    double first = 0;
-    double second = 0;
+    QVector<double> numbers;
     QString unit;
     QString other;
-    if (from + 1 >= values.size() || !readNumber(values.at(from), &first, &unit) ||
-        !readNumber(values.at(from + 1), &second, &other) || unit != other) {
-        return 1;
+    double number = 0;
+    int steady = 1;
+    for (int i = from; i < values.size() && readNumber(values.at(i), &number, &other); ++i) {
+        unit = i == from ? other : unit;
+        if (unit != other) {
+            break;
+        }
+        numbers << number;
+        const int last = int(numbers.size()) - 1;
+        const double step = last > 0 ? (numbers.last() - numbers.first()) / last : 0;
+        double off = 0;
+        bool isRising = step != 0;
+        for (int k = 1; k <= last; ++k) {
+            off = qMax(off, qAbs(numbers.at(k) - numbers.first() - k * step));
+            isRising = isRising && (numbers.at(k) - numbers.at(k - 1)) * step > 0;
+        }
+        if (last > 0 && (!isRising || off > (qAbs(step) > 1 ? 1.0 : 0.001))) {
+            break;
+        }
+        steady = last + 1;
     }
-    int count = 2;
-    double next = 0;
-    while (from + count < values.size() && readNumber(values.at(from + count), &next, &other) &&
-           unit == other && qAbs(next - first - count * (second - first)) < 0.001) {
-        ++count;
+    return steady;
+}
+
+QString textOf(const QVector<PackageProbe::Effect> &effects)
+{
+    QStringList lines;
+    for (const PackageProbe::Effect &effect : effects) {
+        lines << effect.call + ' ' + effect.text;
     }
-    return count;
+    return lines.join('\n');
 }
 
 } // namespace
@@ -117,8 +140,8 @@ bool PackageProbe::run(int only, bool walksValues, QString *error)
             for (int bit = low; bit <= high; ++bit) {
                 const int key = byte * Bits + bit;
                 row.dependsOnState = row.dependsOnState ||
-                                     difference(m_base[Fresh], m_flipped[Fresh].value(key)).size() !=
-                                         difference(m_base[Opposite], m_flipped[Opposite].value(key)).size();
+                                     textOf(difference(m_base[Fresh], m_flipped[Fresh].value(key))) !=
+                                         textOf(difference(m_base[Opposite], m_flipped[Opposite].value(key)));
             }
             ok = probeRun(&row);
             m_rows << row;

@@ -4,9 +4,9 @@
 
 #include "orbhost.h"
 
-#include <QApplication>
 #include <QDataStream>
 #include <QEventLoop>
+#include <QThread>
 #include <QTimer>
 
 #include <sys/wait.h>
@@ -39,7 +39,7 @@ QByteArray readAll(int descriptor)
 
 } // namespace
 
-bool ProbeUnit::start(const QString &plugin, int type, QString *error)
+bool ProbeUnit::start(const QString &plugin, int type, const QVector<QByteArray> &greeting, QString *error)
 {
     if (!m_line.open(error)) {
         return false;
@@ -57,6 +57,13 @@ bool ProbeUnit::start(const QString &plugin, int type, QString *error)
         return false;
     }
     letPass(StartMs);
+    for (const QByteArray &package : greeting) {
+        if (::write(m_line.farEnd(), package.constData(), size_t(package.size())) != package.size()) {
+            *error = "the unit does not read its line";
+            return false;
+        }
+        letPass(SettleMs);
+    }
     drainLine();
     return true;
 }
@@ -131,7 +138,7 @@ void ProbeUnit::tell(const QByteArray &package, int result)
     }
     QByteArray told;
     QDataStream stream(&told, QIODevice::WriteOnly);
-    stream << isFramed << (QApplication::activeModalWidget() != nullptr) << qint32(calls.size());
+    stream << isFramed << (QThread::currentThread()->loopLevel() > 1) << qint32(calls.size());
     for (const CallWatch::Call &call : std::as_const(calls)) {
         stream << call.object << call.name << call.args;
     }

@@ -24,9 +24,9 @@ public:
         QString problem;                ///< why there was no trial, one sentence; empty for none
     };
 
-    /// Starts the plug-in \a plugin with the decoder of \a type, and lets it settle. False, with one sentence
-    /// in \a error, when it does not run.
-    bool start(const QString &plugin, int type, QString *error);
+    /// Starts the plug-in \a plugin with the decoder of \a type, feeds it \a greeting, the packages with which
+    /// a box begins, and lets it settle. False, with one sentence in \a error, when it does not run.
+    bool start(const QString &plugin, int type, const QVector<QByteArray> &greeting, QString *error);
 
     /// Feeds \a packages, whole frames, one after the other.
     Trial tryOut(const QVector<QByteArray> &packages);
