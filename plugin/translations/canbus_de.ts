@@ -85,10 +85,6 @@
         <translation>Ø Tempo</translation>
     </message>
     <message>
-        <source>Driving time</source>
-        <translation>Fahrzeit</translation>
-    </message>
-    <message>
         <source>Tire pressure status</source>
         <translation>Reifendruckstatus</translation>
     </message>
@@ -163,6 +159,18 @@
     <message>
         <source>mph(US)</source>
         <translation>mph(US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>Service überfällig</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>Fahrzeit (h:min)</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>nicht vorhanden</translation>
     </message>
 </context>
 <context>
@@ -994,6 +1002,18 @@
     <message>
         <source>Drink holder</source>
         <translation>Getränkehalter</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>Warten auf das Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>Letzte Meldung vor %1 min</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>Letzte Meldung vor %1 h</translation>
     </message>
 </context>
 <context>

@@ -85,10 +85,6 @@
         <translation>平均车速</translation>
     </message>
     <message>
-        <source>Driving time</source>
-        <translation>行驶时间</translation>
-    </message>
-    <message>
         <source>Tire pressure status</source>
         <translation>胎压状态</translation>
     </message>
@@ -163,6 +159,18 @@
     <message>
         <source>mph(US)</source>
         <translation>mph(US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>保养已逾期</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>行驶时间（时:分）</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>本车不支持</translation>
     </message>
 </context>
 <context>
@@ -994,6 +1002,18 @@
     <message>
         <source>Drink holder</source>
         <translation>饮料架</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>正在等待车辆</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>%1 分钟前的数据</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>%1 小时前的数据</translation>
     </message>
 </context>
 <context>

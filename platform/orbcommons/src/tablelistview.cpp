@@ -17,6 +17,22 @@ const int SecondShare = 20;
 const int SmallestValueWidth = 200;
 const int EmptySecondWidth = 16;
 const int EmptyValueWidth = 80; // a mark fits
+// As the delegate draws values, with some air.
+const int ValueFontSize = 22;
+const int ValueInset = 32;
+
+// Width that the longest value without a blank needs on one line: a vehicle's number is not to be broken.
+int unbrokenWidth(const QAbstractItemModel *model, const QFontMetrics &metrics)
+{
+    int width = 0;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        const QString value = model->index(row, TableViewItemDatas::ValueColumn).data().toString();
+        if (!value.contains(QLatin1Char(' '))) {
+            width = qMax(width, OrbQt::textWidth(metrics, value));
+        }
+    }
+    return width;
+}
 
 // Whether any row has a text or a switch in \a column.
 bool hasContents(const QAbstractItemModel *model, int column)
@@ -87,7 +103,11 @@ void TableListView::fitColumns()
     const int width = viewport()->width();
     const bool hasValues = hasContents(model(), TableViewItemDatas::ValueColumn);
     const bool hasSeconds = hasContents(model(), TableViewItemDatas::SecondColumn);
-    const int valueWidth = hasValues ? qMax(SmallestValueWidth, width * ValueShare / 100) : EmptyValueWidth;
+    QFont valueFont(font());
+    valueFont.setPixelSize(ValueFontSize);
+    const int unbroken = unbrokenWidth(model(), QFontMetrics(valueFont)) + ValueInset;
+    const int usual = qMax(qMax(SmallestValueWidth, unbroken), width * ValueShare / 100);
+    const int valueWidth = hasValues ? usual : EmptyValueWidth;
     const int value = qMin(width / 2, valueWidth);
     const int second = hasSeconds ? width * SecondShare / 100 : EmptySecondWidth;
     setColumnWidth(TableViewItemDatas::TextColumn, qMax(1, width - second - value));
