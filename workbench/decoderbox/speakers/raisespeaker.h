@@ -15,6 +15,7 @@ public:
 
     bool usesAcknowledgement() const override { return true; }
     QVector<BoxPackage> keyPackages(const BoxKey &key, KeyState state) const override;
+    int baudRate() const override { return 38400; }
 
 protected:
     /// Keys of \a command come up as key 0 in state 0, whichever they were.

@@ -5,6 +5,7 @@
 #include "identifycommand.h"
 #include "recordcommand.h"
 #include "replaycommand.h"
+#include "probecommand.h"
 
 const QVector<Command> &Command::all()
 {
@@ -14,6 +15,7 @@ const QVector<Command> &Command::all()
         {"identify", "says which CAN-bus type fits a log, or the box on a port", identifyCommand},
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
         {"convert", "turns one log of a serial line into another", convertCommand},
+        {"probe", "tells which bit of a package does what", probeCommand},
     };
     return commands;
 }
