@@ -1,6 +1,7 @@
 #include "command.h"
 
 #include "checkcommand.h"
+#include "convertcommand.h"
 #include "identifycommand.h"
 #include "recordcommand.h"
 #include "replaycommand.h"
@@ -12,6 +13,7 @@ const QVector<Command> &Command::all()
         {"replay", "runs the unit on the bytes of a log in place of a box", replayCommand},
         {"identify", "says which CAN-bus type fits a log, or the box on a port", identifyCommand},
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
+        {"convert", "turns one log of a serial line into another", convertCommand},
     };
     return commands;
 }
