@@ -122,7 +122,7 @@ void TestBoxOrders::scriptAnswers()
     connect(&script, &BoxScript::answered, this, [&answers](const QString &line) { answers << line; });
     QSignalSpy finished(&script, &BoxScript::finished);
     const QByteArray lines =
-        "get climate.fan\nclimate.fan 5\nget climate.fan\nget x\nclimate.fan 8\nwait 30\n"
+        "get climate.fan\nclimate.fan 5\nget climate.fan\nget x\nclimate.fan 9\nwait 30\n"
         "observed mode\n\nstate\nstart\nstate\nwait soon\nkey next tap";
     // The line that is still being written when the first half is read counts whole.
     QCOMPARE(int(::write(ends[1], lines.constData(), 20)), 20);
@@ -133,7 +133,7 @@ void TestBoxOrders::scriptAnswers()
     QTRY_COMPARE(int(finished.size()), 1);
     ::close(ends[0]);
     const QString expected = "climate.fan 2\nok\nclimate.fan 5\nerror: unknown property 'x'\n"
-                             "error: 'climate.fan' takes a whole number from 0 to 7, not '8'\nok\n"
+                             "error: 'climate.fan' takes a whole number from 0 to 8, not '9'\nok\n"
                              "error: nothing heard of 'mode'\nwaits\nok\ntalks\n"
                              "error: expected: wait MS\nok";
     QCOMPARE(answers.join('\n'), expected);

@@ -44,6 +44,21 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     connect(&m_acknowledgementTimer, &QTimer::timeout, this, &DecoderBox::onAcknowledgementMissing);
     connect(&m_heldKeyTimer, &QTimer::timeout, this, &DecoderBox::repeatHeldKeys);
     connect(&m_tongueTimer, &QTimer::timeout, this, &DecoderBox::sendNext);
+    addRepetitions();
+}
+
+void DecoderBox::addRepetitions()
+{
+    for (int i = 0; i < m_speaker->reports().size(); ++i) {
+        const int period = m_speaker->reports().at(i).period;
+        if (period > 0) {
+            QTimer *timer = new QTimer(this);
+            timer->setInterval(period);
+            timer->setTimerType(Qt::PreciseTimer);
+            connect(timer, &QTimer::timeout, this, [this, i] { enqueueReport(i); });
+            m_repetitions << timer;
+        }
+    }
 }
 
 bool DecoderBox::open(const QString &link, QString *error)
@@ -56,6 +71,9 @@ void DecoderBox::start()
     stopTalking();
     setState(Talks);
     sendState();
+    for (QTimer *timer : std::as_const(m_repetitions)) {
+        timer->start();
+    }
 }
 
 bool DecoderBox::pressKey(const QString &name)
@@ -233,6 +251,9 @@ void DecoderBox::stopTalking()
     m_acknowledgementTimer.stop();
     m_heldKeys.clear();
     m_heldKeyTimer.stop();
+    for (QTimer *timer : std::as_const(m_repetitions)) {
+        timer->stop();
+    }
 }
 
 void DecoderBox::sendState()

@@ -17,7 +17,7 @@
 /// - It sends one package at a time and waits for the unit's acknowledgement. 100 ms without one and it sends
 ///   the package again; after the third resend it falls silent until it is started again.
 /// - It answers 0xFF to a good package, 0xF0 to a bad checksum, 0xF3 to a command that it does not know.
-/// - A held key is reported every 200 ms.
+/// - A held key is reported every 200 ms, and what the speaker gives a period over and over.
 ///
 /// Boxes whose protocol knows no acknowledgement neither wait nor answer. A unit that closes the port takes
 /// the box back to where it waits for ready. Everything runs on the thread of the box and nothing blocks it.
@@ -105,6 +105,7 @@ private:
     void onAcknowledgementMissing();
     void onObserved(const QString &topic, const QString &value);
     void repeatHeldKeys();
+    void addRepetitions();
 
     void setState(State state);
     void stopTalking();
@@ -132,6 +133,7 @@ private:
     bool m_isListening = false; // a package is being taken in: what it brings about is sent after its answer
     QTimer m_acknowledgementTimer;
 
+    QVector<QTimer *> m_repetitions; // of reports
     QStringList m_heldKeys;
     QTimer m_heldKeyTimer;
 

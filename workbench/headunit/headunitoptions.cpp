@@ -145,6 +145,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->check(clockComplaint);
     addPath(app, "--trace", &texts->trace, "FILE|-",
             "writes what the plug-in does as JSON lines; - is standard output");
+    app->add_flag("--trace-values", options->tracesValues,
+                  "the trace has the values besides that the car tells and no display takes");
     addPath(app, "--script", &texts->script, "FILE|-",
             "carries out commands, one a line; - is standard input");
     addPath(app, "--record", &texts->record, "FILE|-",

@@ -46,9 +46,10 @@ struct HeadUnitOptions
     bool hasDecoderBox = false;
     QString scenario; ///< of the decoder box; empty for none
     QString trace;    ///< file, "-" for standard output, empty for none
-    QString script;   ///< file, "-" for standard input, empty for none
-    QString record;   ///< file for the line's log, "-" for standard output, empty for none
-    QString saveBad;  ///< file for the line's last minute at the first bad package, empty for none
+    bool tracesValues = false;
+    QString script;  ///< file, "-" for standard input, empty for none
+    QString record;  ///< file for the line's log, "-" for standard output, empty for none
+    QString saveBad; ///< file for the line's last minute at the first bad package, empty for none
     std::optional<ReplayOptions> replay; ///< a log in place of a box
     bool listsPorts = false;             ///< and nothing else
     bool wantsHelp = false;

@@ -123,7 +123,7 @@ bool HeadUnitProgram::openTrace(QString *error)
             m_output->waitForReader();
         }
     }
-    m_writer.reset(new TraceWriter(m_output.get()));
+    m_writer.reset(new TraceWriter(m_output.get(), m_options.tracesValues));
     if (isTraced) {
         OrbTrace::setListener(m_writer.get());
     }

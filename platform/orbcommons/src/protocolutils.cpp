@@ -5,6 +5,7 @@
 #include "streamage.h"
 
 #include <QDebug>
+#include <QDynamicPropertyChangeEvent>
 #include <QElapsedTimer>
 #include <QIODevice>
 #include <QTimer>
@@ -341,6 +342,16 @@ void ProtocolUtils::onPollTimer()
 void ProtocolUtils::setWritePackageIntval(int milliseconds)
 {
     m_d->writer->setInterval(milliseconds);
+}
+
+// What an adapter keeps in dynamic properties is for whoever looks on.
+bool ProtocolUtils::event(QEvent *event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
+        const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
+        OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()), property(name.constData()));
+    }
+    return QObject::event(event);
 }
 
 void ProtocolUtils::writeDatas(const QByteArray &package)
