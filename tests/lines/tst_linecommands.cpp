@@ -194,11 +194,11 @@ void TestLineCommands::identifies_data()
     const QString logs = LOGS "/";
     QTest::newRow("volkswagen") << logs + "volkswagen.orblog" << 3 << false;
     QTest::newRow("mazda") << logs + "mazda.orblog" << 5 << true;
-    QTest::newRow("honda") << logs + "honda.orblog" << 7 << true;
+    QTest::newRow("honda") << logs + "honda.orblog" << 7 << false;
     QTest::newRow("toyota") << logs + "toyota.orblog" << 9 << true;
     QTest::newRow("gm") << logs + "gm.orblog" << 10 << true;
     QTest::newRow("jeep") << logs + "jeep.orblog" << 15 << false;
-    QTest::newRow("virtual honda") << path("honda.orblog") << 7 << true;
+    QTest::newRow("virtual honda") << path("honda.orblog") << 7 << false;
 }
 
 void TestLineCommands::identifies()
