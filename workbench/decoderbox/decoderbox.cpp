@@ -45,6 +45,7 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     connect(&m_acknowledgementTimer, &QTimer::timeout, this, &DecoderBox::onAcknowledgementMissing);
     connect(&m_heldKeyTimer, &QTimer::timeout, this, &DecoderBox::repeatHeldKeys);
     connect(&m_tongueTimer, &QTimer::timeout, this, &DecoderBox::sendNext);
+    connect(&m_replugTimer, &QTimer::timeout, this, &DecoderBox::replug);
     addRepetitions();
 }
 
@@ -60,7 +61,6 @@ void DecoderBox::addRepetitions()
             m_repetitions << timer;
         }
     }
-    connect(&m_replugTimer, &QTimer::timeout, this, &DecoderBox::replug);
 }
 
 bool DecoderBox::open(const QString &link, QString *error)

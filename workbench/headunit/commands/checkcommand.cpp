@@ -97,6 +97,12 @@ QVector<CheckResult> check(const QString &port, const QString &plugin, int secon
     }
     results << (mayOpen ? hear(&listener, port, seconds, &baud)
                         : CheckResult{"opens", CheckResult::Failure, "not tried", QString()});
+    if (!mayOpen) {
+        for (const char *what : {"bytes", "packages", "answers", "handshake", "version", "type"}) {
+            results << CheckResult{what, CheckResult::Warning, "not looked at", QString()};
+        }
+        return results;
+    }
     results << BoxCheck::bytes(listener) << BoxCheck::packages(listener, baud)
             << BoxCheck::acknowledgement(listener, line.latency()) << BoxCheck::handshake(listener)
             << BoxCheck::version(listener) << type(listener, plugin);

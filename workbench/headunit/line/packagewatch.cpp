@@ -49,6 +49,14 @@ void PackageWatch::eventCalled(const QString &call, const OrbEvent &event)
     Q_EMIT callSeen(call);
 }
 
+void PackageWatch::valueTold(const QString &name, const QVariant &value)
+{
+    if (m_next) {
+        m_next->valueTold(name, value);
+    }
+    m_isExplained = true;
+}
+
 // The plug-in decodes a package at once; whatever else it does comes from the event loop.
 void PackageWatch::begin(const QByteArray &package)
 {

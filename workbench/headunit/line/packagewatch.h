@@ -30,6 +30,8 @@ public:
 
     void called(const QString &object, const QString &call, const QVariantList &args) override;
     void eventCalled(const QString &call, const OrbEvent &event) override;
+    /// A value that changed explains the package as well as a call does.
+    void valueTold(const QString &name, const QVariant &value) override;
 
 Q_SIGNALS:
     /// The plug-in calls the framework: "setAirVolume".

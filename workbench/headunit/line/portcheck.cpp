@@ -173,7 +173,7 @@ CheckResult BoxCheck::acknowledgement(const PortListener &listener, const CheckR
 {
     const qint64 repetitions = listener.best().repetitions();
     if (listener.best().packageCount() == 0) {
-        return {"answers", CheckResult::Warning, "not looked at: " + latency.finding, latency.advice};
+        return {"answers", CheckResult::Warning, "no package to answer; " + latency.finding, latency.advice};
     }
     if (repetitions > 0) {
         return {"answers", CheckResult::Warning,
