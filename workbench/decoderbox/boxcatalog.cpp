@@ -9,12 +9,31 @@
 #include "speakers/volkswagenspeaker.h"
 #include "speakers/xinhangspeaker.h"
 
+#include <memory>
+
 namespace {
 
 template <typename Speaker>
 BoxSpeaker *make(SimulatedCar *car)
 {
     return new Speaker(car);
+}
+
+const BoxCatalog::Row *findRow(int type)
+{
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        if (row.type == type) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+// A speaker for \a car, null where nobody knows what it would say.
+std::unique_ptr<BoxSpeaker> speakerOf(int type, SimulatedCar *car)
+{
+    const BoxCatalog::Row *row = findRow(type);
+    return std::unique_ptr<BoxSpeaker>(row && row->makeSpeaker ? row->makeSpeaker(car) : nullptr);
 }
 
 // A box of which only the handshake is known.
@@ -73,6 +92,35 @@ QString BoxCatalog::list()
         text += QString("\n%1  %2").arg(row.type, 4).arg(row.className);
     }
     return text;
+}
+
+QString BoxCatalog::className(int type)
+{
+    const Row *row = findRow(type);
+    return row ? QString(row->className) : QString();
+}
+
+const FrameFormat *BoxCatalog::frameOf(int type)
+{
+    SimulatedCar car;
+    const std::unique_ptr<BoxSpeaker> speaker = speakerOf(type, &car);
+    return speaker ? &speaker->format() : nullptr;
+}
+
+QSet<quint8> BoxCatalog::reportedBy(int type)
+{
+    SimulatedCar car;
+    const std::unique_ptr<BoxSpeaker> speaker = speakerOf(type, &car);
+    QSet<quint8> commands;
+    if (speaker) {
+        for (const BoxReport &report : speaker->reports()) {
+            commands << report.command;
+        }
+        for (const BoxKey &key : speaker->keys()) {
+            commands << key.command;
+        }
+    }
+    return commands;
 }
 
 DecoderBox *BoxCatalog::createBox(int type, QObject *parent, QString *error)

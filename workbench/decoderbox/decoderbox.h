@@ -76,6 +76,8 @@ public:
     void spoilNext(Fault fault, int size = 0);
     /// Says nothing at all for \a ms; what is to be sent waits.
     void holdTongue(int ms);
+    /// For how many ms it still does so; 0 when it speaks.
+    int silenceLeft() const { return qMax(0, m_tongueTimer.remainingTime()); }
 
 Q_SIGNALS:
     void unitCame();

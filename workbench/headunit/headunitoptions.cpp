@@ -25,6 +25,8 @@ struct Texts
     std::string clock;
     std::string trace;
     std::string script;
+    std::string record;
+    std::string saveBad;
     std::vector<std::string> tags;
     std::vector<std::string> products;
     std::vector<std::string> factory;
@@ -149,8 +151,14 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->check(clockComplaint);
     addPath(app, "--trace", &texts->trace, "FILE|-",
             "writes what the plug-in does as JSON lines; - is standard output");
+    app->add_flag("--trace-line", options->tracesLine,
+                  "the line's health in the trace, as rows of the object \"line\"");
     addPath(app, "--script", &texts->script, "FILE|-",
             "carries out commands, one a line; - is standard input");
+    addPath(app, "--record", &texts->record, "FILE|-",
+            "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--save-bad", &texts->saveBad, "FILE",
+            "writes the line's last minute to a log when the first bad package comes");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -193,6 +201,8 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->scenario = QString::fromStdString(texts.scenario);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
+    options->record = QString::fromStdString(texts.record);
+    options->saveBad = QString::fromStdString(texts.saveBad);
 }
 
 } // namespace

@@ -39,6 +39,9 @@ struct HeadUnitOptions
     QString scenario;        ///< of the decoder box; empty for none
     QString trace;           ///< file, "-" for standard output, empty for none
     QString script;          ///< file, "-" for standard input, empty for none
+    QString record;          ///< file for the line's log, "-" for standard output, empty for none
+    QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
+    bool tracesLine = false; ///< the line's health in the trace
     bool listsPorts = false; ///< and nothing else
     bool wantsHelp = false;
     QString version; ///< "headunit 1.0.0 (Qt 5.15.8)" when that was asked for, and nothing else

@@ -6,6 +6,8 @@
 #include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
+#include "linereporter.h"
+#include "linetrace.h"
 #include "quitonsignals.h"
 #include "scenarioplayer.h"
 #include "scriptrunner.h"
@@ -107,6 +109,10 @@ bool HeadUnitProgram::begin(QString *error)
         return false;
     }
     m_unit.reset(new HeadUnit);
+    if (!startRecorder(error)) {
+        return false;
+    }
+    watchLine();
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -168,6 +174,34 @@ void HeadUnitProgram::configureUnit()
         host->setSettingsDir(m_options.settingsDir);
     }
     sayWhyNoDecoder(m_options);
+}
+
+void HeadUnitProgram::watchLine()
+{
+    LineHealth *health = m_unit->lineHealth();
+    health->setType(int(m_options.canBusType()));
+    health->setPort(m_options.canBusType() == 0
+                        ? QString()
+                        : OrbApplication::instance()->getOrbProductValue("CANPortName").toString());
+    if (m_options.tracesLine) {
+        LineReporter *reporter = new LineReporter(health, m_box.get(), m_unit.get());
+        new LineTrace(reporter, m_writer.get(), reporter);
+    }
+}
+
+bool HeadUnitProgram::startRecorder(QString *error)
+{
+    LineRecorder *recorder = m_unit->lineRecorder();
+    recorder->setType(int(m_options.canBusType()));
+    recorder->saveAtBadPackage(m_options.saveBad);
+    connect(recorder, &LineRecorder::fileFailed, this,
+            [](const QString &problem) { std::fprintf(stderr, "headunit: %s\n", qPrintable(problem)); });
+    const bool isWanted = !m_options.record.isEmpty() || !m_options.saveBad.isEmpty();
+    if (isWanted && !SerialTap::isWired()) {
+        *error = "the serial library that this program was built with cannot be listened to";
+        return false;
+    }
+    return m_options.record.isEmpty() || recorder->startFile(m_options.record, error);
 }
 
 bool HeadUnitProgram::openBox(QString *error)

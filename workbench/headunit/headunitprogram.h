@@ -36,6 +36,8 @@ public:
 private:
     bool openTrace(QString *error);
     void configureUnit();
+    bool startRecorder(QString *error);
+    void watchLine();
     bool openBox(QString *error);
     bool openScenario(QString *error);
     bool hasAnEnd(QString *error) const;

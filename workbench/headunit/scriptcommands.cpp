@@ -76,6 +76,7 @@ const QVector<ScriptCommands::Row> &ScriptCommands::rows()
         {"row", "N [COLUMN]", 1, 2, 0, 0, &C::row},
         {"wait", "MS", 1, 1, 0, 0, &C::wait},
         {"screenshot", "FILE", 0, 0, 1, 1, &C::screenshot},
+        {"save", "FILE", 0, 0, 1, 1, &C::save},
         {"quit", "", 0, 0, 0, 0, &C::quit},
     };
     return table;
@@ -266,6 +267,11 @@ ScriptCommands::Outcome ScriptCommands::screenshot()
         return fail("the unit has no screen");
     }
     return screen->saveScreenshot(text(0), &m_error) ? Done : Failed;
+}
+
+ScriptCommands::Outcome ScriptCommands::save()
+{
+    return m_unit->lineRecorder()->save(text(0), &m_error) ? Done : Failed;
 }
 
 ScriptCommands::Outcome ScriptCommands::quit()

@@ -74,6 +74,7 @@ private:
     Outcome row();
     Outcome wait();
     Outcome screenshot();
+    Outcome save();
     Outcome quit();
 
     Outcome fail(const QString &error);

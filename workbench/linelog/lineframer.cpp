@@ -22,8 +22,10 @@ void LineFramer::feed(const QByteArray &bytes, qint64 microseconds)
     }
     m_stale = qMax(m_stale, late - m_front);
     m_rejected = qMax(m_rejected, m_stale);
-    m_marks.push_back({int(m_buffer.size()), microseconds});
-    m_buffer += bytes;
+    if (!bytes.isEmpty()) {
+        m_marks.push_back({int(m_buffer.size()), microseconds});
+        m_buffer += bytes;
+    }
 }
 
 bool LineFramer::next(LinePiece *piece)

@@ -34,7 +34,8 @@ public:
         : m_format(&format), m_patience(patience)
     {}
 
-    /// Takes \a bytes that came at \a microseconds, which is not before the last ones. What they make whole is fetched
+    /// Takes \a bytes that came at \a microseconds, which is not before the last ones; none, when only time has
+    /// passed. What they make whole is fetched
     /// with next().
     void feed(const QByteArray &bytes, qint64 microseconds);
     /// The next piece; false when there is none before more bytes come.

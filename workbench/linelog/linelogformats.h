@@ -24,11 +24,12 @@ enum Format {
 
 /// The format that the ending of \a path names, None for another.
 Format fromEnding(const QString &path);
+/// All endings that name a format: ".orblog".
+QStringList endings();
 
 struct ReadOptions
 {
-    const FrameFormat *frame =
-        nullptr; ///< how packages look, for logs that hold no whole frames; null: as header or Raise
+    const FrameFormat *frame = &FrameFormat::raise(); ///< of packages, for formats that hold no whole frames
     QString
         pattern; ///< regular expression of a line, with the named groups time, dir and hex; empty for none
 };

@@ -7,19 +7,32 @@ const int LongestText = 4096; // characters of a state
 // What a state says stands in one line of a log, of a table, of a terminal.
 void flatten(QString *text)
 {
-    text->truncate(LongestText);
     for (QChar &character : *text) {
         if (character.category() == QChar::Other_Control) {
             character = ' ';
         }
     }
-    *text = text->trimmed();
+    text->truncate(LongestText);
+    if (!text->isEmpty() && text->at(text->size() - 1).isHighSurrogate()) {
+        text->chop(1);
+    }
+    *text = text->simplified();
 }
 
 } // namespace
 
+void LineLogReader::prepare()
+{
+    m_hasFirst = next(&m_first);
+}
+
 bool LineLogReader::next(LineRecord *record)
 {
+    if (m_hasFirst) {
+        m_hasFirst = false;
+        *record = m_first;
+        return true;
+    }
     LineRecord found;
     if (!read(&found)) {
         return false;

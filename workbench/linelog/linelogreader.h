@@ -20,7 +20,10 @@ public:
     /// The next record; false at the end, where \a record is unchanged. \a record may not be null.
     bool next(LineRecord *record);
 
-    /// What the log says about the line. It is whole with the first record; a log may end before.
+    /// Reads up to the first record, which next() gives then, so that header() is whole.
+    void prepare();
+
+    /// What the log says about the line. It is whole once prepare() or next() was called.
     const LineLogHeader &header() const { return m_header; }
 
     /// What was left out or changed so far, with the numbers of the lines.
@@ -57,6 +60,8 @@ protected:
 
 private:
     std::unique_ptr<QIODevice> m_device;
+    LineRecord m_first;
+    bool m_hasFirst = false;
     qint64 m_last = 0; // time of the last record, in microseconds
 };
 

@@ -1,5 +1,6 @@
 #include "linehealth.h"
 
+#include "boxcatalog.h"
 #include "portholder.h"
 
 #include <cerrno>
@@ -12,7 +13,6 @@ const qint64 Second = 1000000;
 const qint64 StrangeFor = 300000;        // a first byte may be the end of something
 const qint64 RepetitionFor = 3 * Second; // how long a repetition is worth a word
 const int FewStrangeBytes = 8;           // less is a disturbance
-const int XinHangType = 4;
 
 LineStatus::State stateOfError(int systemError)
 {
@@ -35,15 +35,18 @@ LineStatus::State stateOfError(int systemError)
 
 } // namespace
 
-const FrameFormat &LineHealth::formatOf(int type)
-{
-    return type == XinHangType ? FrameFormat::xinHang() : FrameFormat::raise();
-}
-
-LineHealth::LineHealth(const FrameFormat &format) : m_fromBox(format), m_fromUnit(format)
+LineHealth::LineHealth() : m_fromBox(FrameFormat::raise()), m_fromUnit(FrameFormat::raise())
 {
     m_status.state = SerialTap::isWired() ? LineStatus::NotOpened : LineStatus::NotWatched;
     SerialTap::add(this);
+}
+
+void LineHealth::setType(int type)
+{
+    if (const FrameFormat *format = BoxCatalog::frameOf(type)) {
+        m_fromBox = LineFramer(*format);
+        m_fromUnit = LineFramer(*format);
+    }
 }
 
 bool LineHealth::sayHello()

@@ -20,12 +20,12 @@ public:
         Hushed   ///< for a while
     };
 
-    /// \a format: how packages of the unit's box look.
-    explicit LineHealth(const FrameFormat &format);
+    /// Listens from now on; one that is there before the plug-in is loaded hears the line being opened.
+    LineHealth();
 
-    /// The format of the packages of CAN-bus type \a type.
-    static const FrameFormat &formatOf(int type);
-
+    /// The unit's decoder is of CAN-bus type \a type, which says how packages look. Without a type, or with one whose
+    /// packages nobody knows, the most common ones are looked for. To be set before anything is heard.
+    void setType(int type);
     /// The line that the unit will open, until it does; empty for none.
     void setPort(const QString &port) { m_port = port; }
     /// What a virtual box was told: nobody can hear that from the line.
