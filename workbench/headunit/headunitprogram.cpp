@@ -3,6 +3,7 @@
 #include "boxcatalog.h"
 #include "boxpage.h"
 #include "decoderbox.h"
+#include "deskmemory.h"
 #include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
@@ -86,6 +87,9 @@ HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent
 
 HeadUnitProgram::~HeadUnitProgram()
 {
+    if (const DeskWindow *desk = qobject_cast<DeskWindow *>(m_window.get())) {
+        DeskMemory().store(desk, int(m_options.canBusType()));
+    }
     // The window shows the unit, and the plug-in's windows lie in it.
     m_script.reset();
     if (m_unit) {
@@ -277,7 +281,9 @@ void HeadUnitProgram::openScreen()
         m_window.reset(new UnitScreen(m_options.screenSize));
         m_window->setUpdatesEnabled(false); // nobody looks; a screenshot paints all the same
     } else {
-        m_window.reset(new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize));
+        DeskWindow *desk = new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize);
+        m_window.reset(desk);
+        DeskMemory().restore(desk);
     }
     m_window->show();
 }

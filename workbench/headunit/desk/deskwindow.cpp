@@ -2,6 +2,7 @@
 
 #include "boxcatalog.h"
 #include "climatewatch.h"
+#include "deskstyle.h"
 #include "headunit.h"
 #include "keystrip.h"
 #include "linepage.h"
@@ -17,7 +18,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QEvent>
-#include <QFile>
 #include <QGridLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -41,24 +41,13 @@ QString carOf(int type)
 
 } // namespace
 
-// Resources of a static library are there only once someone asks for them, outside any namespace.
-static void loadResources()
-{
-    Q_INIT_RESOURCE(desk);
-    Q_INIT_RESOURCE(headunit_i18n);
-}
-
 DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize, QWidget *parent)
     : QWidget(parent), m_unit(unit)
 {
-    loadResources();
-    OrbHost::instance()->addTranslationDir(QStringLiteral(":/i18n"));
+    DeskStyle::load();
     setObjectName(QStringLiteral("deskWindow"));
     setAttribute(Qt::WA_StyledBackground);
-    QFile style(QStringLiteral(":/desk/desk.qss"));
-    if (style.open(QIODevice::ReadOnly)) {
-        setStyleSheet(QString::fromUtf8(style.readAll()));
-    }
+    setStyleSheet(DeskStyle::sheet());
 
     m_screen = new UnitScreen(screenSize);
     m_screen->setStyleSheet(styleSheet()); // it is a window of its own

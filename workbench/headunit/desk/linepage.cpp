@@ -99,6 +99,7 @@ void LinePage::addLogCard()
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setMinimumSectionSize(RowHeight);
     m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -127,8 +128,8 @@ void LinePage::addLogCard()
     copy->setContext(Qt::WidgetShortcut);
     connect(copy, &QShortcut::activated, this, &LinePage::copyRows);
     m_logCard->rows()->addWidget(m_filter);
-    m_logCard->rows()->addWidget(m_table, 1);
     m_logCard->rows()->addLayout(pair(m_pause, m_copy));
+    m_logCard->rows()->addWidget(m_table, 1);
 }
 
 // The chosen rows, or all that are in sight of the filter.
