@@ -26,9 +26,11 @@ SimulatedUnit::~SimulatedUnit()
 void SimulatedUnit::write(const QByteArray &bytes)
 {
     int written = 0;
-    for (int tries = 0; written < bytes.size(); ++tries) {
+    int tries = 0; // without a byte that the line took
+    while (written < bytes.size()) {
         const ssize_t count = ::write(m_device, bytes.constData() + written, size_t(bytes.size() - written));
         written += int(qMax(ssize_t(0), count));
+        tries = count > 0 ? 0 : tries + 1;
         if (tries > 1000) {
             qFatal("the box does not read");
         }
@@ -58,6 +60,7 @@ void SimulatedUnit::read()
     char bytes[4096];
     const ssize_t count = ::read(m_device, bytes, sizeof bytes);
     if (count <= 0) {
+        m_notifier->setEnabled(false); // hung up: it would be readable for ever
         return;
     }
     m_buffer.append(bytes, int(count));
@@ -85,10 +88,13 @@ void SimulatedUnit::read()
     }
 }
 
-std::unique_ptr<DecoderBox> openBox(int type)
+std::unique_ptr<DecoderBox> openBox(int type, bool isPaced)
 {
     QString error;
     std::unique_ptr<DecoderBox> box = makeBox(type);
+    if (!isPaced) {
+        box->setUnpaced();
+    }
     if (!box->open(QString(), &error)) {
         qFatal("%s", qPrintable(error));
     }

@@ -59,6 +59,9 @@ public:
     /// Whether the unit acknowledges each package with 0xFF and expects the same.
     virtual bool usesAcknowledgement() const = 0;
 
+    /// Bits a second on its line, ten a byte.
+    virtual int baudRate() const = 0;
+
     const QVector<BoxReport> &reports() const { return m_reports; }
     /// The package of reports()[\a index] for the car as it is now.
     BoxPackage reportPackage(int index) const;

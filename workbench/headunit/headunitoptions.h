@@ -36,9 +36,14 @@ struct HeadUnitOptions
     bool isHeadless = false;
     QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
-    QString scenario;        ///< of the decoder box; empty for none
-    QString trace;           ///< file, "-" for standard output, empty for none
-    QString script;          ///< file, "-" for standard input, empty for none
+    QString scenario;       ///< of the decoder box; empty for none
+    QString trace;          ///< file, "-" for standard output, empty for none
+    QString script;         ///< file, "-" for standard input, empty for none
+    bool isStrict = false;  ///< the script's first error ends the run
+    QString junit;          ///< file for what became of the script's lines; empty for none
+    bool isUnpaced = false; ///< bytes take no time on the box's line
+    quint32 seed = 0;       ///< of the chances on the box's line; counts when hasSeed
+    bool hasSeed = false;
     QString record;          ///< file for the line's log, "-" for standard output, empty for none
     QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
     bool tracesLine = false; ///< the line's health in the trace

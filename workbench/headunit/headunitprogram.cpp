@@ -2,6 +2,7 @@
 
 #include "boxcatalog.h"
 #include "boxpage.h"
+#include "callwatch.h"
 #include "decoderbox.h"
 #include "deskmemory.h"
 #include "deskwindow.h"
@@ -96,7 +97,11 @@ HeadUnitProgram::~HeadUnitProgram()
         m_unit->unloadPlugin();
     }
     m_window.reset();
+    m_watch.reset();
     OrbTrace::setListener(nullptr);
+    if (m_report.isOpen() && !m_report.write(m_options.script)) {
+        std::fprintf(stderr, "headunit: %s could not be written\n", qPrintable(m_options.junit));
+    }
 }
 
 bool HeadUnitProgram::begin(QString *error)
@@ -152,6 +157,9 @@ bool HeadUnitProgram::openTrace(QString *error)
     m_writer.reset(new TraceWriter(m_output.get()));
     if (isTraced) {
         OrbTrace::setListener(m_writer.get());
+    }
+    if (!m_options.script.isEmpty()) {
+        m_watch.reset(new CallWatch(OrbTrace::listener));
     }
     return true;
 }
@@ -214,10 +222,21 @@ bool HeadUnitProgram::openBox(QString *error)
         return true;
     }
     m_box.reset(BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error));
-    if (!m_box || !m_box->open(QString(), error)) {
+    if (!m_box) {
         return false;
     }
-    OrbHost::instance()->setProductValue("CANPortName", m_box->portPath());
+    if (m_options.isUnpaced) {
+        m_box->setUnpaced();
+    }
+    if (m_options.hasSeed) {
+        m_box->faults()->setSeed(m_options.seed);
+    }
+    m_lineFolder.reset(new QTemporaryDir);
+    const QString link = m_lineFolder->filePath("box");
+    if (!m_box->open(link, error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", link);
     return m_options.scenario.isEmpty() || openScenario(error);
 }
 
@@ -291,7 +310,8 @@ void HeadUnitProgram::openScreen()
 bool HeadUnitProgram::openScript(QString *error)
 {
     return m_options.script.isEmpty() ||
-           open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error);
+           (open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error) &&
+            (m_options.junit.isEmpty() || m_report.open(m_options.junit, error)));
 }
 
 void HeadUnitProgram::startScript()
@@ -299,6 +319,16 @@ void HeadUnitProgram::startScript()
     if (!m_scriptFile.isOpen()) {
         return;
     }
-    m_script.reset(new ScriptRunner(m_scriptFile.handle(), m_unit.get(), m_writer.get()));
+    const ScriptRunner::Surroundings surroundings = {m_unit.get(), m_box.get(), m_watch.get(), m_writer.get(),
+                                                     m_report.isOpen() ? &m_report : nullptr};
+    m_script.reset(new ScriptRunner(m_scriptFile.handle(), surroundings, m_options.isStrict));
     connect(m_script.get(), &ScriptRunner::finished, qApp, &QCoreApplication::quit);
+    connect(m_script.get(), &ScriptRunner::failed, this, &HeadUnitProgram::failStrictly);
+}
+
+void HeadUnitProgram::failStrictly(int line, const QString &command, const QString &reason)
+{
+    std::fprintf(stderr, "headunit: %s:%d: %s: %s\n", qPrintable(m_options.script), line, qPrintable(command),
+                 qPrintable(reason));
+    QCoreApplication::exit(1);
 }

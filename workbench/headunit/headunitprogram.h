@@ -3,11 +3,15 @@
 
 #include "headunitoptions.h"
 
+#include "junitreport.h"
+
 #include <QFile>
 #include <QObject>
+#include <QTemporaryDir>
 
 #include <memory>
 
+class CallWatch;
 class DecoderBox;
 class HeadUnit;
 class LineOutput;
@@ -46,17 +50,21 @@ private:
     void openScreen();
     bool openScript(QString *error);
     void startScript();
+    void failStrictly(int line, const QString &command, const QString &reason);
 
     HeadUnitOptions m_options;
     QFile m_traceFile;
     QFile m_scriptFile;
     std::unique_ptr<LineOutput> m_output;
     std::unique_ptr<TraceWriter> m_writer;
+    std::unique_ptr<QTemporaryDir> m_lineFolder; // of the link that stays when the box's line comes back
     std::unique_ptr<DecoderBox> m_box;
+    JUnitReport m_report;
     ScenarioPlayer *m_player = nullptr;
     bool m_hasPlayed = false;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<HeadUnit> m_unit;
+    std::unique_ptr<CallWatch> m_watch;
     std::unique_ptr<ScriptRunner> m_script;
 };
 

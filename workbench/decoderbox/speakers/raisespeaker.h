@@ -14,6 +14,7 @@ public:
     explicit RaiseSpeaker(SimulatedCar *car, quint8 versionCommand = 0x30, QObject *parent = nullptr);
 
     bool usesAcknowledgement() const override { return true; }
+    int baudRate() const override { return 38400; }
 
 protected:
     /// A key row: pressed, held and released go out as data (code, state).

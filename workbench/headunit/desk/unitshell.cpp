@@ -10,6 +10,7 @@
 #include "orbevent.h"
 #include "orbhost.h"
 #include "orbmainwindow.h"
+#include "orbtrace.h"
 #include "statusbar.h"
 #include "unitscreen.h"
 
@@ -94,6 +95,10 @@ void UnitShell::connectFramework()
 
 void UnitShell::useKey(int code, int phase)
 {
+    static const char *const phases[] = {"release", "press", "repeat"}; // as HeadUnit::KeyPhase
+    if (OrbTrace::listener) {
+        OrbTrace::listener->called("desk", "key", {code, phases[phase]});
+    }
     if (!m_unit->key(uint(code), HeadUnit::KeyPhase(phase))) {
         m_controls.key(code, phase != HeadUnit::KeyReleased, phase == HeadUnit::KeyRepeated);
     }

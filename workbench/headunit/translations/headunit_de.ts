@@ -15,7 +15,7 @@
         <translation>Tasten am Lenkrad</translation>
     </message>
     <message>
-        <source>Keys on the car's panel</source>
+        <source>Keys on the car&apos;s panel</source>
         <translation>Tasten am Bedienfeld des Autos</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@
         <translation>Szenarien (*.scn)</translation>
     </message>
     <message>
-        <source>Waits for the unit's ready</source>
+        <source>Waits for the unit&apos;s ready</source>
         <translation>Wartet auf die Bereitmeldung des Geräts</translation>
     </message>
     <message>
@@ -112,6 +112,54 @@
     <message>
         <source>Line log</source>
         <translation>Leitungsprotokoll</translation>
+    </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>Bit kippen</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>Byte verlieren</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>Byte verdoppeln</translation>
+    </message>
+    <message>
+        <source>Lie about a length</source>
+        <translation>Falsche Länge</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>Stocken, 300 ms</translation>
+    </message>
+    <message>
+        <source>Garbage before a package</source>
+        <translation>Müll vor einem Paket</translation>
+    </message>
+    <message>
+        <source>Late acknowledgement</source>
+        <translation>Späte Bestätigung</translation>
+    </message>
+    <message>
+        <source>Cut the update at packet 10</source>
+        <translation>Update bei Paket 10 kappen</translation>
+    </message>
+    <message>
+        <source>Pull the line out</source>
+        <translation>Leitung ziehen</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <translation>Wieder stecken</translation>
+    </message>
+    <message>
+        <source>A bad line</source>
+        <translation>Schlechte Leitung</translation>
+    </message>
+    <message>
+        <source>A good line</source>
+        <translation>Gute Leitung</translation>
     </message>
 </context>
 <context>
