@@ -28,6 +28,8 @@ LineStatus::State stateOfError(int systemError)
         return LineStatus::InUse;
     case ENOTTY:
         return LineStatus::NoTerminal;
+    case EIO: // a pseudo-terminal without its far end
+        return LineStatus::Lost;
     default:
         return LineStatus::CannotOpen;
     }

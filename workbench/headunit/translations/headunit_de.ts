@@ -134,16 +134,16 @@
         <translation>Stocken, 300 ms</translation>
     </message>
     <message>
-        <source>Garbage before a package</source>
-        <translation>Müll vor einem Paket</translation>
+        <source>Garbage</source>
+        <translation>Datenmüll</translation>
     </message>
     <message>
         <source>Late acknowledgement</source>
         <translation>Späte Bestätigung</translation>
     </message>
     <message>
-        <source>Cut the update at packet 10</source>
-        <translation>Update bei Paket 10 kappen</translation>
+        <source>Cut update at 10</source>
+        <translation>Update bei 10 kappen</translation>
     </message>
     <message>
         <source>Pull the line out</source>

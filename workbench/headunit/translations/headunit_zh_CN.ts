@@ -134,7 +134,7 @@
         <translation>停顿 300 毫秒</translation>
     </message>
     <message>
-        <source>Garbage before a package</source>
+        <source>Garbage</source>
         <translation>数据包前加乱码</translation>
     </message>
     <message>
@@ -142,8 +142,8 @@
         <translation>延迟应答</translation>
     </message>
     <message>
-        <source>Cut the update at packet 10</source>
-        <translation>升级到第 10 包时断线</translation>
+        <source>Cut update at 10</source>
+        <translation>第10包时断开升级</translation>
     </message>
     <message>
         <source>Pull the line out</source>
