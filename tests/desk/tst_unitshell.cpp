@@ -272,7 +272,7 @@ void TestUnitShell::nothingIsClipped()
             for (int page = 0; page < panel->pageCount(); ++page) {
                 panel->showPage(page);
                 QCoreApplication::processEvents();
-                QCOMPARE(clippedTexts().join(", "), QString());
+                QTRY_COMPARE(clippedTexts().join(", "), QString()); // a wider text widens the window first
             }
             QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");
             QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
