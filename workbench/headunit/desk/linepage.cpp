@@ -109,13 +109,12 @@ void LinePage::addLogCard()
     m_table->setMinimumHeight(LeastTableHeight);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     // It shows the newest, unless somebody has scrolled away from there.
-    connect(m_filtered, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
-        const QScrollBar *bar = m_table->verticalScrollBar();
-        m_table->setProperty("followsNewest", bar->value() >= bar->maximum() - RowHeight);
-    });
-    connect(m_filtered, &QAbstractItemModel::rowsInserted, this, [this] {
-        if (m_table->property("followsNewest").toBool()) {
-            m_table->scrollToBottom();
+    QScrollBar *bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar] { m_followsNewest = bar->value() >= bar->maximum() - RowHeight; });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (m_followsNewest) {
+            bar->setValue(bar->maximum());
         }
     });
 

@@ -53,6 +53,7 @@ private:
     PanelCard *m_logCard;
     QLineEdit *m_filter;
     QTableView *m_table;
+    bool m_followsNewest = true;
     QPushButton *m_pause;
     QPushButton *m_copy;
 };
