@@ -174,7 +174,7 @@
     <name>CarPage</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished">Links</translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Mid left</source>
@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished">Rechts</translation>
+        <translation>Rechts</translation>
     </message>
 </context>
 <context>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished">Starten</translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>Line log</source>
-        <translation type="unfinished">Leitungsprotokoll</translation>
+        <translation>Leitungsprotokoll</translation>
     </message>
     <message>
         <source>Bytes to look for: 2e 21</source>
@@ -548,7 +548,7 @@
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished">Radio</translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Music</source>
@@ -556,7 +556,7 @@
     </message>
     <message>
         <source>Bluetooth</source>
-        <translation type="unfinished">Bluetooth</translation>
+        <translation>Bluetooth</translation>
     </message>
     <message>
         <source>another one</source>

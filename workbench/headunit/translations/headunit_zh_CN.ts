@@ -174,7 +174,7 @@
     <name>CarPage</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished">左</translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Mid left</source>
@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished">右</translation>
+        <translation>右</translation>
     </message>
 </context>
 <context>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished">启动</translation>
+        <translation>启动</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>Line log</source>
-        <translation type="unfinished">线路日志</translation>
+        <translation>线路日志</translation>
     </message>
     <message>
         <source>Bytes to look for: 2e 21</source>
@@ -548,7 +548,7 @@
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished">收音机</translation>
+        <translation>收音机</translation>
     </message>
     <message>
         <source>Music</source>
@@ -556,7 +556,7 @@
     </message>
     <message>
         <source>Bluetooth</source>
-        <translation type="unfinished">蓝牙</translation>
+        <translation>蓝牙</translation>
     </message>
     <message>
         <source>another one</source>
