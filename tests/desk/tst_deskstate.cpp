@@ -18,16 +18,21 @@ private Q_SLOTS:
 
 namespace {
 
-/// "5 01020304 05060000 -12 RTL": open doors, front, rear, steering, radar, track, lights.
+/// "5 01020304 05060000 -12 RTL": open doors, front, rear, steering, radar, track, lights; "?" for what was not
+/// reported.
 QString described(const CarState &state)
 {
-    const auto levels = [](const quint8(&side)[CarState::Sensors]) {
-        return QByteArray(reinterpret_cast<const char *>(side), CarState::Sensors).toHex().toStdString();
+    const auto levels = [](bool isKnown, const quint8(&side)[CarState::Sensors]) {
+        const QByteArray bytes(reinterpret_cast<const char *>(side), CarState::Sensors);
+        return isKnown ? bytes.toHex().toStdString() : "?";
     };
-    const QByteArray angle = state.steering ? QByteArray::number(*state.steering) : "?";
-    return QString::asprintf("%d %s %s %s %s%s%s", state.doors, levels(state.front).c_str(),
-                             levels(state.rear).c_str(), angle.constData(), state.isRadarOn ? "R" : "",
-                             state.isTrackOn ? "T" : "", state.areLightsOn ? "L" : "");
+    const auto number = [](const std::optional<int> &value) {
+        return value ? std::to_string(*value) : std::string("?");
+    };
+    return QString::asprintf(
+        "%s %s %s %s %s%s%s", number(state.doors).c_str(), levels(state.hasFront, state.front).c_str(),
+        levels(state.hasRear, state.rear).c_str(), number(state.steering).c_str(), state.isRadarOn ? "R" : "",
+        state.isTrackOn ? "T" : "", state.areLightsOn ? "L" : "");
 }
 
 } // namespace
@@ -39,12 +44,13 @@ void TestDeskState::reports()
         uint what;
         QVariant value; // bytes in hexadecimal, param2, or an angle
         const char *expected;
-    } rows[] = {{0x5018, "0102", "0 01020000 00000000 ? RT"},
-                {0x5018, "0102030405060001", "0 01020304 05060001 ? RT"},
-                {0x501A, "", "0 01020304 00000000 ? RT"},
-                {0x5019, "0101010105", "0 01010101 00000000 ? RT"},
-                {0x5019, "07ff0080", "0 07ff0080 00000000 ? RT"}, // past the scale, and told so
-                {0x501C, -391, "0 07ff0080 00000000 -391 RT"},    // the same
+    } rows[] = {{0x501A, "0102", "? ? 01020000 ? RT"},
+                {0x5018, "0102", "? 01020000 00000000 ? RT"},
+                {0x5018, "0102030405060001", "? 01020304 05060001 ? RT"},
+                {0x501A, "", "? 01020304 00000000 ? RT"},
+                {0x5019, "0101010105", "? 01010101 00000000 ? RT"},
+                {0x5019, "07ff0080", "? 07ff0080 00000000 ? RT"}, // past the scale, and told so
+                {0x501C, -391, "? 07ff0080 00000000 -391 RT"},    // the same
                 {0x501B, 0xF6u, "6 07ff0080 00000000 -391 RT"},
                 {0x5004, 8u, "6 07ff0080 00000000 -391 RTL"},
                 {0x501D, 0u, "6 07ff0080 00000000 -391 TL"},

@@ -108,7 +108,8 @@ int TestUnitShell::tileOf(const QString &title) const
 QStringList TestUnitShell::clippedTexts() const
 {
     QStringList result;
-    for (const QAbstractButton *button : m_desk->findChildren<QAbstractButton *>()) {
+    for (const QAbstractButton *button :
+         m_desk->findChildren<QAbstractButton *>() + m_desk->screen()->findChildren<QAbstractButton *>()) {
         const bool isTile = qobject_cast<const AppTile *>(button); // shortens its title itself
         const int needed = isTile ? 0 : button->fontMetrics().size(0, button->text()).width();
         const int seen = button->visibleRegion().boundingRect().width();
@@ -294,12 +295,12 @@ void TestUnitShell::nothingIsClipped()
             for (int page = 0; page < panel->pageCount(); ++page) {
                 panel->showPage(page);
                 QCoreApplication::processEvents();
-                QCOMPARE(clippedTexts().join(", "), QString());
+                QTRY_COMPARE(clippedTexts().join(", "), QString()); // a wider text widens the window first
             }
             QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");
             QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
         }
-        QVERIFY(m_desk->minimumSizeHint().width() <= 1440 && m_desk->minimumSizeHint().height() <= 860);
+        QVERIFY(m_desk->minimumSizeHint().width() <= 1358 && m_desk->minimumSizeHint().height() <= 724);
         cleanup(); // before its box goes
     }
 }

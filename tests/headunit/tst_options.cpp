@@ -14,7 +14,10 @@ private Q_SLOTS:
     void settings();
     void boxMayLackItsScenario_data();
     void boxMayLackItsScenario();
+    void typeByName_data();
+    void typeByName();
     void commandLine();
+    void noDisplay_data();
     void noDisplay();
     void goesOnWithoutALink_data();
     void goesOnWithoutALink();
@@ -72,6 +75,25 @@ void TestOptions::boxMayLackItsScenario()
     QCOMPARE(options.canBusType(), 9u);
 }
 
+void TestOptions::typeByName_data()
+{
+    QTest::addColumn<uint>("type");
+    for (const char *name : {"toyota", "Raise_TOYOTA", "canbus_raise_toyota", "0x9"}) {
+        QTest::newRow(name) << 9u;
+    }
+    QTest::newRow("zd") << 2u;
+    QTest::newRow("XinHang") << 4u;
+}
+
+void TestOptions::typeByName()
+{
+    HeadUnitOptions options;
+    QString error;
+    QVERIFY2(options.parse({"headunit", "--can-bus-type", QTest::currentDataTag()}, &error),
+             qPrintable(error));
+    QTEST(options.canBusType(), "type");
+}
+
 void TestOptions::commandLine()
 {
     const QMap<QString, QString> files = {{"CMAKE_LIST", CMAKE_LIST},
@@ -106,17 +128,29 @@ void TestOptions::commandLine()
     COMPARE_WITH_TRANSCRIPT("commandline.txt", act);
 }
 
+void TestOptions::noDisplay_data()
+{
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<QString>("sentence");
+    QTest::newRow("none") << QString() << "no display; use --headless";
+    QTest::newRow("that nobody serves") << ":9999"
+                                        << "the display ':9999' cannot be opened; use --headless";
+}
+
 void TestOptions::noDisplay()
 {
+    QFETCH(QString, display);
+    QFETCH(QString, sentence);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         environment.remove(name);
     }
+    environment.insert("DISPLAY", display);
     HeadUnitRun run;
     run.process().setProcessEnvironment(environment);
     QVERIFY(run.start({}));
     QCOMPARE(run.finish(), 1);
-    QCOMPARE(run.errors(), QString("headunit: no display; use --headless\n"));
+    QCOMPARE(run.errors(), "headunit: " + sentence + "\n");
 }
 
 void TestOptions::goesOnWithoutALink_data()

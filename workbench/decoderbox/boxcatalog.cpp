@@ -73,15 +73,30 @@ const QVector<BoxCatalog::Row> &BoxCatalog::rows()
 
 int BoxCatalog::typeFromText(const QString &text)
 {
+    const auto names = [&text](const Row &row) {
+        const QString name = row.className;
+        return text.compare(row.car, Qt::CaseInsensitive) == 0 ||
+               text.compare(name, Qt::CaseInsensitive) == 0 ||
+               (!text.isEmpty() && name.endsWith('_' + text, Qt::CaseInsensitive));
+    };
     const bool isHexadecimal = text.startsWith("0x", Qt::CaseInsensitive);
     bool isNumber = false;
     const int number = text.mid(isHexadecimal ? 2 : 0).toInt(&isNumber, isHexadecimal ? 16 : 10);
     for (const Row &row : rows()) {
-        if (isNumber ? row.type == number : text == QLatin1String(row.className)) {
+        if (isNumber ? row.type == number : names(row)) {
             return row.type;
         }
     }
     return 0;
+}
+
+QString BoxCatalog::list()
+{
+    QString text;
+    for (const Row &row : rows()) {
+        text += QString("\n%1  %2").arg(row.type, 4).arg(row.className);
+    }
+    return text;
 }
 
 QString BoxCatalog::className(int type)

@@ -26,9 +26,12 @@ public:
     /// All types, in order of their numbers.
     static const QVector<Row> &rows();
 
-    /// The type that \a text names, by number (decimal or 0x-hexadecimal) or by class name; 0 for none.
+    /// The type that \a text names: by number (decimal or 0x-hexadecimal), by the car's word, or by class name,
+    /// whole or without what stands before any of its underscores, in any case; 0 for none.
     static int typeFromText(const QString &text);
 
+    /// Every type's number and class, each on a line of its own that begins with the line break.
+    static QString list();
     /// The class name of \a type; empty for one that does not exist.
     static QString className(int type);
 

@@ -74,6 +74,8 @@ public:
     LineFaults *faults() { return &m_faults; }
     /// Says nothing at all for \a ms; what is to be sent waits.
     void holdTongue(int ms);
+    /// For how many ms it still does so; 0 when it speaks.
+    int silenceLeft() const { return qMax(0, m_tongueTimer.remainingTime()); }
 
     /// See PseudoTerminal::canUnplug().
     bool canUnplug() const { return m_terminal.canUnplug(); }

@@ -11,6 +11,8 @@ namespace {
 // When the virtual clock starts unless it is told: drives with a clock in them look the same every day.
 const char *const StandardStart = "2026-01-01T12:00:00";
 
+const quint32 KeySets = 2; // 0 is a unit without one
+
 // What the command line holds, as text.
 struct Texts
 {
@@ -68,14 +70,17 @@ bool readType(const std::string &text, quint32 *number)
 std::string typeComplaint(const std::string &text)
 {
     quint32 number = 0;
-    return readType(text, &number) ? std::string() : "takes a number or a class name, not '" + text + "'";
+    return readType(text, &number) ? std::string()
+                                   : "takes the number or the name of a type, not '" + text +
+                                         "'; the types are" + BoxCatalog::list().toStdString();
 }
 
-std::string numberComplaint(const std::string &text)
+std::string keySetComplaint(const std::string &text)
 {
     quint32 number = 0;
-    return NumberText::read(QString::fromStdString(text), &number) ? std::string()
-                                                                   : "takes a number, not '" + text + "'";
+    return NumberText::read(QString::fromStdString(text), &number) && number <= KeySets
+               ? std::string()
+               : "takes the number of a key set, 1 or 2, not '" + text + "'";
 }
 
 // The library gives an option the next word, whatever it is.
@@ -115,12 +120,13 @@ CLI::Option *addPath(CLI::App *app, const char *name, std::string *text, const c
 void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
 {
     app->add_option("--can-bus-type", texts->type,
-                    "the decoder box that is fitted: number or class name; decoderbox --list has them")
+                    "the decoder box that is fitted: number, class or short name (toyota); decoderbox --list "
+                    "has them")
         ->type_name("N|CLASS")
         ->check(typeComplaint);
     app->add_option("--key-redef", texts->keyRedef, "the unit's own key set: 1 or 2")
         ->type_name("N")
-        ->check(numberComplaint);
+        ->check(keySetComplaint);
     CLI::Option *const port =
         addPath(app, "--port", &texts->port, "PATH", "the serial device of a decoder box");
     app->add_option("--decoder-box", texts->scenario, "a virtual box instead; it drives the scenario")
@@ -151,6 +157,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
             "writes what the plug-in does as JSON lines; - is standard output");
     app->add_flag("--trace-values", options->tracesValues,
                   "the trace has the values besides that the car tells and no display takes");
+    app->add_flag("--trace-line", options->tracesLine,
+                  "the line's health in the trace, as rows of the object \"line\"");
     CLI::Option *const script = addPath(app, "--script", &texts->script, "FILE|-",
                                         "carries out commands, one a line; - is standard input");
     app->add_flag("--strict", options->isStrict,
@@ -220,6 +228,9 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
         command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    app.set_version_flag("--version",
+                         QString("headunit %1 (Qt %2)").arg(CANBUS_VERSION, qVersion()).toStdString(),
+                         "prints the version");
     Texts texts;
     if (command) {
         command->addOptions(&app);
@@ -236,6 +247,9 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
         app.parse(words);
     } catch (const CLI::CallForHelp &) {
         wantsHelp = true;
+        return true;
+    } catch (const CLI::CallForVersion &asked) {
+        version = QString::fromLatin1(asked.what());
         return true;
     } catch (const CLI::ParseError &problem) {
         *error = QString::fromStdString(problem.what());

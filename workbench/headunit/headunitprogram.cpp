@@ -4,9 +4,12 @@
 #include "boxpage.h"
 #include "callwatch.h"
 #include "decoderbox.h"
+#include "deskmemory.h"
 #include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
+#include "linereporter.h"
+#include "linetrace.h"
 #include "quitonsignals.h"
 #include "replayrun.h"
 #include "scenarioplayer.h"
@@ -20,6 +23,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <cstdio>
 
@@ -41,19 +45,39 @@ bool open(QFile *file, const QString &path, QFile::OpenMode mode, int standard, 
     return ok;
 }
 
+// Writes nothing that stays: the folder is made when there is something to keep.
+bool canKeepSettings(const QString &path, QString *error)
+{
+    QFileInfo folder(QDir(path).absolutePath());
+    while (!folder.exists() && !folder.isSymLink() && !folder.isRoot()) {
+        folder.setFile(folder.absolutePath());
+    }
+    QTemporaryFile probe(folder.absoluteFilePath() + "/.headunit-XXXXXX");
+    const bool ok = folder.isDir() && probe.open();
+    if (!ok) {
+        *error = QString("settings cannot be kept in %1: %2")
+                     .arg(path,
+                          folder.isDir() ? probe.errorString() : folder.absoluteFilePath() + " is no folder");
+    }
+    return ok;
+}
+
 // The plug-in goes on in silence.
 void sayWhyNoDecoder(const HeadUnitOptions &options)
 {
     const uint lastType = uint(BoxCatalog::rows().last().type);
     const QVariant port = options.productValues.value("CANPortName");
     QString reason;
+    QString list;
     if (options.canBusType() > lastType) {
+        list = "; the types are" + BoxCatalog::list();
         reason = QString("CAN-bus type %1 is none of 1 to %2").arg(options.canBusType()).arg(lastType);
     } else if (port.isValid() && port.toString().isEmpty()) {
         reason = "the port has no name";
     }
     if (!reason.isEmpty()) {
-        std::fprintf(stderr, "headunit: %s, the unit runs without a decoder\n", qPrintable(reason));
+        std::fprintf(stderr, "headunit: %s, the unit runs without a decoder%s\n", qPrintable(reason),
+                     qPrintable(list));
     }
 }
 
@@ -65,6 +89,9 @@ HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent
 
 HeadUnitProgram::~HeadUnitProgram()
 {
+    if (const DeskWindow *desk = qobject_cast<DeskWindow *>(m_window.get())) {
+        DeskMemory().store(desk, int(m_options.canBusType()));
+    }
     // The window shows the unit, and the plug-in's windows lie in it.
     m_script.reset();
     if (m_unit) {
@@ -85,6 +112,9 @@ bool HeadUnitProgram::begin(QString *error)
     if (!openTrace(error) || !openScript(error)) {
         return false;
     }
+    if (!m_options.settingsDir.isEmpty() && !canKeepSettings(m_options.settingsDir, error)) {
+        return false;
+    }
     configureUnit();
     if (!openBox(error) || !hasAnEnd(error)) {
         return false;
@@ -96,6 +126,7 @@ bool HeadUnitProgram::begin(QString *error)
     if (m_replay) {
         m_replay->begin(m_unit->lineRecorder());
     }
+    watchLine();
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -160,6 +191,19 @@ void HeadUnitProgram::configureUnit()
         host->setSettingsDir(m_options.settingsDir);
     }
     sayWhyNoDecoder(m_options);
+}
+
+void HeadUnitProgram::watchLine()
+{
+    LineHealth *health = m_unit->lineHealth();
+    health->setType(int(m_options.canBusType()));
+    health->setPort(m_options.canBusType() == 0
+                        ? QString()
+                        : OrbApplication::instance()->getOrbProductValue("CANPortName").toString());
+    if (m_options.tracesLine) {
+        LineReporter *reporter = new LineReporter(health, m_box.get(), m_unit.get());
+        new LineTrace(reporter, m_writer.get(), reporter);
+    }
 }
 
 bool HeadUnitProgram::startRecorder(QString *error)
@@ -289,7 +333,9 @@ void HeadUnitProgram::openScreen()
         m_window.reset(new UnitScreen(m_options.screenSize));
         m_window->setUpdatesEnabled(false); // nobody looks; a screenshot paints all the same
     } else {
-        m_window.reset(new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize));
+        DeskWindow *desk = new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize);
+        m_window.reset(desk);
+        DeskMemory().restore(desk);
     }
     m_window->show();
 }

@@ -42,6 +42,7 @@ private:
     bool openTrace(QString *error);
     void configureUnit();
     bool startRecorder(QString *error);
+    void watchLine();
     bool openBox(QString *error);
     bool openReplay(QString *error);
     void endReplay();

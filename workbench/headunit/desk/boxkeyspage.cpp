@@ -3,6 +3,7 @@
 #include "carwords.h"
 #include "decoderbox.h"
 #include "panelcard.h"
+#include "panelsearch.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -58,6 +59,7 @@ void BoxKeysPage::addKeys(const QString &heading, BoxKey::Source source)
         const QString name = key.name;
         connect(button, &QPushButton::pressed, m_box, [this, name] { m_box->pressKey(name); });
         connect(button, &QPushButton::released, m_box, [this, name] { m_box->releaseKey(name); });
+        PanelSearch::name(button, button->text());
         grid->addWidget(button, place / Columns, place % Columns);
         ++place;
     }
@@ -81,10 +83,12 @@ void BoxKeysPage::addKnobs()
         const int row = grid->rowCount();
         QLabel *label = new QLabel(title(key));
         label->setObjectName(QStringLiteral("controlName"));
+        PanelSearch::name(label, label->text());
         grid->addWidget(label, row, 0);
         for (const int clicks : {1, 5}) {
             QPushButton *button = new QPushButton(QStringLiteral("%1×").arg(clicks));
             button->setObjectName(QStringLiteral("chip"));
+            PanelSearch::name(button, label->text());
             const QString name = key.name;
             connect(button, &QPushButton::clicked, m_box,
                     [this, name, clicks] { m_box->turnKnob(name, clicks); });

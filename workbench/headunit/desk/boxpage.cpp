@@ -1,6 +1,7 @@
 #include "boxpage.h"
 
 #include "boxcommand.h"
+#include "observationwords.h"
 #include "panelcard.h"
 #include "scenarioplayer.h"
 
@@ -10,12 +11,15 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include <limits>
 
 namespace {
 
 const int Gap = 8;
+const int WatchInterval = 250;      // ms
+const int LongestSilence = 3600000; // ms; a box that is silent for longer was stopped
 const int LogLines = 500;
 const int LogHeight = 260;
 
@@ -103,6 +107,10 @@ BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
     connect(box, &DecoderBox::unitLeft, this, &BoxPage::showState);
     connect(box, &DecoderBox::observed, this, &BoxPage::showObservations);
     connect(box, &DecoderBox::logLine, m_log, &QPlainTextEdit::appendPlainText);
+    // A silence ends without a word.
+    QTimer *watch = new QTimer(this);
+    connect(watch, &QTimer::timeout, this, &BoxPage::showState);
+    watch->start(WatchInterval);
     setTexts();
 }
 
@@ -213,17 +221,28 @@ void BoxPage::showState()
         text = tr("Silent: the unit did not acknowledge");
         break;
     }
+    const int silence = m_box->silenceLeft();
+    if (silence > LongestSilence) {
+        text = tr("Stopped");
+    } else if (silence > 0) {
+        text = tr("Silent by order");
+    }
     m_state->setText(m_box->isUnitThere() ? text : tr("The unit has not opened the port"));
 }
 
-/// A long word (a checksum) that a label may break anywhere.
+/// A long word (a checksum) may be broken anywhere.
 QString BoxPage::breakable(const QString &text)
 {
+    const int longest = 24;
     const QChar zeroWidthSpace(0x200B);
     QString result;
+    int letters = 0;
     for (const QChar &letter : text) {
+        letters = letter.isSpace() ? 0 : letters + 1;
         result += letter;
-        result += zeroWidthSpace;
+        if (letters > longest) {
+            result += zeroWidthSpace;
+        }
     }
     return result;
 }
@@ -233,7 +252,7 @@ void BoxPage::showObservations()
     QStringList lines;
     const QMap<QString, QString> &all = m_box->observations();
     for (auto row = all.begin(); row != all.end(); ++row) {
-        lines << row.key() + QStringLiteral(": ") + breakable(row.value());
+        lines << breakable(ObservationWords::line(m_box->speaker(), row.key(), row.value()));
     }
     m_observations->setText(lines.isEmpty() ? tr("Nothing yet") : lines.join(QLatin1Char('\n')));
 }

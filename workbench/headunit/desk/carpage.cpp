@@ -2,6 +2,7 @@
 
 #include "carwords.h"
 #include "panelcard.h"
+#include "panelsearch.h"
 #include "propertyeditors.h"
 #include "simulatedcar.h"
 
@@ -21,7 +22,27 @@ QString family(const CarProperty &property)
     return isNumber && property.kind == CarProperty::Integer ? property.name.left(point) : QString();
 }
 
+QString searchName(const CarProperty &property)
+{
+    return CarWords::groupText(property.group()) + QLatin1Char(' ') + CarWords::propertyText(property.name) +
+           QLatin1Char(' ') + property.name;
+}
+
+QWidget *named(QWidget *control, const CarProperty &property)
+{
+    PanelSearch::name(control, searchName(property));
+    return control;
+}
+
 } // namespace
+
+// The sensors of one end of the car, from left to right.
+QString CarPage::sensorName(int number, int count)
+{
+    static const char *const names[] = {QT_TR_NOOP("Left"), QT_TR_NOOP("Mid left"), QT_TR_NOOP("Mid right"),
+                                        QT_TR_NOOP("Right")};
+    return count == 4 ? tr(names[number]) : QString::number(number + 1);
+}
 
 CarPage::CarPage(SimulatedCar *car, const QStringList &names, QWidget *parent) : QWidget(parent), m_car(car)
 {
@@ -58,7 +79,7 @@ void CarPage::addGroup(const QString &group, const QVector<const CarProperty *> 
         } else if (property.kind == CarProperty::Switch) {
             i = addSwitches(card->rows(), properties, i);
         } else {
-            card->rows()->addWidget(PropertyEditors::create(property, m_car));
+            card->rows()->addWidget(named(PropertyEditors::create(property, m_car), property));
             ++i;
         }
     }
@@ -68,12 +89,17 @@ int CarPage::addAlike(QVBoxLayout *rows, const QVector<const CarProperty *> &pro
 {
     const QString name = family(*properties.at(from));
     QHBoxLayout *row = new QHBoxLayout;
-    int i = from;
-    for (; i < properties.size() && family(*properties.at(i)) == name; ++i) {
-        row->addWidget(PropertyEditors::createUpright(*properties.at(i), m_car));
+    int end = from;
+    while (end < properties.size() && family(*properties.at(end)) == name) {
+        ++end;
+    }
+    for (int i = from; i < end; ++i) {
+        const CarProperty &property = *properties.at(i);
+        const QString title = sensorName(i - from, end - from);
+        row->addWidget(named(PropertyEditors::createUpright(property, title, m_car), property), 1);
     }
     rows->addLayout(row);
-    return i;
+    return end;
 }
 
 int CarPage::addSwitches(QVBoxLayout *rows, const QVector<const CarProperty *> &properties, int from)
@@ -83,7 +109,8 @@ int CarPage::addSwitches(QVBoxLayout *rows, const QVector<const CarProperty *> &
     int i = from;
     for (; i < properties.size() && properties.at(i)->kind == CarProperty::Switch; ++i) {
         const int place = i - from;
-        grid->addWidget(PropertyEditors::create(*properties.at(i), m_car), place / 2, place % 2);
+        const CarProperty &property = *properties.at(i);
+        grid->addWidget(named(PropertyEditors::create(property, m_car), property), place / 2, place % 2);
     }
     rows->addLayout(grid);
     return i;

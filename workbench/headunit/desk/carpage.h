@@ -20,6 +20,7 @@ public:
 private:
     void addGroup(const QString &group, const QVector<const CarProperty *> &properties);
     int addAlike(QVBoxLayout *rows, const QVector<const CarProperty *> &properties, int from);
+    static QString sensorName(int number, int count);
     int addSwitches(QVBoxLayout *rows, const QVector<const CarProperty *> &properties, int from);
 
     SimulatedCar *m_car;

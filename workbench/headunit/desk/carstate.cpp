@@ -57,13 +57,16 @@ bool CarState::take(const OrbEvent &event)
         areLightsOn = false;
         break;
     case RadarAll:
+        hasFront = hasRear = true;
         takeLevels(front, bytes, 0);
         takeLevels(rear, bytes, Sensors);
         break;
     case RadarFront:
+        hasFront = true;
         takeLevels(front, bytes, 0);
         break;
     case RadarRear:
+        hasRear = true;
         takeLevels(rear, bytes, 0);
         break;
     case Doors:
@@ -86,7 +89,8 @@ bool CarState::take(const OrbEvent &event)
 
 bool CarState::operator==(const CarState &other) const
 {
-    return doors == other.doors && std::equal(front, front + Sensors, other.front) &&
-           std::equal(rear, rear + Sensors, other.rear) && steering == other.steering &&
-           isRadarOn == other.isRadarOn && isTrackOn == other.isTrackOn && areLightsOn == other.areLightsOn;
+    return doors == other.doors && hasFront == other.hasFront && hasRear == other.hasRear &&
+           std::equal(front, front + Sensors, other.front) && std::equal(rear, rear + Sensors, other.rear) &&
+           steering == other.steering && isRadarOn == other.isRadarOn && isTrackOn == other.isTrackOn &&
+           areLightsOn == other.areLightsOn;
 }

@@ -8,7 +8,7 @@
 class OrbEvent;
 
 /// What the plug-in has reported about the car, as it reported it: nothing is put right here, so that what is
-/// wrong with a report shows.
+/// wrong with a report shows. What was never reported is not known.
 struct CarState
 {
     enum Door { FrontLeft = 1, FrontRight = 2, RearLeft = 4, RearRight = 8 };
@@ -17,7 +17,9 @@ struct CarState
     static constexpr int SteeringLock =
         40; ///< degrees of the front wheels at either lock, as the scale has them
 
-    int doors = 0; ///< Door bits of the open ones
+    std::optional<int> doors; ///< Door bits of the open ones
+    bool hasFront = false;    ///< whether the levels in front were reported
+    bool hasRear = false;
     quint8 front[Sensors] = {0, 0, 0, 0};
     quint8 rear[Sensors] = {0, 0, 0, 0};
     std::optional<int> steering; ///< degrees, negative to the left; nothing until it was reported
@@ -25,7 +27,10 @@ struct CarState
     bool isTrackOn = true;
     bool areLightsOn = false;
 
-    bool isDoorOpen(Door door) const { return (doors & door) != 0; }
+    bool isDoorOpen(Door door) const { return (doors.value_or(0) & door) != 0; }
+
+    /// Whether anything was reported that the car's picture shows.
+    bool isAnythingKnown() const { return doors || hasFront || hasRear || steering || areLightsOn; }
 
     /// The level of the nearest thing that any sensor sees, 0 for none.
     int nearest() const;

@@ -12,6 +12,7 @@ namespace {
 const int HeadingHeight = 64;
 const int SmallestFont = 15; // pixels
 const int Margin = 16;
+const qreal GreyOpacity = 0.45; // of what is no longer sure
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
 const QSizeF Picture(200, 420);
 const QRectF PaintWork(24, 8, 152, 406);
@@ -48,11 +49,21 @@ void CarView::setState(const CarState &state)
     }
 }
 
+void CarView::setDoubt(const QString &doubt)
+{
+    if (doubt != m_doubt) {
+        m_doubt = doubt;
+        update();
+    }
+}
+
 QString CarView::doorMessage() const
 {
-    switch (m_state.doors) {
+    switch (m_state.doors.value_or(0)) {
     case 0:
-        return QString();
+        return m_state.doors               ? tr("All doors closed")
+               : m_state.isAnythingKnown() ? tr("Doors not reported")
+                                           : tr("The car has reported nothing yet");
     case CarState::FrontLeft:
         return tr("Front left door open");
     case CarState::FrontRight:
@@ -71,8 +82,7 @@ QString CarView::message() const
     if (m_state.isRadarOn && m_state.nearest() == 1) {
         return tr("Stop");
     }
-    const QString doors = doorMessage();
-    return doors.isEmpty() ? tr("All doors closed") : doors;
+    return doorMessage();
 }
 
 QString CarView::steeringText() const
@@ -105,6 +115,17 @@ QRectF CarView::carRect() const
     return car;
 }
 
+QColor CarView::messageColour() const
+{
+    if (!m_doubt.isEmpty()) {
+        return DeskColours::Dim;
+    }
+    if (m_state.isRadarOn && m_state.nearest() == 1) {
+        return DeskColours::Error;
+    }
+    return m_state.doors.value_or(0) != 0 ? DeskColours::Warning : DeskColours::Dim;
+}
+
 void CarView::paintHeading(QPainter *painter) const
 {
     const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2 + 6);
@@ -116,14 +137,7 @@ void CarView::paintHeading(QPainter *painter) const
         font.setPixelSize(font.pixelSize() - 1);
     }
     painter->setFont(font);
-    QColor colour = DeskColours::Dim;
-    if (m_state.doors != 0) {
-        colour = DeskColours::Warning;
-    }
-    if (m_state.isRadarOn && m_state.nearest() == 1) {
-        colour = DeskColours::Error;
-    }
-    painter->setPen(colour);
+    painter->setPen(messageColour());
     painter->drawText(line, Qt::AlignHCenter | Qt::AlignBottom,
                       painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
     font.setPixelSize(18);
@@ -131,7 +145,7 @@ void CarView::paintHeading(QPainter *painter) const
     painter->setFont(font);
     painter->setPen(DeskColours::Text);
     painter->drawText(QRectF(line.left(), line.bottom(), line.width(), HeadingHeight - line.bottom()),
-                      Qt::AlignCenter, steeringText());
+                      Qt::AlignCenter, m_doubt.isEmpty() ? steeringText() : m_doubt);
 }
 
 void CarView::paintLights(QPainter *painter, const QRectF &car) const
@@ -166,6 +180,27 @@ void CarView::paintWheels(QPainter *painter, const QRectF &car) const
     }
 }
 
+// Where nobody knows whether a door is open.
+void CarView::paintQuestionMarks(QPainter *painter, const QRectF &car) const
+{
+    const qreal scale = car.height() / PaintWork.height();
+    QFont font = painter->font();
+    font.setPixelSize(SmallestFont);
+    font.setBold(true);
+    painter->setFont(font);
+    for (const DoorLeaf &leaf : DoorLeaves) {
+        const bool isLeft = leaf.hinge.x() < Picture.width() / 2;
+        const QPointF side = leaf.hinge + QPointF(isLeft ? -26 : 26, leaf.length / 2);
+        QRectF place(0, 0, SmallestFont + 7, SmallestFont + 7);
+        place.moveCenter(car.topLeft() + (side - PaintWork.topLeft()) * scale);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(DeskColours::Edge);
+        painter->drawEllipse(place);
+        painter->setPen(DeskColours::Dim);
+        painter->drawText(place, Qt::AlignCenter, QStringLiteral("?"));
+    }
+}
+
 void CarView::paintDoors(QPainter *painter, const QRectF &car) const
 {
     const qreal scale = car.height() / PaintWork.height();
@@ -196,30 +231,53 @@ void CarView::paintDoors(QPainter *painter, const QRectF &car) const
     }
 }
 
+void CarView::paintCar(QPainter *painter) const
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRectF car = carRect();
+    const qreal scale = car.height() / PaintWork.height();
+    if (m_state.isRadarOn && m_state.hasFront) {
+        RadarArcs(RadarArcs::Front, car, radarReach()).paint(painter, m_state.front);
+    }
+    if (m_state.isRadarOn && m_state.hasRear) {
+        RadarArcs(RadarArcs::Rear, car, radarReach()).paint(painter, m_state.rear);
+    }
+    if (m_state.isTrackOn && m_state.steering) {
+        SteeringTrack(car, drawnSteering(), trackLength()).paint(painter);
+    }
+    if (m_state.areLightsOn) {
+        paintLights(painter, car);
+    }
+    paintWheels(painter, car);
+    painter->drawPixmap(QRectF(car.topLeft() - PaintWork.topLeft() * scale, Picture * scale), m_body,
+                        QRectF(m_body.rect()));
+    if (m_state.doors) {
+        paintDoors(painter, car);
+    } else {
+        paintQuestionMarks(painter, car);
+    }
+}
+
 void CarView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setPen(Qt::NoPen);
     painter.setBrush(DeskColours::Panel);
     painter.drawRoundedRect(rect(), 10, 10);
     paintHeading(&painter);
-
-    const QRectF car = carRect();
-    const qreal scale = car.height() / PaintWork.height();
-    if (m_state.isRadarOn) {
-        RadarArcs(RadarArcs::Front, car, radarReach()).paint(&painter, m_state.front);
-        RadarArcs(RadarArcs::Rear, car, radarReach()).paint(&painter, m_state.rear);
+    if (m_doubt.isEmpty()) {
+        paintCar(&painter);
+        return;
     }
-    if (m_state.isTrackOn) {
-        SteeringTrack(car, drawnSteering(), trackLength()).paint(&painter);
-    }
-    if (m_state.areLightsOn) {
-        paintLights(&painter, car);
-    }
-    paintWheels(&painter, car);
-    painter.drawPixmap(QRectF(car.topLeft() - PaintWork.topLeft() * scale, Picture * scale), m_body,
-                       QRectF(m_body.rect()));
-    paintDoors(&painter, car);
+    QImage picture(size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(DeskColours::Panel);
+    QPainter carPainter(&picture);
+    carPainter.setFont(painter.font());
+    paintCar(&carPainter);
+    carPainter.end();
+    painter.setOpacity(GreyOpacity);
+    painter.setClipRect(rect().adjusted(0, HeadingHeight, 0, -Margin / 2));
+    painter.drawImage(0, 0, picture.convertToFormat(QImage::Format_Grayscale8));
 }

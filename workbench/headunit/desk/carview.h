@@ -7,8 +7,8 @@
 #include <QWidget>
 
 /// The car from above: its open doors, what its radar sees and where its wheels are turned, with the numbers as
-/// they were reported. Shows the state that it is given and nothing of its own; a number past its scale is drawn
-/// at the end of the scale.
+/// they were reported. Shows the state that it is given and nothing of its own: what is not known is not drawn, and
+/// what is no longer sure is drawn in grey. A number past its scale is drawn at the end of the scale.
 class CarView : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,11 @@ public:
     const CarState &state() const { return m_state; }
     void setState(const CarState &state);
 
-    /// One sentence on the doors and the distance, or that all is well.
+    /// \a doubt: why what is shown may be true no longer ("Line lost"); empty when it is news.
+    void setDoubt(const QString &doubt);
+    const QString &doubt() const { return m_doubt; }
+
+    /// One sentence on the doors and the distance, that all is well, or that nothing is known.
     QString message() const;
 
     /// The steering angle as it was reported; empty before that.
@@ -36,13 +40,17 @@ protected:
 
 private:
     QString doorMessage() const;
+    QColor messageColour() const;
+    void paintCar(QPainter *painter) const;
     int drawnSteering() const;
     void paintHeading(QPainter *painter) const;
     void paintLights(QPainter *painter, const QRectF &car) const;
     void paintWheels(QPainter *painter, const QRectF &car) const;
+    void paintQuestionMarks(QPainter *painter, const QRectF &car) const;
     void paintDoors(QPainter *painter, const QRectF &car) const;
 
     CarState m_state;
+    QString m_doubt;
     QPixmap m_body;
 };
 

@@ -8,11 +8,17 @@
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
+class LineReporter;
+class LineStrip;
+struct LineStatus;
+class QToolButton;
 class SidePanel;
 class UnitShell;
+class UnitView;
 
-/// The head unit on the desk: its screen, its keys below, and beside it the panel of the virtual box. To be
-/// built before the plug-in is loaded, and after the trace listener is set.
+/// The head unit on the desk: its screen, its keys below, and beside it the panel of the virtual box, which
+/// folds away (F9). The screen takes the room that the window has. Ctrl+Q closes the window. To be built before
+/// the plug-in is loaded, and after the trace listener is set.
 class DeskWindow : public QWidget
 {
     Q_OBJECT
@@ -24,22 +30,43 @@ public:
     ~DeskWindow() override;
 
     UnitScreen *screen() const { return m_screen; }
+    UnitView *view() const { return m_view; }
     UnitShell *shell() const { return m_shell; }
     KeyStrip *keyStrip() const { return m_keyStrip; }
     SidePanel *sidePanel() const { return m_sidePanel; }
+
+    /// The unit's language, \a language being one of UnitPage::languages(); the plug-in is told.
+    void chooseLanguage(const QString &language);
+    /// What the line is like, as the strip below the unit says it.
+    LineStrip *lineStrip() const { return m_lineStrip; }
+
+    /// Saves the last minute of the line in the current folder, and says where.
+    void saveLine();
+
+    void foldPanel(bool isFolded);
+    bool isPanelFolded() const;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void chooseLanguage(const QString &language);
+    void addShortcuts();
+    void watchLine(DecoderBox *box);
+    void showLine(const LineStatus &status);
+    void sayHello();
+    void showTitle();
     void retranslate();
 
     HeadUnit *m_unit;
     UnitScreen *m_screen;
+    UnitView *m_view;
     UnitShell *m_shell;
     KeyStrip *m_keyStrip;
+    QToolButton *m_fold;
     SidePanel *m_sidePanel;
+    QString m_car;
+    LineStrip *m_lineStrip;
+    LineReporter *m_lineReporter;
 };
 
 #endif // DESKWINDOW_H

@@ -77,7 +77,10 @@ void KeyCard::paintEvent(QPaintEvent *)
             QPixmap(key.picture()));
         lines.adjust(PictureSize + Margin, 0, 0, 0);
     }
-    QString arrival = tr("Key %1").arg(last.number) + QStringLiteral(" · 0x%1").arg(last.code, 0, 16);
+    QString arrival = tr("Key %1").arg(last.number);
+    if (!key.name) {
+        arrival += QStringLiteral(" · 0x%1").arg(last.code, 0, 16); // nothing else tells which one it is
+    }
     if (last.repeats != 0) {
         arrival += QStringLiteral(" · ") + tr("held, %1×").arg(last.repeats);
     }

@@ -10,6 +10,8 @@ namespace {
 
 const int KeyHeight = 64;
 const int KeyGap = 8;
+const int TextMargins = 8;
+const int LetterSize = 13; // pixels; the style sheet's
 
 const QVector<KeyStrip::Key> RawKeysOfSet1 = {{0x2000061, Qt::Key_Back},
                                               {0x2F00005, Qt::Key_Enter},
@@ -73,6 +75,7 @@ void KeyStrip::addKeys(const QVector<Key> &keys, QBoxLayout *row)
             button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         }
         const int code = key.code;
+        button->setToolTip(QStringLiteral("0x%1").arg(code, 0, 16));
         connect(button, &QToolButton::pressed, this, [this, code] { hold(code); });
         connect(button, &QToolButton::released, this, &KeyStrip::letGo);
         row->addWidget(button);
@@ -84,9 +87,10 @@ void KeyStrip::setTexts()
 {
     for (const Button &button : m_buttons) {
         const QString name = UnitKey::of(button.key.meaning).text();
-        const int code = button.key.code;
-        button.widget->setText(
-            code == button.key.meaning ? name : QStringLiteral("%1\n0x%2").arg(name).arg(code, 0, 16));
+        button.widget->setText(name);
+        QFont font = button.widget->font();
+        font.setPixelSize(LetterSize);
+        button.widget->setMinimumWidth(QFontMetrics(font).horizontalAdvance(name) + TextMargins);
     }
 }
 

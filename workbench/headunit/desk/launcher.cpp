@@ -86,7 +86,7 @@ void Launcher::navigate(int key)
     }
     int at = -1;
     for (int i = 0; i < m_tiles.size(); ++i) {
-        at = m_tiles.at(i)->hasFocus() ? i : at;
+        at = m_tiles.at(i) == window()->focusWidget() ? i : at;
     }
     if (key == Qt::Key_Enter) {
         if (at >= 0) {

@@ -1,6 +1,7 @@
 #include "propertyeditors.h"
 
 #include "carwords.h"
+#include "exactfield.h"
 #include "quietslider.h"
 #include "simulatedcar.h"
 #include "steeringwheel.h"
@@ -9,7 +10,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -36,7 +36,15 @@ QLabel *label(const QString &text, const char *objectName)
     return result;
 }
 
-QWidget *titled(const CarProperty &property, QLabel *value, QWidget *control)
+QWidget *exactField(const CarProperty &property, SimulatedCar *car)
+{
+    ExactField *field = new ExactField(property, car);
+    field->setObjectName(QStringLiteral("exactValue"));
+    field->setAlignment(Qt::AlignRight);
+    return field;
+}
+
+QWidget *titled(const CarProperty &property, QWidget *value, QWidget *control)
 {
     QWidget *result = new QWidget;
     QVBoxLayout *rows = new QVBoxLayout(result);
@@ -72,18 +80,15 @@ QWidget *createScale(const CarProperty &property, SimulatedCar *car, int count, 
 {
     QuietSlider *slider = new QuietSlider(Qt::Horizontal);
     slider->setRange(0, count - 1);
-    QLabel *value = label(QString(), "controlValue");
     const QString name = property.name;
-    const QString unit = property.unit;
     QObject::connect(slider, &QSlider::valueChanged, car,
                      [=](int place) { car->setValue(name, valueAt(place)); });
     follow(car, name, slider, [=] {
         slider->blockSignals(true);
         slider->setValue(position());
         slider->blockSignals(false);
-        value->setText(unit.isEmpty() ? car->text(name) : car->text(name) + QLatin1Char(' ') + unit);
     });
-    return titled(property, value, slider);
+    return titled(property, exactField(property, car), slider);
 }
 
 QWidget *createNumber(const CarProperty &property, SimulatedCar *car)
@@ -158,17 +163,7 @@ QWidget *createList(const CarProperty &property, SimulatedCar *car)
 
 QWidget *createText(const CarProperty &property, SimulatedCar *car)
 {
-    QLineEdit *edit = new QLineEdit;
-    const QString name = property.name;
-    follow(car, name, edit, [=] { edit->setText(car->text(name)); });
-    QObject::connect(edit, &QLineEdit::editingFinished, car, [=] {
-        QString error;
-        if (!car->setValue(name, edit->text(), &error)) {
-            edit->setText(car->text(name));
-        }
-        edit->setToolTip(error);
-    });
-    return titled(property, nullptr, edit);
+    return titled(property, nullptr, new ExactField(property, car));
 }
 
 QWidget *createWheel(const CarProperty &property, SimulatedCar *car)
@@ -177,7 +172,7 @@ QWidget *createWheel(const CarProperty &property, SimulatedCar *car)
     const QString name = property.name;
     QObject::connect(wheel, &SteeringWheel::turned, car, [=](int angle) { car->setValue(name, angle); });
     follow(car, name, wheel, [=] { wheel->setAngle(car->number(name)); });
-    return wheel;
+    return titled(property, exactField(property, car), wheel);
 }
 
 } // namespace
@@ -205,24 +200,28 @@ QWidget *PropertyEditors::create(const CarProperty &property, SimulatedCar *car)
     return createText(property, car);
 }
 
-QWidget *PropertyEditors::createUpright(const CarProperty &property, SimulatedCar *car)
+QWidget *PropertyEditors::createUpright(const CarProperty &property, const QString &title, SimulatedCar *car)
 {
     QuietSlider *slider = new QuietSlider(Qt::Vertical);
     slider->setRange(int(property.minimum), int(property.maximum));
-    slider->setToolTip(property.name);
-    QLabel *value = label(QString(), "controlValue");
     const QString name = property.name;
     QObject::connect(slider, &QSlider::valueChanged, car, [=](int level) { car->setValue(name, level); });
     follow(car, name, slider, [=] {
         slider->blockSignals(true);
         slider->setValue(car->number(name));
         slider->blockSignals(false);
-        value->setText(car->text(name));
     });
+    ExactField *field = new ExactField(property, car);
+    field->setObjectName(QStringLiteral("exactValue"));
+    field->setAlignment(Qt::AlignCenter);
+    QLabel *below = label(title, "controlName");
+    below->setAlignment(Qt::AlignCenter);
+    below->setWordWrap(true);
     QWidget *result = new QWidget;
     QVBoxLayout *layout = new QVBoxLayout(result);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(slider, 0, Qt::AlignHCenter);
-    layout->addWidget(value, 0, Qt::AlignHCenter);
+    layout->addWidget(field);
+    layout->addWidget(below, 0, Qt::AlignTop);
     return result;
 }

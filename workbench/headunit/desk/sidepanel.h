@@ -6,13 +6,16 @@
 
 class BoxPage;
 class DecoderBox;
+class LinePage;
+class LineRecorder;
+class QLineEdit;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
 class UnitPage;
 
-/// Beside the unit: the virtual box and its car, and what is done to the unit itself. One page at a time,
-/// each scrolls.
+/// Beside the unit: the virtual box and its car, and what is done to the unit itself. One page at a time; each
+/// scrolls, also by dragging, and what has many controls is searched by name.
 class SidePanel : public QWidget
 {
     Q_OBJECT
@@ -20,11 +23,12 @@ class SidePanel : public QWidget
 public:
     static constexpr int PanelWidth = 380;
 
-    /// \a box may be null, when the unit talks to a real one; the panel then has the unit's page only. Not
-    /// owned, and must outlive the panel.
-    explicit SidePanel(DecoderBox *box, QWidget *parent = nullptr);
+    /// \a box may be null, when the unit talks to a real one; the panel then has the pages of line and unit
+    /// only. Neither is owned; both must outlive the panel.
+    SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent = nullptr);
 
     UnitPage *unitPage() const { return m_unitPage; }
+    LinePage *linePage() const { return m_linePage; }
     /// Null without a box.
     BoxPage *boxPage() const { return m_boxPage; }
 
@@ -35,6 +39,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void search();
+    void setTexts();
     QScrollArea *addPage(const char *title, QWidget *page);
 
     struct Tab
@@ -45,9 +51,11 @@ private:
 
     DecoderBox *m_box;
     QVector<Tab> m_tabs;
+    QLineEdit *m_search;
     QStackedWidget *m_pages;
     QScrollArea *m_carArea = nullptr;
     QScrollArea *m_keysArea = nullptr;
+    LinePage *m_linePage;
     UnitPage *m_unitPage;
     BoxPage *m_boxPage = nullptr;
 };

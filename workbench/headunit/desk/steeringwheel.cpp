@@ -9,7 +9,6 @@
 
 namespace {
 const int WheelSize = 176;
-const int LabelHeight = 32;
 
 QPointF positionOf(const QMouseEvent *event)
 {
@@ -27,7 +26,7 @@ SteeringWheel::SteeringWheel(int lock, int step, QWidget *parent)
     , m_step(qMax(1, step))
     , m_wheel(QStringLiteral(":/desk/car/wheel.png"))
 {
-    setFixedHeight(WheelSize + LabelHeight);
+    setFixedHeight(WheelSize);
     setCursor(Qt::OpenHandCursor);
 }
 
@@ -85,11 +84,4 @@ void SteeringWheel::paintEvent(QPaintEvent *)
     painter.drawPixmap(QRectF(-WheelSize / 2.0, -WheelSize / 2.0, WheelSize, WheelSize), m_wheel,
                        QRectF(m_wheel.rect()));
     painter.restore();
-
-    QFont label = font();
-    label.setPixelSize(16);
-    painter.setFont(label);
-    painter.setPen(m_angle == 0 ? DeskColours::Dim : DeskColours::Text);
-    painter.drawText(QRect(0, WheelSize, width(), LabelHeight), Qt::AlignCenter,
-                     QString::number(m_angle) + QChar(0x00B0));
 }

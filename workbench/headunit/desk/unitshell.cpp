@@ -212,6 +212,12 @@ void UnitShell::showCarState()
     m_appPage->setCarState(m_carState);
 }
 
+void UnitShell::setDoubt(const QString &doubt)
+{
+    m_homePage->carView()->setDoubt(doubt);
+    m_appPage->setDoubt(doubt);
+}
+
 void UnitShell::showControls()
 {
     m_statusBar->setTwelveHourClock(
