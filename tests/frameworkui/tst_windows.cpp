@@ -188,6 +188,7 @@ void Stage::actOn(QWidget *thing, const QString &what, const QString &with)
         {"needs", [=] { thing->findChild<QLabel *>()->setMinimumSize(with.toInt(), 300); }},
         {"asks", [=] { update->showUpdateDlg(with.toInt()); }},
         {"percent", [=] { update->updatePercent(with.toInt()); }},
+        {"given", [=] { update->setProperty("everythingGiven", with == "all"); }},
         {"failed", [=] { update->setUpdateFailed(with.toInt()); }},
         {"click", [=] { update->findChild<QPushButton *>(with)->click(); }},
         {"silence", [=] {
