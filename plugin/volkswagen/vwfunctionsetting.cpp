@@ -38,6 +38,7 @@ void VWFunctionSetting::onLoadUiSkin()
     sendRequests();
     connect(m_list, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)), this,
             SLOT(onItemColumnClicked(QAbstractItemModel *, QModelIndex)));
+    connect(m_list, SIGNAL(pressed(QModelIndex)), this, SLOT(onItemPressed(QModelIndex)));
 }
 
 void VWFunctionSetting::sendRequests()
@@ -201,7 +202,7 @@ SelectDialog *VWFunctionSetting::newDialog(const QString &title)
 int VWFunctionSetting::showSelectCheckBoxModeDialog(const QStringList &options, int current,
                                                     const QModelIndex &index)
 {
-    const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
+    const QPointer<SelectDialog> dialog(newDialog(getItemText(index)));
     dialog->setCheckBoxListMode(options, options.value(current), true);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog) {
@@ -215,7 +216,7 @@ int VWFunctionSetting::showSelectCheckBoxModeDialog(const QStringList &options, 
 int VWFunctionSetting::showSelectSliderModeDialog(int minimum, int maximum, int step, const QString &unit,
                                                   int value, const QModelIndex &index)
 {
-    const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
+    const QPointer<SelectDialog> dialog(newDialog(getItemText(index)));
     dialog->setSliderMode(minimum, maximum, step, value, unit);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog) {
@@ -279,4 +280,15 @@ QString VWFunctionSetting::getAppTitleFromId(unsigned int appId)
 {
     const Vw::SettingPage *const page = Vw::settingPage(appId);
     return page ? Vw::text(page->title) : QString();
+}
+
+/// The row's label, which titles its dialog.
+QString VWFunctionSetting::getItemText(const QModelIndex &index) const
+{
+    return m_model->itemDatas(index.row()).text();
+}
+
+QString VWFunctionSetting::getItemSliderValueText(const TableViewItemDatas &row)
+{
+    return Vw::numberText(row.bindData(Vw::ValueRole).toInt(), row.bindData(Vw::UnitRole).toString());
 }

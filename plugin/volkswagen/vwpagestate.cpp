@@ -265,7 +265,7 @@ QList<TableViewItemDatas> PageState::reportRows() const
 {
     QList<TableViewItemDatas> items;
     for (int i = 0; i < m_numbers.numbers.size(); ++i) {
-        items.append(reportItem(text(ReportCode), ReportIcon, QString::number(m_numbers.numbers.at(i))));
+        items.append(reportItem(text(ReportCode), ReportIcon, getReportInfo(m_numbers.numbers.at(i))));
     }
     return orNoEntries(items);
 }
