@@ -1,8 +1,8 @@
 #include "xinhangsettingswindow.h"
 
+#include "choicedialog.h"
 #include "xinhangsettings.h"
 
-#include "orbchoicedialog.h"
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 
@@ -75,5 +75,5 @@ void XinHangSettingsWindow::onItemListViewClicked(const QModelIndex &index)
 
 int XinHangSettingsWindow::showSelectDialog(const QString &title, const QStringList &texts, int current)
 {
-    return OrbChoiceDialog::choose(title, texts, current);
+    return ChoiceDialog::choose(title, texts, current);
 }

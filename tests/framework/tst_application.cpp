@@ -1,4 +1,5 @@
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost.h"
 #include "orbkeyfilter.h"
 #include "testmain.h"
@@ -53,9 +54,9 @@ void TestApplication::eventTypeRange()
 {
     for (int type = 50998; type <= 51017; ++type) {
         const QEvent event(static_cast<QEvent::Type>(type));
-        QCOMPARE(OrbEvent::isOrbEvent(&event), type >= 51000 && type <= 51015);
+        QCOMPARE(OrbEventType::isOrbEvent(&event), type >= 51000 && type <= 51015);
     }
-    QVERIFY(!OrbEvent::isOrbEvent(nullptr));
+    QVERIFY(!OrbEventType::isOrbEvent(nullptr));
 }
 
 void TestApplication::keyFiltersAreAskedOnceInOrderUntilOneConsumes()

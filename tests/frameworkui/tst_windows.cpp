@@ -106,7 +106,7 @@ QWidget *Stage::thing(const QString &name)
         QObject::connect(update, &UpdateDialog::acceptUpdate, [this] { m_notes << "accepted"; });
         found = update;
     } else {
-        found = new PlainDialog(name == "P" ? OrbDialog::Overlay : OrbDialog::Choice);
+        found = new PlainDialog(name == "P" ? PlainDialog::Overlay : PlainDialog::Modal);
         QVBoxLayout *const column = new QVBoxLayout(found);
         column->setContentsMargins(10, 10, 10, 10);
         column->addWidget(new QLabel);

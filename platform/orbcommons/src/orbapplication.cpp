@@ -1,6 +1,7 @@
 #include "orbapplication.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost_p.h"
 #include "orbskin.h"
 #include "orbtrace.h"
@@ -63,7 +64,7 @@ void OrbApplication::dispatchOrbEvent(OrbEvent *event)
     if (OrbTrace::listener) {
         OrbTrace::listener->eventCalled("dispatchOrbEvent", *event);
     }
-    if (int(event->type()) == OrbEvent::AppIconType) {
+    if (int(event->type()) == OrbEventType::AppIcon) {
         OrbHostPrivate::get()->setAppIcons(event->getParam(), event->getStringParam());
     }
     Q_EMIT orbEventDispatched(event);
@@ -84,10 +85,10 @@ void OrbApplication::removeKeyFilter(OrbKeyFilter *filter)
 
 bool OrbApplication::event(QEvent *event)
 {
-    const OrbEvent *orbEvent = dynamic_cast<OrbEvent *>(event);
-    if (!orbEvent) {
+    if (!OrbEventType::isOrbEvent(event)) {
         return QApplication::event(event);
     }
+    const OrbEvent *orbEvent = static_cast<OrbEvent *>(event);
     if (OrbTrace::listener) {
         OrbTrace::listener->eventCalled("event", *orbEvent);
     }

@@ -164,8 +164,9 @@ QString UpdateDialog::Private::message() const
     return UpdateDialog::tr("The update was interrupted (code %1). Check the disk.").arg(code);
 }
 
-UpdateDialog::UpdateDialog(QWidget *parent) : OrbDialog(parent, Choice), d(new Private)
+UpdateDialog::UpdateDialog(QWidget *parent) : OrbDialog(parent), d(new Private)
 {
+    setModal(true);
     d->build(this);
     d->arrange(this);
     d->enter(Private::Asking);
