@@ -1,5 +1,4 @@
 #include "orbevent.h"
-#include "orbeventtypes.h"
 #include "orbhost.h"
 #include "orbkeyfilter.h"
 #include "testmain.h"
@@ -38,7 +37,6 @@ class TestApplication : public QObject
 
 private Q_SLOTS:
     void init() { m_trace.take(); }
-    void eventTypeRange();
     void keyFiltersAreAskedOnceInOrderUntilOneConsumes();
     void keyFilterRemovedWhileAsking();
     void configuration();
@@ -49,15 +47,6 @@ private:
 
     TraceRecorder m_trace;
 };
-
-void TestApplication::eventTypeRange()
-{
-    for (int type = 50998; type <= 51017; ++type) {
-        const QEvent event(static_cast<QEvent::Type>(type));
-        QCOMPARE(OrbEventType::isOrbEvent(&event), type >= 51000 && type <= 51015);
-    }
-    QVERIFY(!OrbEventType::isOrbEvent(nullptr));
-}
 
 void TestApplication::keyFiltersAreAskedOnceInOrderUntilOneConsumes()
 {
