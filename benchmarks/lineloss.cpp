@@ -59,13 +59,13 @@ struct Outcome
     qint64 undetected = 0; // of them what no receiver could tell
 
     void take(const Line &line);
-    void take(const QByteArray &sent, const QByteArray &came)
+    void count(const QByteArray &package, const QByteArray &came)
     {
-        ++this->sent;
+        ++sent;
         const quint8 sum = RaiseAdapter::getPackageCheckSum(came, 1, came.size() - 2);
-        const bool fits = came.size() == sent.size() && came.at(0) == sent.at(0) &&
-                          came.at(2) == sent.at(2) && sum == quint8(came.at(came.size() - 1));
-        undetected += sent != came && fits;
+        const bool fits = came.size() == package.size() && came.at(0) == package.at(0) &&
+                          came.at(2) == package.at(2) && sum == quint8(came.at(came.size() - 1));
+        undetected += package != came && fits;
     }
 };
 
@@ -118,7 +118,7 @@ void oneFaultInTwenty(Streams::Fault fault, const char *name, qint64 packages)
                 ++all.faults;
             }
             line.add(sent, came);
-            all.take(sent, came);
+            all.count(sent, came);
         }
         all.take(line);
     }
@@ -146,7 +146,7 @@ void bitErrors(double rate, qint64 packages)
                 all.faults += sent.at(at) != came.at(at);
             }
             line.add(sent, came);
-            all.take(sent, came);
+            all.count(sent, came);
         }
         all.take(line);
     }
