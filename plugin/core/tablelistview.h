@@ -1,14 +1,12 @@
 #ifndef TABLELISTVIEW_H
 #define TABLELISTVIEW_H
 
-#include "orbglobal.h"
-
 #include <QPoint>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
 /// Draws the rows of a TableViewModel: icon and label, secondary text, value with its mark, or a switch.
-class ORB_EXPORT TableItemDelegate : public QStyledItemDelegate
+class TableItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
@@ -22,7 +20,7 @@ public:
 
 /// A finger's list over a TableViewModel: tall rows, no headers, scrolled by dragging anywhere; a drag is
 /// never taken for a click.
-class ORB_EXPORT TableListView : public QTableView
+class TableListView : public QTableView
 {
     Q_OBJECT
 
