@@ -16,7 +16,11 @@ const int IconSize = 40;
 const int MarkSize = 28;
 const int LabelSize = 22;
 const int HeadingSize = 17;
+const int ButtonHeight = 52;
+const int ButtonInset = 20;
+const int KnobGap = 4;
 const QSize SwitchSize(72, 40);
+const char NotTold[] = "--";
 
 QFont pixelFont(const QFont &base, int pixels, int weight = QFont::Normal)
 {
@@ -82,6 +86,26 @@ void drawPicture(QPainter *painter, const QRect &room, const QString &path)
     painter->drawPixmap(target, picture);
 }
 
+int looksOf(const TableViewItemDatas &row)
+{
+    return row.bindData(TableItemDelegate::LooksRole).toInt();
+}
+
+// Neither off nor on: an empty track, the knob an outline half way.
+void drawUnknownSwitch(QPainter *painter, const QRect &room)
+{
+    const QRectF track = QRectF(room).adjusted(1, 1, -1, -1);
+    painter->setPen(QPen(QColor(0x56, 0x61, 0x6F), 2, Qt::DashLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(track, track.height() / 2, track.height() / 2);
+    const qreal knob = room.height() - 2 * KnobGap - 6;
+    QRectF place(0, 0, knob, knob);
+    place.moveCenter(track.center());
+    painter->setPen(QPen(OrbPalette::dim(), 2));
+    painter->drawEllipse(place);
+    painter->drawLine(place.center() - QPointF(5, 0), place.center() + QPointF(5, 0));
+}
+
 void drawSwitch(QPainter *painter, const QRect &room, bool on)
 {
     const int radius = room.height() / 2;
@@ -93,7 +117,7 @@ void drawSwitch(QPainter *painter, const QRect &room, bool on)
         knob.moveRight(room.right());
     }
     painter->setBrush(on ? QColor(Qt::white) : QColor(0xC3, 0xCB, 0xD6));
-    painter->drawEllipse(knob.adjusted(4, 4, -4, -4));
+    painter->drawEllipse(knob.adjusted(KnobGap, KnobGap, -KnobGap, -KnobGap));
 }
 
 void drawLabel(QPainter *painter, const QRect &cell, const QFont &base, const TableViewItemDatas &row)
@@ -117,26 +141,65 @@ void drawHeading(QPainter *painter, const QRect &cell, const QFont &base, const 
                       QFontMetrics(font).elidedText(text.toUpper(), Qt::ElideRight, room.width()));
 }
 
+QColor valueColour(int looks)
+{
+    if (looks & TableItemDelegate::Warning) {
+        return OrbPalette::warning();
+    }
+    if (looks & TableItemDelegate::Unknown) {
+        return OrbPalette::dim();
+    }
+    return looks & TableItemDelegate::Changeable ? OrbPalette::accent() : OrbPalette::text();
+}
+
+// The mark stands behind a value, on a button before the note.
+void drawButton(QPainter *painter, const QRect &room, const QFont &base, const TableViewItemDatas &row)
+{
+    const QFont font = pixelFont(base, LabelSize);
+    const QString text = row.bindData(TableItemDelegate::NoteRole).toString();
+    const int textWidth = text.isEmpty() ? 0 : Gap / 2 + QFontMetrics(font).boundingRect(text).width() + 1;
+    const int width = qMin(room.width(), MarkSize + textWidth + 2 * ButtonInset);
+    const QRect button = middle(room, QSize(width, ButtonHeight), room.right() + 1 - width);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(OrbPalette::raised());
+    painter->drawRoundedRect(button, 10, 10);
+    QRect inside = button.adjusted(ButtonInset, 0, -ButtonInset, 0);
+    drawPicture(painter, middle(inside, QSize(MarkSize, MarkSize), inside.left()), row.mark());
+    inside.setLeft(inside.left() + MarkSize + Gap / 2);
+    drawText(painter, inside, font, OrbPalette::text(), text, Qt::AlignLeft);
+}
+
 void drawValue(QPainter *painter, const QRect &cell, const QFont &base, const TableViewItemDatas &row)
 {
     QRect room = cell.adjusted(0, 0, -Inset, 0);
-    const QVariant value = row.value(TableViewItemDatas::ValueColumn);
+    const int looks = looksOf(row);
+    const QVariant value = row.value(TableListView::ValueColumn);
     if (row.isSwitch()) {
-        drawSwitch(painter, middle(room, SwitchSize, room.right() - SwitchSize.width()), value.toBool());
+        const QRect place = middle(room, SwitchSize, room.right() - SwitchSize.width());
+        if (looks & TableItemDelegate::Unknown) {
+            drawUnknownSwitch(painter, place);
+        } else {
+            drawSwitch(painter, place, value.toBool());
+        }
+        return;
+    }
+    if (looks & TableItemDelegate::Button) {
+        drawButton(painter, room, base, row);
         return;
     }
     if (!row.mark().isEmpty()) {
         drawPicture(painter, middle(room, QSize(MarkSize, MarkSize), room.right() - MarkSize), row.mark());
         room.setRight(room.right() - MarkSize - Gap / 2);
     }
-    drawText(painter, room, pixelFont(base, LabelSize), OrbPalette::dim(), value.toString(), Qt::AlignRight);
+    const QString text = looks & TableItemDelegate::Unknown ? QLatin1String(NotTold) : value.toString();
+    drawText(painter, room, pixelFont(base, LabelSize), valueColour(looks), text, Qt::AlignRight);
 }
 
 // The line between two rows: over the whole width, indented at both ends.
 void drawSeparator(QPainter *painter, const QRect &cell, int column)
 {
-    const int left = column == TableViewItemDatas::TextColumn ? Inset : 0;
-    const int right = column == TableViewItemDatas::ValueColumn ? Inset : 0;
+    const int left = column == TableListView::TextColumn ? Inset : 0;
+    const int right = column == TableListView::ValueColumn ? Inset : 0;
     painter->fillRect(cell.left() + left, cell.bottom(), cell.width() - left - right, 1, OrbPalette::line());
 }
 
@@ -161,15 +224,15 @@ void TableItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     if (!row.isHeading()) {
         drawSeparator(painter, option.rect, index.column());
     }
-    if (index.column() == TableViewItemDatas::TextColumn && row.isHeading()) {
+    if (index.column() == TableListView::TextColumn && row.isHeading()) {
         drawHeading(painter, option.rect, option.font, row.text());
-    } else if (index.column() == TableViewItemDatas::TextColumn) {
+    } else if (index.column() == TableListView::TextColumn) {
         drawLabel(painter, option.rect, option.font, row);
-    } else if (index.column() == TableViewItemDatas::ValueColumn) {
+    } else if (index.column() == TableListView::ValueColumn) {
         drawValue(painter, option.rect, option.font, row);
     } else {
         drawText(painter, option.rect, pixelFont(option.font, HeadingSize), OrbPalette::dim(),
-                 row.value(TableViewItemDatas::SecondColumn).toString(), Qt::AlignLeft);
+                 row.value(TableListView::SecondColumn).toString(), Qt::AlignLeft);
     }
     painter->restore();
 }

@@ -17,17 +17,46 @@ const int SecondShare = 20;
 const int SmallestValueWidth = 200;
 const int EmptySecondWidth = 16;
 const int EmptyValueWidth = 80; // a mark fits
+// As the delegate draws values, with some air.
+const int ValueFontSize = 22;
+const int ValueInset = 32;
 
-// Whether any row has a text or a switch in \a column.
+// Width that the longest value without a blank needs on one line: a vehicle's number is not to be broken.
+int unbrokenWidth(const QAbstractItemModel *model, const QFontMetrics &metrics)
+{
+    int width = 0;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        const QString value = model->index(row, TableListView::ValueColumn).data().toString();
+        if (!value.contains(QLatin1Char(' '))) {
+            width = qMax(width, OrbQt::textWidth(metrics, value));
+        }
+    }
+    return width;
+}
+
+// Whether any row has a text or a switch in \a column, or draws something there.
 bool hasContents(const QAbstractItemModel *model, int column)
 {
+    const int drawn = TableItemDelegate::Unknown | TableItemDelegate::Button;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, column);
-        if (!index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
+        const bool isDrawn = column == TableListView::ValueColumn &&
+                             (index.data(TableItemDelegate::LooksRole).toInt() & drawn) != 0;
+        if (isDrawn || !index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
             return true;
         }
     }
     return false;
+}
+
+// Whether a tap on the cell does something: a switch has its own cell, and what is only read has none.
+bool reacts(const QModelIndex &index)
+{
+    if (index.data(TableItemDelegate::LooksRole).toInt() & TableItemDelegate::Inert) {
+        return false;
+    }
+    const QModelIndex value = index.sibling(index.row(), TableListView::ValueColumn);
+    return index.column() == value.column() || !value.data(Qt::CheckStateRole).isValid();
 }
 
 } // namespace
@@ -81,18 +110,22 @@ void TableListView::setModel(QAbstractItemModel *next)
 
 void TableListView::fitColumns()
 {
-    if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount) {
+    if (!model() || model()->columnCount() <= ValueColumn) {
         return;
     }
     const int width = viewport()->width();
-    const bool hasValues = hasContents(model(), TableViewItemDatas::ValueColumn);
-    const bool hasSeconds = hasContents(model(), TableViewItemDatas::SecondColumn);
-    const int valueWidth = hasValues ? qMax(SmallestValueWidth, width * ValueShare / 100) : EmptyValueWidth;
+    const bool hasValues = hasContents(model(), TableListView::ValueColumn);
+    const bool hasSeconds = hasContents(model(), TableListView::SecondColumn);
+    QFont valueFont(font());
+    valueFont.setPixelSize(ValueFontSize);
+    const int unbroken = unbrokenWidth(model(), QFontMetrics(valueFont)) + ValueInset;
+    const int usual = qMax(qMax(SmallestValueWidth, unbroken), width * ValueShare / 100);
+    const int valueWidth = hasValues ? usual : EmptyValueWidth;
     const int value = qMin(width / 2, valueWidth);
     const int second = hasSeconds ? width * SecondShare / 100 : EmptySecondWidth;
-    setColumnWidth(TableViewItemDatas::TextColumn, qMax(1, width - second - value));
-    setColumnWidth(TableViewItemDatas::SecondColumn, second);
-    setColumnWidth(TableViewItemDatas::ValueColumn, value);
+    setColumnWidth(TableListView::TextColumn, qMax(1, width - second - value));
+    setColumnWidth(TableListView::SecondColumn, second);
+    setColumnWidth(TableListView::ValueColumn, value);
 }
 
 void TableListView::resizeEvent(QResizeEvent *event)
@@ -117,7 +150,9 @@ void TableListView::mousePressEvent(QMouseEvent *event)
         return;
     }
     d->pressed = index;
-    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (reacts(index)) {
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
     Q_EMIT pressed(index);
 }
 

@@ -1,6 +1,7 @@
 #ifndef VWFUNCTIONSETTING_H
 #define VWFUNCTIONSETTING_H
 
+#include "vwchoicememory.h"
 #include "vwpagestate.h"
 #include "vwtexts.h"
 
@@ -8,17 +9,20 @@
 
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 
 class CanBus_Raise_Volkswagen;
 class QAbstractItemModel;
+class QLabel;
 class QModelIndex;
 class SelectDialog;
 class TableListView;
 class TableViewItemDatas;
 class TableViewModel;
 
-/// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. The page
-/// deletes itself when the driver leaves it (back or home).
+/// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. What the car
+/// has not told looks so. `labelFoot` says that the page waits for a car that has been silent for two seconds (it is
+/// then asked once more), or how old a report is. The page deletes itself when the driver leaves it (back or home).
 class VWFunctionSetting : public OrbMainWindow
 {
     Q_OBJECT
@@ -53,6 +57,9 @@ private Q_SLOTS:
     void onItemColumnClicked(QAbstractItemModel *model, const QModelIndex &index);
     /// Nothing: the list lights the row up by itself, and what a row does waits until the finger has left it.
     void onItemPressed(const QModelIndex &) {}
+    void onCarSilent();
+    void onSentShown();
+    void showFoot();
     void retranslate();
 
 private:
@@ -68,18 +75,29 @@ private:
     void chooseNumber(const Vw::SettingRow &row, const QModelIndex &index);
     void confirmAction(const Vw::SettingRow &row);
     void send(int item, int value);
+    void choose(int item, int value);
+    void act(int item);
 
     int showSelectCheckBoxModeDialog(const QStringList &options, int current, const QModelIndex &index);
     int showSelectSliderModeDialog(int minimum, int maximum, int step, const QString &unit, int value,
                                    const QModelIndex &index);
-    bool showConfirmDialog(const QString &title, const QString &text);
-    SelectDialog *newDialog(const QString &title);
+    bool showConfirmDialog(const Vw::SettingRow &row);
+    SelectDialog *newDialog(const Vw::SettingRow &row);
+    void translateDialog();
+    QString questionTitle() const;
+    QString questionOf(const Vw::SettingRow &row) const;
 
     CanBus_Raise_Volkswagen *const m_adapter;
     Vw::PageState m_state;
     TableViewModel *const m_model;
     TableListView *const m_list;
-    QPointer<SelectDialog> m_dialog; // the open one
+    QLabel *const m_foot;
+    Vw::ChoiceMemory m_memory;
+    QTimer m_silenceTimer;
+    QTimer m_ageTimer;
+    QTimer m_sentTimer;
+    QPointer<SelectDialog> m_dialog; // the open one,
+    Vw::SettingRow m_asked;          // and the row that it is about
     bool m_left;
 };
 

@@ -15,6 +15,12 @@ QString getReportInfo(int number);
 /// A convenience consumer that costs fuel: 1..18.
 QString getConvConsumerInfo(int number);
 
+/// "Waiting for the car", for a screen whose questions the box has not answered.
+QString waitingText();
+
+/// "Last report 12 min ago" for a report that is \a age milliseconds old; empty below a minute.
+QString ageText(qint64 age);
+
 } // namespace Vw
 
 #endif // VWTEXTS_H

@@ -16,6 +16,7 @@
 #include "airconditiondlg.h"
 #include "orbapplication.h"
 #include "orbcommons.h"
+#include "orbdialog.h"
 #include "orbevent.h"
 #include "orbeventtypes.h"
 #include "orbhost.h"
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void tilesFollowTheFramework();
     void whatWasOpenedIsLeft();
     void backLeavesOneWindowAndHomeAll();
+    void titleStaysUnderADialog();
     void keysPassTheFilters();
     void whatIsDoneIsToldToThePlugin();
     void climateGoesAwayWhenNothingChanges();
@@ -194,6 +196,28 @@ void TestUnitShell::backLeavesOneWindowAndHomeAll()
         QCoreApplication::processEvents();
         QCOMPARE(lower.isVisible(), key == Qt::Key_Back);
     }
+}
+
+void TestUnitShell::titleStaysUnderADialog()
+{
+    // Without the clock, which may go on meanwhile.
+    const auto title = [this] {
+        QCoreApplication::processEvents();
+        QWidget *const bar = m_desk->screen()->statusArea();
+        return bar->grab(QRect(bar->width() / 10, 0, bar->width() / 2, bar->height())).toImage();
+    };
+    OrbMainWindow window;
+    window.setWindowTitle("Car infos");
+    const QImage home = title();
+    window.show();
+    const QImage inWindow = title();
+    QVERIFY(inWindow != home);
+    OrbDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QVERIFY(title() == inWindow);
+    window.hide();
+    QVERIFY(title() == home);
 }
 
 void TestUnitShell::keysPassTheFilters()

@@ -138,6 +138,7 @@ QMap<QString, QString> Stage::state() const
     const OrbHost *const host = OrbHost::instance();
     state["window in front"] = nameOf(host->frontWindow());
     state["all in front"] = nameOf(host->frontWindow(false));
+    state["below all dialogs"] = nameOf(host->frontMainWindow());
     const QWidget *const area = host->windowArea();
     const QWidget *const scrim = area ? area->findChild<QWidget *>("orbScrim") : nullptr;
     state["scrim"] = scrim && !scrim->isHidden() ? "shown" : "none";
@@ -190,7 +191,7 @@ void Stage::actOn(QWidget *thing, const QString &what, const QString &with)
         {"percent", [=] { update->updatePercent(with.toInt()); }},
         {"given", [=] { update->setProperty("everythingGiven", with == "all"); }},
         {"failed", [=] { update->setUpdateFailed(with.toInt()); }},
-        {"click", [=] { update->findChild<QPushButton *>(with)->click(); }},
+        {"click", [=] { thing->findChild<QPushButton *>(with)->click(); }},
         {"silence", [=] {
              QTimer *const timer = update->findChild<QTimer *>("silence");
              m_notes << (timer->isActive() ? QString::number(timer->interval()) + " ms passed"

@@ -1,6 +1,7 @@
 #include "windowstack.h"
 
 #include "orbhost_p.h"
+#include "orbmainwindow.h"
 #include "orbtrace.h"
 
 #include <QEvent>
@@ -171,10 +172,32 @@ QWidget *WindowStack::front(bool ignoreOverlays) const
     return index < 0 ? nullptr : m_order.at(index).window;
 }
 
+QWidget *WindowStack::frontMainWindow() const
+{
+    const int index = topmost(MainWindow);
+    return index < 0 ? nullptr : m_order.at(index).window;
+}
+
 unsigned int WindowStack::frontAppId() const
 {
     const int index = topmost(MainWindow);
     return index < 0 ? 0 : m_order.at(index).appId;
+}
+
+// A window's hook may delete other windows.
+void WindowStack::goHome()
+{
+    QList<QPointer<OrbMainWindow>> windows;
+    for (int i = 0; i < m_order.size(); ++i) {
+        if (m_order.at(i).kind == MainWindow && !m_order.at(i).window->isHidden()) {
+            windows.append(qobject_cast<OrbMainWindow *>(m_order.at(i).window));
+        }
+    }
+    for (int i = 0; i < windows.size(); ++i) {
+        if (windows.at(i) && !windows.at(i)->isHidden()) {
+            windows.at(i)->home();
+        }
+    }
 }
 
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)

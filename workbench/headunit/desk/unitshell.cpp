@@ -220,7 +220,7 @@ void UnitShell::showControls()
 
 void UnitShell::showFront()
 {
-    QWidget *front = OrbHost::instance()->frontWindow();
+    QWidget *front = OrbHost::instance()->frontMainWindow();
     if (front) {
         // A window translates its title after the desk does, or changes it while it is open.
         connect(front, &QWidget::windowTitleChanged, this, &UnitShell::showFront, Qt::UniqueConnection);

@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Head</source>
-        <translation>Kopf</translation>
+        <translation>Dach</translation>
     </message>
     <message>
         <source>High</source>

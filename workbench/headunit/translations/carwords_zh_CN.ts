@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Head</source>
-        <translation>头部</translation>
+        <translation>车顶</translation>
     </message>
     <message>
         <source>High</source>

@@ -153,7 +153,7 @@
     <name>DeskWindow</name>
     <message>
         <source>Head unit on the desk</source>
-        <translation>Kopfeinheit auf dem Tisch</translation>
+        <translation>Bordgerät auf dem Tisch</translation>
     </message>
 </context>
 <context>
