@@ -34,12 +34,21 @@ bool isCounter(const ServiceReading &reading)
 
 } // namespace
 
+KeptReports::Report::Report(const PackageView &package)
+    : bytes(QByteArray(1, char(package.command())) + package.bytes())
+{
+    clock.start();
+}
+
 void KeptReports::take(const PackageView &package)
 {
     if (package.command() == ServiceReply) {
         const ServiceReading reading = serviceReading(package);
         if (isCounter(reading)) {
-            m_overdue.insert(reading.item, reading.form == ServiceReading::Overdue);
+            m_overdue.removeAll(reading.item);
+        }
+        if (reading.form == ServiceReading::Overdue) {
+            m_overdue.append(reading.item);
         }
         return;
     }
@@ -51,17 +60,14 @@ void KeptReports::take(const PackageView &package)
             m_reports.removeAt(i);
         }
     }
-    Report report;
-    report.bytes = QByteArray(1, char(package.command())) + package.bytes();
-    report.since.start();
-    m_reports.append(report);
+    m_reports.append(Report(package));
 }
 
 qint64 KeptReports::age(quint8 command) const
 {
     for (int i = 0; i < m_reports.size(); ++i) {
         if (quint8(m_reports.at(i).bytes.at(0)) == command) {
-            return m_reports.at(i).since.elapsed();
+            return m_reports.at(i).clock.elapsed();
         }
     }
     return -1;
@@ -69,7 +75,7 @@ qint64 KeptReports::age(quint8 command) const
 
 bool KeptReports::isServiceOverdue() const
 {
-    return !m_overdue.keys(true).isEmpty();
+    return !m_overdue.isEmpty();
 }
 
 } // namespace Vw

@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QElapsedTimer>
-#include <QHash>
 #include <QList>
 
 namespace Vw {
@@ -38,12 +37,14 @@ public:
 private:
     struct Report
     {
-        QByteArray bytes; // the command byte before the data
-        QElapsedTimer since;
+        explicit Report(const PackageView &package);
+
+        QByteArray bytes;    // the command byte before the data
+        QElapsedTimer clock; // runs since it came
     };
 
-    QList<Report> m_reports;    // in order of arrival
-    QHash<int, bool> m_overdue; // by item of the service page
+    QList<Report> m_reports; // in order of arrival
+    QList<int> m_overdue;    // items of the service page
 };
 
 } // namespace Vw
