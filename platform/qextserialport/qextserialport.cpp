@@ -1,5 +1,8 @@
 #include "qextserialport.h"
 
+#include "arrivalwatch.h"
+#include "serialtap.h"
+
 #include <QFile>
 #include <QSocketNotifier>
 
@@ -54,6 +57,12 @@ QString openFailure(const QString &name)
     }
 }
 
+bool hasHungUp(int descriptor)
+{
+    pollfd look = {descriptor, POLLIN, 0};
+    return ::poll(&look, 1, 0) < 0 || (look.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+}
+
 } // namespace
 
 QextSerialPort::QextSerialPort(const QString &name, const PortSettings &settings, QueryMode mode,
@@ -64,6 +73,7 @@ QextSerialPort::QextSerialPort(const QString &name, const PortSettings &settings
     , m_mode(mode)
     , m_descriptor(-1)
     , m_notifier(nullptr)
+    , m_watch(nullptr)
 {}
 
 QextSerialPort::~QextSerialPort()
@@ -80,11 +90,21 @@ bool QextSerialPort::open(OpenMode mode)
     m_descriptor = ::open(QFile::encodeName(m_name).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
     if (m_descriptor < 0 || !setUpLine()) {
         m_failure = openFailure(m_name);
+        const int systemError = errno;
         if (m_descriptor >= 0) {
             ::close(m_descriptor);
             m_descriptor = -1;
         }
+        for (SerialTapObserver *observer : SerialTap::observers()) {
+            observer->openFailed(m_name, systemError, SerialTap::now());
+        }
         return false;
+    }
+    if (!SerialTap::observers().isEmpty()) {
+        m_watch = new ArrivalWatch(m_descriptor, this);
+    }
+    for (SerialTapObserver *observer : SerialTap::observers()) {
+        observer->opened(m_name, m_settings, SerialTap::now());
     }
     if (m_mode == EventDriven) {
         m_notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read, this);
@@ -103,6 +123,14 @@ void QextSerialPort::close()
         m_notifier->setEnabled(false);
         m_notifier->deleteLater(); // it may be the one that called
         m_notifier = nullptr;
+    }
+    if (m_watch) {
+        const bool isLost = hasHungUp(m_descriptor) || !m_failure.isEmpty();
+        delete m_watch;
+        m_watch = nullptr;
+        for (SerialTapObserver *observer : SerialTap::observers()) {
+            observer->closed(isLost, SerialTap::now());
+        }
     }
     ::close(m_descriptor);
     m_descriptor = -1;
@@ -156,6 +184,9 @@ QString QextSerialPort::errorString()
 
 qint64 QextSerialPort::readData(char *data, qint64 maxSize)
 {
+    if (m_watch) {
+        m_watch->look();
+    }
     ssize_t count = ::read(m_descriptor, data, size_t(maxSize));
     if (count < 0 && errno == EAGAIN && m_mode == Polling && m_settings.Timeout_Millisec > 0) {
         isReadable(int(m_settings.Timeout_Millisec));
@@ -168,6 +199,9 @@ qint64 QextSerialPort::readData(char *data, qint64 maxSize)
     if (m_notifier) {
         m_notifier->setEnabled(count != 0); // 0: hung up
     }
+    if (m_watch && count > 0) {
+        m_watch->received(QByteArray(data, int(count)));
+    }
     return qMax<qint64>(count, 0);
 }
 
@@ -177,6 +211,9 @@ qint64 QextSerialPort::writeData(const char *data, qint64 maxSize)
     if (count < 0 && errno != EAGAIN && errno != EINTR) {
         m_failure = QString::fromLatin1("General write operation failure");
         return -1;
+    }
+    if (m_watch && count > 0) {
+        m_watch->sent(QByteArray(data, int(count)));
     }
     return qMax<qint64>(count, 0);
 }

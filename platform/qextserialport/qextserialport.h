@@ -4,6 +4,7 @@
 #include <QIODevice>
 #include <QString>
 
+class ArrivalWatch;
 class QSocketNotifier;
 
 /// The published names of QextSerialPort, as far as this project uses them, for machines on which the library
@@ -84,7 +85,8 @@ private:
     const QueryMode m_mode;
     int m_descriptor; // -1 while closed
     QSocketNotifier *m_notifier;
-    QString m_failure; // empty: none
+    ArrivalWatch *m_watch; // while it is open and somebody listens at the tap
+    QString m_failure;     // empty: none
 };
 
 #endif // QEXTSERIALPORT_H

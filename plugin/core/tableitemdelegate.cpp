@@ -157,7 +157,7 @@ void drawButton(QPainter *painter, const QRect &room, const QFont &base, const T
 {
     const QFont font = pixelFont(base, LabelSize);
     const QString text = row.bindData(TableItemDelegate::NoteRole).toString();
-    const int textWidth = text.isEmpty() ? 0 : Gap / 2 + QFontMetrics(font).boundingRect(text).width() + 1;
+    const int textWidth = text.isEmpty() ? 0 : Gap / 2 + OrbQt::textWidth(QFontMetrics(font), text) + 1;
     const int width = qMin(room.width(), MarkSize + textWidth + 2 * ButtonInset);
     const QRect button = middle(room, QSize(width, ButtonHeight), room.right() + 1 - width);
     painter->setPen(Qt::NoPen);

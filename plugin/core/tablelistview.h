@@ -5,8 +5,8 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 
-/// Draws the rows of a TableViewModel: icon and label, secondary text, value with its mark, or a switch. How a
-/// row looks besides is said by its bind data, see Role.
+/// Draws the rows of a TableViewModel: icon and label, secondary text, value with its mark, or a switch. How
+/// a row looks besides is said by its bind data, see Role.
 class TableItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -4,9 +4,10 @@
 #include <QLayout>
 #include <QList>
 
-/// Places its widgets from left to right and wraps to the next line where the width ends. All are equally wide
-/// and stand in columns: as many as the widest widget allows, and no more than give lines of equal length. Where
-/// that takes more than three lines there are more columns, and a widget that is too wide for one takes two.
+/// Places its widgets from left to right and wraps to the next line where the width ends. All are equally
+/// wide and stand in columns: as many as the widest widget allows, and no more than give lines of equal
+/// length. Where that takes more than three lines there are more columns, and a widget that is too wide for
+/// one takes two.
 class FlowLayout : public QLayout
 {
     Q_OBJECT

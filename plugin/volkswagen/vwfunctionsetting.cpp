@@ -64,10 +64,10 @@ VWFunctionSetting::~VWFunctionSetting()
 
 void VWFunctionSetting::onLoadUiSkin()
 {
+    m_silenceTimer.start(SilenceLimit);
     refresh();
     m_adapter->repeatReports(this);
     sendRequests();
-    m_silenceTimer.start(SilenceLimit);
     if (m_state.reportCommand() != 0) {
         m_ageTimer.start(AgeInterval);
     }

@@ -20,9 +20,10 @@ class TableListView;
 class TableViewItemDatas;
 class TableViewModel;
 
-/// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. What the car
-/// has not told looks so. `labelFoot` says that the page waits for a car that has been silent for two seconds (it is
-/// then asked once more), or how old a report is. The page deletes itself when the driver leaves it (back or home).
+/// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. What the
+/// car has not told looks so. `labelFoot` says that the page waits for a car that has been silent for two
+/// seconds (it is then asked once more), or how old a report is. The page deletes itself when the driver
+/// leaves it (back or home).
 class VWFunctionSetting : public OrbMainWindow
 {
     Q_OBJECT

@@ -156,7 +156,7 @@ CanBus_XinHang::CommandTable CanBus_XinHang::commands() const
 
 void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
 {
-    dispatch(byteArray);
+    dispatch(viewOf(byteArray));
 }
 
 void CanBus_XinHang::onStatus(const PackageView &d)

@@ -102,8 +102,8 @@ int XinHangSettingsWindow::showSelectDialog(const QString &title, const QStringL
     return ChoiceDialog::choose(title, texts, current, &m_dialog);
 }
 
-// The dialog is the framework's and has only the texts that it was given. So they are exchanged where they are
-// shown, whatever the dialog is built of.
+// The dialog is the framework's and has only the texts that it was given. So they are exchanged where they
+// are shown, whatever the dialog is built of.
 void XinHangSettingsWindow::translateDialog()
 {
     if (!m_dialog) {

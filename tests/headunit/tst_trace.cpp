@@ -89,11 +89,14 @@ void TestTrace::lineHasTheKeysInOrder()
     {
         LineOutput output(ends[1]);
         TraceWriter(&output).called("GPIOOperater", "setDirection", {30, "out"});
+        TraceWriter(&output).valueTold("outside.temperature", 23); // nobody asked for values
+        TraceWriter(&output, true).valueTold("outside.temperature", QVariant());
     }
-    char bytes[200];
+    char bytes[400];
     const QByteArray line(bytes, int(::read(ends[0], bytes, sizeof bytes)));
     const QRegularExpression form(
-        R"(^\{"t": 0\.\d\d\d, "object": "GPIOOperater", "call": "setDirection", "args": \[30, "out"\]\}\n$)");
+        R"(^\{"t": 0\.\d\d\d, "object": "GPIOOperater", "call": "setDirection", "args": \[30, "out"\]\}\n)"
+        R"(\{"t": 0\.\d\d\d, "object": "car", "call": "outside.temperature", "args": \[null\]\}\n$)");
     QVERIFY2(form.match(line).hasMatch(), line);
     ::close(ends[0]);
     ::close(ends[1]);

@@ -79,3 +79,8 @@ void TraceRecorder::eventCalled(const QString &call, const OrbEvent &event)
     }
     m_lines << call + '(' + texts.join(',') + ')';
 }
+
+void TraceRecorder::valueTold(const QString &name, const QVariant &value)
+{
+    m_lines << "value " + name + ' ' + (value.isValid() ? valueText(value) : "unknown");
+}

@@ -1,13 +1,20 @@
 #include "boxcatalog.h"
 
 #include "decoderbox.h"
+#include "speakers/gacspeaker.h"
 #include "speakers/gmspeaker.h"
+#include "speakers/havalspeaker.h"
 #include "speakers/hondaspeaker.h"
 #include "speakers/jeepspeaker.h"
 #include "speakers/mazdaspeaker.h"
+#include "speakers/nissanspeaker.h"
+#include "speakers/renaultspeaker.h"
 #include "speakers/toyotaspeaker.h"
+#include "speakers/venuciaspeaker.h"
 #include "speakers/volkswagenspeaker.h"
 #include "speakers/xinhangspeaker.h"
+
+#include <memory>
 
 namespace {
 
@@ -15,6 +22,23 @@ template <typename Speaker>
 BoxSpeaker *make(SimulatedCar *car)
 {
     return new Speaker(car);
+}
+
+const BoxCatalog::Row *findRow(int type)
+{
+    for (const BoxCatalog::Row &row : BoxCatalog::rows()) {
+        if (row.type == type) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+// A speaker for \a car, null where nobody knows what it would say.
+std::unique_ptr<BoxSpeaker> speakerOf(int type, SimulatedCar *car)
+{
+    const BoxCatalog::Row *row = findRow(type);
+    return std::unique_ptr<BoxSpeaker>(row && row->makeSpeaker ? row->makeSpeaker(car) : nullptr);
 }
 
 // A box of which only the handshake is known.
@@ -35,13 +59,13 @@ const QVector<BoxCatalog::Row> &BoxCatalog::rows()
         {5, "CanBus_XBS_Mazda", "mazda", make<MazdaSpeaker>},
         {6, "CanBus_XinRi", "xinri", makePlain},
         {7, "CanBus_Raise_Honda", "honda", make<HondaSpeaker>},
-        {8, "CanBus_Raise_Nissan", "nissan", makePlain},
+        {8, "CanBus_Raise_Nissan", "nissan", make<NissanSpeaker>},
         {9, "CanBus_Raise_Toyota", "toyota", make<ToyotaSpeaker>},
         {10, "CanBus_Raise_GM", "gm", make<GmSpeaker>},
-        {11, "CanBus_Raise_Haval", "haval", makePlain},
-        {12, "CanBus_Raise_GAC", "gac", makePlain},
-        {13, "CanBus_Raise_Venucia", "venucia", makePlain},
-        {14, "CanBus_Raise_Renault", "renault", makePlain},
+        {11, "CanBus_Raise_Haval", "haval", make<HavalSpeaker>},
+        {12, "CanBus_Raise_GAC", "gac", make<GacSpeaker>},
+        {13, "CanBus_Raise_Venucia", "venucia", make<VenuciaSpeaker>},
+        {14, "CanBus_Raise_Renault", "renault", make<RenaultSpeaker>},
         {15, "CanBus_Raise_Jeep", "jeep", make<JeepSpeaker>},
     };
     return rows;
@@ -58,6 +82,35 @@ int BoxCatalog::typeFromText(const QString &text)
         }
     }
     return 0;
+}
+
+QString BoxCatalog::className(int type)
+{
+    const Row *row = findRow(type);
+    return row ? QString(row->className) : QString();
+}
+
+const FrameFormat *BoxCatalog::frameOf(int type)
+{
+    SimulatedCar car;
+    const std::unique_ptr<BoxSpeaker> speaker = speakerOf(type, &car);
+    return speaker ? &speaker->format() : nullptr;
+}
+
+QSet<quint8> BoxCatalog::reportedBy(int type)
+{
+    SimulatedCar car;
+    const std::unique_ptr<BoxSpeaker> speaker = speakerOf(type, &car);
+    QSet<quint8> commands;
+    if (speaker) {
+        for (const BoxReport &report : speaker->reports()) {
+            commands << report.command;
+        }
+        for (const BoxKey &key : speaker->keys()) {
+            commands << key.command;
+        }
+    }
+    return commands;
 }
 
 DecoderBox *BoxCatalog::createBox(int type, QObject *parent, QString *error)

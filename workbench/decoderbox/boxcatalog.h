@@ -1,6 +1,7 @@
 #ifndef BOXCATALOG_H
 #define BOXCATALOG_H
 
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -8,6 +9,7 @@ class BoxSpeaker;
 class DecoderBox;
 class QObject;
 class SimulatedCar;
+struct FrameFormat;
 
 /// Which box goes with which CAN-bus type of the head unit.
 class BoxCatalog
@@ -26,6 +28,15 @@ public:
 
     /// The type that \a text names, by number (decimal or 0x-hexadecimal) or by class name; 0 for none.
     static int typeFromText(const QString &text);
+
+    /// The class name of \a type; empty for one that does not exist.
+    static QString className(int type);
+
+    /// How the packages of \a type look; null for a type that does not exist or whose packages nobody knows.
+    static const FrameFormat *frameOf(int type);
+
+    /// The commands with which a box of \a type is known to report something to the unit.
+    static QSet<quint8> reportedBy(int type);
 
     /// A box for \a type with its own car, owned by \a parent or else by the caller. Null, with one sentence
     /// in \a error, for a type that does not exist or whose box nobody knows.

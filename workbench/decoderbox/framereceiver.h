@@ -1,7 +1,7 @@
 #ifndef FRAMERECEIVER_H
 #define FRAMERECEIVER_H
 
-#include "frameformat.h"
+#include "lineframer.h"
 
 #include <QObject>
 #include <QTimer>
@@ -32,16 +32,9 @@ Q_SIGNALS:
 private:
     void giveUpWaiting();
     void work();
-    void takeByteBetweenPackages();
-    bool takeCandidate();
-    void pass(int count);
 
-    const FrameFormat &m_format;
-    QByteArray m_buffer;
-    int m_front = 0;    // the byte to look at; what lies before it is done with
-    int m_rejected = 0; // bytes left of a candidate that turned out bad: no news in them but a whole package
-    int m_stale = 0;    // bytes left that came too long ago to begin a package that is not whole by now
-    QTimer m_patience;  // for the rest of the candidate at the front
+    LineFramer m_framer;
+    QTimer m_patience; // for the rest of the candidate at the front
 };
 
 #endif // FRAMERECEIVER_H

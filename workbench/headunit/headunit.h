@@ -1,6 +1,7 @@
 #ifndef HEADUNIT_H
 #define HEADUNIT_H
 
+#include "linerecorder.h"
 #include "pluginlibrary.h"
 
 #include <QObject>
@@ -48,6 +49,9 @@ public:
     /// before.
     void setMode(uint mode, uint other);
     void setMode(uint mode) { setMode(mode, m_mode); }
+    /// Hears the unit's serial line from the unit's first moment on.
+    LineRecorder *lineRecorder() { return &m_lineRecorder; }
+
     /// 0 until it was set.
     uint mode() const { return m_mode; }
 
@@ -60,6 +64,7 @@ Q_SIGNALS:
 private:
     void postNumbers(int type, uint param, uint param2);
 
+    LineRecorder m_lineRecorder;
     PluginLibrary m_library;
     OrbPlugin *m_plugin = nullptr;
     uint m_mode = 0;

@@ -23,6 +23,9 @@ struct Texts
     std::string clock;
     std::string trace;
     std::string script;
+    std::string junit;
+    std::string record;
+    std::string saveBad;
     std::vector<std::string> tags;
     std::vector<std::string> products;
     std::vector<std::string> factory;
@@ -124,6 +127,9 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->type_name("[SCENARIO]")
         ->expected(0, 1)
         ->excludes(port);
+    app->add_option("--seed", options->seed, "where the chances of the virtual box's line faults begin")
+        ->type_name("N");
+    app->add_flag("--unpaced", options->isUnpaced, "bytes take no time on the virtual box's line");
     addPath(app, "--plugin", &texts->plugin, "PATH", "the plug-in's shared library");
     addSetting(app, "--tag", &texts->tags, "ID=VALUE", tagComplaint, "a tag of the unit; may be repeated");
     addSetting(app, "--product", &texts->products, "KEY=VALUE", settingComplaint,
@@ -143,8 +149,19 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->check(clockComplaint);
     addPath(app, "--trace", &texts->trace, "FILE|-",
             "writes what the plug-in does as JSON lines; - is standard output");
-    addPath(app, "--script", &texts->script, "FILE|-",
-            "carries out commands, one a line; - is standard input");
+    app->add_flag("--trace-values", options->tracesValues,
+                  "the trace has the values besides that the car tells and no display takes");
+    CLI::Option *const script = addPath(app, "--script", &texts->script, "FILE|-",
+                                        "carries out commands, one a line; - is standard input");
+    app->add_flag("--strict", options->isStrict,
+                  "the script's first error or unmet expectation ends the run with status 1")
+        ->needs(script);
+    addPath(app, "--junit", &texts->junit, "FILE", "writes what became of the script's lines as a JUnit file")
+        ->needs(script);
+    addPath(app, "--record", &texts->record, "FILE|-",
+            "writes the serial line's bytes to a log; - is standard output");
+    addPath(app, "--save-bad", &texts->saveBad, "FILE",
+            "writes the line's last minute to a log when the first bad package comes");
 }
 
 bool readSize(const QString &text, QSize *size)
@@ -187,18 +204,28 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->scenario = QString::fromStdString(texts.scenario);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
+    options->junit = QString::fromStdString(texts.junit);
+    options->record = QString::fromStdString(texts.record);
+    options->saveBad = QString::fromStdString(texts.saveBad);
 }
 
 } // namespace
 
-bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
+bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const UnitCommand *command)
 {
     CLI::App app(
-        "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
-        "headunit");
+        command
+            ? command->description
+            : "A head unit on the desk that runs the CAN-bus plug-in. Numbers are decimal or 0x-hexadecimal.",
+        command ? std::string("headunit ") + command->name : "headunit");
     app.get_formatter()->column_width(34);
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     Texts texts;
+    if (command) {
+        command->addOptions(&app);
+    } else {
+        app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    }
     addOptions(&app, this, &texts);
     usage = QString::fromStdString(app.help());
     std::vector<std::string> words;
@@ -216,6 +243,7 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
     }
     readSettings(texts, this);
     hasDecoderBox = app.count("--decoder-box") != 0;
+    hasSeed = app.count("--seed") != 0;
     if (app.count("--port") != 0) {
         productValues.insert("CANPortName", QString::fromStdString(texts.port));
     }
@@ -229,5 +257,5 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error)
     } else if (hasDecoderBox && canBusType() == 0) {
         *error = "--decoder-box needs --can-bus-type: which box is it?";
     }
-    return error->isEmpty();
+    return error->isEmpty() && (!command || command->apply(this, error));
 }

@@ -2,11 +2,13 @@
 
 #include "boxcatalog.h"
 #include "boxpage.h"
+#include "callwatch.h"
 #include "decoderbox.h"
 #include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
 #include "quitonsignals.h"
+#include "replayrun.h"
 #include "scenarioplayer.h"
 #include "scriptrunner.h"
 #include "sidepanel.h"
@@ -69,7 +71,12 @@ HeadUnitProgram::~HeadUnitProgram()
         m_unit->unloadPlugin();
     }
     m_window.reset();
+    m_replay.reset();
+    m_watch.reset();
     OrbTrace::setListener(nullptr);
+    if (m_report.isOpen() && !m_report.write(m_options.script)) {
+        std::fprintf(stderr, "headunit: %s could not be written\n", qPrintable(m_options.junit));
+    }
 }
 
 bool HeadUnitProgram::begin(QString *error)
@@ -83,6 +90,12 @@ bool HeadUnitProgram::begin(QString *error)
         return false;
     }
     m_unit.reset(new HeadUnit);
+    if (!startRecorder(error)) {
+        return false;
+    }
+    if (m_replay) {
+        m_replay->begin(m_unit->lineRecorder());
+    }
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -115,9 +128,12 @@ bool HeadUnitProgram::openTrace(QString *error)
             m_output->waitForReader();
         }
     }
-    m_writer.reset(new TraceWriter(m_output.get()));
+    m_writer.reset(new TraceWriter(m_output.get(), m_options.tracesValues));
     if (isTraced) {
         OrbTrace::setListener(m_writer.get());
+    }
+    if (!m_options.script.isEmpty()) {
+        m_watch.reset(new CallWatch(OrbTrace::listener));
     }
     return true;
 }
@@ -146,17 +162,70 @@ void HeadUnitProgram::configureUnit()
     sayWhyNoDecoder(m_options);
 }
 
+bool HeadUnitProgram::startRecorder(QString *error)
+{
+    LineRecorder *recorder = m_unit->lineRecorder();
+    recorder->setType(int(m_options.canBusType()));
+    recorder->saveAtBadPackage(m_options.saveBad);
+    connect(recorder, &LineRecorder::fileFailed, this,
+            [](const QString &problem) { std::fprintf(stderr, "headunit: %s\n", qPrintable(problem)); });
+    const bool isWanted = !m_options.record.isEmpty() || !m_options.saveBad.isEmpty();
+    if (isWanted && !SerialTap::isWired()) {
+        *error = "the serial library that this program was built with cannot be listened to";
+        return false;
+    }
+    return m_options.record.isEmpty() || recorder->startFile(m_options.record, error);
+}
+
 bool HeadUnitProgram::openBox(QString *error)
 {
+    if (m_options.replay) {
+        return openReplay(error);
+    }
     if (!m_options.hasDecoderBox) {
         return true;
     }
     m_box.reset(BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error));
-    if (!m_box || !m_box->open(QString(), error)) {
+    if (!m_box) {
         return false;
     }
-    OrbHost::instance()->setProductValue("CANPortName", m_box->portPath());
+    if (m_options.isUnpaced) {
+        m_box->setUnpaced();
+    }
+    if (m_options.hasSeed) {
+        m_box->faults()->setSeed(m_options.seed);
+    }
+    m_lineFolder.reset(new QTemporaryDir);
+    const QString link = m_lineFolder->filePath("box");
+    if (!m_box->open(link, error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", link);
     return m_options.scenario.isEmpty() || openScenario(error);
+}
+
+bool HeadUnitProgram::openReplay(QString *error)
+{
+    m_replay.reset(new ReplayRun(*m_options.replay, int(m_options.canBusType())));
+    if (!m_replay->open(error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", m_replay->portPath());
+    connect(m_replay.get(), &ReplayRun::finished, this,
+            [this] { QTimer::singleShot(LastPackagesMs, this, &HeadUnitProgram::endReplay); });
+    return true;
+}
+
+// A script, and a window, go on without the log.
+void HeadUnitProgram::endReplay()
+{
+    const QByteArray text = m_options.replay->asJson ? m_replay->json() : m_replay->summary().toLocal8Bit();
+    const bool isTraceOnOutput = m_output && m_traceFile.handle() == STDOUT_FILENO;
+    std::fprintf(isTraceOnOutput ? stderr : stdout, "%s\n", text.constData());
+    std::fflush(stdout);
+    if (m_options.isHeadless && m_options.script.isEmpty()) {
+        QCoreApplication::exit(m_replay->isFine() ? 0 : 1);
+    }
 }
 
 // Read before anything else starts, played when the unit has opened its port.
@@ -182,7 +251,8 @@ bool HeadUnitProgram::openScenario(QString *error)
 bool HeadUnitProgram::hasAnEnd(QString *error) const
 {
     const bool hasEnd = !m_options.virtualStart.isValid() || !m_options.script.isEmpty() ||
-                        (m_player && !m_player->isEndless());
+                        (m_player && !m_player->isEndless()) ||
+                        (m_options.replay && !m_options.replay->loops);
     if (!hasEnd) {
         *error = "under the virtual clock this would never end: it takes a script, or a scenario with an end";
     }
@@ -227,7 +297,8 @@ void HeadUnitProgram::openScreen()
 bool HeadUnitProgram::openScript(QString *error)
 {
     return m_options.script.isEmpty() ||
-           open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error);
+           (open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error) &&
+            (m_options.junit.isEmpty() || m_report.open(m_options.junit, error)));
 }
 
 void HeadUnitProgram::startScript()
@@ -235,6 +306,16 @@ void HeadUnitProgram::startScript()
     if (!m_scriptFile.isOpen()) {
         return;
     }
-    m_script.reset(new ScriptRunner(m_scriptFile.handle(), m_unit.get(), m_writer.get()));
+    const ScriptRunner::Surroundings surroundings = {m_unit.get(), m_box.get(), m_watch.get(), m_writer.get(),
+                                                     m_report.isOpen() ? &m_report : nullptr};
+    m_script.reset(new ScriptRunner(m_scriptFile.handle(), surroundings, m_options.isStrict));
     connect(m_script.get(), &ScriptRunner::finished, qApp, &QCoreApplication::quit);
+    connect(m_script.get(), &ScriptRunner::failed, this, &HeadUnitProgram::failStrictly);
+}
+
+void HeadUnitProgram::failStrictly(int line, const QString &command, const QString &reason)
+{
+    std::fprintf(stderr, "headunit: %s:%d: %s: %s\n", qPrintable(m_options.script), line, qPrintable(command),
+                 qPrintable(reason));
+    QCoreApplication::exit(1);
 }

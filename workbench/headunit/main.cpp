@@ -1,28 +1,10 @@
-#include "headunitoptions.h"
-#include "headunitprogram.h"
-
-#include "orbapplication.h"
-#include "virtualclock.h"
-
-#include <cstdio>
+#include "command.h"
+#include "unitrun.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
-
-enum ExitCode { Fine = 0, CannotRun = 1, WrongUsage = 2 };
-
-void complain(const QString &problem)
-{
-    std::fprintf(stderr, "headunit: %s\n", problem.toLocal8Bit().constData());
-}
-
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
 
 // A standard stream that was closed must not become another file's number: it reads as empty and swallows.
 void keepStandardStreams()
@@ -43,33 +25,6 @@ int main(int argc, char *argv[])
     for (int i = 0; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);
     }
-    HeadUnitOptions options;
-    QString error;
-    if (!options.parse(arguments, &error)) {
-        complain(error);
-        std::fputs(qPrintable(options.usage), stderr);
-        return WrongUsage;
-    }
-    if (options.wantsHelp) {
-        std::fputs(qPrintable(options.usage), stdout);
-        return Fine;
-    }
-    if (options.isHeadless) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    } else if (!hasDisplay()) {
-        complain("no display; use --headless");
-        return CannotRun;
-    }
-    if (options.virtualStart.isValid() && !VirtualClock::start(options.virtualStart.toSecsSinceEpoch())) {
-        complain("the virtual clock does not reach the libraries of this program");
-        return CannotRun;
-    }
-    int ownArgument = 1; // the others are not Qt's
-    OrbApplication application(ownArgument, argv);
-    HeadUnitProgram program(options);
-    if (!program.begin(&error)) {
-        complain(error);
-        return CannotRun;
-    }
-    return QCoreApplication::exec();
+    const Command *command = Command::find(arguments.value(1));
+    return command ? command->run(arguments.mid(2)) : runUnit(arguments);
 }

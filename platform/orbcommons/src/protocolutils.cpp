@@ -6,6 +6,7 @@
 #include "streamage.h"
 
 #include <QDebug>
+#include <QDynamicPropertyChangeEvent>
 #include <QElapsedTimer>
 #include <QIODevice>
 #include <QTimer>
@@ -95,9 +96,10 @@ public:
         if (passed <= 0) {
             return held;
         }
-        bytes[0] = bytes[passed];
         if (held > cursor) {
-            memmove(bytes + 1, bytes + cursor, size_t(held - cursor));
+            memmove(bytes, bytes + passed, size_t(held - passed));
+        } else {
+            bytes[0] = bytes[passed];
         }
         streamBase += passed;
         cursor = 1;
@@ -382,6 +384,16 @@ void ProtocolUtils::onPollTimer()
 void ProtocolUtils::setWritePackageIntval(int milliseconds)
 {
     m_d->writer->setInterval(milliseconds);
+}
+
+// What an adapter keeps in dynamic properties is for whoever looks on.
+bool ProtocolUtils::event(QEvent *event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
+        const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
+        OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()), property(name.constData()));
+    }
+    return QObject::event(event);
 }
 
 void ProtocolUtils::writeDatas(const QByteArray &package)

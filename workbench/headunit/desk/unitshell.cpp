@@ -11,6 +11,7 @@
 #include "orbeventtypes.h"
 #include "orbhost.h"
 #include "orbmainwindow.h"
+#include "orbtrace.h"
 #include "statusbar.h"
 #include "unitscreen.h"
 
@@ -95,6 +96,10 @@ void UnitShell::connectFramework()
 
 void UnitShell::useKey(int code, int phase)
 {
+    static const char *const phases[] = {"release", "press", "repeat"}; // as HeadUnit::KeyPhase
+    if (OrbTrace::listener) {
+        OrbTrace::listener->called("desk", "key", {code, phases[phase]});
+    }
     if (!m_unit->key(uint(code), HeadUnit::KeyPhase(phase))) {
         m_controls.key(code, phase != HeadUnit::KeyReleased, phase == HeadUnit::KeyRepeated);
     }

@@ -15,7 +15,7 @@
         <translation>Tasten am Lenkrad</translation>
     </message>
     <message>
-        <source>Keys on the car's panel</source>
+        <source>Keys on the car&apos;s panel</source>
         <translation>Tasten am Bedienfeld des Autos</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@
         <translation>Szenarien (*.scn)</translation>
     </message>
     <message>
-        <source>Waits for the unit's ready</source>
+        <source>Waits for the unit&apos;s ready</source>
         <translation>Wartet auf die Bereitmeldung des Geräts</translation>
     </message>
     <message>
@@ -112,6 +112,54 @@
     <message>
         <source>Line log</source>
         <translation>Leitungsprotokoll</translation>
+    </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>Bit kippen</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>Byte verlieren</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>Byte verdoppeln</translation>
+    </message>
+    <message>
+        <source>Wrong length</source>
+        <translation>Falsche Länge</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>Stocken, 300 ms</translation>
+    </message>
+    <message>
+        <source>Garbage</source>
+        <translation>Müll</translation>
+    </message>
+    <message>
+        <source>Late answer</source>
+        <translation>Späte Antwort</translation>
+    </message>
+    <message>
+        <source>Cut the update</source>
+        <translation>Update kappen</translation>
+    </message>
+    <message>
+        <source>Pull the line</source>
+        <translation>Leitung ziehen</translation>
+    </message>
+    <message>
+        <source>Plug it in</source>
+        <translation>Einstecken</translation>
+    </message>
+    <message>
+        <source>Bad line</source>
+        <translation>Schlechte Leitung</translation>
+    </message>
+    <message>
+        <source>Good line</source>
+        <translation>Gute Leitung</translation>
     </message>
 </context>
 <context>

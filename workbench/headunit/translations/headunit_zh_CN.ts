@@ -15,7 +15,7 @@
         <translation>方向盘按键</translation>
     </message>
     <message>
-        <source>Keys on the car's panel</source>
+        <source>Keys on the car&apos;s panel</source>
         <translation>原车面板按键</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@
         <translation>场景 (*.scn)</translation>
     </message>
     <message>
-        <source>Waits for the unit's ready</source>
+        <source>Waits for the unit&apos;s ready</source>
         <translation>等待主机就绪</translation>
     </message>
     <message>
@@ -112,6 +112,54 @@
     <message>
         <source>Line log</source>
         <translation>线路日志</translation>
+    </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>翻转一位</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>丢失一个字节</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>重复一个字节</translation>
+    </message>
+    <message>
+        <source>Wrong length</source>
+        <translation>错误长度</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>停顿 300 毫秒</translation>
+    </message>
+    <message>
+        <source>Garbage</source>
+        <translation>乱码</translation>
+    </message>
+    <message>
+        <source>Late answer</source>
+        <translation>延迟应答</translation>
+    </message>
+    <message>
+        <source>Cut the update</source>
+        <translation>中断升级</translation>
+    </message>
+    <message>
+        <source>Pull the line</source>
+        <translation>拔出线路</translation>
+    </message>
+    <message>
+        <source>Plug it in</source>
+        <translation>重新插入</translation>
+    </message>
+    <message>
+        <source>Bad line</source>
+        <translation>线路不良</translation>
+    </message>
+    <message>
+        <source>Good line</source>
+        <translation>线路良好</translation>
     </message>
 </context>
 <context>

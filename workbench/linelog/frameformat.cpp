@@ -1,15 +1,27 @@
 #include "frameformat.h"
 
+#include <cstring>
+
 const FrameFormat &FrameFormat::raise()
 {
-    static const FrameFormat format = {0x2E, 2, 4, 1, 4};
+    static const FrameFormat format = {0x2E, 2, 4, 1, 4, "raise", "\xFF\xF0\xF3"};
     return format;
 }
 
 const FrameFormat &FrameFormat::xinHang()
 {
-    static const FrameFormat format = {0xF0, 1, 3, 2, 4};
+    static const FrameFormat format = {0xF0, 1, 3, 2, 4, "xinhang", ""};
     return format;
+}
+
+const FrameFormat *FrameFormat::find(const QString &name)
+{
+    for (const FrameFormat *format : {&raise(), &xinHang()}) {
+        if (name.compare(QLatin1String(format->name), Qt::CaseInsensitive) == 0) {
+            return format;
+        }
+    }
+    return nullptr;
 }
 
 QByteArray FrameFormat::frame(const BoxPackage &package) const
@@ -38,6 +50,18 @@ int FrameFormat::frameSize(const char *bytes, int available) const
 bool FrameFormat::isGood(const char *frame, int size) const
 {
     return quint8(frame[size - 1]) == checksum(frame, size);
+}
+
+bool FrameFormat::isAnswer(char byte) const
+{
+    return byte != '\0' && std::strchr(answers, byte);
+}
+
+bool FrameFormat::isFrame(const QByteArray &bytes) const
+{
+    const int size = int(bytes.size());
+    return size > 0 && quint8(bytes.at(0)) == start && frameSize(bytes.constData(), size) == size &&
+           isGood(bytes.constData(), size);
 }
 
 BoxPackage FrameFormat::package(const QByteArray &frame) const

@@ -1,0 +1,45 @@
+#ifndef LOGTEXT_H
+#define LOGTEXT_H
+
+#include <QByteArray>
+
+/// Numbers and bytes as logs write them.
+namespace LogText {
+
+/// A place in a text, which moves on as it is read.
+struct Cursor
+{
+    const char *at;
+    const char *end;
+
+    explicit Cursor(const QByteArray &text) : at(text.constData()), end(text.constData() + text.size()) {}
+
+    bool isAtEnd() const { return at == end; }
+    /// The next character; NUL at the end.
+    char peek(int ahead = 0) const { return end - at > ahead ? at[ahead] : '\0'; }
+    /// Takes \a character if it is the next one.
+    bool take(char character);
+    void skipBlanks();
+    /// Takes what is up to the next blank.
+    QByteArray word();
+    QByteArray rest() const { return QByteArray(at, int(end - at)); }
+};
+
+bool isDigit(char character);
+/// Value of a hexadecimal digit of either case, -1 for another character.
+int hexDigit(char character);
+
+/// Takes "SECONDS" or "SECONDS.FRACTION" with a point or a comma; digits past the microseconds are dropped. False, with
+/// the cursor anywhere, when there is none or it is later than the year 5000.
+bool takeSeconds(Cursor *cursor, qint64 *microseconds);
+
+/// Reads all of \a text, pairs of digits with blanks between pairs at will. False, with \a bytes as far as whole, when
+/// there is anything else or no pair.
+bool readHex(const QByteArray &text, QByteArray *bytes);
+
+/// "12.345678"
+QByteArray seconds(qint64 microseconds);
+
+} // namespace LogText
+
+#endif // LOGTEXT_H
