@@ -137,8 +137,8 @@ void CanBus_Raise_Venucia::onCamera(const PackageView &d)
     }
     m_cameraState = state;
     if (state == CameraEntered) {
-        UnitLink::requestApp(OrbEvent::ShowAppType, 0, View360App);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 0, View360App);
     } else if (state == CameraLeft) {
-        UnitLink::requestApp(OrbEvent::ReturnType);
+        UnitLink::requestApp(UnitLink::ReturnEvent);
     }
 }

@@ -59,6 +59,8 @@ public:
     /// Key of the wheel that was reported last, CarKeys::NoKey after an unknown one. One per car and process.
     unsigned int currentKey() const;
 
+    // Toyota, Honda, GM and Jeep have no such request and no settings: there all three do nothing (Honda sets its
+    // clock with a writeSettingData of its own).
     /// Asks the box for the data of command \a type, sub-type \a param; nothing for a car without such a
     /// request.
     virtual void syncData(unsigned char type, unsigned char param);

@@ -91,7 +91,7 @@ void CanBus_Raise_Volkswagen::onInited()
 {
     AppendAppTitle(CarInfosApp, tr("Car infos"));
 
-    OrbEvent icons(400, 10, OrbEvent::AppIconType);
+    OrbEvent icons(400, 10, UnitLink::AppIconEvent);
     icons.setParams(CarInfosApp, 0);
     icons.setStringParam(
         QString::fromLatin1("%1,%2").arg(QLatin1String(NormalIcon), QLatin1String(HighlightedIcon)));

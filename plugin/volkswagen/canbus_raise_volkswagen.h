@@ -31,6 +31,9 @@ public:
 
     void syncSettingData(unsigned char param) override;
 
+    /// Nothing: 0x40 brings values of the settings pages, which take it through recvCanDatas; it bears no key.
+    void processFKKey40(unsigned char *) {}
+
     /// Hands \a screen, by its onRecvCanDatas, what the box last reported by itself and nobody can ask for
     /// (tyres, start-stop system, vehicle reports, consumers, consumption). For a screen that opens later.
     template <class Screen>

@@ -24,7 +24,7 @@ const int DialogWidth = 720;
 } // namespace
 
 SelectDialog::SelectDialog(QWidget *parent)
-    : OrbDialog(parent, Choice)
+    : OrbDialog(parent)
     , m_ui(new Ui_SelectDialog)
     , m_contentLayout(nullptr)
     , m_checkBoxGroup(nullptr)
@@ -36,6 +36,7 @@ SelectDialog::SelectDialog(QWidget *parent)
     , m_step(0)
 {
     m_ui->setupUi(this);
+    setModal(true);
 }
 
 SelectDialog::~SelectDialog() {}

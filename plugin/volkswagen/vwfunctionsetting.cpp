@@ -73,6 +73,7 @@ void VWFunctionSetting::onLoadUiSkin()
     }
     connect(m_list, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)), this,
             SLOT(onItemColumnClicked(QAbstractItemModel *, QModelIndex)));
+    connect(m_list, SIGNAL(pressed(QModelIndex)), this, SLOT(onItemPressed(QModelIndex)));
 }
 
 void VWFunctionSetting::sendRequests()
@@ -173,4 +174,15 @@ QString VWFunctionSetting::getAppTitleFromId(unsigned int appId)
 {
     const Vw::SettingPage *const page = Vw::settingPage(appId);
     return page ? Vw::text(page->title) : QString();
+}
+
+/// The row's label, which titles its dialog.
+QString VWFunctionSetting::getItemText(const QModelIndex &index) const
+{
+    return m_model->itemDatas(index.row()).text();
+}
+
+QString VWFunctionSetting::getItemSliderValueText(const TableViewItemDatas &row)
+{
+    return Vw::numberText(row.bindData(Vw::ValueRole).toInt(), row.bindData(Vw::UnitRole).toString());
 }

@@ -3,6 +3,7 @@
 
 #include "vwchoicememory.h"
 #include "vwpagestate.h"
+#include "vwtexts.h"
 
 #include "orbmainwindow.h"
 
@@ -16,6 +17,7 @@ class QLabel;
 class QModelIndex;
 class SelectDialog;
 class TableListView;
+class TableViewItemDatas;
 class TableViewModel;
 
 /// One page of the car's settings: a list whose rows open further pages, switch, or ask in a dialog. What the
@@ -35,6 +37,14 @@ public:
     /// Title of page \a appId, empty for an unknown one.
     static QString getAppTitleFromId(unsigned int appId);
 
+    /// Texts of numbers that the car reports, in the unit's language; empty for a number without a text.
+    static QString getStartStopInfo(int number) { return Vw::getStartStopInfo(number); }
+    static QString getReportInfo(int number) { return Vw::getReportInfo(number); }
+    static QString getConvConsumerInfo(int number) { return Vw::getConvConsumerInfo(number); }
+
+    /// Value and unit of a number's row, from its bind data ("80 km/h").
+    static QString getItemSliderValueText(const TableViewItemDatas &row);
+
 public Q_SLOTS:
     void onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen);
 
@@ -46,6 +56,8 @@ protected:
 
 private Q_SLOTS:
     void onItemColumnClicked(QAbstractItemModel *model, const QModelIndex &index);
+    /// Nothing: the list lights the row up by itself, and what a row does waits until the finger has left it.
+    void onItemPressed(const QModelIndex &) {}
     void onCarSilent();
     void onSentShown();
     void showFoot();
@@ -53,6 +65,7 @@ private Q_SLOTS:
 
 private:
     void onItemClicked(const QModelIndex &index);
+    QString getItemText(const QModelIndex &index) const;
     void sendRequests();
     void refresh();
     void leave();

@@ -4,6 +4,7 @@
 #include "selectdialog.h"
 #include "vwfunctionsetting.h"
 
+#include "tablelistview.h"
 #include "tableviewmodel.h"
 
 namespace {
@@ -49,7 +50,7 @@ void VWFunctionSetting::onItemColumnClicked(QAbstractItemModel *, const QModelIn
     }
     if (row->kind != Vw::SettingRow::Switch) {
         onItemClicked(index);
-    } else if (index.column() == TableViewItemDatas::ValueColumn) {
+    } else if (index.column() == TableListView::ValueColumn) {
         toggleSwitch(*row);
     }
 }

@@ -4,6 +4,7 @@
 #include "vwrowlooks.h"
 #include "vwtexts.h"
 
+#include "tablelistview.h"
 #include "tableviewmodel.h"
 
 #include <QSize>
@@ -32,7 +33,7 @@ QString iconPath(const char *fileName)
 TableViewItemDatas reportItem(const QString &label, const char *icon, const QString &value = QString())
 {
     TableViewItemDatas item(NoItem, label, iconPath(icon));
-    item.setValue(TableViewItemDatas::ValueColumn, value);
+    item.setValue(TableListView::ValueColumn, value);
     setReportLooks(item);
     return item;
 }
@@ -258,10 +259,10 @@ TableViewItemDatas PageState::itemOf(const SettingRow &row) const
     item.setBindData(PageRole, row.opens);
     setLooks(item, row, stateOf(row));
     if (row.kind == SettingRow::Switch) {
-        item.setValue(TableViewItemDatas::ValueColumn, value(row.item, 0) != 0);
+        item.setValue(TableListView::ValueColumn, value(row.item, 0) != 0);
         return item;
     }
-    item.setValue(TableViewItemDatas::ValueColumn, valueText(row));
+    item.setValue(TableListView::ValueColumn, valueText(row));
     if (row.kind == SettingRow::Options) {
         item.setBindData(OptionsRole, optionTexts(row));
     } else if (row.kind == SettingRow::Number) {
@@ -312,7 +313,7 @@ QList<TableViewItemDatas> PageState::reportRows() const
 {
     QList<TableViewItemDatas> items;
     for (int i = 0; i < m_numbers.numbers.size(); ++i) {
-        items.append(reportItem(text(ReportCode), ReportIcon, QString::number(m_numbers.numbers.at(i))));
+        items.append(reportItem(text(ReportCode), ReportIcon, getReportInfo(m_numbers.numbers.at(i))));
     }
     return orNoEntries(items);
 }

@@ -85,6 +85,11 @@ QString getStartStopInfo(int number)
     return textOf(StartStopTexts, number);
 }
 
+QString getReportInfo(int number)
+{
+    return QString::number(number);
+}
+
 QString getConvConsumerInfo(int number)
 {
     return textOf(ConsumerTexts, number);

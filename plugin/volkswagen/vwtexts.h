@@ -9,6 +9,9 @@ namespace Vw {
 /// Why the engine is not stopped, or was started: 0..33.
 QString getStartStopInfo(int number);
 
+/// A vehicle report: its code, any number.
+QString getReportInfo(int number);
+
 /// A convenience consumer that costs fuel: 1..18.
 QString getConvConsumerInfo(int number);
 

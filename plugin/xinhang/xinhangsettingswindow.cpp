@@ -1,12 +1,13 @@
 #include "xinhangsettingswindow.h"
 
+#include "choicedialog.h"
 #include "xinhangsettings.h"
 
-#include "orbchoicedialog.h"
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QEvent>
 #include <QLabel>
 
@@ -54,8 +55,7 @@ void XinHangSettingsWindow::resetListTexts()
         const QStringList values = XinHangSettings::getSetItemValueTexts(item);
         TableViewItemDatas datas(item, XinHangSettings::getSetItemText(item));
         if (!values.isEmpty()) {
-            datas.setValue(TableViewItemDatas::ValueColumn,
-                           values.value(m_settings.getSetItemValueIndex(item)));
+            datas.setValue(TableListView::ValueColumn, values.value(m_settings.getSetItemValueIndex(item)));
             datas.setMark(QLatin1String(DropDownMark));
         }
         datas.setBindData(TableItemDelegate::LooksRole,
@@ -98,14 +98,8 @@ void XinHangSettingsWindow::onItemListViewClicked(const QModelIndex &index)
 
 int XinHangSettingsWindow::showSelectDialog(const QString &title, const QStringList &texts, int current)
 {
-    const QPointer<OrbChoiceDialog> dialog(new OrbChoiceDialog(title, texts, current));
-    m_dialog = dialog;
     m_shownTexts = QStringList(title) + texts;
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    // Nothing of the window may be touched any more: it may be gone.
-    const int chosen = dialog && accepted ? dialog->chosenIndex() : -1;
-    delete dialog;
-    return chosen;
+    return ChoiceDialog::choose(title, texts, current, &m_dialog);
 }
 
 // The dialog is the framework's and has only the texts that it was given. So they are exchanged where they

@@ -106,7 +106,7 @@ QWidget *Stage::thing(const QString &name)
         QObject::connect(update, &UpdateDialog::acceptUpdate, [this] { m_notes << "accepted"; });
         found = update;
     } else {
-        found = new PlainDialog(name == "P" ? OrbDialog::Overlay : OrbDialog::Choice);
+        found = new PlainDialog(name == "P" ? PlainDialog::Overlay : PlainDialog::Modal);
         QVBoxLayout *const column = new QVBoxLayout(found);
         column->setContentsMargins(10, 10, 10, 10);
         column->addWidget(new QLabel);
@@ -189,6 +189,7 @@ void Stage::actOn(QWidget *thing, const QString &what, const QString &with)
         {"needs", [=] { thing->findChild<QLabel *>()->setMinimumSize(with.toInt(), 300); }},
         {"asks", [=] { update->showUpdateDlg(with.toInt()); }},
         {"percent", [=] { update->updatePercent(with.toInt()); }},
+        {"given", [=] { update->setProperty("everythingGiven", with == "all"); }},
         {"failed", [=] { update->setUpdateFailed(with.toInt()); }},
         {"click", [=] { thing->findChild<QPushButton *>(with)->click(); }},
         {"silence", [=] {

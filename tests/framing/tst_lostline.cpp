@@ -6,6 +6,7 @@
 #include "raise/raiseadapter.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -42,7 +43,7 @@ void setAndAsk(CanBusAdapter *adapter)
 void dim(CanBusAdapter *adapter)
 {
     for (uint level = 1; level <= 3; ++level) {
-        OrbEvent event(1, 1, OrbEvent::NotifyType);
+        OrbEvent event(1, 1, OrbEventType::Notify);
         event.setParams(0x5020, level);
         adapter->orbAppNotify(&event);
     }

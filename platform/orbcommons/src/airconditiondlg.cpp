@@ -28,7 +28,7 @@ public:
     ClimateState state;
 };
 
-AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent, Overlay), d(new Private)
+AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent), d(new Private)
 {
     setObjectName(QLatin1String("airConditionDlg"));
 }

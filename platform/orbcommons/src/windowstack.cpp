@@ -58,6 +58,14 @@ void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
     }
 }
 
+void WindowStack::setKind(QWidget *window, Kind kind)
+{
+    const int index = indexInOrder(window);
+    if (index >= 0) {
+        m_order[index].kind = kind;
+    }
+}
+
 void WindowStack::remove(QWidget *window)
 {
     const int index = indexInOrder(window);
@@ -154,7 +162,7 @@ QList<QWidget *> WindowStack::all() const
 
 QWidget *WindowStack::front(bool ignoreOverlays) const
 {
-    int index = topmost(ChoiceDialog);
+    int index = topmost(ModalDialog);
     if (index < 0 && !ignoreOverlays) {
         index = topmost(OverlayDialog);
     }
@@ -262,8 +270,8 @@ void WindowStack::restack()
     if (!m_area) {
         return;
     }
-    const int choice = topmost(ChoiceDialog);
-    const Kind kinds[] = {MainWindow, OverlayDialog, ChoiceDialog};
+    const int choice = topmost(ModalDialog);
+    const Kind kinds[] = {MainWindow, OverlayDialog, ModalDialog};
     for (int k = 0; k < 3; ++k) {
         for (int i = 0; i < m_order.size(); ++i) {
             if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area) {

@@ -15,7 +15,7 @@ class WindowStack : public QObject
     Q_OBJECT
 
 public:
-    enum Kind { MainWindow, OverlayDialog, ChoiceDialog };
+    enum Kind { MainWindow, OverlayDialog, ModalDialog };
 
     /// Lives as long as OrbHost.
     static WindowStack *instance();
@@ -24,6 +24,7 @@ public:
 
     /// \a appId: the application of a main window; 0 for none and for dialogs.
     void add(QWidget *window, Kind kind, unsigned int appId = 0);
+    void setKind(QWidget *window, Kind kind);
     void remove(QWidget *window);
 
     /// Reports a call of setVisible, but not one that the stack makes itself.

@@ -8,6 +8,7 @@
 #include "orbapplication.h"
 #include "orbcommons.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost.h"
 #include "orbmainwindow.h"
 #include "orbtrace.h"
@@ -108,9 +109,9 @@ void UnitShell::onEvent(const OrbEvent *event)
 {
     if (m_carState.take(*event)) {
         showCarState();
-    } else if (int(event->type()) == OrbEvent::ShowAppType) {
+    } else if (int(event->type()) == OrbEventType::ShowApp) {
         onShowApp(event->getParam2());
-    } else if (int(event->type()) == OrbEvent::ReturnType) {
+    } else if (int(event->type()) == OrbEventType::Return) {
         onReturn();
     }
 }

@@ -1,6 +1,6 @@
 #include "packageprobe.h"
 
-#include "orbevent.h"
+#include "orbeventtypes.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -20,7 +20,7 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
         for (const QString &arg : call.args) {
             const QString key = arg.section('=', 0, 0);
             const QString value = arg.section('=', 1);
-            if (key == "type" && value != QString::number(OrbEvent::NotifyType)) {
+            if (key == "type" && value != QString::number(OrbEventType::Notify)) {
                 about += ' ' + value;
             } else if (key == "param") {
                 about += ' ' + value;

@@ -1,15 +1,13 @@
 #ifndef TABLELISTVIEW_H
 #define TABLELISTVIEW_H
 
-#include "orbglobal.h"
-
 #include <QPoint>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
 /// Draws the rows of a TableViewModel: icon and label, secondary text, value with its mark, or a switch. How
 /// a row looks besides is said by its bind data, see Role.
-class ORB_EXPORT TableItemDelegate : public QStyledItemDelegate
+class TableItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
@@ -35,11 +33,14 @@ public:
 
 /// A finger's list over a TableViewModel: tall rows, no headers, scrolled by dragging anywhere; a drag is
 /// never taken for a click.
-class ORB_EXPORT TableListView : public QTableView
+class TableListView : public QTableView
 {
     Q_OBJECT
 
 public:
+    /// The model's columns: label, secondary text, value.
+    enum Column { TextColumn = 0, SecondColumn = 1, ValueColumn = 2 };
+
     /// Height of a row in pixels.
     enum { RowHeight = 72 };
 

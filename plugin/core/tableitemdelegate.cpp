@@ -173,7 +173,7 @@ void drawValue(QPainter *painter, const QRect &cell, const QFont &base, const Ta
 {
     QRect room = cell.adjusted(0, 0, -Inset, 0);
     const int looks = looksOf(row);
-    const QVariant value = row.value(TableViewItemDatas::ValueColumn);
+    const QVariant value = row.value(TableListView::ValueColumn);
     if (row.isSwitch()) {
         const QRect place = middle(room, SwitchSize, room.right() - SwitchSize.width());
         if (looks & TableItemDelegate::Unknown) {
@@ -198,8 +198,8 @@ void drawValue(QPainter *painter, const QRect &cell, const QFont &base, const Ta
 // The line between two rows: over the whole width, indented at both ends.
 void drawSeparator(QPainter *painter, const QRect &cell, int column)
 {
-    const int left = column == TableViewItemDatas::TextColumn ? Inset : 0;
-    const int right = column == TableViewItemDatas::ValueColumn ? Inset : 0;
+    const int left = column == TableListView::TextColumn ? Inset : 0;
+    const int right = column == TableListView::ValueColumn ? Inset : 0;
     painter->fillRect(cell.left() + left, cell.bottom(), cell.width() - left - right, 1, OrbPalette::line());
 }
 
@@ -224,15 +224,15 @@ void TableItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     if (!row.isHeading()) {
         drawSeparator(painter, option.rect, index.column());
     }
-    if (index.column() == TableViewItemDatas::TextColumn && row.isHeading()) {
+    if (index.column() == TableListView::TextColumn && row.isHeading()) {
         drawHeading(painter, option.rect, option.font, row.text());
-    } else if (index.column() == TableViewItemDatas::TextColumn) {
+    } else if (index.column() == TableListView::TextColumn) {
         drawLabel(painter, option.rect, option.font, row);
-    } else if (index.column() == TableViewItemDatas::ValueColumn) {
+    } else if (index.column() == TableListView::ValueColumn) {
         drawValue(painter, option.rect, option.font, row);
     } else {
         drawText(painter, option.rect, pixelFont(option.font, HeadingSize), OrbPalette::dim(),
-                 row.value(TableViewItemDatas::SecondColumn).toString(), Qt::AlignLeft);
+                 row.value(TableListView::SecondColumn).toString(), Qt::AlignLeft);
     }
     painter->restore();
 }

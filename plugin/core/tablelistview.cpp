@@ -26,7 +26,7 @@ int unbrokenWidth(const QAbstractItemModel *model, const QFontMetrics &metrics)
 {
     int width = 0;
     for (int row = 0; row < model->rowCount(); ++row) {
-        const QString value = model->index(row, TableViewItemDatas::ValueColumn).data().toString();
+        const QString value = model->index(row, TableListView::ValueColumn).data().toString();
         if (!value.contains(QLatin1Char(' '))) {
             width = qMax(width, OrbQt::textWidth(metrics, value));
         }
@@ -40,7 +40,7 @@ bool hasContents(const QAbstractItemModel *model, int column)
     const int drawn = TableItemDelegate::Unknown | TableItemDelegate::Button;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, column);
-        const bool isDrawn = column == TableViewItemDatas::ValueColumn &&
+        const bool isDrawn = column == TableListView::ValueColumn &&
                              (index.data(TableItemDelegate::LooksRole).toInt() & drawn) != 0;
         if (isDrawn || !index.data().toString().isEmpty() || index.data(Qt::CheckStateRole).isValid()) {
             return true;
@@ -55,7 +55,7 @@ bool reacts(const QModelIndex &index)
     if (index.data(TableItemDelegate::LooksRole).toInt() & TableItemDelegate::Inert) {
         return false;
     }
-    const QModelIndex value = index.sibling(index.row(), TableViewItemDatas::ValueColumn);
+    const QModelIndex value = index.sibling(index.row(), TableListView::ValueColumn);
     return index.column() == value.column() || !value.data(Qt::CheckStateRole).isValid();
 }
 
@@ -110,12 +110,12 @@ void TableListView::setModel(QAbstractItemModel *next)
 
 void TableListView::fitColumns()
 {
-    if (!model() || model()->columnCount() < TableViewItemDatas::ColumnCount) {
+    if (!model() || model()->columnCount() <= ValueColumn) {
         return;
     }
     const int width = viewport()->width();
-    const bool hasValues = hasContents(model(), TableViewItemDatas::ValueColumn);
-    const bool hasSeconds = hasContents(model(), TableViewItemDatas::SecondColumn);
+    const bool hasValues = hasContents(model(), TableListView::ValueColumn);
+    const bool hasSeconds = hasContents(model(), TableListView::SecondColumn);
     QFont valueFont(font());
     valueFont.setPixelSize(ValueFontSize);
     const int unbroken = unbrokenWidth(model(), QFontMetrics(valueFont)) + ValueInset;
@@ -123,9 +123,9 @@ void TableListView::fitColumns()
     const int valueWidth = hasValues ? usual : EmptyValueWidth;
     const int value = qMin(width / 2, valueWidth);
     const int second = hasSeconds ? width * SecondShare / 100 : EmptySecondWidth;
-    setColumnWidth(TableViewItemDatas::TextColumn, qMax(1, width - second - value));
-    setColumnWidth(TableViewItemDatas::SecondColumn, second);
-    setColumnWidth(TableViewItemDatas::ValueColumn, value);
+    setColumnWidth(TableListView::TextColumn, qMax(1, width - second - value));
+    setColumnWidth(TableListView::SecondColumn, second);
+    setColumnWidth(TableListView::ValueColumn, value);
 }
 
 void TableListView::resizeEvent(QResizeEvent *event)
