@@ -1,5 +1,5 @@
 #include "headunitrun.h"
-#include "packageprobe.h"
+#include "bitprobe.h"
 #include "transcript.h"
 
 #include <QtTest>
@@ -33,7 +33,7 @@ void TestProbe::mappings_data()
 void TestProbe::mappings()
 {
     QFETCH(QStringList, values);
-    QTEST(PackageProbe::mapping(values), "text");
+    QTEST(BitProbe::mapping(values), "text");
 }
 
 void TestProbe::probes()

@@ -5,7 +5,7 @@
 #include "commandline.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
-#include "packageprobe.h"
+#include "bitprobe.h"
 #include "probetext.h"
 #include "virtualclock.h"
 
@@ -84,7 +84,7 @@ QVector<QByteArray> greeting(const BoxSpeaker &speaker, int command)
     return frames;
 }
 
-void answer(const PackageProbe &probe, const Order &order, const QString &title)
+void answer(const BitProbe &probe, const Order &order, const QString &title)
 {
     if (order.asJson) {
         std::fputs(ProbeText::json(probe).constData(), stdout);
@@ -138,7 +138,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
         return line.complain(error);
     }
     for (const Subject &subject : all) {
-        PackageProbe one(&unit, speaker.format(), subject.package);
+        BitProbe one(&unit, speaker.format(), subject.package);
         if (!subject.package.data.isEmpty() && !one.run(order.byte, order.walksValues, &error)) {
             return line.complain(error);
         }

@@ -6,10 +6,10 @@
 
 namespace {
 
-QStringList effects(const PackageProbe::Row &row)
+QStringList effects(const BitProbe::Row &row)
 {
     QStringList lines;
-    for (const PackageProbe::Effect &effect : row.effects) {
+    for (const BitProbe::Effect &effect : row.effects) {
         lines << (row.high == row.low ? effect.call + ' ' : effect.call + ": ") + effect.text;
     }
     if (lines.isEmpty()) {
@@ -21,7 +21,7 @@ QStringList effects(const PackageProbe::Row &row)
 
 } // namespace
 
-QString ProbeText::bits(const PackageProbe::Row &row)
+QString ProbeText::bits(const BitProbe::Row &row)
 {
     const QString byte = QString("d[%1]").arg(row.byte);
     return row.high - row.low == 7 ? byte
@@ -29,10 +29,10 @@ QString ProbeText::bits(const PackageProbe::Row &row)
                                    : byte + QString(".%1-%2").arg(row.high).arg(row.low);
 }
 
-QString ProbeText::plain(const PackageProbe &probe)
+QString ProbeText::plain(const BitProbe &probe)
 {
     QString text;
-    for (const PackageProbe::Row &row : probe.rows()) {
+    for (const BitProbe::Row &row : probe.rows()) {
         QString head = bits(row).leftJustified(10);
         const QStringList lines = effects(row);
         for (int i = 0; i < lines.size(); ++i) {
@@ -46,10 +46,10 @@ QString ProbeText::plain(const PackageProbe &probe)
     return text;
 }
 
-QString ProbeText::markdown(const PackageProbe &probe)
+QString ProbeText::markdown(const BitProbe &probe)
 {
     QString text = "| bits | what they move | state |\n|---|---|---|\n";
-    for (const PackageProbe::Row &row : probe.rows()) {
+    for (const BitProbe::Row &row : probe.rows()) {
         text += QString("| `%1` | %2 | %3 |\n")
                     .arg(bits(row), effects(row).join("<br>").replace('|', "\\|"),
                          row.dependsOnState ? "matters" : "");
@@ -60,12 +60,12 @@ QString ProbeText::markdown(const PackageProbe &probe)
     return text;
 }
 
-QByteArray ProbeText::json(const PackageProbe &probe)
+QByteArray ProbeText::json(const BitProbe &probe)
 {
     QJsonArray rows;
-    for (const PackageProbe::Row &row : probe.rows()) {
+    for (const BitProbe::Row &row : probe.rows()) {
         QJsonArray list;
-        for (const PackageProbe::Effect &effect : row.effects) {
+        for (const BitProbe::Effect &effect : row.effects) {
             list << QJsonObject{{"call", effect.call}, {"text", effect.text}};
         }
         rows << QJsonObject{{"byte", row.byte},

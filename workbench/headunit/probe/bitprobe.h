@@ -1,5 +1,5 @@
-#ifndef PACKAGEPROBE_H
-#define PACKAGEPROBE_H
+#ifndef BITPROBE_H
+#define BITPROBE_H
 
 #include "frameformat.h"
 #include "probeunit.h"
@@ -9,7 +9,7 @@
 /// What each bit of a package's data moves: the package is fed as it is, with each bit flipped, and runs of
 /// bits that move the same with each of their values. Twice: to a fresh unit, and to one that has just been told
 /// the opposite in every bit.
-class PackageProbe
+class BitProbe
 {
 public:
     /// "setACEnable" to the values that it was called with, in order; an event by its parameter, a call with
@@ -35,7 +35,7 @@ public:
     };
 
     /// \a unit runs already and outlives the probe.
-    PackageProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package);
+    BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package);
 
     /// Probes the data byte \a only, or all for -1. With \a walksValues each byte's 256 values are walked, as one
     /// run. False, with one sentence in \a error, when the package cannot be probed.
@@ -71,4 +71,4 @@ private:
     QString m_error;
 };
 
-#endif // PACKAGEPROBE_H
+#endif // BITPROBE_H

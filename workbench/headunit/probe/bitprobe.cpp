@@ -1,4 +1,4 @@
-#include "packageprobe.h"
+#include "bitprobe.h"
 
 #include "orbeventtypes.h"
 
@@ -39,13 +39,13 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
     }
 }
 
-PackageProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
+BitProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
 {
     QMap<QString, QStringList> values;
     for (const CallWatch::Call &call : calls) {
         take(call, &values);
     }
-    PackageProbe::Effects effects;
+    BitProbe::Effects effects;
     for (auto at = values.begin(); at != values.end(); ++at) {
         effects.insert(at.key(), at.value().join(", "));
     }
@@ -57,7 +57,7 @@ QString readable(const QString &value)
     return value.isEmpty() ? QString("empty") : value;
 }
 
-QString absentOr(const PackageProbe::Effects &effects, const QString &call)
+QString absentOr(const BitProbe::Effects &effects, const QString &call)
 {
     return effects.contains(call) ? readable(effects.value(call)) : QString("no call");
 }
@@ -107,10 +107,10 @@ int steadyCount(const QStringList &values, int from)
     return steady;
 }
 
-QString textOf(const QVector<PackageProbe::Effect> &effects)
+QString textOf(const QVector<BitProbe::Effect> &effects)
 {
     QStringList lines;
-    for (const PackageProbe::Effect &effect : effects) {
+    for (const BitProbe::Effect &effect : effects) {
         lines << effect.call + ' ' + effect.text;
     }
     return lines.join('\n');
@@ -118,11 +118,11 @@ QString textOf(const QVector<PackageProbe::Effect> &effects)
 
 } // namespace
 
-PackageProbe::PackageProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package)
+BitProbe::BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package)
     : m_unit(unit), m_format(format), m_package(package)
 {}
 
-bool PackageProbe::run(int only, bool walksValues, QString *error)
+bool BitProbe::run(int only, bool walksValues, QString *error)
 {
     bool ok =
         tryOut(Fresh, m_package.data, &m_base[Fresh]) && tryOut(Opposite, m_package.data, &m_base[Opposite]);
@@ -153,7 +153,7 @@ bool PackageProbe::run(int only, bool walksValues, QString *error)
     return ok;
 }
 
-bool PackageProbe::tryOut(State state, const QByteArray &data, Effects *effects)
+bool BitProbe::tryOut(State state, const QByteArray &data, Effects *effects)
 {
     QVector<QByteArray> packages;
     if (state == Opposite) {
@@ -176,7 +176,7 @@ bool PackageProbe::tryOut(State state, const QByteArray &data, Effects *effects)
     return m_error.isEmpty();
 }
 
-bool PackageProbe::probeBits(int byte)
+bool BitProbe::probeBits(int byte)
 {
     for (int bit = 0; bit < Bits; ++bit) {
         QByteArray data = m_package.data;
@@ -191,7 +191,7 @@ bool PackageProbe::probeBits(int byte)
 }
 
 // Whether two bits move the same calls in both states: they may be parts of a number.
-bool PackageProbe::isAlike(int byte, int bit, int other) const
+bool BitProbe::isAlike(int byte, int bit, int other) const
 {
     for (const State state : {Fresh, Opposite}) {
         QStringList calls[2];
@@ -209,7 +209,7 @@ bool PackageProbe::isAlike(int byte, int bit, int other) const
 }
 
 // A single bit is told as a change, a run by the values of its calls for each of its own.
-bool PackageProbe::probeRun(Row *row)
+bool BitProbe::probeRun(Row *row)
 {
     const int key = row->byte * Bits + row->high;
     QVector<Effect> changes = difference(m_base[Fresh], m_flipped[Fresh].value(key));
@@ -247,7 +247,7 @@ bool PackageProbe::probeRun(Row *row)
 }
 
 // Bits that do nothing by themselves, each with each other one.
-bool PackageProbe::probePairs()
+bool BitProbe::probePairs()
 {
     int pairs = 0;
     for (Row &row : m_rows) {
@@ -273,7 +273,7 @@ bool PackageProbe::probePairs()
     return true;
 }
 
-QVector<PackageProbe::Effect> PackageProbe::difference(const Effects &before, const Effects &after)
+QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after)
 {
     QVector<Effect> result;
     QStringList calls = before.keys() + after.keys();
@@ -289,7 +289,7 @@ QVector<PackageProbe::Effect> PackageProbe::difference(const Effects &before, co
     return result;
 }
 
-QString PackageProbe::mapping(const QStringList &values)
+QString BitProbe::mapping(const QStringList &values)
 {
     QMap<QString, int> counts;
     for (const QString &value : values) {
