@@ -222,12 +222,12 @@ void TestScript::boxTakesOrders()
         "wait 500\nset climate.left 22.5\nexpect AirConditionDlg.setTemperature 22.5°C within 50\n"
         "press volume_up\nexpect simulateKey 16777330 true within 50\nexpect simulateKey * false within 100\n"
         "box fault unplug 1000\nwait 900\nset climate.ac on\nexpect none setACEnable within 50\n"
-        "expect setACEnable true within 1000\nlist types\nlist keys\nlist properties\nset climate.fan 9\n");
+        "expect setACEnable true within 1000\nlist types\nlist keys\nlist properties\nset climate.fan 10\n");
     unit.closeWriteChannel();
     QVERIFY(unit.waitForFinished(20000));
     const QString said = QString::fromUtf8(unit.readAllStandardError());
     QVERIFY2(
-        said.contains("-:15: set climate.fan 9: 'climate.fan' takes a whole number from 0 to 7, not '9'"),
+        said.contains("-:15: set climate.fan 10: 'climate.fan' takes a whole number from 0 to 8, not '10'"),
         qPrintable(said));
     const QByteArray answers = unit.readAllStandardOutput();
     QVERIFY(answers.contains("[9, \"CanBus_Raise_Toyota\", \"toyota\", \"box\"]"));

@@ -62,6 +62,13 @@ void CallWatch::eventCalled(const QString &call, const OrbEvent &event)
     keep(kept);
 }
 
+void CallWatch::valueTold(const QString &name, const QVariant &value)
+{
+    if (m_next) {
+        m_next->valueTold(name, value);
+    }
+}
+
 void CallWatch::forget()
 {
     m_calls.clear();

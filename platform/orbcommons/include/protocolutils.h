@@ -73,8 +73,6 @@ Q_SIGNALS:
     void recvProtocolData(const QByteArray &package);
 
 protected:
-    bool event(QEvent *event) override;
-
     /// Received bytes. Only the indexes that a hook was asked about mean something; hooks do not change it.
     QByteArray recvBuffer;
 

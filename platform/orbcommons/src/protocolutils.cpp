@@ -34,6 +34,23 @@ const int LastReopenPause = int(sizeof ReopenPauses / sizeof ReopenPauses[0]) - 
 // A device that hangs up again sooner than this, without a word, is not tried again as soon as that.
 const int SteadyTime = 1000;
 
+// What an adapter keeps in dynamic properties is for whoever looks on. A filter, since an event() of the framer's would
+// be one more function that a plug-in finds in this framework alone.
+class ValueTeller : public QObject
+{
+public:
+    explicit ValueTeller(QObject *adapter) : QObject(adapter) { adapter->installEventFilter(this); }
+
+    bool eventFilter(QObject *adapter, QEvent *event) override
+    {
+        if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
+            const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
+            OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()), adapter->property(name.constData()));
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 class ProtocolUtils::Private
@@ -139,6 +156,7 @@ public:
 
 ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
 {
+    new ValueTeller(this);
     connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
     connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
     connect(m_d->writer, SIGNAL(sent(QByteArray)), this, SLOT(onPackageSent(QByteArray)));
@@ -384,16 +402,6 @@ void ProtocolUtils::onPollTimer()
 void ProtocolUtils::setWritePackageIntval(int milliseconds)
 {
     m_d->writer->setInterval(milliseconds);
-}
-
-// What an adapter keeps in dynamic properties is for whoever looks on.
-bool ProtocolUtils::event(QEvent *event)
-{
-    if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
-        const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
-        OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()), property(name.constData()));
-    }
-    return QObject::event(event);
 }
 
 void ProtocolUtils::writeDatas(const QByteArray &package)
