@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds the plug-in as for a head unit, against a folder that is laid out as a maker's SDK, and loads it:
-#     build.sh SOURCE WORK CMAKE QT_VERSION COMPILER FRAMEWORK SERIAL_LIBRARY SERIAL_HEADERS HEADUNIT
+#     build.sh SOURCE WORK CMAKE QT_VERSION COMPILER FRAMEWORK SERIAL_LIBRARIES SERIAL_HEADERS HEADUNIT
 # WORK stays: the next run builds only what has changed.
 set -eu
 source=$1 work=$2 cmake=$3 qt=$4 compiler=$5 framework=$6 serial=$7 serial_headers=$8 headunit=$9
@@ -18,14 +18,16 @@ for header in "$serial_headers"/qextserialport*.h; do
     ln -s "$header" "$sdk/include/"
 done
 ln -s "$framework" "$sdk/lib/libOrbCommons.so"
-ln -s "$serial" "$sdk/lib/"
+# A maker's stands alone; ours comes with what watches the line.
+echo "INPUT($serial)" >"$sdk/lib/libqextserialport.so"
 
 launcher=
 if command -v ccache >/dev/null; then
     launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 fi
 # Unoptimised: what is looked for shows when it compiles, links and loads.
-"$cmake" -S "$source" -B "$work/build" -G Ninja -DCMAKE_BUILD_TYPE=Plain -DCMAKE_CXX_COMPILER="$compiler" \
+"$cmake" -S "$source" -B "$work/build" -G Ninja -U 'QEXTSERIALPORT_*' -U 'ORBCOMMONS_*' \
+    -DCMAKE_BUILD_TYPE=Plain -DCMAKE_CXX_COMPILER="$compiler" \
     -DCANBUS_QT_VERSION="$qt" -DCANBUS_ORB_SDK="$sdk" $launcher
 "$cmake" --build "$work/build" --target CanBus
 
