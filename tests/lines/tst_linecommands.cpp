@@ -111,7 +111,14 @@ void TestLineCommands::replayOfARecording()
     QCOMPARE(run.exitCode(), 1); // the drive has bad packages
     const QVector<LineRecord> records = recordsOf(path("honda.orblog"));
     QVERIFY(records.size() > 100);
-    QCOMPARE(recordsOf(path("again.orblog")), records); // what the unit said as well
+    const QVector<LineRecord> again = recordsOf(path("again.orblog")); // what the unit said as well
+    QCOMPARE(again.size(), records.size());
+    for (int i = 0; i < records.size(); ++i) {
+        LineRecord record = again.at(i);
+        QVERIFY2(qAbs(record.microseconds - records.at(i).microseconds) <= 2000, qPrintable(QString::number(i)));
+        record.microseconds = records.at(i).microseconds;
+        QCOMPARE(record, records.at(i));
+    }
 }
 
 // Chunks that follow each other more closely than the unit looks keep their distance.
