@@ -108,7 +108,7 @@ void oneFaultInTwenty(Streams::Fault fault, const char *name, qint64 packages)
     while (all.sent < packages) {
         Line line;
         for (int i = 0; i < Round; ++i) {
-            const QByteArray sent = traffic.at(int(random() % unsigned(traffic.size())));
+            const QByteArray &sent = traffic.at(int(random() % unsigned(traffic.size())));
             QByteArray came = sent;
             if (i % 20 == 10) {
                 const int at = int(random() % unsigned(sent.size()));
@@ -135,7 +135,7 @@ void bitErrors(double rate, qint64 packages)
     while (all.sent < packages) {
         Line line;
         for (int i = 0; i < Round; ++i) {
-            const QByteArray sent = traffic.at(int(random() % unsigned(traffic.size())));
+            const QByteArray &sent = traffic.at(int(random() % unsigned(traffic.size())));
             QByteArray came = sent;
             const qint64 bits = sent.size() * 8;
             for (; wait < bits; wait += 1 + gap(random)) {

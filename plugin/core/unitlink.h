@@ -18,8 +18,9 @@ enum Tag {
 /// Type numbers of the framework's events. An event is an OrbEvent when its number is one of the framework's.
 enum EventType {
     FirstEvent = 51000,
-    ShowAppEvent = 51001,     // to the plug-in: first parameter the application; to the application object: second
-    ReturnEvent = 51003,      // leave what was shown last
+    ShowAppEvent =
+        51001,           // to the plug-in: first parameter the application; to the application object: second
+    ReturnEvent = 51003, // leave what was shown last
     AppProtocolEvent = 51005, // a data packet of another application
     KeyEvent = 51006,
     NotifyEvent = 51007,

@@ -211,7 +211,7 @@ void TestFraming::lossPerFault()
     QByteArray stream;
     int faults = 0;
     for (int i = 0; i < 100000; ++i) {
-        const QByteArray package = traffic.at(int(random() % unsigned(traffic.size())));
+        const QByteArray &package = traffic.at(int(random() % unsigned(traffic.size())));
         if (i % 20 != 10) {
             good << package;
             stream += package;
