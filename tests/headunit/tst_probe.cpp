@@ -1,5 +1,5 @@
-#include "headunitrun.h"
 #include "bitprobe.h"
+#include "headunitrun.h"
 #include "transcript.h"
 
 #include <QtTest>

@@ -132,7 +132,8 @@ void TestReference::everyCallIsTold()
         for (const QByteArray &line : TestSupport::contentOf(drives.filePath(name)).split('\n')) {
             const QJsonObject row = QJsonDocument::fromJson(line).object();
             const QString object = row.value("object").toString();
-            if (object.isEmpty() || object == "script" || object == "car" || row.value("call") == "setVisible") {
+            if (object.isEmpty() || object == "script" || object == "car" ||
+                row.value("call") == "setVisible") {
                 continue; // any command; any value; any window
             }
             QVERIFY2(rowOf(page, object).contains('`' + row.value("call").toString() + '`'),

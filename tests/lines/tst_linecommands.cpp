@@ -115,7 +115,8 @@ void TestLineCommands::replayOfARecording()
     QCOMPARE(again.size(), records.size());
     for (int i = 0; i < records.size(); ++i) {
         LineRecord record = again.at(i);
-        QVERIFY2(qAbs(record.microseconds - records.at(i).microseconds) <= 2000, qPrintable(QString::number(i)));
+        QVERIFY2(qAbs(record.microseconds - records.at(i).microseconds) <= 2000,
+                 qPrintable(QString::number(i)));
         record.microseconds = records.at(i).microseconds;
         QCOMPARE(record, records.at(i));
     }

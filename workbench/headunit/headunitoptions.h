@@ -53,14 +53,14 @@ struct HeadUnitOptions
     bool isUnpaced = false;    ///< bytes take no time on the box's line
     quint32 seed = 0;          ///< of the chances on the box's line; counts when hasSeed
     bool hasSeed = false;
-    QString record;  ///< file for the line's log, "-" for standard output, empty for none
-    QString saveBad; ///< file for the line's last minute at the first bad package, empty for none
+    QString record;          ///< file for the line's log, "-" for standard output, empty for none
+    QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
     bool tracesLine = false; ///< the line's health in the trace
     std::optional<ReplayOptions> replay; ///< a log in place of a box
     bool listsPorts = false;             ///< and nothing else
     bool wantsHelp = false;
     QString version; ///< "headunit 1.0.0 (Qt 5.15.8)" when that was asked for, and nothing else
-    QString usage; ///< what there is to ask for; set by parse()
+    QString usage;   ///< what there is to ask for; set by parse()
 
     /// Reads \a arguments, the program's name first; needs no application object. \a command is the
     /// sub-command in front of them, null for none. False, with the reason in \a error, when they are wrong.

@@ -45,7 +45,8 @@ public:
     {
         if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
             const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
-            OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()), adapter->property(name.constData()));
+            OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()),
+                                          adapter->property(name.constData()));
         }
         return false;
     }

@@ -3,9 +3,9 @@
 #include "checkcommand.h"
 #include "convertcommand.h"
 #include "identifycommand.h"
+#include "probecommand.h"
 #include "recordcommand.h"
 #include "replaycommand.h"
-#include "probecommand.h"
 
 const QVector<Command> &Command::all()
 {

@@ -1,11 +1,11 @@
 #include "probecommand.h"
 
+#include "bitprobe.h"
 #include "boxcatalog.h"
 #include "command.h"
 #include "commandline.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
-#include "bitprobe.h"
 #include "probetext.h"
 #include "virtualclock.h"
 
