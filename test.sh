@@ -9,6 +9,9 @@
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
 
+# The programs that other people read logs of a line with: the tests of headunit convert ask them.
+need_packages tshark can-utils python3-can
+
 if [ "${1:-}" = --sanitize ]; then
     shift
     build=${CANBUS_BUILD:-$root/build}-sanitize

@@ -19,7 +19,7 @@ foreach(piece ORBCOMMONS_INCLUDE_DIR ORBCOMMONS_LIBRARY QEXTSERIALPORT_INCLUDE_D
 endforeach()
 
 add_library(CanBus::OrbCommons INTERFACE IMPORTED)
-# The header that knows the Qt generation is the project's own, not the maker's.
+# The headers with the Qt generation and the colours are the project's own, not the maker's.
 target_include_directories(CanBus::OrbCommons INTERFACE
   ${ORBCOMMONS_INCLUDE_DIR} ${PROJECT_SOURCE_DIR}/platform/qtcompat)
 target_link_libraries(CanBus::OrbCommons INTERFACE ${ORBCOMMONS_LIBRARY} CanBus::QtWidgets)

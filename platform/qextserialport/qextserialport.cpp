@@ -110,6 +110,7 @@ bool QextSerialPort::open(OpenMode mode)
         m_notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read, this);
         connect(m_notifier, &QSocketNotifier::activated, this, &QextSerialPort::onReadable);
     }
+    SerialTap::setPort(this);
     return QIODevice::open(mode | Unbuffered);
 }
 
@@ -119,6 +120,7 @@ void QextSerialPort::close()
         return;
     }
     QIODevice::close();
+    SerialTap::setPort(nullptr);
     if (m_notifier) {
         m_notifier->setEnabled(false);
         m_notifier->deleteLater(); // it may be the one that called

@@ -41,16 +41,17 @@ OrbMainWindow *CanBusPlugin::createMainWindow()
 
 void CanBusPlugin::customEvent(QEvent *event)
 {
-    OrbEvent *const orbEvent = dynamic_cast<OrbEvent *>(event);
-    if (!orbEvent) {
+    // The number tells, not the class: the framework may be built by another compiler, without type information.
+    const int type = event ? int(event->type()) : int(QEvent::None);
+    if (type < UnitLink::FirstEvent || type > UnitLink::LastEvent) {
         return;
     }
-    const int type = orbEvent->type();
+    OrbEvent *const orbEvent = static_cast<OrbEvent *>(event);
     const unsigned int param = orbEvent->getParam();
     const unsigned int param2 = orbEvent->getParam2();
 
     // A unit with a key set of its own: its raw keys mean nothing to the decoder.
-    if (type == OrbEvent::KeyType && keyRedefAdapter) {
+    if (type == UnitLink::KeyEvent && keyRedefAdapter) {
         keyRedefAdapter->onKeyEvent(param, param2 != KeyReleased, param2 == KeyAutoRepeat);
         return;
     }
@@ -58,23 +59,23 @@ void CanBusPlugin::customEvent(QEvent *event)
         return;
     }
     switch (type) {
-    case OrbEvent::ShowAppType:
+    case UnitLink::ShowAppEvent:
         canBusAdapter->showApp(param);
         break;
-    case OrbEvent::AppProtocolType:
+    case UnitLink::AppProtocolEvent:
         canBusAdapter->onRecvAppProtocol(orbEvent->getByteArrayParam());
         break;
-    case OrbEvent::KeyType:
+    case UnitLink::KeyEvent:
         canBusAdapter->onKeyEvent(param, param2 != KeyReleased, param2 == KeyAutoRepeat);
         break;
-    case OrbEvent::NotifyType:
+    case UnitLink::NotifyEvent:
         if (param == LanguageChanged) {
             canBusAdapter->translateApp();
         } else {
             canBusAdapter->orbAppNotify(orbEvent);
         }
         break;
-    case OrbEvent::AppStateType:
+    case UnitLink::AppStateEvent:
         canBusAdapter->orbAppStateChange(param, param2);
         break;
     default:

@@ -76,11 +76,16 @@ public:
 protected:
     explicit FramedAdapter(QObject *parent) : CanBusAdapter(parent) {}
 
-    /// Hands \a package to the row of its command; onOtherPackage() gets what no row takes.
-    void dispatch(const QByteArray &package)
+    /// The data bytes of \a package, which must outlive the view.
+    static PackageView viewOf(const QByteArray &package)
     {
-        const PackageView view(package, Frame::CommandAt, Frame::DataAt,
-                               Framing::claimedData<Frame>(package));
+        return PackageView(package, Frame::CommandAt, Frame::DataAt, Framing::claimedData<Frame>(package));
+    }
+
+    /// Hands \a view to the row of its command, and returns whether there is one that takes it; onOtherPackage() gets
+    /// what no row takes.
+    bool dispatch(const PackageView &view)
+    {
         const CommandTable table = commands();
         for (int i = 0; i < table.count; ++i) {
             const Command &row = table.rows[i];
@@ -90,10 +95,11 @@ protected:
                 } else {
                     row.shared->handle(view);
                 }
-                return;
+                return true;
             }
         }
         onOtherPackage(view);
+        return false;
     }
 
     /// A package that no row takes: unknown, or shorter than its row asks for.

@@ -1,10 +1,11 @@
 #include "keyredefadapter_hud.h"
 
 #include "carkeys.h"
+#include "ctrlkeys.h"
+#include "unitlink.h"
 
 #include "orbapplication.h"
 #include "orbcommons.h"
-#include "orbctrlkeys.h"
 #include "orbevent.h"
 #include "orbqtcompat.h"
 
@@ -71,7 +72,7 @@ KeyRedefAdapter_HUD::KeyRedefAdapter_HUD()
         const CtrlKeyPair pair = {key.code, key.ctrlValue};
         registeredKeys.append(pair);
     }
-    OrbEvent *const registration = new OrbEvent(UnitSource, KeySubject, OrbEvent::NotifyType);
+    OrbEvent *const registration = new OrbEvent(UnitSource, KeySubject, UnitLink::NotifyEvent);
     registration->setParams(KeySetParam, KeySetParam2);
     registration->setVariantParam(QVariant::fromValue<void *>(&registeredKeys));
     QCoreApplication::postEvent(OrbApplication::instance(), registration);

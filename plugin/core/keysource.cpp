@@ -34,6 +34,12 @@ void KeySource::report(quint8 code, quint8 state)
     }
 }
 
+void KeySource::report(quint8 code)
+{
+    unsigned int key = CarKeys::NoKey;
+    report(code, find(code, &key) && key == m_currentKey ? CarKeys::Held : CarKeys::Pressed);
+}
+
 const KeyGroup *KeySource::find(quint8 code, unsigned int *key) const
 {
     for (int i = 0; i < m_count; ++i) {

@@ -52,6 +52,10 @@ public:
     /// when it is a knob. An unknown code injects nothing but the release that it may mean.
     void report(quint8 code, quint8 state);
 
+    /// The same for a box that tells no state but the code again and again while the key is down: a key that is not
+    /// the current one is pressed, the current one held.
+    void report(quint8 code);
+
     /// The key that was reported last, CarKeys::NoKey after an unknown code and after a release by code.
     unsigned int currentKey() const { return m_currentKey; }
 

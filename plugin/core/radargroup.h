@@ -39,6 +39,9 @@ private:
 /// Distances of boxes that count to four, 1 nearest; any other one is no obstacle.
 const ByteMapping FourRadarLevels[] = {{1, 1}, {2, 2}, {3, 4}, {4, 6}};
 
+/// The same of boxes that count the other way: 4 nearest, 1 farthest.
+const ByteMapping FarFirstRadarLevels[] = {{1, 6}, {2, 4}, {3, 2}, {4, 1}};
+
 /// Four sensors from left to right in the first data bytes.
 const int FourRadarBytes[] = {0, 1, 2, 3};
 

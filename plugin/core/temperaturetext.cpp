@@ -19,3 +19,8 @@ QString TemperatureText::fahrenheit(int degrees)
 {
     return QString::number(degrees) + QString::fromUtf8("°F");
 }
+
+QString TemperatureText::step(int step, int most)
+{
+    return step >= 1 && step <= most ? QString::number(step) : QString();
+}

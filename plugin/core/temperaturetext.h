@@ -16,6 +16,9 @@ QString celsius(double degrees);
 /// A whole number and the unit: "72°F".
 QString fahrenheit(int degrees);
 
+/// The bare number of a car whose temperatures are steps 1 to \a most; empty for any other \a step.
+QString step(int step, int most);
+
 } // namespace TemperatureText
 
 #endif // TEMPERATURETEXT_H

@@ -24,14 +24,14 @@ void dispatch(OrbEvent *event)
 
 void UnitLink::sendCarData(CarData what, unsigned int value)
 {
-    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    OrbEvent event(CarSource, CarDataSubject, NotifyEvent);
     event.setParams(what, value);
     dispatch(&event);
 }
 
 void UnitLink::sendRadarLevels(CarData what, const QByteArray &levels)
 {
-    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    OrbEvent event(CarSource, CarDataSubject, NotifyEvent);
     event.setParams(what, 0);
     event.setByteArrayParams(levels);
     dispatch(&event);
@@ -39,7 +39,7 @@ void UnitLink::sendRadarLevels(CarData what, const QByteArray &levels)
 
 void UnitLink::sendSteeringAngle(float degrees)
 {
-    OrbEvent event(CarSource, CarDataSubject, OrbEvent::NotifyType);
+    OrbEvent event(CarSource, CarDataSubject, NotifyEvent);
     event.setParams(SteeringAngle, 0);
     event.setVariantParam(int(qint16(truncated(degrees))));
     dispatch(&event);
@@ -47,19 +47,19 @@ void UnitLink::sendSteeringAngle(float degrees)
 
 void UnitLink::sendSwitch(CarData what, bool on)
 {
-    OrbEvent event(AppSource, CarDataSubject, OrbEvent::NotifyType);
+    OrbEvent event(AppSource, CarDataSubject, NotifyEvent);
     event.setParams(what, on);
     dispatch(&event);
 }
 
 void UnitLink::sendIllumination(bool on)
 {
-    OrbEvent event(LightSource, LightSubject, OrbEvent::NotifyType);
+    OrbEvent event(LightSource, LightSubject, NotifyEvent);
     event.setParams(on ? IlluminationOn : IlluminationOff, LightParam2);
     QCoreApplication::sendEvent(OrbApplication::instance(), &event);
 }
 
-void UnitLink::requestApp(int type, unsigned int param, unsigned int param2)
+void UnitLink::requestApp(EventType type, unsigned int param, unsigned int param2)
 {
     OrbEvent event(AppSource, AppRequestSubject, type);
     event.setParams(param, param2);

@@ -15,6 +15,20 @@ enum Tag {
     ClockFormatTag = 0x11009
 };
 
+/// Type numbers of the framework's events. An event is an OrbEvent when its number is one of the framework's.
+enum EventType {
+    FirstEvent = 51000,
+    ShowAppEvent =
+        51001,           // to the plug-in: first parameter the application; to the application object: second
+    ReturnEvent = 51003, // leave what was shown last
+    AppProtocolEvent = 51005, // a data packet of another application
+    KeyEvent = 51006,
+    NotifyEvent = 51007,
+    AppStateEvent = 51011,
+    AppIconEvent = 51013,
+    LastEvent = 51015
+};
+
 /// Bits of the status word.
 const quint64 CallPresent = 0x3000000;
 
@@ -43,9 +57,9 @@ void sendSwitch(CarData what, bool on);
 /// Tells the application object, at once, that the car's lights went on or off.
 void sendIllumination(bool on);
 
-/// Sends a request about an application (OrbEvent::ShowAppType, ReturnType) to the application object, at
+/// Sends a request about an application (ShowAppEvent, ReturnEvent) to the application object, at
 /// once.
-void requestApp(int type, unsigned int param = 0, unsigned int param2 = 0);
+void requestApp(EventType type, unsigned int param = 0, unsigned int param2 = 0);
 
 /// The status word (tag 0x10001), 0 when it is not set.
 quint64 statusWord();

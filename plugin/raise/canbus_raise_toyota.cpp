@@ -159,9 +159,9 @@ void CanBus_Raise_Toyota::on360View(const PackageView &d)
         return;
     }
     if (d.bit(0, 3)) {
-        UnitLink::requestApp(OrbEvent::ShowAppType, 0, View360App);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 0, View360App);
     } else {
-        UnitLink::requestApp(OrbEvent::ReturnType);
+        UnitLink::requestApp(UnitLink::ReturnEvent);
     }
 }
 

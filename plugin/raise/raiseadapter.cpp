@@ -1,5 +1,6 @@
 #include "raiseadapter.h"
 
+#include "carvalues.h"
 #include "keysource.h"
 #include "unitlink.h"
 
@@ -35,10 +36,14 @@ RaiseAdapter::RaiseAdapter()
     , m_panelKeys(nullptr)
     , m_settingCommand(0)
     , m_requestCommand(0)
+    , m_clockCommand(0)
     , m_modeCommand(0)
     , m_modeLength(0)
     , m_modeCodes(nullptr)
     , m_modeCount(0)
+    , m_values(nullptr)
+    , m_valueCount(0)
+    , m_handsOnUnknown(false)
     , m_appState(false)
     , m_lastReminder(LongAgo)
 {
@@ -71,7 +76,10 @@ void RaiseAdapter::onRecvMcuProtocol(const QByteArray &byteArray)
     // The box waits 10 ms for this byte: it goes first, and past the queue.
     writeDatas_direct(QByteArray(1, Acknowledgement));
     noteRepetition(byteArray);
-    dispatch(byteArray);
+    const PackageView package = viewOf(byteArray);
+    if (dispatch(package)) {
+        tellValues(package);
+    }
 }
 
 void RaiseAdapter::noteRepetition(const QByteArray &package)
@@ -97,6 +105,39 @@ void RaiseAdapter::orbAppStateChange(unsigned long state, unsigned long mask)
 {
     if (mask == AppStateMask) {
         m_appState = state & AppStateMask;
+    }
+}
+
+void RaiseAdapter::onOtherPackage(const PackageView &package)
+{
+    const CommandTable table = commands();
+    bool isKnown = false; // and too short
+    for (int i = 0; i < table.count; ++i) {
+        isKnown = isKnown || table.rows[i].command == package.command();
+    }
+    if (m_handsOnUnknown && !isKnown) {
+        onScreenData(package);
+    }
+}
+
+void RaiseAdapter::onScreenData(const PackageView &d)
+{
+    Q_EMIT recvCanDatas(d.command(), d.data(), quint8(d.n()));
+}
+
+void RaiseAdapter::tellValues(const PackageView &package)
+{
+    for (int i = 0; i < m_valueCount; ++i) {
+        if (m_values[i].isIn(package)) {
+            tellValue(m_values[i].name(), m_values[i].read(package));
+        }
+    }
+}
+
+void RaiseAdapter::tellValue(const char *name, const QVariant &value)
+{
+    if (property(name) != value) {
+        setProperty(name, value);
     }
 }
 
@@ -149,6 +190,14 @@ void RaiseAdapter::onSignedSteeringAngle(const PackageView &d)
     UnitLink::sendSteeringAngle(float(d.s16le(0)) / 4608.0f * 40.0f);
 }
 
+void RaiseAdapter::onSignAndSizeSteeringAngle(const PackageView &d)
+{
+    // d[0]: 7 right, 6..0 high bits; d[1] low byte. The range is nominal.
+    const int size = d.u16be(0) & 0x7FFF;
+    const float angle = float(d.bit(0, 7) ? size : -size) / 5400.0f * 40.0f;
+    UnitLink::sendSteeringAngle(qBound(-40.0f, angle, 40.0f));
+}
+
 // ---------------------------------------------------------------------------------------------- sent
 
 void RaiseAdapter::writeCanBusData(unsigned char cmd, const unsigned char *data, unsigned char len)
@@ -167,8 +216,15 @@ int RaiseAdapter::kindSize(quint8 command, int size) const
         return size;
     }
     const int header = RaiseFrame::DataAt;
-    const bool hasItem = command != m_modeCommand && size > header + 2; // item, value, checksum
+    const bool isWhole = command == m_modeCommand || command == m_clockCommand;
+    const bool hasItem = !isWhole && size > header + 2; // item, value, checksum
     return hasItem ? header + 1 : header;
+}
+
+void RaiseAdapter::writeBytes(quint8 command, const QByteArray &data)
+{
+    writeCanBusData(command, reinterpret_cast<const unsigned char *>(data.constData()),
+                    static_cast<unsigned char>(qMin<int>(int(data.size()), 0xFF)));
 }
 
 void RaiseAdapter::writePair(quint8 command, quint8 first, quint8 second)
@@ -211,12 +267,14 @@ void RaiseAdapter::onModeAppChange(uint mode, uint)
     }
     QByteArray data(m_modeLength, '\0');
     for (int i = 0; i < m_modeCount; ++i) {
-        if (m_modeCodes[i].mode == mode) {
-            const quint8 *const bytes = m_modeCodes[i].data;
-            std::copy(bytes, bytes + qMin<int>(m_modeLength, sizeof m_modeCodes[i].data), data.data());
+        const ModeCode &row = m_modeCodes[i];
+        if (row.mode == mode) {
+            const int length = row.length == 0 ? int(m_modeLength) : row.length;
+            const char bytes[] = {char(row.first), char(row.second)};
+            data = QByteArray(bytes, sizeof bytes).leftJustified(length, char(row.rest), true);
         }
     }
-    writeCanBusData(m_modeCommand, reinterpret_cast<const unsigned char *>(data.constData()), m_modeLength);
+    writeBytes(m_modeCommand, data);
 }
 
 void RaiseAdapter::setKeys(KeySource *wheel, KeySource *panel)

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+class CarValue;
 class KeySource;
 class QTimer;
 
@@ -15,12 +16,19 @@ struct RaiseFrame
     enum { CommandAt = 1, LengthAt = 2, DataAt = 3, CountedFrom = DataAt, SummedFrom = CommandAt };
 };
 
-/// One row of a car's mode report: the unit's application mode, and the first data bytes that tell it to the
-/// car.
+/// One row of a car's mode report: the unit's application mode, and the data bytes that tell it to the car: two, and
+/// then \a rest as far as the package goes. It has \a length bytes, 0 for as many as the report has by itself.
 struct ModeCode
 {
+    constexpr ModeCode(unsigned int unitMode, quint8 one, quint8 two = 0, quint8 bytes = 0, quint8 others = 0)
+        : mode(unitMode), first(one), second(two), length(bytes), rest(others)
+    {}
+
     unsigned int mode;
-    quint8 data[2];
+    quint8 first;
+    quint8 second;
+    quint8 length;
+    quint8 rest;
 };
 
 /// What the decoder boxes of the Raise family share: the frame, the acknowledgement of every package, the
@@ -51,6 +59,8 @@ public:
     /// Key of the wheel that was reported last, CarKeys::NoKey after an unknown one. One per car and process.
     unsigned int currentKey() const;
 
+    // Toyota, Honda, GM and Jeep have no such request and no settings: there all three do nothing (Honda sets its
+    // clock with a writeSettingData of its own).
     /// Asks the box for the data of command \a type, sub-type \a param; nothing for a car without such a
     /// request.
     virtual void syncData(unsigned char type, unsigned char param);
@@ -76,7 +86,7 @@ public Q_SLOTS:
     void onModeAppChange(uint mode, uint other);
 
 Q_SIGNALS:
-    /// A package for the car's screens. \a datas points at \a dataLen bytes, valid during the emission only.
+    /// A package for screens of the car. \a datas points at \a dataLen bytes, valid during the emission only.
     void recvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen);
 
 protected:
@@ -96,16 +106,35 @@ protected:
     void setSettingCommand(quint8 command) { m_settingCommand = command; }
     void setRequestCommand(quint8 command) { m_requestCommand = command; }
 
-    /// From now on each change of the unit's application mode sends \a command with \a length data bytes, of
-    /// which the row of the mode gives the first ones; a mode without a row is all zeros. \a rows is static
-    /// data.
+    /// The command that sets this car's clock, all of it: what a lost line keeps of it is the newest.
+    void setClockCommand(quint8 command) { m_clockCommand = command; }
+
+    /// What this car's packages tell besides what the framework takes (see CarValue); static data. After a package was
+    /// handled, each value is the adapter's dynamic property of that name: there for whoever wants to read it, and no
+    /// property while the car has told none.
+    template <int Rows>
+    void setValues(const CarValue (&rows)[Rows])
+    {
+        m_values = rows;
+        m_valueCount = Rows;
+    }
+
+    /// One such value that is no row of a table; an invalid \a value takes it away.
+    void tellValue(const char *name, const QVariant &value);
+
+    /// From now on packages with a command that this car's table lacks are handed on by recvCanDatas.
+    void handOnUnknownPackages() { m_handsOnUnknown = true; }
+
+    /// From now on each change of the unit's application mode sends \a command with \a length data bytes, or
+    /// as the row of the mode says; a mode without a row is all zeros. \a rows is static data.
     template <int Rows>
     void reportModes(quint8 command, quint8 length, const ModeCode (&rows)[Rows])
     {
         startModeReport(command, length, rows, Rows);
     }
 
-    /// Queues one frame with two data bytes.
+    /// Queues one frame with the data bytes \a data, of which 255 fit, or with two.
+    void writeBytes(quint8 command, const QByteArray &data);
     void writePair(quint8 command, quint8 first, quint8 second);
 
     // Handlers that several cars have in their tables.
@@ -118,8 +147,16 @@ protected:
     void onPanelKey(const PackageView &d);
     /// Signed 16-bit steering angle d[0], d[1], of which 4608 units are 40 degrees.
     void onSignedSteeringAngle(const PackageView &d);
+    /// Steering angle d[0], d[1], high byte first: bit 15 right, below it tenths of a degree at the wheel, of which 540
+    /// degrees are 40.
+    void onSignAndSizeSteeringAngle(const PackageView &d);
+    /// What only a screen could use: handed on by recvCanDatas.
+    void onScreenData(const PackageView &d);
+
+    void onOtherPackage(const PackageView &package) override;
 
 private:
+    void tellValues(const PackageView &package);
     void noteRepetition(const QByteArray &package);
     int kindSize(quint8 command, int size) const;
     void startModeReport(quint8 command, quint8 length, const ModeCode *rows, int count);
@@ -130,10 +167,14 @@ private:
     KeySource *m_panelKeys;
     quint8 m_settingCommand; // 0: none
     quint8 m_requestCommand; // 0: none
+    quint8 m_clockCommand;   // 0: none
     quint8 m_modeCommand;    // 0: modes are not reported
     quint8 m_modeLength;
     const ModeCode *m_modeCodes;
     int m_modeCount;
+    const CarValue *m_values;
+    int m_valueCount;
+    bool m_handsOnUnknown;
     bool m_appState;
 
     enum { MostRepetitions = 3 };

@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>settings</source>
-        <translation>auf Werkseinstellungen zurücksetzen</translation>
+        <translation>auf Werkseinstellung zurücksetzen</translation>
     </message>
     <message>
         <source>Driving data</source>
@@ -39,7 +39,19 @@
     </message>
     <message>
         <source>Are you sure </source>
-        <translation>Sind Sie sicher: </translation>
+        <translation>Wirklich </translation>
+    </message>
+    <message>
+        <source>The car has not told its value</source>
+        <translation>Das Fahrzeug hat den Wert noch nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3 ?</source>
+        <translation>%1 „%2“ %3?</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -85,20 +97,16 @@
         <translation>Ø Tempo</translation>
     </message>
     <message>
-        <source>Driving time</source>
-        <translation>Fahrzeit</translation>
-    </message>
-    <message>
         <source>Tire pressure status</source>
         <translation>Reifendruckstatus</translation>
     </message>
     <message>
         <source>Since start</source>
-        <translation>Seit Start</translation>
+        <translation>Ab Start</translation>
     </message>
     <message>
         <source>Since refueling</source>
-        <translation>Seit Tanken</translation>
+        <translation>Ab Tanken</translation>
     </message>
     <message>
         <source>Long-term</source>
@@ -150,19 +158,31 @@
     </message>
     <message>
         <source>L/100km</source>
-        <translation>L/100km</translation>
+        <translation>l/100 km</translation>
     </message>
     <message>
         <source>km/L</source>
-        <translation>km/L</translation>
+        <translation>km/l</translation>
     </message>
     <message>
         <source>mph(UK)</source>
-        <translation>mph(UK)</translation>
+        <translation>mpg (UK)</translation>
     </message>
     <message>
         <source>mph(US)</source>
-        <translation>mph(US)</translation>
+        <translation>mpg (US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>Service überfällig</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>Fahrzeit (h:min)</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>nicht vorhanden</translation>
     </message>
 </context>
 <context>
@@ -173,7 +193,7 @@
     </message>
     <message>
         <source>overdue by</source>
-        <translation>überfällig seit</translation>
+        <translation>überfällig:</translation>
     </message>
     <message>
         <source>Start-stop system is deactivated</source>
@@ -253,15 +273,15 @@
     </message>
     <message>
         <source>Seat driver profile</source>
-        <translation>Fahrerprofil Sitz</translation>
+        <translation>Fahrerprofil und Sitz</translation>
     </message>
     <message>
         <source>Vehice status Start-stop</source>
-        <translation>Fahrzeugstatus Start-Stopp</translation>
+        <translation>Fahrzeugstatus: Start-Stopp</translation>
     </message>
     <message>
         <source>Vehice status reports</source>
-        <translation>Fahrzeugstatus Meldungen</translation>
+        <translation>Fahrzeugstatus: Meldungen</translation>
     </message>
     <message>
         <source>Convenience consumer</source>
@@ -297,7 +317,7 @@
     </message>
     <message>
         <source>TPMS SET</source>
-        <translation>RDKS SETZEN</translation>
+        <translation>Reifendruck speichern</translation>
     </message>
     <message>
         <source>Direct tyres pressure monitoring</source>
@@ -345,7 +365,7 @@
     </message>
     <message>
         <source>Front assist</source>
-        <translation>Umfeldbeobachtung</translation>
+        <translation>Front Assist</translation>
     </message>
     <message>
         <source>Advance warning</source>
@@ -389,7 +409,7 @@
     </message>
     <message>
         <source>Front tone setting</source>
-        <translation>Klang vorn</translation>
+        <translation>Tonhöhe vorn</translation>
     </message>
     <message>
         <source>Rear volume</source>
@@ -397,7 +417,7 @@
     </message>
     <message>
         <source>Rear tone setting</source>
-        <translation>Klang hinten</translation>
+        <translation>Tonhöhe hinten</translation>
     </message>
     <message>
         <source>Radar sound</source>
@@ -593,7 +613,7 @@
     </message>
     <message>
         <source>Convenience consumption</source>
-        <translation>Komfortverbraucher</translation>
+        <translation>Verbrauch der Komfortverbraucher</translation>
     </message>
     <message>
         <source>Eco tips</source>
@@ -621,23 +641,23 @@
     </message>
     <message>
         <source>Vehicle NO.</source>
-        <translation>Fahrzeugnummer</translation>
+        <translation>Fahrgestellnummer</translation>
     </message>
     <message>
         <source>Inspection days</source>
-        <translation>Inspektion in Tagen</translation>
+        <translation>Inspektion (Zeit)</translation>
     </message>
     <message>
         <source>Inspection distance</source>
-        <translation>Inspektion Strecke</translation>
+        <translation>Inspektion (Strecke)</translation>
     </message>
     <message>
         <source>Oil change service days</source>
-        <translation>Ölwechsel in Tagen</translation>
+        <translation>Ölwechsel (Zeit)</translation>
     </message>
     <message>
         <source>Oil change service distance</source>
-        <translation>Ölwechsel Strecke</translation>
+        <translation>Ölwechsel (Strecke)</translation>
     </message>
     <message>
         <source>Wiper in maintenance position</source>
@@ -645,7 +665,7 @@
     </message>
     <message>
         <source>Reset &quot;Since start&quot;</source>
-        <translation>„Seit Start“ zurücksetzen</translation>
+        <translation>„Ab Start“ zurücksetzen</translation>
     </message>
     <message>
         <source>Reset &quot;Long-term&quot;</source>
@@ -669,31 +689,31 @@
     </message>
     <message>
         <source>L</source>
-        <translation>L</translation>
+        <translation>l</translation>
     </message>
     <message>
         <source>gal(UK)</source>
-        <translation>gal(UK)</translation>
+        <translation>gal (UK)</translation>
     </message>
     <message>
         <source>gal(US)</source>
-        <translation>gal(US)</translation>
+        <translation>gal (US)</translation>
     </message>
     <message>
         <source>mpg(UK)</source>
-        <translation>mpg(UK)</translation>
+        <translation>mpg (UK)</translation>
     </message>
     <message>
         <source>L/100km</source>
-        <translation>L/100km</translation>
+        <translation>l/100 km</translation>
     </message>
     <message>
         <source>mpg(US)</source>
-        <translation>mpg(US)</translation>
+        <translation>mpg (US)</translation>
     </message>
     <message>
         <source>km/L</source>
-        <translation>km/L</translation>
+        <translation>km/l</translation>
     </message>
     <message>
         <source>bar</source>
@@ -757,7 +777,7 @@
     </message>
     <message>
         <source>Remote key memory matching</source>
-        <translation>Funkschlüssel-Memory anlernen</translation>
+        <translation>Memory dem Funkschlüssel zuordnen</translation>
     </message>
     <message>
         <source>Driving mode</source>
@@ -995,12 +1015,28 @@
         <source>Drink holder</source>
         <translation>Getränkehalter</translation>
     </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>Warten auf das Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>Letzte Meldung vor %1 min</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>Letzte Meldung vor %1 h</translation>
+    </message>
 </context>
 <context>
     <name>XinHangSettings</name>
     <message>
         <source>Original car</source>
-        <translation>Originalfahrzeug</translation>
+        <translation>Originalkamera</translation>
     </message>
     <message>
         <source>360</source>
@@ -1096,7 +1132,7 @@
     </message>
     <message>
         <source>Reverse camera</source>
-        <translation>Rückfahrkamera</translation>
+        <translation>Art der Rückfahrkamera</translation>
     </message>
     <message>
         <source>Starting front view</source>
@@ -1124,7 +1160,7 @@
     </message>
     <message>
         <source>Reverse condition</source>
-        <translation>Rückfahrbedingung</translation>
+        <translation>Rückwärtsgang erkennen an</translation>
     </message>
     <message>
         <source>Front view mirror</source>

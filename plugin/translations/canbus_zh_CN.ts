@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>Are you sure restore</source>
-        <translation>确定要恢复</translation>
+        <translation>确定要将</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation>设置</translation>
+        <translation>恢复到出厂状态吗</translation>
     </message>
     <message>
         <source>Driving data</source>
@@ -40,6 +40,18 @@
     <message>
         <source>Are you sure </source>
         <translation>确定要</translation>
+    </message>
+    <message>
+        <source>The car has not told its value</source>
+        <translation>车辆尚未报告当前值</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3 ?</source>
+        <translation>%1“%2”%3？</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>吗？</translation>
     </message>
 </context>
 <context>
@@ -85,20 +97,16 @@
         <translation>平均车速</translation>
     </message>
     <message>
-        <source>Driving time</source>
-        <translation>行驶时间</translation>
-    </message>
-    <message>
         <source>Tire pressure status</source>
         <translation>胎压状态</translation>
     </message>
     <message>
         <source>Since start</source>
-        <translation>自启动</translation>
+        <translation>启动以来</translation>
     </message>
     <message>
         <source>Since refueling</source>
-        <translation>自加油</translation>
+        <translation>加油以来</translation>
     </message>
     <message>
         <source>Long-term</source>
@@ -158,11 +166,23 @@
     </message>
     <message>
         <source>mph(UK)</source>
-        <translation>mph(UK)</translation>
+        <translation>mpg(UK)</translation>
     </message>
     <message>
         <source>mph(US)</source>
-        <translation>mph(US)</translation>
+        <translation>mpg(US)</translation>
+    </message>
+    <message>
+        <source>Service overdue</source>
+        <translation>保养已逾期</translation>
+    </message>
+    <message>
+        <source>Time (h:min)</source>
+        <translation>行驶时间（时:分）</translation>
+    </message>
+    <message>
+        <source>not in this car</source>
+        <translation>本车不支持</translation>
     </message>
 </context>
 <context>
@@ -205,7 +225,7 @@
     </message>
     <message>
         <source>Activated</source>
-        <translation>激活</translation>
+        <translation>启用</translation>
     </message>
     <message>
         <source>ESC sport</source>
@@ -221,11 +241,11 @@
     </message>
     <message>
         <source>Driver assistance</source>
-        <translation>驾驶员辅助</translation>
+        <translation>驾驶辅助</translation>
     </message>
     <message>
         <source>Parking and manoeuvring</source>
-        <translation>驻车和调车</translation>
+        <translation>泊车和挪车</translation>
     </message>
     <message>
         <source>Light</source>
@@ -253,15 +273,15 @@
     </message>
     <message>
         <source>Seat driver profile</source>
-        <translation>座椅驾驶员配置</translation>
+        <translation>座椅和驾驶员配置</translation>
     </message>
     <message>
         <source>Vehice status Start-stop</source>
-        <translation>车辆状态 启停系统</translation>
+        <translation>车辆状态：启停系统</translation>
     </message>
     <message>
         <source>Vehice status reports</source>
-        <translation>车辆状态 报告</translation>
+        <translation>车辆状态：报告</translation>
     </message>
     <message>
         <source>Convenience consumer</source>
@@ -381,7 +401,7 @@
     </message>
     <message>
         <source>Parking brake function</source>
-        <translation>驻车制动功能</translation>
+        <translation>泊车制动功能</translation>
     </message>
     <message>
         <source>Front volume</source>
@@ -481,7 +501,7 @@
     </message>
     <message>
         <source>Head light</source>
-        <translation>顶部灯光</translation>
+        <translation>车顶灯光</translation>
     </message>
     <message>
         <source>Front light</source>
@@ -621,23 +641,23 @@
     </message>
     <message>
         <source>Vehicle NO.</source>
-        <translation>车辆编号</translation>
+        <translation>车架号</translation>
     </message>
     <message>
         <source>Inspection days</source>
-        <translation>保养天数</translation>
+        <translation>保养（时间）</translation>
     </message>
     <message>
         <source>Inspection distance</source>
-        <translation>保养里程</translation>
+        <translation>保养（里程）</translation>
     </message>
     <message>
         <source>Oil change service days</source>
-        <translation>换油保养天数</translation>
+        <translation>换机油（时间）</translation>
     </message>
     <message>
         <source>Oil change service distance</source>
-        <translation>换油保养里程</translation>
+        <translation>换机油（里程）</translation>
     </message>
     <message>
         <source>Wiper in maintenance position</source>
@@ -645,7 +665,7 @@
     </message>
     <message>
         <source>Reset &quot;Since start&quot;</source>
-        <translation>重置“自启动”</translation>
+        <translation>重置“启动以来”</translation>
     </message>
     <message>
         <source>Reset &quot;Long-term&quot;</source>
@@ -857,7 +877,7 @@
     </message>
     <message>
         <source>Manoeuvering mode</source>
-        <translation>调车模式</translation>
+        <translation>挪车模式</translation>
     </message>
     <message>
         <source>Defrost function is switched on</source>
@@ -993,7 +1013,23 @@
     </message>
     <message>
         <source>Drink holder</source>
-        <translation>饮料架</translation>
+        <translation>杯架</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Waiting for the car</source>
+        <translation>正在等待车辆</translation>
+    </message>
+    <message>
+        <source>Last report %1 min ago</source>
+        <translation>%1 分钟前的数据</translation>
+    </message>
+    <message>
+        <source>Last report %1 h ago</source>
+        <translation>%1 小时前的数据</translation>
     </message>
 </context>
 <context>
@@ -1096,7 +1132,7 @@
     </message>
     <message>
         <source>Reverse camera</source>
-        <translation>倒车摄像头</translation>
+        <translation>倒车摄像头类型</translation>
     </message>
     <message>
         <source>Starting front view</source>
@@ -1124,7 +1160,7 @@
     </message>
     <message>
         <source>Reverse condition</source>
-        <translation>倒车条件</translation>
+        <translation>倒车判断依据</translation>
     </message>
     <message>
         <source>Front view mirror</source>

@@ -91,7 +91,7 @@ void CanBus_Raise_Volkswagen::onInited()
 {
     AppendAppTitle(CarInfosApp, tr("Car infos"));
 
-    OrbEvent icons(400, 10, OrbEvent::AppIconType);
+    OrbEvent icons(400, 10, UnitLink::AppIconEvent);
     icons.setParams(CarInfosApp, 0);
     icons.setStringParam(
         QString::fromLatin1("%1,%2").arg(QLatin1String(NormalIcon), QLatin1String(HighlightedIcon)));
@@ -179,22 +179,8 @@ void CanBus_Raise_Volkswagen::processFKKey2F(const PackageView &d)
 
 void CanBus_Raise_Volkswagen::onOtherPackage(const PackageView &package)
 {
-    keepReport(package);
+    m_reports.take(package);
     Q_EMIT recvCanDatas(package.command(), package.data(), quint8(package.n()));
-}
-
-void CanBus_Raise_Volkswagen::keepReport(const PackageView &package)
-{
-    const quint8 command = package.command();
-    if (!Vw::isUnaskedReport(command)) {
-        return;
-    }
-    for (int i = m_lastReports.size() - 1; i >= 0; --i) {
-        if (quint8(m_lastReports.at(i).at(0)) == command) {
-            m_lastReports.removeAt(i);
-        }
-    }
-    m_lastReports.append(QByteArray(1, char(command)) + package.bytes());
 }
 
 // ---------------------------------------------------------------------------------------------- sent

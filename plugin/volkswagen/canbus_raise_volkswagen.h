@@ -2,10 +2,10 @@
 #define CANBUS_RAISE_VOLKSWAGEN_H
 
 #include "raise/raiseadapter.h"
+#include "vwkeptreports.h"
 
 #include "airconditiondlg.h"
 
-#include <QList>
 #include <QPointer>
 
 class VolkswagenWindow;
@@ -31,17 +31,22 @@ public:
 
     void syncSettingData(unsigned char param) override;
 
+    /// Nothing: 0x40 brings values of the settings pages, which take it through recvCanDatas; it bears no key.
+    void processFKKey40(unsigned char *) {}
+
     /// Hands \a screen, by its onRecvCanDatas, what the box last reported by itself and nobody can ask for
-    /// (tyres, start-stop system, vehicle reports, consumers). For a screen that opens later.
+    /// (tyres, start-stop system, vehicle reports, consumers, consumption). For a screen that opens later.
     template <class Screen>
     void repeatReports(Screen *screen) const
     {
-        for (int i = 0; i < m_lastReports.size(); ++i) {
-            const QByteArray &report = m_lastReports.at(i);
-            const quint8 *const bytes = reinterpret_cast<const quint8 *>(report.constData());
-            screen->onRecvCanDatas(bytes[0], bytes + 1, quint8(report.size() - 1));
-        }
+        m_reports.repeat(screen);
     }
+
+    /// Milliseconds since the box last reported \a command, one of those; -1 when it has not.
+    qint64 reportAge(quint8 command) const { return m_reports.age(command); }
+
+    /// Whether a service of the car is overdue, as far as the box has told.
+    bool isServiceOverdue() const { return m_reports.isServiceOverdue(); }
 
 Q_SIGNALS:
     /// The unit's language changed; visible texts are to be translated anew.
@@ -58,13 +63,10 @@ private:
     void onRadar23(const PackageView &d);
     void processFKKey2F(const PackageView &d);
 
-    void keepReport(const PackageView &package);
-
     static QPointer<VolkswagenWindow> s_window;
 
     AirConditionDlg m_climate;
-    // The last package of each such command, the command byte before the data, in order of arrival.
-    QList<QByteArray> m_lastReports;
+    Vw::KeptReports m_reports;
 };
 
 #endif // CANBUS_RAISE_VOLKSWAGEN_H

@@ -15,9 +15,36 @@ struct Place
     double x;
     double y;
 };
+
+const QRgb MarkColour = 0xFFFFFF00;
+const double MarkRadius = 10;
 const Place TyreCentres[Vw::TyreCount] = {{0.115, 0.225}, {0.885, 0.225}, {0.115, 0.775}, {0.885, 0.775}};
 
 } // namespace
+
+TyreMark::TyreMark(QWidget *parent) : QFrame(parent), m_marked(false)
+{
+    setAttribute(Qt::WA_NoSystemBackground); // the style sheet's
+}
+
+void TyreMark::setMarked(bool marked)
+{
+    m_marked = marked;
+    update();
+}
+
+void TyreMark::paintEvent(QPaintEvent *)
+{
+    if (!m_marked) {
+        return;
+    }
+    const double radius = qMin(MarkRadius, width() / 2.0);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(MarkColour));
+    painter.drawRoundedRect(rect(), radius, radius);
+}
 
 CarPicture::CarPicture(QWidget *parent) : QWidget(parent), m_car(QLatin1String(":/dazhong/car.png"))
 {

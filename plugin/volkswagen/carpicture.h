@@ -3,8 +3,27 @@
 
 #include "vwtripdata.h"
 
+#include <QFrame>
 #include <QPixmap>
 #include <QWidget>
+
+/// The mark over one tyre. It is drawn here, since a style sheet draws no round corners where the frame is
+/// narrower than they are wide; the style sheet tells no more than its state.
+class TyreMark : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit TyreMark(QWidget *parent = nullptr);
+
+    void setMarked(bool marked);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool m_marked;
+};
 
 /// The car seen from above, as large as fits, with a frame over each tyre. The frames are children of the
 /// picture and stay where the tyres are when it is resized.

@@ -2,10 +2,11 @@
 #define FIGURELABEL_H
 
 #include <QLabel>
+#include <QList>
 
-/// Shows a number with its unit ("520 km") for reading at a glance: the number large, the unit small on the
-/// same base line. Shrinks until both fit. The text stays plain; number and unit are parted by its first
-/// blank.
+/// Shows a number with its unit ("520 km") for reading at a glance: the number large at the left, the unit small,
+/// either at the right edge on the number's base line or below the number. The text stays plain; number and unit
+/// are parted by its first blank.
 class FigureLabel : public QLabel
 {
     Q_OBJECT
@@ -13,15 +14,55 @@ class FigureLabel : public QLabel
 public:
     explicit FigureLabel(QWidget *parent = nullptr);
 
+    /// \a example: a number as wide as they usually get. A narrower one is drawn no larger, so that the size
+    /// does not change with every value. \a unit: the same for the unit.
+    void setUsual(const QString &example, const QString &unit);
+
+    enum UnitPlace { Beside, Below };
+
+    /// The largest size of the number, in pixels, at which it has room with its unit at \a place.
+    int fittingSize(UnitPlace place) const;
+
+    /// Draws the number \a pixels high, and the unit at \a place.
+    void setFigureSize(int pixels, UnitPlace place);
+
     QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Width of the whole text with the number \a size pixels high.
-    int widthAt(int size) const;
-    QFont fontOf(int size) const;
+    QFont fontOf(int pixels) const;
+    int figureWidth(int pixels) const;
+    /// Room that the unit at \a place takes from the number.
+    QSize unitRoom(UnitPlace place) const;
+
+    QString m_usualFigure;
+    QString m_usualUnit;
+    int m_size;
+    UnitPlace m_unitPlace;
+};
+
+/// Gives its labels one size: the largest at which all of them fit, with their units all at the same place.
+class FigureGroup : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FigureGroup(QObject *parent = nullptr);
+
+    /// The group must not be used any more once \a label is gone.
+    void add(FigureLabel *label);
+
+    /// To be called when a text has changed.
+    void fit();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    int fittingSize(FigureLabel::UnitPlace place) const;
+
+    QList<FigureLabel *> m_labels;
 };
 
 #endif // FIGURELABEL_H

@@ -2,6 +2,18 @@
 
 #include "orbqtcompat.h"
 
+namespace {
+
+// So many fit on the smaller screen.
+const int MostLines = 3;
+
+int linesOf(int count, int columns)
+{
+    return (count + columns - 1) / columns;
+}
+
+} // namespace
+
 FlowLayout::FlowLayout(int margin, int horizontalSpacing, int verticalSpacing, QWidget *parent)
     : QLayout(parent), m_horizontalSpacing(horizontalSpacing), m_verticalSpacing(verticalSpacing)
 {
@@ -69,26 +81,41 @@ void FlowLayout::setGeometry(const QRect &rect)
     layOut(rect, true);
 }
 
+int FlowLayout::columnsIn(int width) const
+{
+    int widest = 1;
+    for (int i = 0; i < m_items.size(); ++i) {
+        widest = qMax(widest, m_items.at(i)->sizeHint().width());
+    }
+    const int count = qMax(1, int(m_items.size()));
+    const int most = qBound(1, (width + m_horizontalSpacing) / (widest + m_horizontalSpacing), count);
+    return linesOf(count, qMin(MostLines, linesOf(count, most)));
+}
+
 int FlowLayout::layOut(const QRect &rect, bool apply) const
 {
     const QMargins margins = contentsMargins();
     const QRect area = rect.adjusted(margins.left(), margins.top(), -margins.right(), -margins.bottom());
-    int x = area.left();
+    const int columns = columnsIn(area.width());
+    const int columnWidth = (area.width() - (columns - 1) * m_horizontalSpacing) / columns;
     int y = area.top();
+    int column = 0;
     int lineHeight = 0;
     for (int i = 0; i < m_items.size(); ++i) {
         QLayoutItem *const item = m_items.at(i);
-        QSize size = item->sizeHint();
-        size.setWidth(qMin(size.width(), area.width()));
-        if (lineHeight > 0 && x + size.width() > area.left() + area.width()) {
-            x = area.left();
+        const QSize size = item->sizeHint();
+        const int span = size.width() > columnWidth ? qMin(2, columns) : 1;
+        if (column + span > columns) {
             y += lineHeight + m_verticalSpacing;
+            column = 0;
             lineHeight = 0;
         }
         if (apply) {
-            item->setGeometry(QRect(QPoint(x, y), size));
+            const int x = area.left() + column * (columnWidth + m_horizontalSpacing);
+            const int width = span * columnWidth + (span - 1) * m_horizontalSpacing;
+            item->setGeometry(QRect(x, y, width, size.height()));
         }
-        x += size.width() + m_horizontalSpacing;
+        column += span;
         lineHeight = qMax(lineHeight, size.height());
     }
     return y + lineHeight + margins.bottom() - rect.top();

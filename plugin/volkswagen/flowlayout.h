@@ -4,8 +4,10 @@
 #include <QLayout>
 #include <QList>
 
-/// Places its widgets from left to right, each as large as it wants to be, and wraps to the next line where
-/// the width ends.
+/// Places its widgets from left to right and wraps to the next line where the width ends. All are equally
+/// wide and stand in columns: as many as the widest widget allows, and no more than give lines of equal
+/// length. Where that takes more than three lines there are more columns, and a widget that is too wide for
+/// one takes two.
 class FlowLayout : public QLayout
 {
     Q_OBJECT
@@ -28,6 +30,8 @@ public:
     void setGeometry(const QRect &rect) override;
 
 private:
+    /// Columns in \a width pixels.
+    int columnsIn(int width) const;
     /// Height that \a rect's width needs; with \a apply the items are placed as well.
     int layOut(const QRect &rect, bool apply) const;
 

@@ -24,10 +24,11 @@ const int DialogWidth = 720;
 } // namespace
 
 SelectDialog::SelectDialog(QWidget *parent)
-    : OrbDialog(parent, Choice)
+    : OrbDialog(parent)
     , m_ui(new Ui_SelectDialog)
     , m_contentLayout(nullptr)
     , m_checkBoxGroup(nullptr)
+    , m_contentLabel(nullptr)
     , m_valueButton(nullptr)
     , m_value(-1)
     , m_minimum(0)
@@ -35,6 +36,7 @@ SelectDialog::SelectDialog(QWidget *parent)
     , m_step(0)
 {
     m_ui->setupUi(this);
+    setModal(true);
 }
 
 SelectDialog::~SelectDialog() {}
@@ -61,13 +63,13 @@ void SelectDialog::setContentText(const QString &text)
     if (m_contentLayout) {
         return;
     }
-    QLabel *const label = new QLabel(text, m_ui->widgetContent);
-    label->setObjectName(QLatin1String("labelContent"));
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
+    m_contentLabel = new QLabel(text, m_ui->widgetContent);
+    m_contentLabel->setObjectName(QLatin1String("labelContent"));
+    m_contentLabel->setAlignment(Qt::AlignCenter);
+    m_contentLabel->setWordWrap(true);
     QHBoxLayout *const layout = new QHBoxLayout;
     layout->setContentsMargins(Spacing, Spacing, Spacing, Spacing);
-    layout->addWidget(label);
+    layout->addWidget(m_contentLabel);
     setContentLayout(layout);
 }
 
@@ -166,6 +168,27 @@ QString SelectDialog::getSliderValueText() const
 }
 
 // ---------------------------------------------------------------------------------------------- dialog
+
+void SelectDialog::setHint(const QString &hint)
+{
+    m_ui->labelHint->setText(hint);
+    m_ui->labelHint->setVisible(!hint.isEmpty());
+}
+
+void SelectDialog::retranslate(const QStringList &texts)
+{
+    for (int i = 0; m_checkBoxGroup && i < texts.size(); ++i) {
+        if (QAbstractButton *const box = m_checkBoxGroup->button(i)) {
+            box->setText(texts.at(i));
+        }
+    }
+    if (m_contentLabel && !texts.isEmpty()) {
+        m_contentLabel->setText(texts.first());
+    } else if (m_valueButton && !texts.isEmpty()) {
+        m_unit = texts.first();
+        setValue(m_value);
+    }
+}
 
 void SelectDialog::hideButtons()
 {

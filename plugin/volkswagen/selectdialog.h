@@ -48,6 +48,13 @@ public:
     /// Number and unit, empty in another mode.
     QString getSliderValueText() const;
 
+    /// Puts \a hint below the content in any mode; empty takes it away.
+    void setHint(const QString &hint);
+
+    /// The unit's language has changed: replaces the texts that the mode was given, which are the one content
+    /// text, the items, or the one unit. Whatever is missing stays as it is.
+    void retranslate(const QStringList &texts);
+
     /// For a dialog that only informs, or acts at once on a choice.
     void hideButtons();
 
@@ -69,6 +76,7 @@ private:
     const QScopedPointer<Ui_SelectDialog> m_ui;
     QLayout *m_contentLayout;
     QButtonGroup *m_checkBoxGroup;
+    QLabel *m_contentLabel;
     QPushButton *m_valueButton;
     int m_value;
     int m_minimum;

@@ -2,49 +2,32 @@
 
 #include "canbus_raise_volkswagen.h"
 #include "ui_volkswagenwindow.h"
-#include "vwcommands.h"
+#include "vwdrivingpage.h"
 #include "vwfunctionsetting.h"
 #include "vwsettingstable.h"
+#include "vwtyrepage.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QTimer>
 
 namespace {
 
-const char *const PageTitles[Vw::TripPageCount] = {
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Since start"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Since refueling"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Long-term"),
-};
+const int AgeInterval = 10 * 1000; // ms; ages are told in minutes
 
-const char *const TyreStateTexts[] = {
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Normal pressure"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Low pressure"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Hight pressure"),
-};
-
-// By message number; the box leaves 1 out.
-const char *const TyreMessages[] = {
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Tire pressure is normal"),
-    nullptr,
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Please check the tire pressure"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Tire pressure is too low"),
-    QT_TRANSLATE_NOOP("VolkswagenWindow", "Tire pressure loss"),
-};
-const int TyreMessageCount = sizeof TyreMessages / sizeof TyreMessages[0];
-
-const char MarkedTyreStyle[] = "border:2px solid #ff0;background-color:#ff0;border-radius:10px;";
-const char UnmarkedTyreStyle[] = "border-color:transparent;";
-const char NormalTyreStyle[] = "border-color:#fff";
-const char FaultyTyreStyle[] = "border-color:#f00;color:#f00;";
-const int TyreLabelWidth = 220;
-
-const char TyreMessageStyle[] = "color:#F2F5F8;background-color:#171C24;";
-const char TyreAlarmStyle[] = "color:#0E1116;background-color:#FFB020;font-weight:bold;";
-
-const char CurrentDotStyle[] = "background-color:#2EA8FF;border-radius:5px;";
-const char OtherDotStyle[] = "background-color:#3A4350;border-radius:5px;";
-
-const char NoFigure[] = "--";
+// The settings pages that are open: \a first before those that it opened.
+QList<VWFunctionSetting *> openPages(unsigned int first)
+{
+    QList<VWFunctionSetting *> pages;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (int i = 0; i < widgets.size(); ++i) {
+        VWFunctionSetting *const page = qobject_cast<VWFunctionSetting *>(widgets.at(i));
+        if (page && !page->isHidden()) {
+            pages.insert(page->appId() == first ? 0 : pages.size(), page);
+        }
+    }
+    return pages;
+}
 
 } // namespace
 
@@ -52,39 +35,18 @@ VolkswagenWindow::VolkswagenWindow(CanBus_Raise_Volkswagen *adapter, QWidget *pa
     : OrbMainWindow(CanBus_Raise_Volkswagen::CarInfosApp, parent)
     , m_adapter(adapter)
     , m_ui(new Ui_VolkswagenWindow)
-    , m_page(Vw::SinceStart)
-    , m_tyres(Vw::TyreStates())
-    , m_tyreMessage(-1)
-    , m_figures()
-    , m_tyreLabels()
-    , m_tyreFrames()
+    , m_driving(nullptr)
+    , m_tyres(nullptr)
+    , m_ageTimer(new QTimer(this))
 {
     m_ui->setupUi(this);
+    m_driving = new VwDrivingPage(m_ui.data(), adapter, this);
+    m_tyres = new VwTyrePage(m_ui.data(), adapter, this);
 
-    m_figures[Vw::TripValue::Range] = m_ui->labelRange;
-    m_figures[Vw::TripValue::Consumption] = m_ui->labelConsumption;
-    m_figures[Vw::TripValue::AverageConsumption] = m_ui->labelAverageConsumption;
-    m_figures[Vw::TripValue::Distance] = m_ui->labelDistance;
-    m_figures[Vw::TripValue::AverageSpeed] = m_ui->labelAverageSpeed;
-    m_figures[Vw::TripValue::DrivingTime] = m_ui->labelDrivingTime;
-    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
-        m_values[kind].kind = Vw::TripValue::NoValue;
-    }
-
-    m_tyreLabels[Vw::LeftFront] = m_ui->labelTyreLeftFront;
-    m_tyreLabels[Vw::RightFront] = m_ui->labelTyreRightFront;
-    m_tyreLabels[Vw::LeftRear] = m_ui->labelTyreLeftRear;
-    m_tyreLabels[Vw::RightRear] = m_ui->labelTyreRightRear;
-    m_tyreFrames[Vw::LeftFront] = m_ui->frameTyreLeftFront;
-    m_tyreFrames[Vw::RightFront] = m_ui->frameTyreRightFront;
-    m_tyreFrames[Vw::LeftRear] = m_ui->frameTyreLeftRear;
-    m_tyreFrames[Vw::RightRear] = m_ui->frameTyreRightRear;
-    for (int i = 0; i < Vw::TyreCount; ++i) {
-        m_tyreLabels[i]->hide();
-        m_tyreFrames[i]->hide();
-        m_ui->carPicture->setTyreFrame(static_cast<Vw::Tyre>(i), m_tyreFrames[i]);
-    }
-
+    m_ageTimer->setInterval(AgeInterval);
+    connect(m_ageTimer, SIGNAL(timeout()), SLOT(showAges()));
+    connect(m_ui->tabRange, SIGNAL(sweptLeft()), SLOT(on_btnRight_clicked()));
+    connect(m_ui->tabRange, SIGNAL(sweptRight()), SLOT(on_btnLeft_clicked()));
     connect(adapter, SIGNAL(recvCanDatas(quint8, const quint8 *, quint8)), this,
             SLOT(onRecvCanDatas(quint8, const quint8 *, quint8)));
     connect(adapter, SIGNAL(languageChanged()), this, SLOT(retranslate()));
@@ -96,14 +58,19 @@ VolkswagenWindow::~VolkswagenWindow() {}
 
 void VolkswagenWindow::onLoadUiSkin()
 {
-    changeRangeIndex(m_page);
+    m_driving->turnTo(m_driving->page());
     showTab(m_ui->tabRange);
 }
 
 void VolkswagenWindow::onVisibleChange(bool visible)
 {
+    m_driving->setVisible(visible);
     if (visible) {
-        m_adapter->syncData(Vw::TripReply, Vw::RangeRequest);
+        m_tyres->shown();
+        showAges();
+        m_ageTimer->start();
+    } else {
+        m_ageTimer->stop();
     }
 }
 
@@ -127,23 +94,32 @@ void VolkswagenWindow::on_btnTPMS_clicked()
     showTab(m_ui->tabTPMS);
 }
 
-// The car's box has nothing to show here; the button is drawn as one that has no use.
+// The car's box has nothing to show here; the button says so.
 void VolkswagenWindow::on_btnCarStatus_clicked() {}
 
 void VolkswagenWindow::on_btnSetting_clicked()
 {
-    VWFunctionSetting *const settings = new VWFunctionSetting(Vw::CarSettingPage, m_adapter);
-    settings->setVisible(true);
+    openSettings(Vw::CarSettingPage);
+}
+
+void VolkswagenWindow::on_btnTyreWarning_clicked()
+{
+    showTab(m_ui->tabTPMS);
+}
+
+void VolkswagenWindow::on_btnServiceWarning_clicked()
+{
+    openSettings(Vw::ServicePage);
 }
 
 void VolkswagenWindow::on_btnLeft_clicked()
 {
-    changeRangeIndex(m_page - 1);
+    changeRangeIndex(m_driving->page() - 1);
 }
 
 void VolkswagenWindow::on_btnRight_clicked()
 {
-    changeRangeIndex(m_page + 1);
+    changeRangeIndex(m_driving->page() + 1);
 }
 
 void VolkswagenWindow::showTab(QWidget *tab)
@@ -153,136 +129,62 @@ void VolkswagenWindow::showTab(QWidget *tab)
     m_ui->btnTPMS->setChecked(tab == m_ui->tabTPMS);
 }
 
-// ---------------------------------------------------------------------------------------------- trip computer
+// A page that is open already comes to the front, and what was opened from it with it.
+void VolkswagenWindow::openSettings(unsigned int page)
+{
+    const QList<VWFunctionSetting *> pages = openPages(page);
+    if (pages.isEmpty() || pages.first()->appId() != page) {
+        VWFunctionSetting *const settings = new VWFunctionSetting(page, m_adapter);
+        settings->setVisible(true);
+        return;
+    }
+    const bool isMenu = page == Vw::CarSettingPage;
+    for (int i = 0; i < (isMenu ? pages.size() : 1); ++i) {
+        pages.at(i)->setVisible(true);
+    }
+}
+
+// ---------------------------------------------------------------------------------------------- reports
 
 void VolkswagenWindow::changeRangeIndex(int index)
 {
-    if (index < 0) {
-        m_page = Vw::TripPageCount - 1;
-    } else {
-        m_page = index < Vw::TripPageCount ? index : 0;
-    }
-
-    // What the page before showed means nothing here.
-    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
-        if (!m_values[kind].isOn(m_page)) {
-            m_values[kind].kind = Vw::TripValue::NoValue;
-            showFigure(kind);
-        }
-    }
-    syncDrivingData(m_page);
-    showPageTitle();
+    m_driving->turnTo(index);
 }
 
 void VolkswagenWindow::syncDrivingData(int page)
 {
-    if (page < 0 || page >= Vw::TripPageCount) {
-        return;
-    }
-    for (int i = 0; i < Vw::TripRequestCount; ++i) {
-        m_adapter->syncData(Vw::TripReply, quint8(Vw::TripRequests[i] + page));
-    }
+    m_driving->askFor(page);
 }
-
-void VolkswagenWindow::showPageTitle()
-{
-    m_ui->labelPageTitle->setText(tr(PageTitles[m_page]));
-    QFrame *const dots[Vw::TripPageCount] = {m_ui->dotSinceStart, m_ui->dotSinceRefueling, m_ui->dotLongTerm};
-    for (int i = 0; i < Vw::TripPageCount; ++i) {
-        dots[i]->setStyleSheet(QLatin1String(i == m_page ? CurrentDotStyle : OtherDotStyle));
-    }
-}
-
-void VolkswagenWindow::showFigure(int kind)
-{
-    const Vw::TripValue &value = m_values[kind];
-    QString text = QLatin1String(NoFigure);
-    if (value.kind != Vw::TripValue::NoValue) {
-        text = value.figure;
-        if (value.unit) {
-            text += QLatin1Char(' ') + tr(value.unit);
-        }
-    }
-    m_figures[kind]->setText(text);
-}
-
-void VolkswagenWindow::showTripValue(const Vw::TripValue &value)
-{
-    if (!value.isOn(m_page)) {
-        return;
-    }
-    m_values[value.kind] = value;
-    showFigure(value.kind);
-}
-
-// ---------------------------------------------------------------------------------------------- tyres
-
-void VolkswagenWindow::showTyreStates(const Vw::TyreStates &states)
-{
-    if (!states.valid) {
-        return;
-    }
-    m_tyres = states;
-    showTyreTexts();
-    for (int i = 0; i < Vw::TyreCount; ++i) {
-        QLabel *const label = m_tyreLabels[i];
-        label->setFixedWidth(TyreLabelWidth);
-        label->setStyleSheet(QLatin1String(states.state[i] == 0 ? NormalTyreStyle : FaultyTyreStyle));
-        label->setVisible(true);
-    }
-}
-
-// A warning replaces the texts of the single tyres until the next package with their states.
-void VolkswagenWindow::showTyreWarning(const Vw::TyreWarning &warning)
-{
-    if (!warning.valid) {
-        return;
-    }
-    for (int i = 0; i < Vw::TyreCount; ++i) {
-        m_tyreLabels[i]->hide();
-        QFrame *const frame = m_tyreFrames[i];
-        frame->setStyleSheet(QLatin1String(warning.marked[i] ? MarkedTyreStyle : UnmarkedTyreStyle));
-        frame->show();
-    }
-    m_tyreMessage = warning.message;
-    const bool normal = m_tyreMessage >= TyreMessageCount || m_tyreMessage <= 1;
-    m_ui->labelTpmsState->setStyleSheet(QLatin1String(normal ? TyreMessageStyle : TyreAlarmStyle));
-    showTyreTexts();
-}
-
-void VolkswagenWindow::showTyreTexts()
-{
-    if (m_tyres.valid) {
-        for (int i = 0; i < Vw::TyreCount; ++i) {
-            m_tyreLabels[i]->setText(tr(TyreStateTexts[m_tyres.state[i]]));
-        }
-    }
-    const bool known =
-        m_tyreMessage >= 0 && m_tyreMessage < TyreMessageCount && TyreMessages[m_tyreMessage] != nullptr;
-    m_ui->labelTpmsState->setText(known ? tr(TyreMessages[m_tyreMessage]) : QString());
-    m_ui->labelTpmsState->setVisible(known);
-}
-
-// ---------------------------------------------------------------------------------------------- both
 
 void VolkswagenWindow::onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen)
 {
     const PackageView package(cmd, datas, dataLen);
-    if (cmd == Vw::TripReply) {
-        showTripValue(Vw::tripValue(package));
-    } else if (cmd == Vw::TyreStatesReply) {
-        showTyreStates(Vw::tyreStates(package));
-    } else if (cmd == Vw::TyreWarningReply) {
-        showTyreWarning(Vw::tyreWarning(package));
-    }
+    m_driving->take(package);
+    m_tyres->take(package);
+    showWarnings();
+}
+
+void VolkswagenWindow::showWarnings()
+{
+    const QString tyres = m_tyres->warning();
+    m_ui->btnTyreWarning->setText(tyres);
+    m_ui->btnTyreWarning->setVisible(!tyres.isEmpty());
+    m_ui->btnTPMS->setBadge(!tyres.isEmpty());
+    m_ui->btnServiceWarning->setVisible(m_adapter->isServiceOverdue());
+    m_ui->btnSetting->setBadge(m_adapter->isServiceOverdue());
+}
+
+void VolkswagenWindow::showAges()
+{
+    m_driving->showNote();
+    m_tyres->showNote();
 }
 
 void VolkswagenWindow::retranslate()
 {
     m_ui->retranslateUi(this);
-    showPageTitle();
-    for (int kind = 0; kind < Vw::TripValue::KindCount; ++kind) {
-        showFigure(kind);
-    }
-    showTyreTexts();
+    m_ui->btnCarStatus->setReason(tr("not in this car"));
+    m_driving->retranslate();
+    m_tyres->retranslate();
+    showWarnings();
 }

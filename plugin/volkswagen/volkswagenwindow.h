@@ -1,23 +1,23 @@
 #ifndef VOLKSWAGENWINDOW_H
 #define VOLKSWAGENWINDOW_H
 
-#include "vwtripdata.h"
-
 #include "orbmainwindow.h"
 
 #include <QScopedPointer>
 
 class CanBus_Raise_Volkswagen;
-class QFrame;
-class QLabel;
+class QTimer;
 class Ui_VolkswagenWindow;
+class VwDrivingPage;
+class VwTyrePage;
 
 /// "Car infos": the trip computer with its three pages (tab `tabRange`) and the tyres (tab `tabTPMS`).
 ///
 /// Figures stand in `labelRange`, `labelConsumption`, `labelAverageConsumption`, `labelDistance`,
 /// `labelAverageSpeed` and `labelDrivingTime`, the page's name in `labelPageTitle`; tyre states in
 /// `labelTyreLeftFront`, `labelTyreRightFront`, `labelTyreLeftRear` and `labelTyreRightRear`, tyre marks in
-/// the frames of the same endings (`frameTyreLeftFront` ...), the tyre message in `labelTpmsState`.
+/// the frames of the same endings (`frameTyreLeftFront` ...), the tyre message in `labelTpmsState`. What warns the
+/// driver stands over the driving data (`btnTyreWarning`, `btnServiceWarning`) and as a badge on the rail's buttons.
 class VolkswagenWindow : public OrbMainWindow
 {
     Q_OBJECT
@@ -29,7 +29,6 @@ public:
 
     /// Turns to trip page \a index, round both ends, and asks the box for its values.
     void changeRangeIndex(int index);
-    int rangeIndex() const { return m_page; }
 
     /// Asks the box for the four values of trip page \a page, 0..2; others are ignored.
     void syncDrivingData(int page);
@@ -47,28 +46,23 @@ private Q_SLOTS:
     void on_btnTPMS_clicked();
     void on_btnCarStatus_clicked();
     void on_btnSetting_clicked();
+    void on_btnTyreWarning_clicked();
+    void on_btnServiceWarning_clicked();
     void on_btnLeft_clicked();
     void on_btnRight_clicked();
+    void showAges();
     void retranslate();
 
 private:
     void showTab(QWidget *tab);
-    void showPageTitle();
-    void showFigure(int kind);
-    void showTripValue(const Vw::TripValue &value);
-    void showTyreStates(const Vw::TyreStates &states);
-    void showTyreWarning(const Vw::TyreWarning &warning);
-    void showTyreTexts();
+    void showWarnings();
+    void openSettings(unsigned int page);
 
     CanBus_Raise_Volkswagen *const m_adapter;
     const QScopedPointer<Ui_VolkswagenWindow> m_ui;
-    int m_page;
-    Vw::TripValue m_values[Vw::TripValue::KindCount];
-    Vw::TyreStates m_tyres;
-    int m_tyreMessage; // -1 before the first
-    QLabel *m_figures[Vw::TripValue::KindCount];
-    QLabel *m_tyreLabels[Vw::TyreCount];
-    QFrame *m_tyreFrames[Vw::TyreCount];
+    VwDrivingPage *m_driving;
+    VwTyrePage *m_tyres;
+    QTimer *const m_ageTimer;
 };
 
 #endif // VOLKSWAGENWINDOW_H

@@ -21,12 +21,8 @@ enum Reply : quint8 {
     TyreWarningReply = 0x68
 };
 
-/// Replies that the box sends by itself, and that no screen asks for.
-inline bool isUnaskedReport(quint8 command)
-{
-    return command == StartStopReply || command == ReportsReply || command == ConsumersReply ||
-           command == TyreStatesReply || command == TyreWarningReply;
-}
+/// How long a screen waits for the car's answer before it says so and asks once more, in milliseconds.
+const int AnswerPatience = 2000;
 
 } // namespace Vw
 

@@ -2,11 +2,22 @@
 
 #include "canbus_raise_volkswagen.h"
 #include "selectdialog.h"
+#include "vwtexts.h"
 
 #include "tablelistview.h"
 #include "tableviewmodel.h"
 
 #include <QEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+const int SilenceLimit = 2000; // ms
+const int AgeInterval = 10000;
+const char FootStyle[] = "color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
+
+} // namespace
 
 VWFunctionSetting::VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen *adapter, QWidget *parent)
     : OrbMainWindow(appId, parent)
@@ -14,12 +25,32 @@ VWFunctionSetting::VWFunctionSetting(unsigned int appId, CanBus_Raise_Volkswagen
     , m_state(appId)
     , m_model(new TableViewModel(this))
     , m_list(new TableListView(this))
+    , m_foot(new QLabel(this))
+    , m_asked(Vw::SettingRow())
     , m_left(false)
 {
     setWindowTitle(getAppTitleFromId(appId));
     m_list->setObjectName(QLatin1String("listSettings"));
     m_list->setModel(m_model);
-    setCentralWidget(m_list);
+    // Below the rows, so that none moves under a finger when it comes or goes.
+    m_foot->setObjectName(QLatin1String("labelFoot"));
+    m_foot->setAlignment(Qt::AlignCenter);
+    m_foot->setStyleSheet(QLatin1String(FootStyle));
+    m_foot->hide();
+    QWidget *const content = new QWidget(this);
+    QVBoxLayout *const column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_list);
+    column->addWidget(m_foot);
+    setCentralWidget(content);
+
+    m_memory.recall(m_state);
+    m_silenceTimer.setSingleShot(true);
+    m_sentTimer.setSingleShot(true);
+    connect(&m_silenceTimer, SIGNAL(timeout()), SLOT(onCarSilent()));
+    connect(&m_ageTimer, SIGNAL(timeout()), SLOT(showFoot()));
+    connect(&m_sentTimer, SIGNAL(timeout()), SLOT(onSentShown()));
     connect(adapter, SIGNAL(recvCanDatas(quint8, const quint8 *, quint8)), this,
             SLOT(onRecvCanDatas(quint8, const quint8 *, quint8)));
     connect(adapter, SIGNAL(languageChanged()), this, SLOT(retranslate()));
@@ -33,25 +64,56 @@ VWFunctionSetting::~VWFunctionSetting()
 
 void VWFunctionSetting::onLoadUiSkin()
 {
+    m_silenceTimer.start(SilenceLimit);
     refresh();
     m_adapter->repeatReports(this);
     sendRequests();
+    if (m_state.reportCommand() != 0) {
+        m_ageTimer.start(AgeInterval);
+    }
     connect(m_list, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)), this,
             SLOT(onItemColumnClicked(QAbstractItemModel *, QModelIndex)));
+    connect(m_list, SIGNAL(pressed(QModelIndex)), this, SLOT(onItemPressed(QModelIndex)));
 }
 
 void VWFunctionSetting::sendRequests()
 {
     const Vw::SettingPage *const page = Vw::settingPage(appId());
-    for (int i = 0; page && i < page->requestCount; ++i) {
-        m_adapter->syncData(page->requestCommand, page->requests[i]);
+    const QList<quint8> requests = m_state.unanswered();
+    for (int i = 0; page && i < requests.size(); ++i) {
+        m_adapter->syncData(page->requestCommand, requests.at(i));
     }
+}
+
+// A package may have been lost on the way; a car that still says nothing has nothing to say.
+void VWFunctionSetting::onCarSilent()
+{
+    sendRequests();
+    showFoot();
+}
+
+void VWFunctionSetting::showFoot()
+{
+    const bool waits = m_state.isSilent() && !m_silenceTimer.isActive();
+    const QString text =
+        waits ? Vw::waitingText() : Vw::ageText(m_adapter->reportAge(m_state.reportCommand()));
+    m_foot->setText(text);
+    m_foot->setVisible(!text.isEmpty());
+    // Without rows the words have the page for themselves.
+    m_list->setMaximumHeight(waits && m_model->rowCount() == 0 ? 0 : QWIDGETSIZE_MAX);
+}
+
+void VWFunctionSetting::onSentShown()
+{
+    m_state.setSent(Vw::NoItem);
+    refresh();
 }
 
 void VWFunctionSetting::onRecvCanDatas(quint8 cmd, const quint8 *datas, quint8 dataLen)
 {
     if (m_state.take(PackageView(cmd, datas, dataLen))) {
         refresh();
+        showFoot();
     }
 }
 
@@ -67,175 +129,6 @@ void VWFunctionSetting::refresh()
             m_model->appendItemDatas(rows.at(i));
         }
     }
-}
-
-void VWFunctionSetting::send(int item, int value)
-{
-    m_adapter->writeSettingData(quint8(item), quint8(value));
-}
-
-// ---------------------------------------------------------------------------------------------- clicks
-
-void VWFunctionSetting::onItemColumnClicked(QAbstractItemModel *, const QModelIndex &index)
-{
-    const Vw::SettingRow *const row = m_state.row(index.row());
-    if (m_dialog || m_left || !row) {
-        return;
-    }
-    if (row->kind != Vw::SettingRow::Switch) {
-        onItemClicked(index);
-    } else if (index.column() == TableViewItemDatas::ValueColumn) {
-        toggleSwitch(*row);
-    }
-}
-
-void VWFunctionSetting::onItemClicked(const QModelIndex &index)
-{
-    // A copy: replies that arrive while a dialog is open may change the rows.
-    const Vw::SettingRow row = *m_state.row(index.row());
-    switch (row.kind) {
-    case Vw::SettingRow::Link:
-        openPage(row.opens);
-        break;
-    case Vw::SettingRow::Options:
-        chooseOption(row, index);
-        break;
-    case Vw::SettingRow::Number:
-        chooseNumber(row, index);
-        break;
-    case Vw::SettingRow::Action:
-        send(row.item, 1);
-        break;
-    case Vw::SettingRow::ConfirmedAction:
-        confirmAction(row);
-        break;
-    case Vw::SettingRow::Heading:
-    case Vw::SettingRow::Switch:
-    case Vw::SettingRow::Reading:
-        break;
-    }
-}
-
-void VWFunctionSetting::toggleSwitch(const Vw::SettingRow &row)
-{
-    const int item = row.item;
-    const int value = m_state.value(item, 0) == 0 ? 1 : 0;
-    m_state.setValue(item, value);
-    refresh();
-    if (item != Vw::NoItem) {
-        send(item, value);
-    }
-}
-
-void VWFunctionSetting::openPage(unsigned int appId)
-{
-    VWFunctionSetting *const page = new VWFunctionSetting(appId, m_adapter);
-    page->setVisible(true);
-}
-
-void VWFunctionSetting::chooseOption(const Vw::SettingRow &row, const QModelIndex &index)
-{
-    const QPointer<VWFunctionSetting> self(this);
-    const QStringList options = index.data(Vw::OptionsRole).toStringList();
-    const int chosen = showSelectCheckBoxModeDialog(options, m_state.value(row.item, -1), index);
-    if (!self || m_left || row.codeOf(chosen) < 0) {
-        return;
-    }
-    send(row.item, row.codeOf(chosen));
-    m_state.setValue(row.item, chosen);
-    if (Vw::dropsProfileRows(appId(), row.item)) {
-        m_state.dropProfileRows();
-    }
-    refresh();
-}
-
-void VWFunctionSetting::chooseNumber(const Vw::SettingRow &row, const QModelIndex &index)
-{
-    const QPointer<VWFunctionSetting> self(this);
-    const QSize range = index.data(Vw::RangeRole).toSize();
-    const QString unit = QLatin1Char(' ') + index.data(Vw::UnitRole).toString();
-    const int chosen =
-        showSelectSliderModeDialog(range.width(), range.height(), index.data(Vw::StepRole).toInt(), unit,
-                                   index.data(Vw::ValueRole).toInt(), index);
-    if (!self || m_left) {
-        return;
-    }
-    if (chosen >= 0) {
-        m_state.setValue(row.item, chosen);
-        refresh();
-    }
-    if (chosen >= 0 || (Vw::sendsWhenCancelled(row.item) && m_state.isKnown(row.item))) {
-        send(row.item, m_state.value(row.item, 0));
-    }
-}
-
-void VWFunctionSetting::confirmAction(const Vw::SettingRow &row)
-{
-    const QPointer<VWFunctionSetting> self(this);
-    const QString label = Vw::text(row.label);
-    bool confirmed;
-    if (appId() == Vw::FactoryPage) {
-        confirmed = showConfirmDialog(
-            tr("Factory settings"),
-            QString::fromLatin1("%1 %2 %3 ?").arg(tr("Are you sure restore"), label, tr("settings")));
-    } else {
-        confirmed = showConfirmDialog(tr("Driving data"), tr("Are you sure ") + label + QLatin1Char('?'));
-    }
-    if (self && !m_left && confirmed) {
-        send(row.item, 1);
-    }
-}
-
-// ---------------------------------------------------------------------------------------------- dialogs
-//
-// A dialog runs an event loop of its own, in which the page may be left and deleted; the dialog then ends as
-// if it had been cancelled, and nothing of the page may be touched any more.
-
-SelectDialog *VWFunctionSetting::newDialog(const QString &title)
-{
-    m_dialog = new SelectDialog(this);
-    m_dialog->setWindowTitle(title);
-    return m_dialog;
-}
-
-int VWFunctionSetting::showSelectCheckBoxModeDialog(const QStringList &options, int current,
-                                                    const QModelIndex &index)
-{
-    const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
-    dialog->setCheckBoxListMode(options, options.value(current), true);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog) {
-        return -1;
-    }
-    const int chosen = accepted ? dialog->getCheckedIndex() : -1;
-    delete dialog;
-    return chosen;
-}
-
-int VWFunctionSetting::showSelectSliderModeDialog(int minimum, int maximum, int step, const QString &unit,
-                                                  int value, const QModelIndex &index)
-{
-    const QPointer<SelectDialog> dialog(newDialog(m_model->itemDatas(index.row()).text()));
-    dialog->setSliderMode(minimum, maximum, step, value, unit);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog) {
-        return -1;
-    }
-    const int chosen = accepted ? dialog->getSliderValue() : -1;
-    delete dialog;
-    return chosen;
-}
-
-bool VWFunctionSetting::showConfirmDialog(const QString &title, const QString &text)
-{
-    const QPointer<SelectDialog> dialog(newDialog(title));
-    dialog->setContentText(text);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog) {
-        return false;
-    }
-    delete dialog;
-    return accepted;
 }
 
 // ---------------------------------------------------------------------------------------------- leaving
@@ -273,10 +166,23 @@ void VWFunctionSetting::retranslate()
 {
     setWindowTitle(getAppTitleFromId(appId()));
     refresh();
+    showFoot();
+    translateDialog();
 }
 
 QString VWFunctionSetting::getAppTitleFromId(unsigned int appId)
 {
     const Vw::SettingPage *const page = Vw::settingPage(appId);
     return page ? Vw::text(page->title) : QString();
+}
+
+/// The row's label, which titles its dialog.
+QString VWFunctionSetting::getItemText(const QModelIndex &index) const
+{
+    return m_model->itemDatas(index.row()).text();
+}
+
+QString VWFunctionSetting::getItemSliderValueText(const TableViewItemDatas &row)
+{
+    return Vw::numberText(row.bindData(Vw::ValueRole).toInt(), row.bindData(Vw::UnitRole).toString());
 }

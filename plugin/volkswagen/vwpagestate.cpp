@@ -1,19 +1,18 @@
 #include "vwpagestate.h"
 
 #include "vwcommands.h"
+#include "vwrowlooks.h"
 #include "vwtexts.h"
 
+#include "tablelistview.h"
 #include "tableviewmodel.h"
 
 #include <QSize>
-#include <QStringList>
 
 namespace Vw {
 namespace {
 
 const char IconFolder[] = ":/dazhong/set/";
-const char DropDownMark[] = ":/dazhong/set/xiala.png";
-const char OpenMark[] = ":/dazhong/set/open.png";
 const char InfoIcon[] = "info.png";
 const char ReportIcon[] = "report.png";
 const char ConsumerIcon[] = "consumer.png";
@@ -34,26 +33,18 @@ QString iconPath(const char *fileName)
 TableViewItemDatas reportItem(const QString &label, const char *icon, const QString &value = QString())
 {
     TableViewItemDatas item(NoItem, label, iconPath(icon));
-    item.setValue(TableViewItemDatas::ValueColumn, value);
+    item.setValue(TableListView::ValueColumn, value);
+    setReportLooks(item);
     return item;
 }
 
-// The report's lines, or one that says that there are none.
+// The lines of a report that has come, or one that says that there are none.
 QList<TableViewItemDatas> orNoEntries(const QList<TableViewItemDatas> &items)
 {
     if (!items.isEmpty()) {
         return items;
     }
     return QList<TableViewItemDatas>() << reportItem(text(NoEntries), InfoIcon);
-}
-
-QStringList optionTexts(const SettingRow &row)
-{
-    QStringList texts;
-    for (int i = 0; i < row.optionCount(); ++i) {
-        texts.append(text(row.options[i]));
-    }
-    return texts;
 }
 
 QString readingText(const ServiceReading &reading)
@@ -73,6 +64,15 @@ QString readingText(const ServiceReading &reading)
 
 } // namespace
 
+QStringList optionTexts(const SettingRow &row)
+{
+    QStringList texts;
+    for (int i = 0; i < row.optionCount(); ++i) {
+        texts.append(text(row.options[i]));
+    }
+    return texts;
+}
+
 QString numberText(int value, const QString &unit)
 {
     return unit.isEmpty() ? QString::number(value) : QString::number(value) + QLatin1Char(' ') + unit;
@@ -81,6 +81,7 @@ QString numberText(int value, const QString &unit)
 PageState::PageState(unsigned int page)
     : m_id(page)
     , m_page(settingPage(page))
+    , m_sent(NoItem)
     , m_speedInMph(false)
     , m_startStop(StartStopReport())
     , m_numbers(NumbersReport())
@@ -88,32 +89,67 @@ PageState::PageState(unsigned int page)
     for (int i = 0; m_page && i < m_page->rowCount; ++i) {
         m_rows.append(m_page->rows[i]);
     }
+    for (int i = 0; m_page && i < m_page->requestCount; ++i) {
+        m_unanswered.append(m_page->requests[i]);
+    }
 }
 
 // ---------------------------------------------------------------------------------------------- replies
 
+quint8 PageState::reportCommand() const
+{
+    switch (m_id) {
+    case StartStopPage:
+        return StartStopReply;
+    case ReportsPage:
+        return ReportsReply;
+    case ConsumersPage:
+        return ConsumersReply;
+    default:
+        return 0;
+    }
+}
+
 bool PageState::take(const PackageView &d)
 {
-    if (m_id == StartStopPage && d.command() == StartStopReply) {
+    if (reportCommand() != 0) {
+        return d.command() == reportCommand() && takeReport(d);
+    }
+    if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0) {
+        return false;
+    }
+    m_unanswered.removeAll(d.d(0));
+    takeSettings(d);
+    return true;
+}
+
+bool PageState::takeReport(const PackageView &d)
+{
+    if (m_id == StartStopPage) {
         const StartStopReport report = startStopReport(d);
         if (report.valid) {
             m_startStop = report;
         }
         return report.valid;
     }
-    if ((m_id == ReportsPage && d.command() == ReportsReply) ||
-        (m_id == ConsumersPage && d.command() == ConsumersReply)) {
-        const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
-        if (report.valid) {
-            m_numbers = report;
-        }
-        return report.valid;
+    const NumbersReport report = m_id == ReportsPage ? vehicleReports(d) : consumersReport(d);
+    if (report.valid) {
+        m_numbers = report;
     }
-    if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0) {
-        return false;
+    return report.valid;
+}
+
+QList<quint8> PageState::unanswered() const
+{
+    return m_unanswered;
+}
+
+bool PageState::isSilent() const
+{
+    if (reportCommand() != 0) {
+        return !m_startStop.valid && !m_numbers.valid;
     }
-    takeSettings(d);
-    return true;
+    return m_page && m_page->requestCount > 0 && m_unanswered.size() == m_page->requestCount;
 }
 
 void PageState::takeSettings(const PackageView &d)
@@ -185,6 +221,9 @@ NumberRange PageState::rangeOf(const SettingRow &row) const
 
 QList<TableViewItemDatas> PageState::rows() const
 {
+    if (reportCommand() != 0 && isSilent()) {
+        return QList<TableViewItemDatas>();
+    }
     if (m_id == StartStopPage) {
         return startStopRows();
     }
@@ -201,22 +240,31 @@ QList<TableViewItemDatas> PageState::rows() const
     return items;
 }
 
+RowState PageState::stateOf(const SettingRow &row) const
+{
+    const ServiceReading::Form form = m_readings.value(row.item).form;
+    const bool isRead =
+        form == ServiceReading::Count || form == ServiceReading::Overdue || form == ServiceReading::Text;
+    const bool isReading = row.kind == SettingRow::Reading;
+    const RowState state = {isReading ? isRead : isKnown(row.item),
+                            isReading && form == ServiceReading::Overdue,
+                            row.item != NoItem && row.item == m_sent};
+    return state;
+}
+
 TableViewItemDatas PageState::itemOf(const SettingRow &row) const
 {
     TableViewItemDatas item(row.item, text(row.label), iconPath(row.icon));
     item.setHeading(row.kind == SettingRow::Heading);
     item.setBindData(PageRole, row.opens);
+    setLooks(item, row, stateOf(row));
     if (row.kind == SettingRow::Switch) {
-        item.setValue(TableViewItemDatas::ValueColumn, value(row.item, 0) != 0);
+        item.setValue(TableListView::ValueColumn, value(row.item, 0) != 0);
         return item;
     }
-    item.setValue(TableViewItemDatas::ValueColumn, valueText(row));
-    if (row.kind == SettingRow::Link) {
-        item.setMark(QLatin1String(OpenMark));
-    }
+    item.setValue(TableListView::ValueColumn, valueText(row));
     if (row.kind == SettingRow::Options) {
         item.setBindData(OptionsRole, optionTexts(row));
-        item.setMark(QLatin1String(DropDownMark));
     } else if (row.kind == SettingRow::Number) {
         const NumberRange range = rangeOf(row);
         item.setBindData(RangeRole, QSize(range.minimum, range.maximum));
@@ -253,9 +301,9 @@ QList<TableViewItemDatas> PageState::startStopRows() const
         }
     }
     QList<TableViewItemDatas> items;
-    if (m_startStop.valid && !m_startStop.active) {
+    if (!m_startStop.active) {
         items.append(reportItem(text(StartStopOff), "startstop.png"));
-    } else if (m_startStop.valid && reasons.isEmpty()) {
+    } else if (reasons.isEmpty()) {
         items.append(reportItem(text(StartStopOn), "startstop.png"));
     }
     return orNoEntries(items + reasons);
@@ -265,7 +313,7 @@ QList<TableViewItemDatas> PageState::reportRows() const
 {
     QList<TableViewItemDatas> items;
     for (int i = 0; i < m_numbers.numbers.size(); ++i) {
-        items.append(reportItem(text(ReportCode), ReportIcon, QString::number(m_numbers.numbers.at(i))));
+        items.append(reportItem(text(ReportCode), ReportIcon, getReportInfo(m_numbers.numbers.at(i))));
     }
     return orNoEntries(items);
 }

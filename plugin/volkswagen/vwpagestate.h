@@ -3,10 +3,12 @@
 
 #include "packageview.h"
 #include "vwreports.h"
+#include "vwrowlooks.h"
 #include "vwsettingstable.h"
 
 #include <QHash>
 #include <QList>
+#include <QStringList>
 
 class TableViewItemDatas;
 
@@ -34,6 +36,14 @@ public:
     /// it was; values that a row has no text for are left out.
     bool take(const PackageView &package);
 
+    /// The command of the report that the page shows, which nobody can ask for; 0 for a page of settings.
+    quint8 reportCommand() const;
+
+    /// The page's requests that the box has not answered yet, in their order.
+    QList<quint8> unanswered() const;
+    /// Whether the page shows what the car tells, and it has told nothing yet.
+    bool isSilent() const;
+
     /// What the list shows, in the unit's language.
     QList<TableViewItemDatas> rows() const;
 
@@ -46,6 +56,10 @@ public:
     bool isKnown(int item) const { return m_values.contains(item); }
     /// The driver's choice; it stands until the car reports something else.
     void setValue(int item, int value) { m_values.insert(item, value); }
+    void forgetValue(int item) { m_values.remove(item); }
+
+    /// The row of \a item says "Sent" from now on, until it is another one's turn; NoItem: none's.
+    void setSent(int item) { m_sent = item; }
 
     NumberRange rangeOf(const SettingRow &row) const;
 
@@ -53,11 +67,13 @@ public:
     void dropProfileRows();
 
 private:
+    bool takeReport(const PackageView &d);
     void takeSettings(const PackageView &d);
     void takeField(const SettingRow &row, const ReplyField &field, const PackageView &d);
     void showProfileRows();
 
     TableViewItemDatas itemOf(const SettingRow &row) const;
+    RowState stateOf(const SettingRow &row) const;
     QString valueText(const SettingRow &row) const;
     QList<TableViewItemDatas> startStopRows() const;
     QList<TableViewItemDatas> reportRows() const;
@@ -65,13 +81,18 @@ private:
 
     const unsigned int m_id;
     const SettingPage *const m_page;
+    QList<quint8> m_unanswered;
     QList<SettingRow> m_rows;
+    int m_sent;
     QHash<int, int> m_values; // by item
     bool m_speedInMph;
     QHash<int, ServiceReading> m_readings; // by item
     StartStopReport m_startStop;
     NumbersReport m_numbers; // vehicle reports or consumers
 };
+
+/// Texts of the options of \a row, in the unit's language.
+QStringList optionTexts(const SettingRow &row);
 
 /// Value and unit of a number's row ("80 km/h"); the value alone without a unit.
 QString numberText(int value, const QString &unit);

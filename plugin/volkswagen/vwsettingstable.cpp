@@ -94,10 +94,10 @@ const char *const TyreLoads[] = {QT_TR_NOOP("Comfortable"), QT_TR_NOOP("Standard
                                  nullptr};
 
 const Row TyresRows[] = {
-    toggle(32, QT_TR_NOOP("Speed warning"), "speed.png", bit(0x20, 1, 0)),
-    number(WarningSpeedItem, QT_TR_NOOP("Warning speed"), "speed.png", WarningSpeedKmh, whole(0x20, 2)),
-    action(34, QT_TR_NOOP("TPMS SET"), "tyre.png"),
-    choice(35, QT_TR_NOOP("Direct tyres pressure monitoring"), "tyre.png", TyreLoads, whole(0x20, 3)),
+    toggle(32, QT_TR_NOOP("Speed warning"), "speedalert.png", bit(0x20, 1, 0)),
+    number(WarningSpeedItem, QT_TR_NOOP("Warning speed"), "speedlimit.png", WarningSpeedKmh, whole(0x20, 2)),
+    action(TyresSetItem, QT_TR_NOOP("TPMS SET"), "tyreset.png"),
+    choice(35, QT_TR_NOOP("Direct tyres pressure monitoring"), "tyreload.png", TyreLoads, whole(0x20, 3)),
 };
 const quint8 TyresRequests[] = {0x20};
 
@@ -110,14 +110,14 @@ const char *const Distances[] = {QT_TR_NOOP("Very close"), QT_TR_NOOP("Close"), 
 
 const Row DriverAssistanceRows[] = {
     toggle(48, QT_TR_NOOP("Lane assist"), "lane.png", bit(0x30, 1, 0)),
-    toggle(54, QT_TR_NOOP("Lane keeping assist system"), "lane.png", bit(0x30, 2, 0)),
-    toggle(49, QT_TR_NOOP("Driver alert system"), "alert.png", bit(0x30, 1, 1)),
-    toggle(51, QT_TR_NOOP("Front assist"), "distance.png", bit(0x31, 1, 1)),
+    toggle(54, QT_TR_NOOP("Lane keeping assist system"), "lanekeep.png", bit(0x30, 2, 0)),
+    toggle(49, QT_TR_NOOP("Driver alert system"), "drowsy.png", bit(0x30, 1, 1)),
+    toggle(51, QT_TR_NOOP("Front assist"), "frontassist.png", bit(0x31, 1, 1)),
     toggle(52, QT_TR_NOOP("Advance warning"), "alert.png", bit(0x31, 1, 2)),
-    toggle(53, QT_TR_NOOP("Display distance warning"), "distance.png", bit(0x31, 1, 3)),
+    toggle(53, QT_TR_NOOP("Display distance warning"), "distancewarn.png", bit(0x31, 1, 3)),
     heading(QT_TR_NOOP("Adaptive cruise control")),
-    toggle(50, QT_TR_NOOP("Last distance selected"), "distance.png", bit(0x31, 1, 0)),
-    choice(55, QT_TR_NOOP("Drive program"), "mode.png", DrivePrograms, bits(0x31, 2, 1, 0),
+    toggle(50, QT_TR_NOOP("Last distance selected"), "lastdistance.png", bit(0x31, 1, 0)),
+    choice(55, QT_TR_NOOP("Drive program"), "program.png", DrivePrograms, bits(0x31, 2, 1, 0),
            DriveProgramCodes),
     choice(56, QT_TR_NOOP("Distance"), "distance.png", Distances, bits(0x31, 2, 7, 4)),
     toggle(57, QT_TR_NOOP("Hill Descent Control"), "hill.png", bit(0x31, 3, 0)),
@@ -129,14 +129,14 @@ const quint8 DriverAssistanceRequests[] = {0x30, 0x31};
 const NumberRange Volume = {1, 9, 1, nullptr};
 
 const Row ParkingRows[] = {
-    toggle(69, QT_TR_NOOP("Activated"), "parking.png", bit(0x40, 1, 1)),
-    toggle(64, QT_TR_NOOP("Activa automatically"), "parking.png", bit(0x40, 1, 0)),
+    toggle(69, QT_TR_NOOP("Activated"), "parkon.png", bit(0x40, 1, 1)),
+    toggle(64, QT_TR_NOOP("Activa automatically"), "parkauto.png", bit(0x40, 1, 0)),
     toggle(58, QT_TR_NOOP("Parking brake function"), "brake.png", bit(0x40, 1, 2)),
-    number(65, QT_TR_NOOP("Front volume"), "volume.png", Volume, bits(0x40, 2, 3, 0)),
-    number(66, QT_TR_NOOP("Front tone setting"), "tone.png", Volume, bits(0x40, 2, 7, 4)),
-    number(67, QT_TR_NOOP("Rear volume"), "volume.png", Volume, bits(0x40, 3, 3, 0)),
-    number(68, QT_TR_NOOP("Rear tone setting"), "tone.png", Volume, bits(0x40, 3, 7, 4)),
-    toggle(171, QT_TR_NOOP("Radar sound"), "volume.png", Unreported),
+    number(65, QT_TR_NOOP("Front volume"), "volumefront.png", Volume, bits(0x40, 2, 3, 0)),
+    number(66, QT_TR_NOOP("Front tone setting"), "tonefront.png", Volume, bits(0x40, 2, 7, 4)),
+    number(67, QT_TR_NOOP("Rear volume"), "volumerear.png", Volume, bits(0x40, 3, 3, 0)),
+    number(68, QT_TR_NOOP("Rear tone setting"), "tonerear.png", Volume, bits(0x40, 3, 7, 4)),
+    toggle(RadarSoundItem, QT_TR_NOOP("Radar sound"), "radar.png", Unreported),
 };
 const quint8 ParkingRequests[] = {0x40};
 
@@ -151,35 +151,35 @@ const NumberRange LightSeconds = {0, 30, 5, QT_TR_NOOP("s")};
 const NumberRange BeamDistance = {0, 7, 1, nullptr}; // what three bits hold
 
 const Row LightRows[] = {
-    choice(80, QT_TR_NOOP("Switch-on time"), "time.png", SwitchOnTimes, bits(0x50, 1, 2, 0)),
-    toggle(81, QT_TR_NOOP("Automatic headlight control in rain"), "rain.png", bit(0x50, 1, 4)),
+    choice(80, QT_TR_NOOP("Switch-on time"), "lighttime.png", SwitchOnTimes, bits(0x50, 1, 2, 0)),
+    toggle(81, QT_TR_NOOP("Automatic headlight control in rain"), "lightrain.png", bit(0x50, 1, 4)),
     toggle(82, QT_TR_NOOP("Lane change flash"), "indicator.png", bit(0x50, 1, 5)),
-    number(83, QT_TR_NOOP("Instrument/switch lighting"), "brightness.png", Brightness, whole(0x50, 2)),
-    number(84, QT_TR_NOOP("Coming home function"), "home.png", LightSeconds, whole(0x50, 3)),
-    number(85, QT_TR_NOOP("Leaving home function"), "home.png", LightSeconds, whole(0x50, 4)),
-    choice(86, QT_TR_NOOP("Travel mode"), "lane.png", TrafficSides, bit(0x51, 1, 0)),
-    number(87, QT_TR_NOOP("Door ambient light"), "brightness.png", Brightness, whole(0x51, 2)),
-    number(88, QT_TR_NOOP("Foowell light"), "brightness.png", Brightness, whole(0x51, 3)),
-    number(91, QT_TR_NOOP("Head light"), "brightness.png", Brightness, whole(0x52, 1)),
-    number(92, QT_TR_NOOP("Front light"), "brightness.png", Brightness, whole(0x52, 2)),
+    number(83, QT_TR_NOOP("Instrument/switch lighting"), "instruments.png", Brightness, whole(0x50, 2)),
+    number(84, QT_TR_NOOP("Coming home function"), "cominghome.png", LightSeconds, whole(0x50, 3)),
+    number(85, QT_TR_NOOP("Leaving home function"), "leavinghome.png", LightSeconds, whole(0x50, 4)),
+    choice(86, QT_TR_NOOP("Travel mode"), "traffic.png", TrafficSides, bit(0x51, 1, 0)),
+    number(87, QT_TR_NOOP("Door ambient light"), "doorlight.png", Brightness, whole(0x51, 2)),
+    number(88, QT_TR_NOOP("Foowell light"), "footlight.png", Brightness, whole(0x51, 3)),
+    number(91, QT_TR_NOOP("Head light"), "rooflight.png", Brightness, whole(0x52, 1)),
+    number(92, QT_TR_NOOP("Front light"), "frontlight.png", Brightness, whole(0x52, 2)),
     number(93, QT_TR_NOOP("All light"), "brightness.png", Brightness, whole(0x52, 4)),
-    toggle(89, QT_TR_NOOP("Motorway light"), "light.png", bit(0x51, 4, 0)),
-    toggle(90, QT_TR_NOOP("Dynamic light assist"), "light.png", bit(0x51, 4, 1)),
+    toggle(89, QT_TR_NOOP("Motorway light"), "motorway.png", bit(0x51, 4, 0)),
+    toggle(90, QT_TR_NOOP("Dynamic light assist"), "dynamic.png", bit(0x51, 4, 1)),
     choice(94, QT_TR_NOOP("Interior environment lighting color"), "colour.png", AmbientColours,
            whole(0x52, 3)),
-    number(95, QT_TR_NOOP("Headlight illumination distance"), "light.png", BeamDistance, bits(0x51, 1, 3, 1)),
-    toggle(200, QT_TR_NOOP("Daytime running lights"), "light.png", bit(0x50, 1, 6)),
+    number(95, QT_TR_NOOP("Headlight illumination distance"), "beam.png", BeamDistance, bits(0x51, 1, 3, 1)),
+    toggle(200, QT_TR_NOOP("Daytime running lights"), "daytime.png", bit(0x50, 1, 6)),
 };
 const quint8 LightRequests[] = {0x50, 0x51, 0x52};
 
 // ---------------------------------------------------------------------------------------------- Mirrors
 
 const Row MirrorsRows[] = {
-    toggle(96, QT_TR_NOOP("Synchronous adjustment"), "mirror.png", bit(0x60, 1, 0)),
-    toggle(97, QT_TR_NOOP("Lower while reversing"), "mirror.png", bit(0x60, 1, 1)),
-    toggle(98, QT_TR_NOOP("Automatic wiping in rain"), "rain.png", bit(0x60, 1, 2)),
-    toggle(99, QT_TR_NOOP("Rear window wiping in reverse gear"), "wiper.png", bit(0x60, 1, 3)),
-    toggle(100, QT_TR_NOOP("Fold away after parking"), "mirror.png", bit(0x60, 1, 4)),
+    toggle(96, QT_TR_NOOP("Synchronous adjustment"), "mirrorsync.png", bit(0x60, 1, 0)),
+    toggle(97, QT_TR_NOOP("Lower while reversing"), "mirrordown.png", bit(0x60, 1, 1)),
+    toggle(98, QT_TR_NOOP("Automatic wiping in rain"), "wiperrain.png", bit(0x60, 1, 2)),
+    toggle(99, QT_TR_NOOP("Rear window wiping in reverse gear"), "wiperrear.png", bit(0x60, 1, 3)),
+    toggle(100, QT_TR_NOOP("Fold away after parking"), "mirrorfold.png", bit(0x60, 1, 4)),
 };
 const quint8 MirrorsRequests[] = {0x60};
 
@@ -191,13 +191,13 @@ const char *const DoorUnlockings[] = {QT_TR_NOOP("Vehicle side"), QT_TR_NOOP("Si
                                       QT_TR_NOOP("All doors"), nullptr};
 
 const Row OpeningRows[] = {
-    choice(112, QT_TR_NOOP("Convenience opening"), "window.png", WindowOpenings, bits(0x70, 1, 2, 0)),
-    choice(113, QT_TR_NOOP("Door unlocking"), "lock.png", DoorUnlockings, bits(0x70, 1, 6, 4)),
-    toggle(114, QT_TR_NOOP("Automatic locking"), "lock.png", bit(0x70, 2, 0)),
+    choice(112, QT_TR_NOOP("Convenience opening"), "windows.png", WindowOpenings, bits(0x70, 1, 2, 0)),
+    choice(113, QT_TR_NOOP("Door unlocking"), "doors.png", DoorUnlockings, bits(0x70, 1, 6, 4)),
+    toggle(114, QT_TR_NOOP("Automatic locking"), "autolock.png", bit(0x70, 2, 0)),
     toggle(116, QT_TR_NOOP("Inductive rear tailgate"), "tailgate.png", bit(0x70, 2, 1)),
-    toggle(201, QT_TR_NOOP("Acoustic confirmation"), "volume.png", bit(0x70, 3, 0)),
-    toggle(102, QT_TR_NOOP("Front window"), "window.png", bit(0x70, 2, 2)),
-    toggle(103, QT_TR_NOOP("Rear window"), "window.png", bit(0x70, 2, 3)),
+    toggle(201, QT_TR_NOOP("Acoustic confirmation"), "confirm.png", bit(0x70, 3, 0)),
+    toggle(102, QT_TR_NOOP("Front window"), "windowfront.png", bit(0x70, 2, 2)),
+    toggle(103, QT_TR_NOOP("Rear window"), "windowrear.png", bit(0x70, 2, 3)),
     toggle(104, QT_TR_NOOP("Sliding sunroof"), "sunroof.png", bit(0x70, 2, 4)),
 };
 const quint8 OpeningRequests[] = {0x70};
@@ -205,16 +205,16 @@ const quint8 OpeningRequests[] = {0x70};
 // ---------------------------------------------------------------------------------------------- display
 
 const Row DisplayRows[] = {
-    toggle(128, QT_TR_NOOP("Current consumption"), "fuel.png", bit(0x80, 1, 0)),
-    toggle(129, QT_TR_NOOP("Average consumption"), "fuel.png", bit(0x80, 1, 1)),
+    toggle(128, QT_TR_NOOP("Current consumption"), "fuelnow.png", bit(0x80, 1, 0)),
+    toggle(129, QT_TR_NOOP("Average consumption"), "fuelaverage.png", bit(0x80, 1, 1)),
     toggle(130, QT_TR_NOOP("Convenience consumption"), "consumer.png", bit(0x80, 1, 2)),
     toggle(131, QT_TR_NOOP("Eco tips"), "eco.png", bit(0x80, 1, 3)),
     toggle(132, QT_TR_NOOP("Travelling time"), "time.png", bit(0x80, 1, 4)),
-    toggle(133, QT_TR_NOOP("Distance travelled"), "lane.png", bit(0x80, 1, 5)),
-    toggle(134, QT_TR_NOOP("Average speed"), "speed.png", bit(0x80, 1, 6)),
-    toggle(135, QT_TR_NOOP("Digital speed display"), "speed.png", bit(0x80, 1, 7)),
-    toggle(136, QT_TR_NOOP("Speed warning"), "alert.png", bit(0x80, 2, 0)),
-    toggle(137, QT_TR_NOOP("Oil temperature"), "temperature.png", bit(0x80, 2, 1)),
+    toggle(133, QT_TR_NOOP("Distance travelled"), "odometer.png", bit(0x80, 1, 5)),
+    toggle(134, QT_TR_NOOP("Average speed"), "speedaverage.png", bit(0x80, 1, 6)),
+    toggle(135, QT_TR_NOOP("Digital speed display"), "speeddigital.png", bit(0x80, 1, 7)),
+    toggle(136, QT_TR_NOOP("Speed warning"), "speedalert.png", bit(0x80, 2, 0)),
+    toggle(137, QT_TR_NOOP("Oil temperature"), "oiltemperature.png", bit(0x80, 2, 1)),
 };
 const quint8 DisplayRequests[] = {0x80};
 
@@ -222,15 +222,16 @@ const quint8 DisplayRequests[] = {0x80};
 
 // The readings bear the sub-types of the replies that fill them.
 const Row ServiceRows[] = {
-    reading(VehicleNumberItem, QT_TR_NOOP("Vehicle NO."), "report.png"),
-    reading(0x10, QT_TR_NOOP("Inspection days"), "time.png"),
-    reading(0x11, QT_TR_NOOP("Inspection distance"), "service.png"),
-    reading(0x20, QT_TR_NOOP("Oil change service days"), "time.png"),
+    reading(VehicleNumberItem, QT_TR_NOOP("Vehicle NO."), "vin.png"),
+    reading(0x10, QT_TR_NOOP("Inspection days"), "calendar.png"),
+    reading(0x11, QT_TR_NOOP("Inspection distance"), "servicedistance.png"),
+    reading(0x20, QT_TR_NOOP("Oil change service days"), "oilcalendar.png"),
     reading(0x21, QT_TR_NOOP("Oil change service distance"), "oil.png"),
-    toggle(WiperServiceItem, QT_TR_NOOP("Wiper in maintenance position"), "wiper.png", bit(0x22, 1, 0)),
-    confirmed(138, QT_TR_NOOP("Reset \"Since start\""), "reset.png"),
-    confirmed(139, QT_TR_NOOP("Reset \"Long-term\""), "reset.png"),
-    confirmed(141, QT_TR_NOOP("Reset maintenance cycle"), "reset.png"),
+    toggle(WiperServiceItem, QT_TR_NOOP("Wiper in maintenance position"), "wiperservice.png",
+           bit(0x22, 1, 0)),
+    confirmed(138, QT_TR_NOOP("Reset \"Since start\""), "tripreset.png"),
+    confirmed(139, QT_TR_NOOP("Reset \"Long-term\""), "longreset.png"),
+    confirmed(141, QT_TR_NOOP("Reset maintenance cycle"), "servicereset.png"),
 };
 const quint8 ServiceRequests[] = {0x00, 0x10, 0x11, 0x20, 0x21, 0x22};
 
@@ -245,12 +246,12 @@ const char *const ConsumptionUnits[] = {QT_TR_NOOP("mpg(UK)"), QT_TR_NOOP("L/100
 const char *const PressureUnits[] = {QT_TR_NOOP("bar"), QT_TR_NOOP("psi"), QT_TR_NOOP("kPa"), nullptr};
 
 const Row UnitsRows[] = {
-    choice(144, QT_TR_NOOP("Distance"), "lane.png", DistanceUnits, bit(0x90, 1, 0)),
+    choice(144, QT_TR_NOOP("Distance"), "ruler.png", DistanceUnits, bit(0x90, 1, 0)),
     choice(145, QT_TR_NOOP("Speed"), "speed.png", SpeedUnits, bit(0x90, 1, 1)),
     choice(146, QT_TR_NOOP("Temperature"), "temperature.png", TemperatureUnits, bit(0x90, 1, 2)),
-    choice(147, QT_TR_NOOP("Volume"), "oil.png", VolumeUnits, bits(0x90, 1, 6, 4)),
+    choice(147, QT_TR_NOOP("Volume"), "canister.png", VolumeUnits, bits(0x90, 1, 6, 4)),
     choice(148, QT_TR_NOOP("Consumption"), "fuel.png", ConsumptionUnits, bits(0x90, 2, 2, 0)),
-    choice(149, QT_TR_NOOP("Pressure"), "tyre.png", PressureUnits, bits(0x90, 2, 6, 4)),
+    choice(149, QT_TR_NOOP("Pressure"), "pressure.png", PressureUnits, bits(0x90, 2, 6, 4)),
 };
 const quint8 UnitsRequests[] = {0x90};
 
@@ -258,12 +259,12 @@ const quint8 UnitsRequests[] = {0x90};
 
 const Row FactoryRows[] = {
     confirmed(193, QT_TR_NOOP("Driver assistance"), "assistance.png"),
-    confirmed(194, QT_TR_NOOP("Parking and manoeuvring"), "parking.png"),
+    confirmed(RestoreParkingItem, QT_TR_NOOP("Parking and manoeuvring"), "parking.png"),
     confirmed(195, QT_TR_NOOP("Light"), "light.png"),
     confirmed(196, QT_TR_NOOP("Mirrors and wipers"), "wiper.png"),
     confirmed(197, QT_TR_NOOP("Opening and closing"), "lock.png"),
     confirmed(198, QT_TR_NOOP("Multifunction display"), "display.png"),
-    confirmed(199, QT_TR_NOOP("All settings"), "reset.png"),
+    confirmed(RestoreAllItem, QT_TR_NOOP("All settings"), "reset.png"),
 };
 
 // ---------------------------------------------------------------------------------------------- Profile
@@ -282,11 +283,10 @@ const char *const SteeringModes[] = {QT_TR_NOOP("Normal"), QT_TR_NOOP("Sport"), 
 const char *const EngineModes[] = {QT_TR_NOOP("Normal"), QT_TR_NOOP("Sport"), QT_TR_NOOP("ECO"), nullptr};
 const char *const ClimateModes[] = {QT_TR_NOOP("Normal"), QT_TR_NOOP("ECO"), nullptr};
 const quint8 ClimateModeCodes[] = {0, 2};
-const ReplyField ClimateModeField = bits(0xA0, 3, 3, 0);
 
 const Row ProfileRows[] = {
     toggle(202, QT_TR_NOOP("Remote key activated"), "key.png", bit(0xB0, 1, 0)),
-    toggle(203, QT_TR_NOOP("Remote key memory matching"), "key.png", bit(0xB0, 1, 1)),
+    toggle(203, QT_TR_NOOP("Remote key memory matching"), "keymemory.png", bit(0xB0, 1, 1)),
     choice(DrivingModeItem, QT_TR_NOOP("Driving mode"), "mode.png", DrivingModes, bits(0xA0, 1, 3, 0)),
 };
 const quint8 ProfileRequests[] = {0xA0, 0xB0, 0xB1};
@@ -294,17 +294,17 @@ const quint8 ProfileRequests[] = {0xA0, 0xB0, 0xB1};
 const Row IndividualRows[] = {
     choice(209, QT_TR_NOOP("Steering"), "steering.png", SteeringModes, bits(0xA0, 2, 3, 0)),
     choice(210, QT_TR_NOOP("Engine"), "engine.png", EngineModes, bits(0xA0, 2, 7, 4)),
-    choice(IndividualClimateItem, QT_TR_NOOP("Climate"), "climate.png", ClimateModes, ClimateModeField,
+    choice(IndividualClimateItem, QT_TR_NOOP("Climate"), "climate.png", ClimateModes, bits(0xA0, 3, 3, 0),
            ClimateModeCodes),
-    choice(213, QT_TR_NOOP("Front lighting"), "light.png", EngineModes, bits(0xA0, 3, 7, 4)),
-    action(212, QT_TR_NOOP("Reset"), "reset.png"),
+    choice(213, QT_TR_NOOP("Front lighting"), "headlamp.png", EngineModes, bits(0xA0, 3, 7, 4)),
+    action(212, QT_TR_NOOP("Reset"), "resetmode.png"),
 };
 
-// Only these two items of the off-road set are known.
+// Only these two items of the off-road set are known, and no reply carries them.
 const Row OffRoadIndividualRows[] = {
-    choice(OffRoadClimateItem, QT_TR_NOOP("Climate"), "climate.png", ClimateModes, ClimateModeField,
+    choice(OffRoadClimateItem, QT_TR_NOOP("Climate"), "climate.png", ClimateModes, Unreported,
            ClimateModeCodes),
-    action(232, QT_TR_NOOP("Reset"), "reset.png"),
+    action(OffRoadResetItem, QT_TR_NOOP("Reset"), "resetmode.png"),
 };
 
 // ---------------------------------------------------------------------------------------------- all pages
@@ -378,6 +378,18 @@ QList<SettingRow> profileRows(int mode)
         return listOf(OffRoadIndividualRows);
     }
     return QList<SettingRow>();
+}
+
+const QList<int> &unreportedItems()
+{
+    static const QList<int> items = QList<int>() << RadarSoundItem << OffRoadClimateItem;
+    return items;
+}
+
+bool isUndoneBy(int item, int action)
+{
+    const int undoing = item == RadarSoundItem ? RestoreParkingItem : OffRoadResetItem;
+    return action == RestoreAllItem || action == undoing;
 }
 
 bool dropsProfileRows(unsigned int page, int item)

@@ -35,10 +35,15 @@ enum SettingItem {
     NoItem = -1,
     VehicleNumberItem = 0x00,
     WarningSpeedItem = 33,
+    TyresSetItem = 34,
     WiperServiceItem = 140,
+    RadarSoundItem = 171,
+    RestoreParkingItem = 194,
+    RestoreAllItem = 199,
     DrivingModeItem = 208,
     IndividualClimateItem = 211,
-    OffRoadClimateItem = 228
+    OffRoadClimateItem = 228,
+    OffRoadResetItem = 232
 };
 
 /// Where a reply carries a value: the reply's sub-type, the data byte, its bits.
@@ -116,6 +121,10 @@ extern const ReplyField SecondDrivingModeField;
 /// The unit of the warning speed: set means mph.
 extern const ReplyField WarningSpeedUnitField;
 extern const NumberRange WarningSpeedMph;
+/// The items that can be chosen and that no reply carries.
+const QList<int> &unreportedItems();
+/// Whether the car, told to do \a action, no longer has what was chosen for the unreported \a item.
+bool isUndoneBy(int item, int action);
 /// Whether a choice made in row \a item of page \a page takes the further rows of the profile page away
 /// until the car reports its driving mode again.
 bool dropsProfileRows(unsigned int page, int item);

@@ -66,6 +66,12 @@ const char *const ConsumerTexts[] = {
     QT_TR_NOOP("Drink holder"),            // 18
 };
 
+const char *const Waiting = QT_TR_NOOP("Waiting for the car");
+const char *const MinutesAgo = QT_TR_NOOP("Last report %1 min ago");
+const char *const HoursAgo = QT_TR_NOOP("Last report %1 h ago");
+const qint64 Minute = 60 * 1000; // ms
+const qint64 Hour = 60 * Minute;
+
 template <int Count>
 QString textOf(const char *const (&texts)[Count], int number)
 {
@@ -79,9 +85,27 @@ QString getStartStopInfo(int number)
     return textOf(StartStopTexts, number);
 }
 
+QString getReportInfo(int number)
+{
+    return QString::number(number);
+}
+
 QString getConvConsumerInfo(int number)
 {
     return textOf(ConsumerTexts, number);
+}
+
+QString waitingText()
+{
+    return text(Waiting);
+}
+
+QString ageText(qint64 age)
+{
+    if (age < Minute) {
+        return QString();
+    }
+    return age < Hour ? text(MinutesAgo).arg(age / Minute) : text(HoursAgo).arg(age / Hour);
 }
 
 } // namespace Vw

@@ -156,7 +156,7 @@ CanBus_XinHang::CommandTable CanBus_XinHang::commands() const
 
 void CanBus_XinHang::onRecvMcuProtocol(const QByteArray &byteArray)
 {
-    dispatch(byteArray);
+    dispatch(viewOf(byteArray));
 }
 
 void CanBus_XinHang::onStatus(const PackageView &d)
@@ -273,13 +273,13 @@ void CanBus_XinHang::onAppRequest(const PackageView &d)
 {
     switch (d.d(0)) {
     case 0:
-        UnitLink::requestApp(OrbEvent::ReturnType);
+        UnitLink::requestApp(UnitLink::ReturnEvent);
         break;
     case 1:
-        UnitLink::requestApp(OrbEvent::ShowAppType, 2, BoxApp1);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 2, BoxApp1);
         break;
     case 2:
-        UnitLink::requestApp(OrbEvent::ShowAppType, 1, BoxApp2);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 1, BoxApp2);
         break;
     default:
         break;
@@ -342,11 +342,11 @@ void CanBus_XinHang::showApp(unsigned int appId)
         break;
     case BoxApp1:
         send(BoxScreenCommand, QByteArray(1, 0x01));
-        UnitLink::requestApp(OrbEvent::ShowAppType, 2, BoxApp1);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 2, BoxApp1);
         break;
     case BoxApp2:
         send(BoxScreenCommand, QByteArray(1, 0x02));
-        UnitLink::requestApp(OrbEvent::ShowAppType, 1, BoxApp2);
+        UnitLink::requestApp(UnitLink::ShowAppEvent, 1, BoxApp2);
         break;
     default:
         break;

@@ -3,6 +3,10 @@
 
 #include "orbmainwindow.h"
 
+#include <QPointer>
+#include <QStringList>
+
+class QDialog;
 class QModelIndex;
 class TableViewModel;
 class XinHangSettings;
@@ -27,10 +31,14 @@ private Q_SLOTS:
 
 private:
     /// The user's choice, -1 for none. Runs an event loop of its own.
-    static int showSelectDialog(const QString &title, const QStringList &texts, int current);
+    int showSelectDialog(const QString &title, const QStringList &texts, int current);
+    void translateDialog();
 
     XinHangSettings &m_settings;
     TableViewModel *m_model;
+    QPointer<QDialog> m_dialog; // the open one,
+    int m_askedItem;            // the item that it asks for,
+    QStringList m_shownTexts;   // and what it was given: its title, then the values
 };
 
 #endif // XINHANGSETTINGSWINDOW_H

@@ -44,7 +44,7 @@ QByteArray bigEndian(quint32 number)
 } // namespace
 
 XinHangUpdater::XinHangUpdater(XinHangBox &box, QObject *parent)
-    : QObject(parent), m_box(box), m_fileSize(0), m_packetCount(0)
+    : QObject(parent), m_box(box), m_fileSize(0), m_packetCount(0), m_missing(0)
 {}
 
 XinHangUpdater::~XinHangUpdater()
@@ -111,6 +111,7 @@ bool XinHangUpdater::openFile()
 
 void XinHangUpdater::onStartUpdateMCU()
 {
+    setEverythingGiven(false);
     bool usable = openFile();
     if (usable && m_file->size() > MaximumFileSize) {
         qWarning() << "update file too large:" << m_filePath << m_file->size();
@@ -152,6 +153,9 @@ void XinHangUpdater::sendPacketCount()
     }
     m_fileSize = m_file->size();
     m_packetCount = quint32((m_fileSize + PacketSize - 1) / PacketSize);
+    m_given = QBitArray(int(m_packetCount));
+    m_missing = m_packetCount;
+    setEverythingGiven(false);
     qDebug() << "update file size:" << m_fileSize;
     qDebug() << "update package count:" << m_packetCount;
     m_box.send(UpdateCommand, message(Ready) + bigEndian(m_packetCount));
@@ -160,18 +164,23 @@ void XinHangUpdater::sendPacketCount()
 void XinHangUpdater::onPacketRequest(quint32 number)
 {
     qDebug() << "recv update packageid:" << number;
-    if (!m_file || number >= m_packetCount) {
+    if (!m_file) {
         showFailure();
         return;
     }
+    const bool announced = number < m_packetCount;
     QByteArray packet;
-    if (!readPacket(number, &packet)) {
+    if (!announced || !readPacket(number, &packet)) {
+        setEverythingGiven(false);
         showFailure();
         // A disk that was pulled out and put back has the file again, under a new handle. The box asks again.
-        openFile();
+        if (announced) {
+            openFile();
+        }
         return;
     }
     m_box.send(UpdateCommand, message(Packet) + bigEndian(number) + packet);
+    noteGiven(number);
     const float progress = float(number) / float(m_packetCount) * 100.0f;
     const int percent = UnitLink::truncated(progress);
     if (m_dialog) {
@@ -191,6 +200,22 @@ bool XinHangUpdater::readPacket(quint32 number, QByteArray *packet)
     const qint64 length = qMin<qint64>(PacketSize, m_fileSize - position);
     packet->fill(Padding, PacketSize);
     return m_file->isOpen() && m_file->seek(position) && m_file->read(packet->data(), length) == length;
+}
+
+void XinHangUpdater::noteGiven(quint32 number)
+{
+    if (!m_given.testBit(int(number))) {
+        m_given.setBit(int(number));
+        --m_missing;
+    }
+    setEverythingGiven(m_missing == 0);
+}
+
+void XinHangUpdater::setEverythingGiven(bool given)
+{
+    if (m_dialog) {
+        m_dialog->setProperty("everythingGiven", given);
+    }
 }
 
 void XinHangUpdater::finish()

@@ -1,6 +1,7 @@
 #ifndef XINHANGUPDATER_H
 #define XINHANGUPDATER_H
 
+#include <QBitArray>
 #include <QByteArray>
 #include <QDateTime>
 #include <QObject>
@@ -16,7 +17,8 @@ class XinHangBox;
 /// Updates the box's firmware from a file on a removable disk: finds the file, asks the user, and hands the
 /// box the packets that it asks for. The box drives the pace and may ask for any packet again; nothing is
 /// sent unasked. Every failure shows in the dialog and leaves the state as it is, so that the box or the user
-/// can try again.
+/// can try again. The framework's dialog knows no call for the end; it is told by a property when the box has
+/// every packet (everythingGiven), which a dialog that knows nothing of it leaves alone.
 class XinHangUpdater : public QObject
 {
     Q_OBJECT
@@ -44,6 +46,8 @@ private:
     void sendPacketCount();
     void onPacketRequest(quint32 number);
     bool readPacket(quint32 number, QByteArray *packet);
+    void noteGiven(quint32 number);
+    void setEverythingGiven(bool given);
     void finish();
     void showFailure();
 
@@ -55,6 +59,8 @@ private:
     qint64 m_fileSize;    // as announced to the box
     QDateTime m_fileTime; // of its last change, when the user accepted it
     quint32 m_packetCount;
+    QBitArray m_given; // by packet number, since the count was announced
+    quint32 m_missing; // packets that were not given yet
 };
 
 #endif // XINHANGUPDATER_H

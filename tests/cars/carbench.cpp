@@ -6,7 +6,10 @@
 #include "qextserialport.h"
 #include "raise/raiseadapter.h"
 
+#include <QTime>
 #include <QTimer>
+
+#include <cstring>
 
 namespace {
 
@@ -44,6 +47,36 @@ QStringList folded(const QStringList &calls)
     }
     for (int i = 0; i < lines.size(); ++i) {
         lines[i].prepend(counts.at(i) > 1 ? QString("%1 x ").arg(counts.at(i)) : QString());
+    }
+    return lines;
+}
+
+// A clock without its time.
+QByteArray timeless(const QByteArray &package)
+{
+    if (package.startsWith("c6 50")) {
+        return package.left(8) + " .."; // of Honda, with its hour
+    }
+    if (package.startsWith("c8 ")) {
+        return "c8 .. .. " + package.mid(9, 2); // minute, hour, display format
+    }
+    const bool isHaval = package.startsWith("83 03 ") && package.size() == int(strlen("83 03 hh mm"));
+    return isHaval ? QByteArray("83 03 .. ..") : package;
+}
+
+// What a package that the unit queues says, for a box with this frame; any other call as it is.
+QStringList said(const QString &call)
+{
+    if (!call.startsWith("ProtocolUtils.writeDatas(")) {
+        return {call};
+    }
+    QStringList lines;
+    const RaiseWire::Traffic traffic = RaiseWire::parse(QByteArray::fromHex(call.section('(', 1).toLatin1()));
+    for (const QByteArray &package : traffic.packages) {
+        lines << "sends " + timeless(package);
+    }
+    for (const QByteArray &fault : traffic.faults) {
+        lines << "fault " + fault;
     }
     return lines;
 }
@@ -93,6 +126,10 @@ QStringList CarBench::act(const QString &order)
     const QByteArray bytes = QByteArray::fromHex(rest.toLatin1());
     if (word == "wait") {
         QTest::qWait(rest.toInt());
+    } else if (word == "minute") {
+        const QTime now = QTime::currentTime();
+        QTest::qWait(60500 - now.second() * 1000 - now.msec());
+        m_fixture->trace.take();
     } else if (word == "call") {
         QMetaObject::invokeMethod(adapter, rest.toLatin1().constData());
     } else if (word == "write" && raise) {
@@ -107,8 +144,15 @@ QStringList CarBench::act(const QString &order)
         return each(rest);
     } else {
         static const QRegularExpression packages("^[0-9a-f]{2}( [0-9a-f]{2}| \\| [0-9a-f]{2})*$");
-        return packages.match(order).hasMatch() ? folded(m_fixture->exchange(order.toLatin1().constData()))
-                                                : QStringList("there is no such order");
+        if (!packages.match(order).hasMatch()) {
+            return {"there is no such order"};
+        }
+        const QStringList calls = m_fixture->exchange(order.toLatin1().constData());
+        QStringList lines;
+        for (const QString &call : calls) {
+            lines << (raise ? said(call) : QStringList(call));
+        }
+        return folded(lines);
     }
     return sent();
 }
@@ -117,16 +161,7 @@ QStringList CarBench::sent()
 {
     QStringList lines;
     for (const QString &line : m_fixture->trace.take()) {
-        if (line.startsWith("ProtocolUtils.writeDatas(")) {
-            const RaiseWire::Traffic traffic =
-                RaiseWire::parse(QByteArray::fromHex(line.section('(', 1).toLatin1()));
-            for (const QByteArray &package : traffic.packages) {
-                lines << "sends " + (package.startsWith("c6 50") ? package.left(8) + " .." : package);
-            }
-            for (const QByteArray &fault : traffic.faults) {
-                lines << "fault " + fault;
-            }
-        }
+        lines << (line.startsWith("ProtocolUtils.writeDatas(") ? said(line) : QStringList());
     }
     return lines;
 }
@@ -136,6 +171,15 @@ QStringList CarBench::start()
     m_fixture.reset();
     m_fixture.reset(new AdapterFixture);
     m_car = m_fixture->take(AdapterFactory::create(m_type));
+    if (RaiseAdapter *const raise = dynamic_cast<RaiseAdapter *>(m_car)) {
+        // What a screen would get.
+        QObject::connect(
+            raise, &RaiseAdapter::recvCanDatas, [this](quint8 cmd, const quint8 *datas, quint8 dataLen) {
+                m_fixture->trace.called(
+                    "adapter", "recvCanDatas",
+                    {QByteArray(1, char(cmd)), QByteArray(reinterpret_cast<const char *>(datas), dataLen)});
+            });
+    }
     m_fixture->open();
     PortSettings settings;
     QStringList lines = {

@@ -16,6 +16,7 @@
 ///     each 20 ?? 01           a package with every byte for "??"; bytes that do nothing are left out
 ///     each 28 ?? 00: setFan   of that only the calls of one name
 ///     wait MS                 what the unit sends meanwhile
+///     minute                  waits until the minute changes
 ///     modes                   the unit's application modes 0 to 19, and one that is none
 ///     write ITEM VALUE, sync TYPE PARAM    a setting is changed, data asked for (hexadecimal)
 ///     call SLOT               a slot of the adapter
@@ -37,8 +38,8 @@ public:
     }
     AdapterFixture &fixture() { return *m_fixture; }
 
-    /// "sends COMMAND DATA" of each package that the unit has queued since the last call; of a car's clock,
-    /// whose seconds nobody can foretell, as far as the hour.
+    /// "sends COMMAND DATA" of each package that the unit has queued since the last call; of a car's clock without
+    /// the time, which nobody can foretell.
     QStringList sent();
 
 private:

@@ -1,6 +1,7 @@
 #include "simulatedunit.h"
 
 #include "boxtools.h"
+#include "virtualclock.h"
 
 #include <QTest>
 
@@ -26,13 +27,20 @@ SimulatedUnit::~SimulatedUnit()
 void SimulatedUnit::write(const QByteArray &bytes)
 {
     int written = 0;
-    for (int tries = 0; written < bytes.size(); ++tries) {
+    int tries = 0; // without a byte that the line took
+    while (written < bytes.size()) {
         const ssize_t count = ::write(m_device, bytes.constData() + written, size_t(bytes.size() - written));
         written += int(qMax(ssize_t(0), count));
+        tries = count > 0 ? 0 : tries + 1;
         if (tries > 1000) {
             qFatal("the box does not read");
         }
         if (written < bytes.size()) {
+            {
+                // The kernel makes room in its own time.
+                const VirtualClock::Hold hold;
+                ::usleep(200);
+            }
             QTest::qWait(1);
         }
     }
@@ -58,6 +66,7 @@ void SimulatedUnit::read()
     char bytes[4096];
     const ssize_t count = ::read(m_device, bytes, sizeof bytes);
     if (count <= 0) {
+        m_notifier->setEnabled(false); // hung up: it would be readable for ever
         return;
     }
     m_buffer.append(bytes, int(count));
@@ -85,10 +94,13 @@ void SimulatedUnit::read()
     }
 }
 
-std::unique_ptr<DecoderBox> openBox(int type)
+std::unique_ptr<DecoderBox> openBox(int type, bool isPaced)
 {
     QString error;
     std::unique_ptr<DecoderBox> box = makeBox(type);
+    if (!isPaced) {
+        box->setUnpaced();
+    }
     if (!box->open(QString(), &error)) {
         qFatal("%s", qPrintable(error));
     }

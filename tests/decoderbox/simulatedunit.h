@@ -60,8 +60,9 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-/// The box of the CAN-bus type \a type on a terminal of its own; fails the program when there is none.
-std::unique_ptr<DecoderBox> openBox(int type);
+/// The box of the CAN-bus type \a type on a terminal of its own, whose line takes time or none; fails the
+/// program when there is none.
+std::unique_ptr<DecoderBox> openBox(int type, bool isPaced = true);
 
 /// A box on a terminal of its own that talks, and a unit that has acknowledged the state it began with.
 struct Conversation

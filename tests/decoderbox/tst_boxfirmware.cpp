@@ -91,6 +91,7 @@ class TestBoxFirmware : public QObject
 private Q_SLOTS:
     void updates_data();
     void updates();
+    void hundredKilobytesTakeTenSeconds();
 };
 
 void TestBoxFirmware::updates_data()
@@ -122,13 +123,30 @@ void TestBoxFirmware::updates()
     QFETCH(int, size);
     QFETCH(int, lost);
     const QByteArray firmware = makeFirmware(size);
-    const auto box = openBox(XinHang);
+    const auto box = openBox(XinHang, false);
     box->car()->setValue("firmware.fault", fault);
     Updater updater(box.get(), firmware, lost);
     const bool stops = fault == "stop";
     QTRY_COMPARE(box->observation("firmware"), QString(stops ? "failed: stopped asking" : "complete"));
     QTEST(updater.asked(), "asked");
     QCOMPARE(box->observation("firmware sha256"), stops ? QString() : hashOf(firmware));
+}
+
+void TestBoxFirmware::hundredKilobytesTakeTenSeconds()
+{
+    const auto box = openBox(XinHang);
+    QElapsedTimer clock;
+    clock.start();
+    Updater updater(box.get(), makeFirmware(100000), -1);
+    // No QTRY: it sleeps while bytes arrive.
+    QEventLoop loop;
+    connect(box.get(), &DecoderBox::observed, &loop, [&loop](const QString &, const QString &value) {
+        if (value == "complete") {
+            loop.quit();
+        }
+    });
+    loop.exec();
+    QVERIFY2(clock.elapsed() > 9000 && clock.elapsed() < 10500, qPrintable(QString::number(clock.elapsed())));
 }
 
 CANBUS_VIRTUAL_MAIN(QCoreApplication, TestBoxFirmware)

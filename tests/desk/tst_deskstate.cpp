@@ -3,6 +3,7 @@
 #include "unitkey.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 
 #include <QTest>
 
@@ -65,10 +66,10 @@ void TestDeskState::reports()
             event.setVariantParam(row.value);
             return state.take(event);
         };
-        QVERIFY(!take(OrbEvent::AppStateType, row.what) && !take(OrbEvent::NotifyType, 0x5006));
-        QVERIFY(take(OrbEvent::NotifyType, row.what));
+        QVERIFY(!take(OrbEventType::AppState, row.what) && !take(OrbEventType::Notify, 0x5006));
+        QVERIFY(take(OrbEventType::Notify, row.what));
         QCOMPARE(described(state), QString(row.expected));
-        QVERIFY2(!take(OrbEvent::NotifyType, row.what), "the same report again is no change");
+        QVERIFY2(!take(OrbEventType::Notify, row.what), "the same report again is no change");
     }
 }
 

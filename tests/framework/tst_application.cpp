@@ -37,7 +37,6 @@ class TestApplication : public QObject
 
 private Q_SLOTS:
     void init() { m_trace.take(); }
-    void eventTypeRange();
     void keyFiltersAreAskedOnceInOrderUntilOneConsumes();
     void keyFilterRemovedWhileAsking();
     void configuration();
@@ -48,15 +47,6 @@ private:
 
     TraceRecorder m_trace;
 };
-
-void TestApplication::eventTypeRange()
-{
-    for (int type = 50998; type <= 51017; ++type) {
-        const QEvent event(static_cast<QEvent::Type>(type));
-        QCOMPARE(OrbEvent::isOrbEvent(&event), type >= 51000 && type <= 51015);
-    }
-    QVERIFY(!OrbEvent::isOrbEvent(nullptr));
-}
 
 void TestApplication::keyFiltersAreAskedOnceInOrderUntilOneConsumes()
 {

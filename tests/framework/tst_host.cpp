@@ -2,6 +2,7 @@
 #include "gpiooperater.h"
 #include "orbcommons.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost.h"
 #include "testfiles.h"
 #include "testmain.h"
@@ -74,7 +75,7 @@ QString TestHost::carryOut(const QString &order)
         const bool taken = host()->setLanguage(first);
         return (taken ? "taken: " : "refused: ") + host()->language();
     } else if (what == "icons") {
-        OrbEvent icons(400, 10, OrbEvent::AppIconType);
+        OrbEvent icons(400, 10, OrbEventType::AppIcon);
         icons.setParams(id, 0);
         icons.setStringParam(rest);
         app->dispatchOrbEvent(&icons);

@@ -44,9 +44,8 @@ bool fits(const QWidget *widget)
     return holds(label->contentsRect().size(), needed);
 }
 
-/// Whether a cell's text fits on the two lines that the list draws; \a taken: pixels of the cell for icon,
-/// mark and borders.
-bool fitsCell(const QString &text, int width, int taken)
+/// Whether a cell's text fits on \a most lines; \a taken: pixels of the cell for icon, mark and borders.
+bool fitsCell(const QString &text, int width, int taken, int most)
 {
     QFont font = qApp->font();
     font.setPixelSize(22);
@@ -60,7 +59,7 @@ bool fitsCell(const QString &text, int width, int taken)
         line.setLineWidth(width - taken);
     }
     layout.endLayout();
-    return lines <= 2;
+    return lines <= most;
 }
 
 /// The first row with a text or picture that is not to be seen.
@@ -71,8 +70,10 @@ QString clippedRow(const TableListView *list)
         const QString value = datas.isSwitch() ? QString() : datas.value(2).toString();
         const bool lacksPicture = (!datas.isHeading() && QPixmap(datas.icon()).isNull()) ||
                                   (!datas.mark().isEmpty() && QPixmap(datas.mark()).isNull());
-        if (lacksPicture || !fitsCell(datas.text(), list->columnWidth(0), 80) ||
-            !fitsCell(value, list->columnWidth(2), 60)) {
+        // A value without a blank, a vehicle's number say, is not to be broken.
+        if (lacksPicture || !fitsCell(datas.text(), list->columnWidth(0), 80, 2) ||
+            !fitsCell(value, list->columnWidth(2), datas.mark().isEmpty() ? 24 : 60,
+                      value.contains(' ') ? 2 : 1)) {
             return datas.text() + ": " + value;
         }
     }

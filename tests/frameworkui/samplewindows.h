@@ -53,7 +53,13 @@ class PlainDialog : public OrbDialog
     Q_OBJECT
 
 public:
-    explicit PlainDialog(int kind, QWidget *parent = nullptr) : OrbDialog(parent, kind) { resize(300, 200); }
+    enum Kind { Overlay, Modal };
+
+    explicit PlainDialog(Kind kind, QWidget *parent = nullptr) : OrbDialog(parent)
+    {
+        setModal(kind == Modal);
+        resize(300, 200);
+    }
 };
 
 /// Runs \a inside while \a dialog is open, and gives what exec() then returned.

@@ -50,6 +50,10 @@ void TestDialogs::climateShowsItsState_data()
     row("fan by the car", [](D &d) { d.setAirVolume(0xFF); });
     row(
         "fan past its end", [](D &d) { d.setAirVolume(9); }, "fan 7");
+    row("fan 8", [](D &d) { d.setAirVolume(8); });
+    row("fan 7 of 8", [](D &d) { d.setAirVolume(8), d.setAirVolume(7); });
+    row(
+        "fan past its end of 8", [](D &d) { d.setAirVolume(8), d.setAirVolume(9); }, "fan 8");
     row(
         "fan below zero", [](D &d) { d.setAirVolume(-1); }, "fan 7");
     row("recirculation", [](D &d) { d.setCirculationMode(1); });

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void receiverMayChangeTheRows();
     void columnsFollowTheTexts();
     void switchIsDrawnAsItStands();
+    void looksAreDrawn();
+    void lightsUpWhatReacts_data();
+    void lightsUpWhatReacts();
 };
 
 namespace {
@@ -44,6 +47,17 @@ public:
     }
 
     QPoint middle(int row, int column) const { return view.visualRect(model.index(row, column)).center(); }
+    /// The picture of a cell.
+    QImage cell(int row, int column)
+    {
+        return view.viewport()->grab(view.visualRect(model.index(row, column))).toImage();
+    }
+    void setLooks(int row, int looks)
+    {
+        TableViewItemDatas datas = model.itemDatas(row);
+        datas.setBindData(TableItemDelegate::LooksRole, looks);
+        model.setItemDatas(row, datas);
+    }
     int scrolled() const { return view.verticalScrollBar()->value(); }
 
     TestScreen screen;
@@ -223,6 +237,62 @@ void TestLists::switchIsDrawnAsItStands()
     list.model.setCellValue(1, 2, false);
     QVERIFY(on.blue() > colour(middle).blue() + 60);
     QVERIFY(colour(left).lightness() > colour(right).lightness() + 60);
+}
+
+// Unknown is told from off, on and empty; a note and a warning are seen.
+void TestLists::looksAreDrawn()
+{
+    List list(2);
+    QList<QImage> switches{list.cell(1, 2)};
+    list.model.setCellValue(1, 2, false);
+    switches << list.cell(1, 2);
+    list.setLooks(1, TableItemDelegate::Unknown);
+    QVERIFY(!switches.contains(list.cell(1, 2)));
+
+    list.model.setCellValue(0, 2, QString());
+    QList<QImage> texts{list.cell(0, 2)};
+    for (int looks : {TableItemDelegate::Unknown, TableItemDelegate::Button}) {
+        list.setLooks(0, looks);
+        QVERIFY(!texts.contains(list.cell(0, 2)));
+        texts << list.cell(0, 2);
+    }
+    TableViewItemDatas noted = list.model.itemDatas(0);
+    noted.setBindData(TableItemDelegate::NoteRole, "Sent");
+    list.model.setItemDatas(0, noted);
+    QVERIFY(!texts.contains(list.cell(0, 2)));
+
+    list.model.setCellValue(0, 2, "overdue");
+    list.setLooks(0, TableItemDelegate::Inert);
+    const QImage reading = list.cell(0, 2);
+    list.setLooks(0, TableItemDelegate::Inert | TableItemDelegate::Warning);
+    QVERIFY(reading != list.cell(0, 2));
+}
+
+void TestLists::lightsUpWhatReacts_data()
+{
+    QTest::addColumn<int>("row"); // 0 a text, 1 a switch
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("looks");
+    QTest::addColumn<bool>("lights");
+    QTest::newRow("label of a text") << 0 << 0 << 0 << true;
+    QTest::newRow("label of a switch") << 1 << 0 << 0 << false;
+    QTest::newRow("switch") << 1 << 2 << 0 << true;
+    QTest::newRow("reading") << 0 << 0 << int(TableItemDelegate::Inert) << false;
+}
+
+void TestLists::lightsUpWhatReacts()
+{
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(int, looks);
+    List list(2);
+    list.setLooks(row, looks);
+    QSignalSpy clicked(&list.view, SIGNAL(clicked(QModelIndex)));
+    const QImage before = list.cell(row, 0);
+    TestScreen::press(list.view.viewport(), list.middle(row, column));
+    QTEST(before != list.cell(row, 0), "lights");
+    TestScreen::tap(list.view.viewport(), list.middle(row, column));
+    QCOMPARE(clicked.size(), 1); // whoever listens decides what a tap does
 }
 
 CANBUS_TEST_MAIN(TestLists)

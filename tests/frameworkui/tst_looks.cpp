@@ -8,6 +8,8 @@
 #include "tableviewmodel.h"
 #include "updatedialog.h"
 
+#include <QTimer>
+
 /// Draws every screen of the framework in its states.
 class TestLooks : public QObject
 {
@@ -57,6 +59,17 @@ std::unique_ptr<QWidget> updateFailed()
 {
     std::unique_ptr<UpdateDialog> dialog = update(42);
     dialog->setUpdateFailed(2);
+    return dialog;
+}
+
+/// Nobody asks any more: the end when \a everything was given, else a stall.
+std::unique_ptr<QWidget> updateAfterSilence(bool everything)
+{
+    std::unique_ptr<UpdateDialog> dialog = update(42);
+    dialog->setProperty("everythingGiven", everything);
+    QTimer *const silence = dialog->findChild<QTimer *>("silence");
+    silence->stop();
+    QMetaObject::invokeMethod(silence, "timeout");
     return dialog;
 }
 
@@ -117,7 +130,8 @@ const QList<Looks::Scene> Scenes = {
     {"update-question", [] { return update(-1); }},
     {"update-running", [] { return update(42); }},
     {"update-failed", updateFailed},
-    {"update-done", [] { return update(100); }},
+    {"update-done", [] { return updateAfterSilence(true); }},
+    {"update-stalled", [] { return updateAfterSilence(false); }},
     {"choice-short",
      [] {
          return choiceOf({"OFF", "Driver window", "All windows"});

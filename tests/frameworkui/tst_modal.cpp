@@ -34,7 +34,7 @@ void TestModal::scrimKeepsTouchesAway()
     TestScreen::tap(screen.area(), place);
     QCOMPARE(clicked.size(), 1);
 
-    PlainDialog choice(OrbDialog::Choice);
+    PlainDialog choice(PlainDialog::Modal);
     choice.show();
     TestScreen::tap(screen.area(), place);
     TestScreen::tap(screen.area(), QPoint(20, 20));
@@ -70,7 +70,7 @@ void TestModal::builderGoesBeforeItsDialog()
     TestScreen screen;
     HookedWindow *window = new HookedWindow;
     window->show();
-    QPointer<PlainDialog> dialog(new PlainDialog(OrbDialog::Choice, window));
+    QPointer<PlainDialog> dialog(new PlainDialog(PlainDialog::Modal, window));
     dialog->show();
     QCOMPARE(dialog->parentWidget(), screen.area());
     delete window;

@@ -106,7 +106,7 @@ QWidget *Stage::thing(const QString &name)
         QObject::connect(update, &UpdateDialog::acceptUpdate, [this] { m_notes << "accepted"; });
         found = update;
     } else {
-        found = new PlainDialog(name == "P" ? OrbDialog::Overlay : OrbDialog::Choice);
+        found = new PlainDialog(name == "P" ? PlainDialog::Overlay : PlainDialog::Modal);
         QVBoxLayout *const column = new QVBoxLayout(found);
         column->setContentsMargins(10, 10, 10, 10);
         column->addWidget(new QLabel);
@@ -138,6 +138,7 @@ QMap<QString, QString> Stage::state() const
     const OrbHost *const host = OrbHost::instance();
     state["window in front"] = nameOf(host->frontWindow());
     state["all in front"] = nameOf(host->frontWindow(false));
+    state["below all dialogs"] = nameOf(host->frontMainWindow());
     const QWidget *const area = host->windowArea();
     const QWidget *const scrim = area ? area->findChild<QWidget *>("orbScrim") : nullptr;
     state["scrim"] = scrim && !scrim->isHidden() ? "shown" : "none";
@@ -188,8 +189,9 @@ void Stage::actOn(QWidget *thing, const QString &what, const QString &with)
         {"needs", [=] { thing->findChild<QLabel *>()->setMinimumSize(with.toInt(), 300); }},
         {"asks", [=] { update->showUpdateDlg(with.toInt()); }},
         {"percent", [=] { update->updatePercent(with.toInt()); }},
+        {"given", [=] { update->setProperty("everythingGiven", with == "all"); }},
         {"failed", [=] { update->setUpdateFailed(with.toInt()); }},
-        {"click", [=] { update->findChild<QPushButton *>(with)->click(); }},
+        {"click", [=] { thing->findChild<QPushButton *>(with)->click(); }},
         {"silence", [=] {
              QTimer *const timer = update->findChild<QTimer *>("silence");
              m_notes << (timer->isActive() ? QString::number(timer->interval()) + " ms passed"

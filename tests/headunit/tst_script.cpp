@@ -1,8 +1,10 @@
 #include "headunitrun.h"
 #include "scriptline.h"
+#include "testfiles.h"
 #include "transcript.h"
 
 #include <QImage>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <memory>
@@ -24,6 +26,9 @@ private Q_SLOTS:
     void endOfInput();
     void closedStreams();
     void quitInsideADialog();
+    void strictRunFails_data();
+    void strictRunFails();
+    void boxTakesOrders();
     void longLine();
     void signalsEndCleanly_data();
     void signalsEndCleanly();
@@ -163,6 +168,71 @@ void TestScript::quitInsideADialog()
     run.answer("show 701");
     QCOMPARE(run.answer("quit"), QString("quit []"));
     QCOMPARE(run.finish(), 0);
+}
+
+void TestScript::strictRunFails_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("said");
+    QTest::addColumn<QByteArray>("report");
+    QTest::newRow("all is well") << QByteArray("show 1\nexpect dispatchOrbEvent param=1 within 0\n") << 0
+                                 << "" << QByteArray("tests=\"2\" failures=\"0\" errors=\"0\"");
+    QTest::newRow("unmet") << QByteArray("# one\nshow 1\nexpect dispatchOrbEvent param=2 within 0\nshow 3\n")
+                           << 1
+                           << "-:3: expect dispatchOrbEvent param=2 within 0: not met: came instead: "
+                              "OrbApplication.dispatchOrbEvent source=7 id=1 type=51001 param=1 param2=0"
+                           << QByteArray("tests=\"2\" failures=\"1\" errors=\"0\"");
+    QTest::newRow("error, also inside a dialog")
+        << QByteArray("show 701\njump <\x01>\n") << 1 << "-:2: jump <\x01>: unknown command 'jump'"
+        << QByteArray("tests=\"2\" failures=\"0\" errors=\"1\"");
+}
+
+void TestScript::strictRunFails()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, said);
+    QFETCH(QByteArray, report);
+    QTemporaryDir folder;
+    HeadUnitRun run;
+    QVERIFY(run.startProbe({"--strict", "--junit", folder.filePath("report.xml")}));
+    run.write(script);
+    run.process().closeWriteChannel();
+    QTEST(run.finish(), "status");
+    const QString errors = run.errors();
+    QVERIFY2(errors.contains(said), qPrintable(errors));
+    const QByteArray xml = TestSupport::contentOf(folder.filePath("report.xml"));
+    QVERIFY2(xml.contains(report), xml.constData());
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+}
+
+// The car changes, and the plug-in tells: what a support case is replayed with.
+void TestScript::boxTakesOrders()
+{
+    QTemporaryDir folder;
+    QProcess unit;
+    unit.setWorkingDirectory(folder.path());
+    unit.start(HEADUNIT, {"--headless", "--virtual-clock", "--strict", "--can-bus-type", "9", "--decoder-box",
+                          "--settings-dir", ".", "--script", "-"});
+    unit.write(
+        "wait 500\nset climate.left 22.5\nexpect AirConditionDlg.setTemperature 22.5°C within 50\n"
+        "press volume_up\nexpect simulateKey 16777330 true within 50\nexpect simulateKey * false within 100\n"
+        "box fault unplug 1000\nwait 900\nset climate.ac on\nexpect none setACEnable within 50\n"
+        "expect setACEnable true within 1000\nlist types\nlist keys\nlist properties\nset climate.fan 10\n");
+    unit.closeWriteChannel();
+    QVERIFY(unit.waitForFinished(20000));
+    const QString said = QString::fromUtf8(unit.readAllStandardError());
+    QVERIFY2(
+        said.contains("-:15: set climate.fan 10: 'climate.fan' takes a whole number from 0 to 8, not '10'"),
+        qPrintable(said));
+    const QByteArray answers = unit.readAllStandardOutput();
+    QVERIFY(answers.contains("[9, \"CanBus_Raise_Toyota\", \"toyota\", \"box\"]"));
+    QVERIFY(answers.contains("[\"volume_up\", \"wheel\"]"));
+    QVERIFY(answers.contains("[\"climate.ac\", \"on\", \"on or off\"]"));
 }
 
 void TestScript::longLine()

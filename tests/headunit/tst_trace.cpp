@@ -3,8 +3,9 @@
 #include "lineoutput.h"
 #include "tracewriter.h"
 
-#include "orbctrlkeys.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
+#include "orbkeyset.h"
 #include "orbqtcompat.h"
 
 #include <QtTest>
@@ -60,7 +61,7 @@ void TestTrace::values()
 
 void TestTrace::events()
 {
-    OrbEvent bare(400, 12, OrbEvent::NotifyType);
+    OrbEvent bare(400, 12, OrbEventType::Notify);
     bare.setParams(20508, 0);
     const QByteArray numbers = R"("source": 400, "id": 12, "type": 51007, "param": 20508, "param2": 0)";
     QCOMPARE(JsonText::fromEvent(bare), '{' + numbers + '}');
@@ -72,8 +73,8 @@ void TestTrace::events()
     QCOMPARE(JsonText::fromEvent(full),
              '{' + numbers + R"(, "bytes": "0a0b", "string": "a,b", "variant": -21})");
 
-    CtrlKeyList keys = {{1, 4294967296ull}};
-    OrbEvent keySet(400, 1, OrbEvent::NotifyType);
+    OrbKeySet keys = {{1, 4294967296ull}};
+    OrbEvent keySet(400, 1, OrbEventType::Notify);
     keySet.setVariantParam(QVariant::fromValue<void *>(&keys));
     keySet.setParams(20497, 21);
     QVERIFY(JsonText::fromEvent(keySet).endsWith(R"("variant": [{"keyCode": 1, "ctrlValue": 4294967296}]})"));
@@ -88,11 +89,14 @@ void TestTrace::lineHasTheKeysInOrder()
     {
         LineOutput output(ends[1]);
         TraceWriter(&output).called("GPIOOperater", "setDirection", {30, "out"});
+        TraceWriter(&output).valueTold("outside.temperature", 23); // nobody asked for values
+        TraceWriter(&output, true).valueTold("outside.temperature", QVariant());
     }
-    char bytes[200];
+    char bytes[400];
     const QByteArray line(bytes, int(::read(ends[0], bytes, sizeof bytes)));
     const QRegularExpression form(
-        R"(^\{"t": 0\.\d\d\d, "object": "GPIOOperater", "call": "setDirection", "args": \[30, "out"\]\}\n$)");
+        R"(^\{"t": 0\.\d\d\d, "object": "GPIOOperater", "call": "setDirection", "args": \[30, "out"\]\}\n)"
+        R"(\{"t": 0\.\d\d\d, "object": "car", "call": "outside.temperature", "args": \[null\]\}\n$)");
     QVERIFY2(form.match(line).hasMatch(), line);
     ::close(ends[0]);
     ::close(ends[1]);

@@ -2,6 +2,8 @@
 
 #include "raisewire.h"
 
+#include <QFile>
+
 #include <random>
 
 namespace {
@@ -46,6 +48,35 @@ QByteArray Streams::corrupted(int count, int distance)
         package[at] = char(package.at(at) ^ char(random() % 255 + 1));
     }
     return joined(all);
+}
+
+QList<QByteArray> Streams::boxPackages()
+{
+    QList<QByteArray> packages;
+    QFile file(QStringLiteral(BOX_TRAFFIC));
+    file.open(QIODevice::ReadOnly);
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (!line.isEmpty() && !line.startsWith('#')) {
+            packages << QByteArray::fromHex(line);
+        }
+    }
+    return packages;
+}
+
+QByteArray Streams::harmed(QByteArray package, Fault fault, int at, char byte)
+{
+    switch (fault) {
+    case Changed:
+        package[at] = byte;
+        break;
+    case Missing:
+        package.remove(at, 1);
+        break;
+    case Inserted:
+        package.insert(at, byte);
+        break;
+    }
+    return package;
 }
 
 QByteArray Streams::noisy(int count)

@@ -19,6 +19,15 @@ QByteArray corrupted(int count, int distance);
 /// Good packages with single answer bytes and line noise between them.
 QByteArray noisy(int count);
 
+/// Packages of real boxes, short and long, many with zeros, as they come from the box.
+QList<QByteArray> boxPackages();
+
+/// What befalls one byte of a line.
+enum Fault { Changed, Missing, Inserted };
+
+/// \a package after \a fault at byte \a at; \a byte replaces or joins it.
+QByteArray harmed(QByteArray package, Fault fault, int at, char byte);
+
 /// \a bytes start bytes and nothing else.
 QByteArray startBytes(int bytes);
 

@@ -1,16 +1,16 @@
 #include "tracerecorder.h"
 
-#include "orbctrlkeys.h"
 #include "orbevent.h"
+#include "orbkeyset.h"
 
 #include <utility>
 
 namespace {
 
-QString keySetText(const CtrlKeyList &list)
+QString keySetText(const OrbKeySet &list)
 {
     QStringList records;
-    for (const CtrlKeyPair &pair : list) {
+    for (const OrbKeyRecord &pair : list) {
         records << QString::number(pair.keyCode, 16) + ':' + QString::number(pair.ctrlValue, 16);
     }
     return '[' + records.join(',') + ']';
@@ -22,7 +22,7 @@ QString valueText(const QVariant &value)
         return QString::fromLatin1(value.toByteArray().toHex());
     }
     if (value.userType() == QMetaType::VoidStar) {
-        return keySetText(*static_cast<const CtrlKeyList *>(value.value<void *>()));
+        return keySetText(*static_cast<const OrbKeySet *>(value.value<void *>()));
     }
     return value.toString();
 }
@@ -78,4 +78,9 @@ void TraceRecorder::eventCalled(const QString &call, const OrbEvent &event)
         texts << "variant=" + valueText(event.getVariantParam());
     }
     m_lines << call + '(' + texts.join(',') + ')';
+}
+
+void TraceRecorder::valueTold(const QString &name, const QVariant &value)
+{
+    m_lines << "value " + name + ' ' + (value.isValid() ? valueText(value) : "unknown");
 }

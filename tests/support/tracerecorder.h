@@ -11,6 +11,7 @@
 ///     dispatchOrbEvent(400,12,51007,20508,0,variant=-40)
 ///     event(401,25,51001,0,513)
 ///     ProtocolUtils.writeDatas_direct(ff)
+///     value outside.temperature 23
 /// Numbers are decimal, byte arrays hexadecimal; an event's line is its source, id, type and parameters, and
 /// then "bytes=", "string=" and "variant=" where set. A pointer variant is a key-set registration and shown
 /// as its records "[2f00001:ff02bc,...]". Recorders may nest; the inner one alone records.
@@ -29,6 +30,7 @@ public:
 
     void called(const QString &object, const QString &call, const QVariantList &args) override;
     void eventCalled(const QString &call, const OrbEvent &event) override;
+    void valueTold(const QString &name, const QVariant &value) override;
 
 private:
     OrbTraceListener *const m_before;

@@ -202,8 +202,8 @@ void TestSelectDialog::ends()
 void TestSelectDialog::flowWraps()
 {
     FlowLayout flow(20, 30, 25);
-    for (int i = 0; i < 4; ++i) {
-        flow.addItem(new QSpacerItem(100, i == 3 ? 80 : 60));
+    for (int width : {70, 40, 60, 100}) {
+        flow.addItem(new QSpacerItem(width, width == 100 ? 80 : 60));
     }
     const auto places = [&flow](const QRect &room) {
         flow.setGeometry(room);
@@ -214,13 +214,17 @@ void TestSelectDialog::flowWraps()
         }
         return tiles.join(" | ");
     };
+    // Two columns of which the widest tile just fits one, and what is left over is shared out.
     QCOMPARE(places(QRect(0, 0, 270, 300)),
              QString("20,20 100x60 | 150,20 100x60 | 20,105 100x60 | 150,105 100x80"));
     QCOMPARE(flow.heightForWidth(270), 205);
-    QCOMPARE(places(QRect(5, 7, 269, 300)),
-             QString("25,27 100x60 | 25,112 100x60 | 25,197 100x60 | 25,282 100x80"));
-    QCOMPARE(flow.heightForWidth(269), 375);
+    // Three columns have room, but two give lines of equal length.
+    QCOMPARE(places(QRect(5, 7, 430, 300)),
+             QString("25,27 180x60 | 235,27 180x60 | 25,112 180x60 | 235,112 180x80"));
     QCOMPARE(flow.heightForWidth(1000), 120);
+    // Four lines would be too many: what is narrow shares one.
+    QCOMPARE(places(QRect(0, 0, 240, 900)),
+             QString("20,20 85x60 | 135,20 85x60 | 20,105 85x60 | 20,190 200x80"));
     // A tile wider than the room gets the room.
     QCOMPARE(places(QRect(0, 0, 90, 900)),
              QString("20,20 50x60 | 20,105 50x60 | 20,190 50x60 | 20,275 50x80"));

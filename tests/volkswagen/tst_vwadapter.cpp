@@ -109,11 +109,16 @@ struct Listener
 
 void TestVwAdapter::repeatsTheLastReports()
 {
-    m_unit->exchange("60 00 | 65 01 02 03 04 | 68 01 02 | 50 10 | 40 10 02 | 61 | 65 00 00 00 00 | 62 01");
+    m_unit->exchange(
+        "60 00 00 00 00 00 00 00 01 | 65 01 02 03 04 | 68 01 02 | 50 10 01 01 00 00 00 | 40 10 02 |"
+        "61 00 00 | 50 61 00 3e 00 00 00 | 65 00 00 00 00 | 62 00 00 00 00");
+    // What is too short tells nothing and replaces nothing.
+    m_unit->exchange("60 00 | 65 01 | 68 01 | 61 | 62 01 | 50 61");
     Listener listener;
     m_adapter->repeatReports(&listener);
-    // Trip data and settings are asked for, so they are not kept.
-    QCOMPARE(listener.seen.join('|'), QByteArray("60 00|68 0102|61 |65 00000000|62 01"));
+    // Other trip data and settings are asked for, so they are not kept.
+    QCOMPARE(listener.seen.join('|'),
+             QByteArray("60 0000000000000001|68 0102|61 0000|50 61003e000000|65 00000000|62 00000000"));
 }
 
 void TestVwAdapter::opensOnlyItsOwnScreen()

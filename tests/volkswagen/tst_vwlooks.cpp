@@ -4,6 +4,7 @@
 
 #include "volkswagen/figurelabel.h"
 #include "volkswagen/volkswagenwindow.h"
+#include "volkswagen/vwcommands.h"
 #include "volkswagen/vwsettingstable.h"
 
 /// Draws every screen of the Volkswagen.
@@ -15,14 +16,23 @@ private Q_SLOTS:
     void initTestCase();
     void textsFit_data() { Looks::addRows(m_scenes); }
     void textsFit() { Looks::check(m_scenes); }
-    void figuresStayInside();
+    void figuresHaveOneSize();
 
 private:
-    void addDriving(const char *name, const char *button, const char *packages);
+    void addDriving(const char *name, const char *button, const char *packages, int age = 0);
     void addPage(const char *name, unsigned int page, const char *packages);
+    void addSilentPage(const char *name, unsigned int page);
     void addDialog(const char *name, const std::function<void(SelectDialog &)> &fill);
 
-    CanBus_Raise_Volkswagen m_adapter;
+    /// A car that has told nothing yet; what was built on the one before is gone.
+    CanBus_Raise_Volkswagen *newAdapter()
+    {
+        m_adapter.reset(new CanBus_Raise_Volkswagen);
+        return m_adapter.get();
+    }
+
+    VwBench::SettingsFolder m_settings;
+    std::unique_ptr<CanBus_Raise_Volkswagen> m_adapter;
     QList<Looks::Scene> m_scenes;
 };
 
@@ -37,13 +47,15 @@ const char *const Reports =
 
 } // namespace
 
-void TestVwLooks::addDriving(const char *name, const char *button, const char *packages)
+void TestVwLooks::addDriving(const char *name, const char *button, const char *packages, int age)
 {
     m_scenes << Looks::Scene{name, [=] {
-                                 std::unique_ptr<QWidget> window(new VolkswagenWindow(&m_adapter));
+                                 std::unique_ptr<QWidget> window(new VolkswagenWindow(newAdapter()));
                                  window->show();
                                  VwBench::click(*window, button);
-                                 VwBench::feed(m_adapter, packages);
+                                 QTest::qWait(Vw::AnswerPatience + 1000);
+                                 VwBench::feed(*m_adapter, packages);
+                                 QTest::qWait(age);
                                  return window;
                              }};
 }
@@ -51,11 +63,27 @@ void TestVwLooks::addDriving(const char *name, const char *button, const char *p
 void TestVwLooks::addPage(const char *name, unsigned int page, const char *packages)
 {
     m_scenes << Looks::Scene{name, [=] {
-                                 std::unique_ptr<QWidget> window(new VWFunctionSetting(page, &m_adapter));
+                                 std::unique_ptr<QWidget> window(new VWFunctionSetting(page, newAdapter()));
                                  window->show();
-                                 VwBench::feed(m_adapter, packages);
+                                 VwBench::feed(*m_adapter, packages);
                                  return window;
                              }};
+}
+
+// The page of a car that says nothing, with an order that has just left.
+void TestVwLooks::addSilentPage(const char *name, unsigned int page)
+{
+    m_scenes << Looks::Scene{
+        name, [=] {
+            std::unique_ptr<VWFunctionSetting> window(new VWFunctionSetting(page, newAdapter()));
+            window->show();
+            QTest::qWait(2200); // virtual
+            if (page == Vw::ServicePage) {
+                const int row = VwBench::modelOf(*window)->rowOfItem(138);
+                VwBench::tap(*window, row, 0, [](SelectDialog &dialog) { VwBench::click(dialog, "btnOk"); });
+            }
+            return std::unique_ptr<QWidget>(std::move(window));
+        }};
 }
 
 void TestVwLooks::addDialog(const char *name, const std::function<void(SelectDialog &)> &fill)
@@ -78,15 +106,28 @@ void TestVwLooks::initTestCase()
     addDriving("driving-largest", "btnRight",
                "50 10 01 ff ff 00 00 | 50 61 03 ff ff 00 00 | 50 21 00 ff ff ff ff |"
                "50 31 02 ff ff 00 00 | 50 41 01 ff ff 00 00 | 50 51 ff ff 00 00 00");
+    addDriving("driving-unknown", "btnRange", "77");
+    addDriving(
+        "driving-warned", "btnRange",
+        "50 10 01 08 02 00 00 | 50 61 00 3e 00 00 00 | 50 20 01 10 27 00 00 |"
+        "50 30 00 7d 00 00 00 | 50 40 00 a4 01 00 00 | 50 50 5f 00 00 00 00 | 68 02 02 | 63 20 02 0a 00");
+    addDriving("tyre-unknown", "btnTPMS", "77");
     addDriving("tyre-states", "btnTPMS", "68 00 00 | 65 00 01 02 00");
     addDriving("tyre-warning", "btnTPMS", "65 00 01 02 00 | 68 02 02");
     addDriving("tyre-both", "btnTPMS", "68 09 04 | 65 01 00 00 01");
+    const int age = 55 * 60 * 1000; // ms
+    addDriving("driving-old", "btnRange", "50 10 01 08 02 00 00 | 50 20 01 10 27 00 00", age);
+    addDriving("tyre-old", "btnTPMS", "68 00 00", age);
     for (unsigned int page = Vw::TyresPage; page <= Vw::ConsumersPage; ++page) {
         if (Vw::settingPage(page)) {
             addPage(Vw::settingPage(page)->title, page, Reports);
         }
     }
     addPage("nothing reported", Vw::ReportsPage, "61 00 00");
+    addSilentPage("silent-assistance", Vw::DriverAssistancePage);
+    addSilentPage("silent-service", Vw::ServicePage);
+    addSilentPage("silent-report", Vw::StartStopPage);
+    addPage("overdue", Vw::ServicePage, "63 10 02 0c 00 | 63 11 02 06 00 | 63 20 02 0c 00 | 63 21 12 06 00");
     addDialog("Driving mode", [](SelectDialog &dialog) {
         QStringList options;
         for (const char *option :
@@ -95,32 +136,60 @@ void TestVwLooks::initTestCase()
         }
         dialog.setCheckBoxListMode(options, options.last(), true);
     });
-    addDialog("Warning speed", [](SelectDialog &dialog) { dialog.setSliderMode(30, 240, 10, 120, " km/h"); });
+    addDialog("Warning speed", [](SelectDialog &dialog) {
+        dialog.setSliderMode(30, 240, 10, 30, " km/h");
+        dialog.setHint(VWFunctionSetting::tr("The car has not told its value"));
+    });
+    addDialog("Distance", [](SelectDialog &dialog) {
+        QStringList options;
+        for (const char *option : {"Very close", "Close", "Far", "Very far"}) {
+            options << Vw::text(option);
+        }
+        dialog.setCheckBoxListMode(options, options.first(), true);
+    });
     addDialog("Factory settings", [](SelectDialog &dialog) {
-        dialog.setContentText(VWFunctionSetting::tr("Are you sure restore") + ' ' +
-                              Vw::text("Parking and manoeuvring") + ' ' + VWFunctionSetting::tr("settings") +
-                              " ?");
+        dialog.setContentText(VWFunctionSetting::tr("%1 %2 %3 ?")
+                                  .arg(VWFunctionSetting::tr("Are you sure restore"),
+                                       Vw::text("Parking and manoeuvring"),
+                                       VWFunctionSetting::tr("settings")));
     });
 }
 
-// A figure shrinks to the room it has and fills it: no ink on the first and last line, some in the middle.
-void TestVwLooks::figuresStayInside()
+// Figures of one page have one size, which fits them all: no ink on first and last line or column, and all stand on one
+// base line.
+void TestVwLooks::figuresHaveOneSize()
 {
     for (const QSize &size : {QSize(400, 40), QSize(140, 90), QSize(400, 30)}) {
-        FigureLabel figure;
-        figure.setText("6553.5 mph(UK)");
-        figure.resize(size);
-        const QImage picture = figure.grab().toImage();
-        const auto hasInk = [&picture](const QRect &area) {
-            const QImage part = picture.copy(area);
-            QImage blank(part.size(), part.format());
-            blank.fill(picture.pixelColor(0, 0));
-            return part != blank;
-        };
-        QVERIFY(!hasInk(QRect(0, 0, size.width(), 1)));
-        QVERIFY(!hasInk(QRect(0, size.height() - 1, size.width(), 1)));
-        QVERIFY(!hasInk(QRect(size.width() - 1, 0, 1, size.height())));
-        QVERIFY(hasInk(QRect(0, size.height() / 2, size.width() / 2, 1)));
+        QWidget page;
+        FigureGroup group;
+        const QStringList texts{"11 km", "111 L/100km", "1111.1 mph(UK)", "1:11"};
+        QList<FigureLabel *> figures;
+        for (const QString &text : texts) {
+            figures << new FigureLabel(&page);
+            figures.last()->setText(text);
+            figures.last()->resize(size);
+            group.add(figures.last());
+        }
+        group.fit();
+        QSet<int> tops;
+        for (FigureLabel *figure : figures) {
+            const QImage picture = figure->grab().toImage();
+            const auto hasInk = [&picture](const QRect &area) {
+                const QImage part = picture.copy(area);
+                QImage blank(part.size(), part.format());
+                blank.fill(picture.pixelColor(0, 0));
+                return part != blank;
+            };
+            QVERIFY(!hasInk(QRect(0, 0, size.width(), 1)));
+            QVERIFY(!hasInk(QRect(size.width() - 1, 0, 1, size.height())));
+            int first = 0;
+            while (!hasInk(QRect(0, first, 20, 1))) {
+                ++first;
+                QVERIFY(first < size.height());
+            }
+            tops.insert(first);
+        }
+        QCOMPARE(tops.size(), 1);
     }
 }
 

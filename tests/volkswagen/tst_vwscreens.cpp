@@ -3,11 +3,16 @@
 #include "vwbench.h"
 
 #include "volkswagen/carpicture.h"
+#include "volkswagen/railbutton.h"
+#include "volkswagen/tyreslot.h"
 #include "volkswagen/volkswagenwindow.h"
 
 #include "orbhost.h"
 
 #include <QLabel>
+#include <QLayout>
+
+#include <cmath>
 
 /// The screens as they follow packages and fingers: driving data, tyres, service data and reports. What
 /// happens and what is then to be seen stands in vwscreens.txt; transcript.h tells how to read it.
@@ -19,9 +24,35 @@ private Q_SLOTS:
     void initTestCase();
     void screens();
     void marksLieOnTheTyres();
+    void carKeepsItsPlace();
+    void isDrawnClearly();
 };
 
 namespace {
+
+/// Where the car is drawn: "412,60 173x320".
+QString place(const CarPicture &car)
+{
+    const QRect picture = car.pictureRect().translated(car.mapTo(car.window(), QPoint()));
+    return QString("%1,%2 %3x%4")
+        .arg(picture.x())
+        .arg(picture.y())
+        .arg(picture.width())
+        .arg(picture.height());
+}
+
+/// Application ids of the settings pages that are open, the one in front last.
+QStringList openPages()
+{
+    QStringList ids;
+    for (QObject *child : OrbHost::instance()->windowArea()->children()) {
+        const auto *page = qobject_cast<const VWFunctionSetting *>(child);
+        if (page && page->isVisible()) {
+            ids << QString::number(page->appId());
+        }
+    }
+    return ids;
+}
 
 /// Adapter, screen and at most one window of each kind.
 struct Bench
@@ -33,11 +64,16 @@ struct Bench
         for (QWidget *part : window ? window->findChildren<QWidget *>() : QList<QWidget *>()) {
             const QString name = part->objectName();
             if (name.contains(QRegularExpression("^(label|frameTyre|dot|tab[RT]|btn)"))) {
+                const auto *rail = qobject_cast<const RailButton *>(part);
                 seen[name] = part->property("text").toString() + ' ' + part->styleSheet() +
                              (part->isHidden() ? " hidden" : "") +
-                             (part->property("checked").toBool() ? " checked" : "");
+                             (part->property("checked").toBool() ? " checked" : "") +
+                             (rail && rail->hasBadge() ? " badge" : "");
+            } else if (const auto *slot = qobject_cast<const TyreSlot *>(part)) {
+                seen[name] = slot->isKnown() ? "known" : "unknown";
             }
         }
+        seen["car"] = window ? place(*window->findChild<CarPicture *>()) : QString();
         for (int row = 0; page && row < VwBench::rowsOf(*page).size(); ++row) {
             seen[QString("row %1").arg(row)] = VwBench::rowsOf(*page).at(row);
         }
@@ -47,6 +83,7 @@ struct Bench
 
     TestScreen screen;
     TraceRecorder trace;
+    VwBench::SettingsFolder settings;
     CanBus_Raise_Volkswagen adapter;
     std::unique_ptr<VolkswagenWindow> window;
     QPointer<VWFunctionSetting> page;
@@ -74,12 +111,21 @@ void carryOut(Bench &bench, const QString &order)
     } else if (what == "language") {
         OrbHost::instance()->setLanguage(with);
         QCoreApplication::sendPostedEvents();
+    } else if (what == "wait") {
+        QTest::qWait(with.toInt());
+    } else if (what == "sweep") {
+        const QPoint from(300, 300);
+        TestScreen::drag(bench.window->findChild<QWidget *>("tabRange"), from,
+                         from + QPoint(with.section(' ', 0, 0).toInt(), with.section(' ', 1).toInt()));
+    } else if (what == "open") {
+        VWFunctionSetting *const page = new VWFunctionSetting(with.toUInt(), &bench.adapter);
+        page->show();
     } else if (what == "hide") {
         bench.window->hide();
     } else if (what == "show") {
         bench.window->show();
     } else if (what == "home") {
-        qobject_cast<OrbMainWindow *>(OrbHost::instance()->frontWindow())->home();
+        VwBench::click(*OrbHost::instance()->frontWindow(), "btnHome");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     } else {
         qFatal("unknown order: %s", qPrintable(order));
@@ -120,7 +166,7 @@ void TestVwScreens::screens()
         lines << (sent.isEmpty() ? QStringList() : QStringList("sent " + sent.join(" | ")));
         const auto *front = qobject_cast<OrbMainWindow *>(OrbHost::instance()->frontWindow());
         if (front && front != bench->window.get() && front != bench->page) {
-            lines << QString("page %1 lies in front").arg(front->appId());
+            lines << "open pages " + openPages().join(' ');
         }
         return lines;
     };
@@ -147,6 +193,60 @@ void TestVwScreens::marksLieOnTheTyres()
             QVERIFY(picture.contains(frame));
             QCOMPARE(frame.center().x() > picture.center().x(), i % 2 == 1);
             QCOMPARE(frame.center().y() > picture.center().y(), i >= 2);
+            const QImage mark = bench.window->findChild<QWidget *>(frames[i])->grab().toImage();
+            QCOMPARE(mark.pixelColor(mark.rect().center()), QColor(Qt::yellow));
+            QVERIFY(mark.pixelColor(0, 0) != QColor(Qt::yellow));
+        }
+    }
+}
+
+// A report of either kind leaves the car where it is.
+void TestVwScreens::carKeepsItsPlace()
+{
+    for (const QSize &size : {QSize(1024, 600), QSize(800, 480)}) {
+        Bench bench;
+        bench.screen.resize(size);
+        carryOut(bench, "window");
+        carryOut(bench, "click btnTPMS");
+        QCoreApplication::processEvents();
+        const CarPicture *car = bench.window->findChild<CarPicture *>();
+        const QString before = place(*car);
+        for (const char *report : {"68 00 00", "65 01 02 00 00", "68 0f 04", "65 00 00 00 00", "68 00 01"}) {
+            VwBench::feed(bench.adapter, report);
+            QCoreApplication::processEvents();
+            QCOMPARE(place(*car), before);
+        }
+        QSpacerItem *const spacer = bench.window->findChild<QLayout *>("layoutCar")->itemAt(1)->spacerItem();
+        QCOMPARE(spacer->sizeHint(), QSize(20, 20));
+        QCOMPARE(spacer->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum));
+    }
+}
+
+// Red on its ground has the contrast that small text needs; the bar of a checked button is a bar.
+void TestVwScreens::isDrawnClearly()
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto part = [](double c) {
+            return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+    };
+    Bench bench;
+    bench.screen.resize(800, 480);
+    carryOut(bench, "window");
+    carryOut(bench, "click btnTPMS");
+    VwBench::feed(bench.adapter, "65 01 00 00 00");
+    QCoreApplication::processEvents();
+    const QImage label = bench.window->findChild<QLabel *>("labelTyreLeftFront")->grab().toImage();
+    const QColor ground = label.pixelColor(8, label.height() / 2);
+    QVERIFY((luminance(Qt::red) + 0.05) / (luminance(ground) + 0.05) >= 4.5);
+
+    const QImage button = bench.window->findChild<RailButton *>("btnTPMS")->grab().toImage();
+    const QColor bar = button.pixelColor(2, button.height() / 2);
+    QVERIFY(bar != button.pixelColor(8, button.height() / 2));
+    for (int y = 0; y < button.height(); ++y) {
+        for (int x = 6; x < 16; ++x) {
+            QVERIFY(button.pixelColor(x, y) != bar);
         }
     }
 }

@@ -128,9 +128,22 @@ QStringList commands(int item, int value)
     return {"c6 " + QByteArray(1, char(item)).toHex() + ' ' + QByteArray(1, char(value)).toHex()};
 }
 
+SettingsFolder::SettingsFolder()
+{
+    OrbHost::instance()->setSettingsDir(folder.path());
+}
+
 Page::Page(unsigned int pageId)
     : adapter(new CanBus_Raise_Volkswagen), page(new VWFunctionSetting(pageId, adapter.get()))
 {
+    page->show();
+    requests = sent();
+}
+
+void Page::reopen(unsigned int pageId)
+{
+    delete page;
+    page = new VWFunctionSetting(pageId, adapter.get());
     page->show();
     requests = sent();
 }

@@ -14,6 +14,7 @@
 
 #include <QPointer>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
@@ -57,6 +58,14 @@ void cancel(SelectDialog &dialog);
 /// The package that sets \a item to \a value, as sent() gives it.
 QStringList commands(int item, int value);
 
+/// A settings folder that goes with the test.
+struct SettingsFolder
+{
+    SettingsFolder();
+
+    QTemporaryDir folder;
+};
+
 /// One open settings page with its adapter, on a screen of its own.
 struct Page
 {
@@ -78,6 +87,10 @@ struct Page
     void feed(const QByteArray &data) { adapter->onRecvMcuProtocol(RaiseWire::frame(0x40, data)); }
     QStringList rows() const { return rowsOf(*page); }
 
+    /// Leaves the page and opens it, or another one, again.
+    void reopen(unsigned int pageId);
+
+    SettingsFolder settings;
     TestScreen screen;
     TraceRecorder trace;
     std::unique_ptr<CanBus_Raise_Volkswagen> adapter;

@@ -3,6 +3,7 @@
 #include "xinhangbench.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 
 #include <QTimer>
 
@@ -57,7 +58,7 @@ void TestXinHang::callUnit(const QString &what, const QStringList &with)
     } else if (what == "translate") {
         adapter->translateApp();
     } else if (what == "notify") {
-        OrbEvent event(1, 1, OrbEvent::NotifyType);
+        OrbEvent event(1, 1, OrbEventType::Notify);
         event.setParams(number(0), number(1));
         adapter->orbAppNotify(&event);
         adapter->orbAppNotify(nullptr);

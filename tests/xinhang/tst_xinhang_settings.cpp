@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QTimer>
 #include <QTranslator>
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void window();
     void windowGoesWhileItAsks();
     void languageChange();
+    void languageChangeWhileItAsks();
 };
 
 // Read once per process, so all at once.
@@ -270,6 +272,35 @@ void TestXinHangSettings::languageChange()
     QCOMPARE(list->windowTitle(), QString("<Car Setting>"));
     QCoreApplication::removeTranslator(&mirror);
     QTRY_COMPARE(list->windowTitle(), QString("Car Setting"));
+}
+
+void TestXinHangSettings::languageChangeWhileItAsks()
+{
+    setItems({});
+    XinHangBench bench;
+    QWidget *const list = OrbHost::instance()->windows().last();
+    list->show();
+    Mirror mirror;
+    QStringList words;
+    QTimer::singleShot(0, list, [&] {
+        QWidget *const dialog = OrbHost::instance()->frontWindow();
+        for (bool other : {true, false}) {
+            other ? QCoreApplication::installTranslator(&mirror)
+                  : QCoreApplication::removeTranslator(&mirror);
+            QCoreApplication::sendPostedEvents();
+            words << dialog->findChild<QLabel *>("txtTitle")->text();
+            for (const QCheckBox *box : dialog->findChildren<QCheckBox *>()) {
+                words << box->text();
+            }
+        }
+        dialog->findChildren<QCheckBox *>().at(2)->click();
+        dialog->findChild<QAbstractButton *>("btnOk")->click();
+    });
+    auto *const view = list->findChild<TableListView *>();
+    Q_EMIT view->clicked(view->model()->index(0, 2));
+    QCOMPARE(words, (QStringList{"<Reversing camera>", "<Original car>", "<360>", "<Add camera>",
+                                 "Reversing camera", "Original car", "360", "Add camera"}));
+    QCOMPARE(rowTexts(view->model(), 0).last(), QString("Add camera"));
 }
 
 CANBUS_TEST_MAIN(TestXinHangSettings)

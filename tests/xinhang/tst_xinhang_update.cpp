@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QLabel>
 #include <QRandomGenerator>
 
 #include <memory>
@@ -61,8 +62,9 @@ private:
     bool setTime(const QString &name, int seconds) const;
     bool changeFile(const QString &what, const QString &name, const QString &with);
     void changeDisk(int disk, int status);
+    UpdateDialog *dialog() const;
     QStringList ask(quint32 number);
-    QStringList askAll();
+    QStringList askAll(int count);
 
     XinHangBench m_unit;
     QTemporaryDir m_disk;
@@ -108,6 +110,16 @@ void UpdateBench::changeDisk(int disk, int status)
     Q_EMIT OrbApplication::instance()->diskDeviceStatusChange(disk, status);
 }
 
+UpdateDialog *UpdateBench::dialog() const
+{
+    for (QWidget *window : OrbHost::instance()->windows()) {
+        if (auto *const dialog = qobject_cast<UpdateDialog *>(window)) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
 /// What the unit calls when the box asks for a packet; "right packet" for the one that it should be.
 QStringList UpdateBench::ask(quint32 number)
 {
@@ -117,9 +129,8 @@ QStringList UpdateBench::ask(quint32 number)
     return calls.replaceInStrings(right, "right packet");
 }
 
-QStringList UpdateBench::askAll()
+QStringList UpdateBench::askAll(int count)
 {
-    const int count = (m_firmware.size() + 127) / 128;
     for (int number = 0; number < count; ++number) {
         const QStringList calls = ask(quint32(number));
         if (calls.value(0) != "right packet") {
@@ -138,13 +149,16 @@ QStringList UpdateBench::carryOut(const QString &order)
     } else if (words[0] == "feed") {
         return m_unit.feed(order.section(' ', 1).toLatin1());
     } else if (words[0] == "ask") {
-        return with == "all" ? askAll() : ask(with.toUInt(nullptr, 16));
+        return with == "all"     ? askAll((m_firmware.size() + 127) / 128)
+               : with == "first" ? askAll(words.value(2).toInt())
+                                 : ask(with.toUInt(nullptr, 16));
     } else if (words[0] == "accept") {
-        for (QWidget *window : OrbHost::instance()->windows()) {
-            if (auto *const dialog = qobject_cast<UpdateDialog *>(window)) {
-                dialog->findChild<QAbstractButton *>("btnOk")->click();
-            }
+        if (dialog()) {
+            dialog()->findChild<QAbstractButton *>("btnOk")->click();
         }
+    } else if (words[0] == "wait") {
+        QTest::qWait(with.toInt());
+        return {dialog()->findChild<QLabel *>("txtTitle")->text()};
     } else if (!changeFile(words[0], with, words.value(2))) {
         return {"could not be done"};
     }

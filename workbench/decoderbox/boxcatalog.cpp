@@ -1,11 +1,16 @@
 #include "boxcatalog.h"
 
 #include "decoderbox.h"
+#include "speakers/gacspeaker.h"
 #include "speakers/gmspeaker.h"
+#include "speakers/havalspeaker.h"
 #include "speakers/hondaspeaker.h"
 #include "speakers/jeepspeaker.h"
 #include "speakers/mazdaspeaker.h"
+#include "speakers/nissanspeaker.h"
+#include "speakers/renaultspeaker.h"
 #include "speakers/toyotaspeaker.h"
+#include "speakers/venuciaspeaker.h"
 #include "speakers/volkswagenspeaker.h"
 #include "speakers/xinhangspeaker.h"
 
@@ -54,13 +59,13 @@ const QVector<BoxCatalog::Row> &BoxCatalog::rows()
         {5, "CanBus_XBS_Mazda", "mazda", make<MazdaSpeaker>},
         {6, "CanBus_XinRi", "xinri", makePlain},
         {7, "CanBus_Raise_Honda", "honda", make<HondaSpeaker>},
-        {8, "CanBus_Raise_Nissan", "nissan", makePlain},
+        {8, "CanBus_Raise_Nissan", "nissan", make<NissanSpeaker>},
         {9, "CanBus_Raise_Toyota", "toyota", make<ToyotaSpeaker>},
         {10, "CanBus_Raise_GM", "gm", make<GmSpeaker>},
-        {11, "CanBus_Raise_Haval", "haval", makePlain},
-        {12, "CanBus_Raise_GAC", "gac", makePlain},
-        {13, "CanBus_Raise_Venucia", "venucia", makePlain},
-        {14, "CanBus_Raise_Renault", "renault", makePlain},
+        {11, "CanBus_Raise_Haval", "haval", make<HavalSpeaker>},
+        {12, "CanBus_Raise_GAC", "gac", make<GacSpeaker>},
+        {13, "CanBus_Raise_Venucia", "venucia", make<VenuciaSpeaker>},
+        {14, "CanBus_Raise_Renault", "renault", make<RenaultSpeaker>},
         {15, "CanBus_Raise_Jeep", "jeep", make<JeepSpeaker>},
     };
     return rows;
@@ -83,6 +88,15 @@ int BoxCatalog::typeFromText(const QString &text)
         }
     }
     return 0;
+}
+
+QString BoxCatalog::list()
+{
+    QString text;
+    for (const Row &row : rows()) {
+        text += QString("\n%1  %2").arg(row.type, 4).arg(row.className);
+    }
+    return text;
 }
 
 QString BoxCatalog::className(int type)
@@ -112,15 +126,6 @@ QSet<quint8> BoxCatalog::reportedBy(int type)
         }
     }
     return commands;
-}
-
-QString BoxCatalog::list()
-{
-    QString text;
-    for (const Row &row : rows()) {
-        text += QString("\n%1  %2").arg(row.type, 4).arg(row.className);
-    }
-    return text;
 }
 
 DecoderBox *BoxCatalog::createBox(int type, QObject *parent, QString *error)

@@ -30,6 +30,8 @@ public:
     /// whole or without what stands before any of its underscores, in any case; 0 for none.
     static int typeFromText(const QString &text);
 
+    /// Every type's number and class, each on a line of its own that begins with the line break.
+    static QString list();
     /// The class name of \a type; empty for one that does not exist.
     static QString className(int type);
 
@@ -38,9 +40,6 @@ public:
 
     /// The commands with which a box of \a type is known to report something to the unit.
     static QSet<quint8> reportedBy(int type);
-
-    /// Every type's number and class, each on a line of its own that begins with the line break.
-    static QString list();
 
     /// A box for \a type with its own car, owned by \a parent or else by the caller. Null, with one sentence
     /// in \a error, for a type that does not exist or whose box nobody knows.

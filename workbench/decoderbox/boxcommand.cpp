@@ -6,6 +6,7 @@ namespace {
 
 const int TapMs = 50;
 const int LongestMs = 600000;
+const int LongestAmount = 65535; // bytes or ms of what one package suffers
 
 bool readNumber(const QString &text, int least, int most, int *number)
 {
@@ -20,33 +21,87 @@ bool readNumber(const QString &text, int least, int most, int *number)
 
 } // namespace
 
+// What a line suffers at once, or the box at some time, by "fault NAME".
+struct BoxCommand::LineOrder
+{
+    const char *name;
+    const char *amount; // "N" or "MS"; in brackets when it may be left out
+    Action action;
+    const char *help;
+};
+
+const QVector<BoxCommand::Row> &BoxCommand::rows()
+{
+    using C = BoxCommand;
+    static const QVector<Row> table = {
+        {"key", "NAME press|hold|release|tap [MS]",
+         "a key goes down, goes down and stays (the box repeats it every 200 ms), comes up, or goes down and "
+         "comes up "
+         "after MS (50)",
+         &C::parseKey},
+        {"knob", "NAME COUNT", "a knob turns by 0 to 255 clicks", &C::parseKnob},
+        {"touch", "X Y press|move|release", "a finger on the car's screen, where the box reports touches",
+         &C::parseTouch},
+        {"raw", "HEX", "these bytes leave at once, whatever the box is doing", &C::parseRaw},
+        {"fault", "...", "", &C::parseFault},
+        {"start", "", "the box begins to talk as after the unit's ready", &C::parsePlain<Start>},
+        {"end", "", "the drive is over; the program `decoderbox` ends", &C::parsePlain<End>},
+        {"again", "", "the drive starts over, and over; not at time 0", &C::parsePlain<Again>},
+    };
+    return table;
+}
+
+const QVector<BoxCommand::LineOrder> &BoxCommand::lineOrders()
+{
+    static const QVector<LineOrder> table = {
+        {"noise", "N", Noise, "N bytes of noise leave at once; a start byte may be among them"},
+        {"silence", "MS", Silence, "the box says nothing for so long"},
+        {"unplug", "[MS]", Unplug, "the line is pulled out, and put back after MS where that is told"},
+        {"replug", "", Replug, "the line is put back"},
+        {"update", "N", CutUpdate,
+         "the line is pulled out when firmware packet N of an update, counted from 1, has arrived"},
+        {"none", "", NoFaults, "nothing is wrong any more with packages and acknowledgements"},
+    };
+    return table;
+}
+
+QVector<BoxCommand::Syntax> BoxCommand::syntax()
+{
+    QVector<Syntax> result = {
+        {"PROPERTY VALUE", "a property of the car changes; the box tells what its protocol can tell"}};
+    for (const Row &row : rows()) {
+        if (row.parser != &BoxCommand::parseFault) {
+            result << Syntax{QString("%1 %2").arg(row.verb, row.arguments).trimmed(), row.help};
+            continue;
+        }
+        for (const LineOrder &order : lineOrders()) {
+            result << Syntax{QString("fault %1 %2").arg(order.name, order.amount).trimmed(), order.help};
+        }
+        for (const LineFaults::Row &fault : LineFaults::rows()) {
+            result << Syntax{QString("fault %1 %2").arg(fault.name, fault.amount).trimmed() + " [RATE%]",
+                             fault.help};
+        }
+    }
+    return result;
+}
+
 bool BoxCommand::parse(const QString &line, const DecoderBox &box, QString *error)
 {
     const QString trimmed = line.trimmed();
     const QStringList words = trimmed.simplified().split(' ');
-    const QString &verb = words.first();
-    const QString rest = trimmed.mid(verb.size()).trimmed();
-    if (verb == "key") {
-        return parseKey(words, box, error);
+    for (const Row &row : rows()) {
+        if (words.first() == row.verb && (*row.arguments || words.size() == 1)) {
+            return (this->*row.parser)(words, box, error);
+        }
     }
-    if (verb == "knob") {
-        return parseKnob(words, box, error);
-    }
-    if (verb == "touch") {
-        return parseTouch(words, box, error);
-    }
-    if (verb == "raw") {
-        return parseRaw(rest, error);
-    }
-    if (verb == "fault") {
-        return parseFault(words, error);
-    }
-    static const QHash<QString, Action> plainActions = {{"start", Start}, {"end", End}, {"again", Again}};
-    if (plainActions.contains(verb) && rest.isEmpty()) {
-        m_action = plainActions.value(verb);
-        return true;
-    }
-    return parseProperty(verb, rest, error);
+    return parseProperty(words.first(), trimmed.mid(words.first().size()).trimmed(), error);
+}
+
+template <BoxCommand::Action Which>
+bool BoxCommand::parsePlain(const QStringList &, const DecoderBox &, QString *)
+{
+    m_action = Which;
+    return true;
 }
 
 bool BoxCommand::parseProperty(const QString &name, const QString &value, QString *error)
@@ -113,10 +168,10 @@ bool BoxCommand::parseTouch(const QStringList &words, const DecoderBox &box, QSt
     return true;
 }
 
-bool BoxCommand::parseRaw(const QString &hex, QString *error)
+bool BoxCommand::parseRaw(const QStringList &words, const DecoderBox &, QString *error)
 {
     m_action = Raw;
-    const QByteArray digits = QString(hex).remove(' ').toLower().toLatin1();
+    const QByteArray digits = words.mid(1).join(QString()).toLower().toLatin1();
     m_bytes = QByteArray::fromHex(digits);
     if (m_bytes.isEmpty() || m_bytes.toHex() != digits) {
         *error = "expected: raw HEX, two digits for each byte";
@@ -125,19 +180,64 @@ bool BoxCommand::parseRaw(const QString &hex, QString *error)
     return true;
 }
 
-bool BoxCommand::parseFault(const QStringList &words, QString *error)
+bool BoxCommand::parseFault(const QStringList &words, const DecoderBox &box, QString *error)
 {
-    static const QHash<QString, Action> actions = {{"noise", Noise}, {"cut", Cut}, {"silence", Silence}};
-    if (words.size() == 2 && words.at(1) == "corrupt") {
-        m_action = Corrupt;
+    QStringList names;
+    for (const LineOrder &order : lineOrders()) {
+        if (words.value(1) == order.name) {
+            return parseLineOrder(order, words, box, error);
+        }
+        names << order.name;
+    }
+    for (const LineFaults::Row &fault : LineFaults::rows()) {
+        if (words.value(1) == fault.name) {
+            return parseStrike(fault, words, box, error);
+        }
+        names << fault.name;
+    }
+    *error = QString("there is no fault '%1'; there are %2").arg(words.value(1), names.join(", "));
+    return false;
+}
+
+bool BoxCommand::parseLineOrder(const LineOrder &order, const QStringList &words, const DecoderBox &box,
+                                QString *error)
+{
+    const bool mayLack = !*order.amount || *order.amount == '[';
+    m_action = order.action;
+    if (words.size() > (*order.amount ? 3 : 2) || (words.size() == 2 && !mayLack) ||
+        (words.size() == 3 && !readNumber(words.at(2), 0, LongestMs, &m_number))) {
+        *error = QString("expected: fault %1 %2").arg(order.name, order.amount).trimmed();
+    } else if (m_action == CutUpdate && !box.speaker()->properties().contains("firmware.fault")) {
+        *error = "this box takes no firmware";
+    } else if ((m_action == CutUpdate || m_action == Unplug) && !box.canUnplug()) {
+        *error = "this line cannot be pulled out: it has no link by which the unit would find it again";
+    } else {
         return true;
     }
-    if (words.size() != 3 || !actions.contains(words.at(1)) ||
-        !readNumber(words.at(2), 0, LongestMs, &m_number)) {
-        *error = "expected: fault noise N, fault cut N, fault corrupt or fault silence MS";
+    return false;
+}
+
+bool BoxCommand::parseStrike(const LineFaults::Row &fault, QStringList words, const DecoderBox &box,
+                             QString *error)
+{
+    bool ok = true;
+    m_fault = fault.kind;
+    m_action = words.last().endsWith('%') ? SetRate : StrikeNext;
+    if (m_action == SetRate) {
+        m_percent = words.takeLast().chopped(1).toDouble(&ok);
+        ok = ok && m_percent >= 0 && m_percent <= 100;
+    }
+    const bool hasAmount = *fault.amount;
+    if (!ok || words.size() != (hasAmount ? 3 : 2) ||
+        (hasAmount && !readNumber(words.at(2), 0, LongestAmount, &m_number))) {
+        *error = QString("expected: fault %1 %2").arg(fault.name, fault.amount).trimmed() +
+                 QString(" [RATE%], a rate from 0% to 100%");
         return false;
     }
-    m_action = actions.value(words.at(1));
+    if (m_fault == LineFaults::Late && !box.speaker()->usesAcknowledgement()) {
+        *error = "this box sends no acknowledgements";
+        return false;
+    }
     return true;
 }
 
@@ -165,23 +265,46 @@ void BoxCommand::carryOut(DecoderBox *box) const
     case Raw:
         box->sendRaw(m_bytes);
         break;
-    case Noise:
-        box->sendNoise(m_number);
-        break;
-    case Cut:
-        box->spoilNext(DecoderBox::CutNext, m_number);
-        break;
-    case Corrupt:
-        box->spoilNext(DecoderBox::CorruptNext);
-        break;
-    case Silence:
-        box->holdTongue(m_number);
-        break;
     case Start:
         box->start();
         break;
     case End:
     case Again:
+        break;
+    default:
+        disturb(box);
+        break;
+    }
+}
+
+void BoxCommand::disturb(DecoderBox *box) const
+{
+    switch (m_action) {
+    case Noise:
+        box->sendNoise(m_number);
+        break;
+    case Silence:
+        box->holdTongue(m_number);
+        break;
+    case Unplug:
+        box->unplug(m_number);
+        break;
+    case Replug:
+        box->replug();
+        break;
+    case CutUpdate:
+        box->cutUpdateAt(m_number);
+        break;
+    case NoFaults:
+        box->faults()->clear();
+        break;
+    case StrikeNext:
+        box->faults()->strikeNext(m_fault, m_number);
+        break;
+    case SetRate:
+        box->faults()->setRate(m_fault, m_number, m_percent);
+        break;
+    default:
         break;
     }
 }

@@ -56,6 +56,9 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
     }
     QString error;
     m_box.reset(BoxCatalog::createBox(type, nullptr, &error));
+    if (m_box) {
+        prepareLine(parser);
+    }
     if (!m_box || !m_box->open(parser.value("link"), &error)) {
         print(stderr, "decoderbox: " + error);
         return false;
@@ -69,6 +72,16 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
     return openScript(parser.value("script"));
 }
 
+void BoxProgram::prepareLine(const QCommandLineParser &parser)
+{
+    if (parser.isSet("unpaced")) {
+        m_box->setUnpaced();
+    }
+    if (parser.isSet("seed")) {
+        m_box->faults()->setSeed(parser.value("seed").toUInt());
+    }
+}
+
 bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &arguments, int *type)
 {
     parser->setApplicationDescription(
@@ -80,10 +93,15 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
                         {"link", "Keeps a link of this name to the pseudo-terminal.", "PATH"},
                         {"scenario", "Plays a drive when the unit opens the port.", "FILE"},
                         {"log", "Writes one line per package each way; - is stderr.", "FILE"},
-                        {"script", "Takes orders, one a line; - is stdin.", "FILE"}});
+                        {"script", "Takes orders, one a line; - is stdin.", "FILE"},
+                        {"seed", "Begins the chances of the line's faults at this number.", "N"},
+                        {"unpaced", "Bytes take no time on the line."}});
     QString error;
+    bool isSeed = true;
     if (!parser->parse(arguments)) {
         error = parser->errorText();
+    } else if (parser->isSet("seed") && (parser->value("seed").toUInt(&isSeed), !isSeed)) {
+        error = "--seed takes a number, not '" + parser->value("seed") + "'";
     } else if (!parser->positionalArguments().isEmpty()) {
         error = "what is '" + parser->positionalArguments().first() + "'?";
     } else if (!parser->isSet("help") && !parser->isSet("list")) {

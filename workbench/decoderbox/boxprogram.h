@@ -27,6 +27,7 @@ public:
 
 private:
     bool readOptions(QCommandLineParser *parser, const QStringList &arguments, int *type);
+    void prepareLine(const QCommandLineParser &parser);
     bool openLog(const QString &path);
     bool openScenario(const QString &path);
     bool openScript(const QString &path);

@@ -31,7 +31,8 @@ struct BoxReport
     quint8 command;
     QStringList concerns; ///< names of properties, or beginnings of names that end in a point
     std::function<QByteArray(const SimulatedCar &)> data;
-    bool atStart; ///< sent with the state after ready; else only when something changes or the unit asks
+    bool atStart;   ///< sent with the state after ready; else only when something changes or the unit asks
+    int period = 0; ///< ms, of a report that the box repeats all the time; 0 for one that it does not
 
     bool isAbout(const QString &property) const;
 };
@@ -58,6 +59,9 @@ public:
 
     /// Whether the unit acknowledges each package with 0xFF and expects the same.
     virtual bool usesAcknowledgement() const = 0;
+
+    /// Bits a second on its line, ten a byte.
+    virtual int baudRate() const = 0;
 
     const QVector<BoxReport> &reports() const { return m_reports; }
     /// The package of reports()[\a index] for the car as it is now.

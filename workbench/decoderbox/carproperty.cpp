@@ -74,33 +74,33 @@ bool readNumberList(const CarProperty &property, const QString &text, QVariant *
     return true;
 }
 
-QString expectation(const CarProperty &property)
-{
-    const QString range = QString("%1 to %2").arg(property.minimum).arg(property.maximum);
-    switch (property.kind) {
-    case CarProperty::Switch:
-        return "on or off";
-    case CarProperty::Integer:
-        return "a whole number from " + range;
-    case CarProperty::Real:
-        return "a number from " + range;
-    case CarProperty::Temperature:
-        return "a number from " + range + ", LO or HI";
-    case CarProperty::Choice:
-        return "one of " + property.choices.join(", ");
-    case CarProperty::Text:
-        return QString("a Latin-1 text of at most %1 characters").arg(property.maximum);
-    case CarProperty::NumberList:
-        return QString("at most %1 numbers from %2 with commas between").arg(property.step).arg(range);
-    }
-    return QString();
-}
-
 } // namespace
 
 QString CarProperty::group() const
 {
     return name.contains('.') ? name.section('.', 0, -2) : name;
+}
+
+QString CarProperty::takes() const
+{
+    const QString range = QString("%1 to %2").arg(minimum).arg(maximum);
+    switch (kind) {
+    case Switch:
+        return "on or off";
+    case Integer:
+        return "a whole number from " + range;
+    case Real:
+        return "a number from " + range;
+    case Temperature:
+        return "a number from " + range + ", LO or HI";
+    case Choice:
+        return "one of " + choices.join(", ");
+    case Text:
+        return QString("a Latin-1 text of at most %1 characters").arg(maximum);
+    case NumberList:
+        return QString("at most %1 numbers from %2 with commas between").arg(step).arg(range);
+    }
+    return QString();
 }
 
 bool CarProperty::read(const QVariant &value, QVariant *result, QString *error) const
@@ -132,7 +132,7 @@ bool CarProperty::read(const QVariant &value, QVariant *result, QString *error) 
         break;
     }
     if (!fits) {
-        *error = QString("'%1' takes %2, not '%3'").arg(name, expectation(*this), given);
+        *error = QString("'%1' takes %2, not '%3'").arg(name, takes(), given);
     }
     return fits;
 }

@@ -41,6 +41,9 @@ struct CarProperty
     /// pointer may be null.
     bool read(const QVariant &value, QVariant *result, QString *error) const;
 
+    /// What read() takes, in words: "a whole number from 0 to 7".
+    QString takes() const;
+
     /// \a value, as read() gave it, as text.
     QString text(const QVariant &value) const;
 

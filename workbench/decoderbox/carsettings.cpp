@@ -42,6 +42,9 @@ QVector<CarProperty> drivingData()
     return QVector<CarProperty>()
            << number("trip.range", 0, 2000, 10, "km", 520)
            << CarProperty{"trip.consumption", CarProperty::Real, 0, 99.9, 0.1, "L/100km", {}, "0"}
+           << CarProperty{"trip.average.consumption", CarProperty::Real, 0, 99.9, 0.1, "L/100km", {}, "6.8"}
+           << CarProperty{"trip.average.speed", CarProperty::Real, 0, 400, 0.1, "km/h", {}, "52.5"}
+           << CarProperty{"trip.average.distance", CarProperty::Real, 0, 13107, 0.1, "km", {}, "734.2"}
            << trip("trip.since_start", "0", "0", 0, 0) << trip("trip.since_refuel", "182.4", "6.4", 54, 203)
            << trip("trip.long_term", "12873.6", "6.9", 48, 16092);
 }
@@ -75,6 +78,89 @@ QVector<CarProperty> messagesAndService()
             number("service.oil.days", -3000, 3000, 10, "d", 152),
             number("service.oil.distance", -60000, 60000, 100, "km", 8300),
             onOff("service.wiper_position")};
+}
+
+QVector<CarProperty> amplifier()
+{
+    return {number("amplifier.volume", 0, 40, 1, "", 12),
+            number("amplifier.bass", -5, 5, 1, "", 0),
+            number("amplifier.treble", -5, 5, 1, "", 0),
+            number("amplifier.balance", -5, 5, 1, "", 0),
+            number("amplifier.fader", -5, 5, 1, "", 0),
+            number("amplifier.surround", -5, 5, 1, "", 0),
+            number("amplifier.speed_volume", 0, 5, 1, "", 2),
+            onOff("amplifier.centerpoint"),
+            onOff("amplifier.driver_stage")};
+}
+
+QVector<CarProperty> parkingPicture()
+{
+    return {choice("parking_picture.buttons",
+                   {"none", "pa", "perpendicular", "parallel", "arrows", "cancel", "introduction"}),
+            choice("parking_picture.camera", {"front", "rear"}),
+            number("parking_picture.message", 0, 0x4F, 1, "", 0), // the box's number
+            onOff("parking_picture.grey.up"),
+            onOff("parking_picture.grey.down"),
+            onOff("parking_picture.grey.left"),
+            onOff("parking_picture.grey.right"),
+            onOff("parking_picture.grey.down_right"),
+            onOff("parking_picture.grey.down_left"),
+            onOff("assist.lane_departure", true),
+            onOff("assist.blind_spot", true),
+            onOff("assist.moving_object")};
+}
+
+// Beside the settings that a Volkswagen has: those of cars whose boxes tell them one by one, or all at once.
+QVector<CarProperty> options()
+{
+    const QStringList levels = {"low", "middle", "high"};
+    return {choice("options.display.language", {"chinese", "english"}),
+            choice("options.display.warning_volume", levels, 1),
+            choice("options.display.indicator_volume", {"1", "2", "3"}, 1),
+            number("options.display.style", 1, 4, 1, "", 1),
+            number("options.display.night_brightness", 0, 100, 5, "%", 50),
+            onOff("options.display.eco", true),
+            onOff("options.climate.auto_compressor", true),
+            choice("options.climate.auto_recirculation", {"auto", "by_hand"}),
+            choice("options.climate.comfort_curve", {"slow", "normal", "fast"}, 1),
+            onOff("options.climate.ioniser"),
+            choice("options.climate.ioniser_mode", {"off", "relax", "clean"}),
+            onOff("options.climate.ioniser_at_start"),
+            onOff("options.climate.fresh_air_cycle"),
+            onOff("options.seat.auto_heating_driver"),
+            onOff("options.seat.auto_heating_passenger"),
+            onOff("options.seat.welcome"),
+            onOff("options.seat.key_position"),
+            number("options.assist.speed_limit", 0, 200, 10, "km/h", 120),
+            onOff("options.assist.blind_spot", true),
+            number("options.remote.power_time", 0, 30, 1, "min", 10),
+            number("options.remote.start_time", 0, 30, 1, "min", 10),
+            choice("options.remote.unlock", {"all", "front_left"}),
+            onOff("options.remote.window_and_roof"),
+            choice("options.drive.steering_mode", {"sport", "standard", "comfort"}, 1),
+            onOff("options.opening.speed_lock", true),
+            onOff("options.opening.auto_unlock", true),
+            onOff("options.opening.lock_sound"),
+            onOff("options.wipers.front_service"),
+            onOff("options.wipers.rear_reversing", true),
+            choice("options.light.follow_me", {"off", "dipped", "dipped_and_fog"}),
+            onOff("options.light.turning_fog"),
+            onOff("options.light.daytime", true),
+            choice("options.light.sensor", levels, 1),
+            onOff("options.light.cabin", true),
+            onOff("options.light.welcome", true),
+            onOff("options.mirrors.fold"),
+            choice("options.parking.way", {"parallel", "perpendicular", "angled"}),
+            onOff("options.parking.front", true),
+            onOff("options.parking.rear", true),
+            onOff("options.parking.side"),
+            onOff("options.camera.smart_entry", true),
+            onOff("options.camera.first_forward"),
+            onOff("options.camera.start_animation", true),
+            onOff("options.camera.left_indicator"),
+            onOff("options.camera.right_indicator"),
+            onOff("options.camera.steering_wheel"),
+            onOff("options.camera.forward_gear")};
 }
 
 QVector<CarProperty> driving()
@@ -173,6 +259,6 @@ QVector<CarProperty> unitsAndProfiles()
 
 QVector<CarProperty> carSettings()
 {
-    return drivingData() + tyres() + messagesAndService() + driving() + lightAndMirrors() +
-           openingAndDisplay() + unitsAndProfiles();
+    return drivingData() + amplifier() + parkingPicture() + options() + tyres() + messagesAndService() +
+           driving() + lightAndMirrors() + openingAndDisplay() + unitsAndProfiles();
 }

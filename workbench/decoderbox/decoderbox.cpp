@@ -9,7 +9,6 @@ const int MostResends = 3;
 const int HeldKeyMs = 200;
 const int MostQueued = 256;
 const int MostNoise = 65536;
-const quint32 NoiseSeed = 20;
 
 const quint8 GoodAnswer = 0xFF;
 const quint8 BadChecksumAnswer = 0xF0;
@@ -18,7 +17,7 @@ const quint8 UnknownCommandAnswer = 0xF3;
 } // namespace
 
 DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
-    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format()), m_noise(NoiseSeed)
+    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format())
 {
     m_car->setParent(this);
     m_speaker->setParent(this);
@@ -27,6 +26,8 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     m_heldKeyTimer.setInterval(HeldKeyMs);
     m_heldKeyTimer.setTimerType(Qt::PreciseTimer);
     m_tongueTimer.setSingleShot(true);
+    m_replugTimer.setSingleShot(true);
+    m_terminal.setBaud(speaker->baudRate());
     m_clock.start();
 
     connect(&m_terminal, &PseudoTerminal::received, &m_receiver, &FrameReceiver::feed);
@@ -44,6 +45,22 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     connect(&m_acknowledgementTimer, &QTimer::timeout, this, &DecoderBox::onAcknowledgementMissing);
     connect(&m_heldKeyTimer, &QTimer::timeout, this, &DecoderBox::repeatHeldKeys);
     connect(&m_tongueTimer, &QTimer::timeout, this, &DecoderBox::sendNext);
+    connect(&m_replugTimer, &QTimer::timeout, this, &DecoderBox::replug);
+    addRepetitions();
+}
+
+void DecoderBox::addRepetitions()
+{
+    for (int i = 0; i < m_speaker->reports().size(); ++i) {
+        const int period = m_speaker->reports().at(i).period;
+        if (period > 0) {
+            QTimer *timer = new QTimer(this);
+            timer->setInterval(period);
+            timer->setTimerType(Qt::PreciseTimer);
+            connect(timer, &QTimer::timeout, this, [this, i] { enqueueReport(i); });
+            m_repetitions << timer;
+        }
+    }
 }
 
 bool DecoderBox::open(const QString &link, QString *error)
@@ -56,6 +73,9 @@ void DecoderBox::start()
     stopTalking();
     setState(Talks);
     sendState();
+    for (QTimer *timer : std::as_const(m_repetitions)) {
+        timer->start();
+    }
 }
 
 bool DecoderBox::pressKey(const QString &name)
@@ -114,17 +134,31 @@ void DecoderBox::sendRaw(const QByteArray &bytes)
 
 void DecoderBox::sendNoise(int count)
 {
-    QByteArray bytes;
-    for (int i = 0; i < qMin(count, MostNoise); ++i) {
-        bytes += char(m_noise.bounded(256));
-    }
-    sendRaw(bytes);
+    sendRaw(m_faults.noise(qMin(count, MostNoise)));
 }
 
-void DecoderBox::spoilNext(Fault fault, int size)
+// From the event loop: whoever asks may be in the middle of what the line has just brought.
+void DecoderBox::unplug(int ms)
 {
-    m_fault = fault;
-    m_faultSize = size;
+    QTimer::singleShot(0, this, [this, ms] {
+        if (m_terminal.isPlugged()) {
+            m_terminal.unplug();
+            log("box", {}, "the line is pulled out");
+        }
+        m_replugTimer.stop();
+        if (ms > 0) {
+            m_replugTimer.start(ms);
+        }
+    });
+}
+
+void DecoderBox::replug()
+{
+    QString error;
+    m_replugTimer.stop();
+    if (!m_terminal.isPlugged()) {
+        log("box", {}, m_terminal.replug(&error) ? "the line is back" : error);
+    }
 }
 
 void DecoderBox::holdTongue(int ms)
@@ -208,6 +242,11 @@ void DecoderBox::onAcknowledgementMissing()
 void DecoderBox::onObserved(const QString &topic, const QString &value)
 {
     m_observations.insert(topic, value);
+    if (m_cutUpdateAt > 0 && topic == "firmware" &&
+        value.startsWith(QString("receiving %1/").arg(m_cutUpdateAt))) {
+        m_cutUpdateAt = 0;
+        unplug();
+    }
     Q_EMIT observed(topic, value);
 }
 
@@ -233,6 +272,9 @@ void DecoderBox::stopTalking()
     m_acknowledgementTimer.stop();
     m_heldKeys.clear();
     m_heldKeyTimer.stop();
+    for (QTimer *timer : std::as_const(m_repetitions)) {
+        timer->stop();
+    }
 }
 
 void DecoderBox::sendState()
@@ -298,40 +340,45 @@ void DecoderBox::sendNext()
 
 void DecoderBox::transmit()
 {
+    const LineFaults::Spoilt frame = m_faults.spoil(m_frame, m_speaker->format().lengthAt);
+    // The wait for the unit's acknowledgement begins when the package is out.
     if (m_speaker->usesAcknowledgement()) {
-        m_acknowledgementTimer.start(AcknowledgementMs);
+        m_acknowledgementTimer.start(AcknowledgementMs + m_terminal.duration(int(frame.bytes.size())) +
+                                     frame.pauseMs);
     }
     QString meaning = m_frameMeaning;
     if (m_resends > 0) {
         meaning += QString(", resend %1").arg(m_resends);
     }
-    const QByteArray bytes = spoiled(m_frame, &meaning);
-    if (!m_terminal.write(bytes)) {
+    meaning += frame.what;
+    const bool isOut = m_terminal.write(frame.bytes.left(frame.pauseAt)) &&
+                       m_terminal.write(frame.bytes.mid(frame.pauseAt), frame.pauseMs);
+    if (!isOut) {
         meaning += ", dropped: the unit does not read";
     }
-    log("box>unit", bytes, meaning);
-}
-
-QByteArray DecoderBox::spoiled(QByteArray frame, QString *meaning)
-{
-    const Fault fault = std::exchange(m_fault, NoFault);
-    if (fault == CutNext && m_faultSize < frame.size()) {
-        frame.truncate(m_faultSize);
-        *meaning += QString(", cut after %1 bytes").arg(m_faultSize);
-    } else if (fault == CorruptNext) {
-        const int place = 1 + int(m_noise.bounded(quint32(frame.size() - 1)));
-        frame[place] = char(frame.at(place) ^ 0x10);
-        *meaning += QString(", byte %1 corrupt").arg(place);
-    }
-    return frame;
+    log("box>unit", frame.bytes, meaning);
 }
 
 void DecoderBox::answer(quint8 byte)
 {
-    if (m_speaker->usesAcknowledgement() && !m_tongueTimer.isActive()) {
+    if (!m_speaker->usesAcknowledgement()) {
+        return;
+    }
+    const int lateness = m_faults.lateness();
+    if (lateness > 0) {
+        log("box", {}, QString("the acknowledgement comes %1 ms late").arg(lateness));
+        QTimer::singleShot(lateness, Qt::PreciseTimer, this, [this, byte] { sendAnswer(byte); });
+    } else {
+        sendAnswer(byte);
+    }
+}
+
+void DecoderBox::sendAnswer(quint8 byte)
+{
+    if (!m_tongueTimer.isActive()) {
         m_terminal.write(QByteArray(1, char(byte)));
     }
-    if (byte != GoodAnswer && m_speaker->usesAcknowledgement()) {
+    if (byte != GoodAnswer) {
         log("box>unit", QByteArray(1, char(byte)), "refused");
     }
 }

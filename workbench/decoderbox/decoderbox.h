@@ -3,11 +3,11 @@
 
 #include "boxspeaker.h"
 #include "framereceiver.h"
+#include "linefaults.h"
 #include "pseudoterminal.h"
 
 #include <QElapsedTimer>
 #include <QQueue>
-#include <QRandomGenerator>
 
 /// A virtual decoder box: a simulated car, a speaker for the box's protocol, a pseudo-terminal that the unit
 /// opens as its serial port, and the manners of real boxes:
@@ -17,7 +17,8 @@
 /// - It sends one package at a time and waits for the unit's acknowledgement. 100 ms without one and it sends
 ///   the package again; after the third resend it falls silent until it is started again.
 /// - It answers 0xFF to a good package, 0xF0 to a bad checksum, 0xF3 to a command that it does not know.
-/// - A held key is reported every 200 ms.
+/// - A held key is reported every 200 ms, and what the speaker gives a period over and over.
+/// - Its line is as slow as its baud rate says, both ways.
 ///
 /// Boxes whose protocol knows no acknowledgement neither wait nor answer. A unit that closes the port takes
 /// the box back to where it waits for ready. Everything runs on the thread of the box and nothing blocks it.
@@ -31,18 +32,15 @@ public:
         Talks,
         Silent ///< the unit did not acknowledge
     };
-    enum Fault {
-        NoFault,
-        CutNext,    ///< the next package ends early
-        CorruptNext ///< the next package has a wrong byte
-    };
 
     /// Takes \a car and \a speaker, which is of that car, as its own.
     DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent = nullptr);
 
     /// See PseudoTerminal::open().
     bool open(const QString &link, QString *error);
-    /// The device for the unit; empty before open().
+    /// The line takes no time any more; before open() only.
+    void setUnpaced() { m_terminal.setBaud(0); }
+    /// The device for the unit; empty before open() and while the line is pulled out.
     QString portPath() const { return m_terminal.devicePath(); }
 
     SimulatedCar *car() const { return m_car; }
@@ -72,10 +70,22 @@ public:
     void sendRaw(const QByteArray &bytes);
     /// Sends \a count (at most 65536) bytes of noise: the same ones in each run.
     void sendNoise(int count);
-    /// Spoils the next package, once: CutNext after \a size bytes, CorruptNext at one byte of it.
-    void spoilNext(Fault fault, int size = 0);
+    /// What goes wrong on the line with packages and acknowledgements.
+    LineFaults *faults() { return &m_faults; }
     /// Says nothing at all for \a ms; what is to be sent waits.
     void holdTongue(int ms);
+    /// For how many ms it still does so; 0 when it speaks.
+    int silenceLeft() const { return qMax(0, m_tongueTimer.remainingTime()); }
+
+    /// See PseudoTerminal::canUnplug().
+    bool canUnplug() const { return m_terminal.canUnplug(); }
+    /// Pulls the line out, and puts it back \a ms later; 0 leaves it out until replug(). The unit finds
+    /// neither device nor link meanwhile.
+    void unplug(int ms = 0);
+    void replug();
+    bool isPlugged() const { return m_terminal.isPlugged(); }
+    /// Pulls the line out as soon as firmware packet \a number of an update has arrived; they count from 1.
+    void cutUpdateAt(int number) { m_cutUpdateAt = number; }
 
 Q_SIGNALS:
     void unitCame();
@@ -105,6 +115,7 @@ private:
     void onAcknowledgementMissing();
     void onObserved(const QString &topic, const QString &value);
     void repeatHeldKeys();
+    void addRepetitions();
 
     void setState(State state);
     void stopTalking();
@@ -114,8 +125,8 @@ private:
     void sendKey(const BoxKey &key, BoxSpeaker::KeyState state);
     void sendNext();
     void transmit();
-    QByteArray spoiled(QByteArray frame, QString *meaning);
     void answer(quint8 byte);
+    void sendAnswer(quint8 byte);
     void log(const QString &direction, const QByteArray &bytes, const QString &meaning);
 
     SimulatedCar *m_car;
@@ -132,13 +143,14 @@ private:
     bool m_isListening = false; // a package is being taken in: what it brings about is sent after its answer
     QTimer m_acknowledgementTimer;
 
+    QVector<QTimer *> m_repetitions; // of reports
     QStringList m_heldKeys;
     QTimer m_heldKeyTimer;
 
-    Fault m_fault = NoFault;
-    int m_faultSize = 0;
+    LineFaults m_faults;
     QTimer m_tongueTimer;
-    QRandomGenerator m_noise;
+    QTimer m_replugTimer;
+    int m_cutUpdateAt = 0; // 0 for never
     QElapsedTimer m_clock;
 };
 

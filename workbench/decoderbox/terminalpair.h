@@ -24,6 +24,8 @@ public:
 
     /// Has the unit's end open here as well, so that the line stays up while the unit has it closed.
     bool holdLine();
+    /// The unit's end of a line that is held, owned here; else -1.
+    int unitEnd() const { return m_unitEnd; }
 
 private:
     int openUnitEnd() const;

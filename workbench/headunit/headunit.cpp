@@ -2,6 +2,7 @@
 
 #include "orbapplication.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost.h"
 
 HeadUnit::HeadUnit(QObject *parent) : QObject(parent) {}
@@ -47,17 +48,17 @@ void HeadUnit::post(OrbEvent *event)
 
 void HeadUnit::showApp(uint appId)
 {
-    postNumbers(OrbEvent::ShowAppType, appId, 0);
+    postNumbers(OrbEventType::ShowApp, appId, 0);
 }
 
 void HeadUnit::notify(uint param, uint param2)
 {
-    postNumbers(OrbEvent::NotifyType, param, param2);
+    postNumbers(OrbEventType::Notify, param, param2);
 }
 
 void HeadUnit::changeState(uint state, uint mask)
 {
-    postNumbers(OrbEvent::AppStateType, state, mask);
+    postNumbers(OrbEventType::AppState, state, mask);
 }
 
 bool HeadUnit::key(uint code, KeyPhase phase)
@@ -65,7 +66,7 @@ bool HeadUnit::key(uint code, KeyPhase phase)
     if (OrbHost::instance()->filterKey(code, phase != KeyReleased, phase == KeyRepeated)) {
         return true;
     }
-    postNumbers(OrbEvent::KeyType, code, phase);
+    postNumbers(OrbEventType::Key, code, phase);
     return false;
 }
 

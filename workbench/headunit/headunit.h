@@ -1,6 +1,7 @@
 #ifndef HEADUNIT_H
 #define HEADUNIT_H
 
+#include "linehealth.h"
 #include "linerecorder.h"
 #include "pluginlibrary.h"
 
@@ -51,6 +52,8 @@ public:
     void setMode(uint mode) { setMode(mode, m_mode); }
     /// Hears the unit's serial line from the unit's first moment on.
     LineRecorder *lineRecorder() { return &m_lineRecorder; }
+    /// How that line is.
+    LineHealth *lineHealth() { return &m_lineHealth; }
 
     /// 0 until it was set.
     uint mode() const { return m_mode; }
@@ -65,6 +68,7 @@ private:
     void postNumbers(int type, uint param, uint param2);
 
     LineRecorder m_lineRecorder;
+    LineHealth m_lineHealth;
     PluginLibrary m_library;
     OrbPlugin *m_plugin = nullptr;
     uint m_mode = 0;

@@ -25,6 +25,7 @@ struct Texts
     std::string clock;
     std::string trace;
     std::string script;
+    std::string junit;
     std::string record;
     std::string saveBad;
     std::vector<std::string> tags;
@@ -132,6 +133,9 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->type_name("[SCENARIO]")
         ->expected(0, 1)
         ->excludes(port);
+    app->add_option("--seed", options->seed, "where the chances of the virtual box's line faults begin")
+        ->type_name("N");
+    app->add_flag("--unpaced", options->isUnpaced, "bytes take no time on the virtual box's line");
     addPath(app, "--plugin", &texts->plugin, "PATH", "the plug-in's shared library");
     addSetting(app, "--tag", &texts->tags, "ID=VALUE", tagComplaint, "a tag of the unit; may be repeated");
     addSetting(app, "--product", &texts->products, "KEY=VALUE", settingComplaint,
@@ -151,8 +155,17 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->check(clockComplaint);
     addPath(app, "--trace", &texts->trace, "FILE|-",
             "writes what the plug-in does as JSON lines; - is standard output");
-    addPath(app, "--script", &texts->script, "FILE|-",
-            "carries out commands, one a line; - is standard input");
+    app->add_flag("--trace-values", options->tracesValues,
+                  "the trace has the values besides that the car tells and no display takes");
+    app->add_flag("--trace-line", options->tracesLine,
+                  "the line's health in the trace, as rows of the object \"line\"");
+    CLI::Option *const script = addPath(app, "--script", &texts->script, "FILE|-",
+                                        "carries out commands, one a line; - is standard input");
+    app->add_flag("--strict", options->isStrict,
+                  "the script's first error or unmet expectation ends the run with status 1")
+        ->needs(script);
+    addPath(app, "--junit", &texts->junit, "FILE", "writes what became of the script's lines as a JUnit file")
+        ->needs(script);
     addPath(app, "--record", &texts->record, "FILE|-",
             "writes the serial line's bytes to a log; - is standard output");
     addPath(app, "--save-bad", &texts->saveBad, "FILE",
@@ -199,6 +212,7 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->scenario = QString::fromStdString(texts.scenario);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
+    options->junit = QString::fromStdString(texts.junit);
     options->record = QString::fromStdString(texts.record);
     options->saveBad = QString::fromStdString(texts.saveBad);
 }
@@ -243,6 +257,7 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
     }
     readSettings(texts, this);
     hasDecoderBox = app.count("--decoder-box") != 0;
+    hasSeed = app.count("--seed") != 0;
     if (app.count("--port") != 0) {
         productValues.insert("CANPortName", QString::fromStdString(texts.port));
     }
@@ -256,5 +271,5 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
     } else if (hasDecoderBox && canBusType() == 0) {
         *error = "--decoder-box needs --can-bus-type: which box is it?";
     }
-    return error->isEmpty();
+    return error->isEmpty() && (!command || command->apply(this, error));
 }

@@ -1,6 +1,8 @@
 #ifndef HEADUNITOPTIONS_H
 #define HEADUNITOPTIONS_H
 
+#include "replaylog.h"
+
 #include <QDateTime>
 #include <QMap>
 #include <QSize>
@@ -8,10 +10,13 @@
 #include <QVariant>
 
 #include <functional>
+#include <optional>
 
 namespace CLI {
 class App;
 }
+
+struct HeadUnitOptions;
 
 /// A sub-command that runs the unit: it takes the unit's options and some of its own.
 struct UnitCommand
@@ -19,6 +24,9 @@ struct UnitCommand
     const char *name;
     const char *description;
     std::function<void(CLI::App *)> addOptions;
+    /// Sets what the command's own options mean for the unit, once all are read. False, with the reason in
+    /// \a error, when they are wrong.
+    std::function<bool(HeadUnitOptions *options, QString *error)> apply;
 };
 
 /// What the command line of `headunit` asks for.
@@ -36,15 +44,23 @@ struct HeadUnitOptions
     bool isHeadless = false;
     QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
-    QString scenario;        ///< of the decoder box; empty for none
-    QString trace;           ///< file, "-" for standard output, empty for none
-    QString script;          ///< file, "-" for standard input, empty for none
+    QString scenario;          ///< of the decoder box; empty for none
+    QString trace;             ///< file, "-" for standard output, empty for none
+    bool tracesValues = false; ///< what no display takes, too
+    QString script;            ///< file, "-" for standard input, empty for none
+    bool isStrict = false;     ///< the script's first error ends the run
+    QString junit;             ///< file for what became of the script's lines; empty for none
+    bool isUnpaced = false;    ///< bytes take no time on the box's line
+    quint32 seed = 0;          ///< of the chances on the box's line; counts when hasSeed
+    bool hasSeed = false;
     QString record;          ///< file for the line's log, "-" for standard output, empty for none
     QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
-    bool listsPorts = false; ///< and nothing else
+    bool tracesLine = false; ///< the line's health in the trace
+    std::optional<ReplayOptions> replay; ///< a log in place of a box
+    bool listsPorts = false;             ///< and nothing else
     bool wantsHelp = false;
     QString version; ///< "headunit 1.0.0 (Qt 5.15.8)" when that was asked for, and nothing else
-    QString usage; ///< what there is to ask for; set by parse()
+    QString usage;   ///< what there is to ask for; set by parse()
 
     /// Reads \a arguments, the program's name first; needs no application object. \a command is the
     /// sub-command in front of them, null for none. False, with the reason in \a error, when they are wrong.

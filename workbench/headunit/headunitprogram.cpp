@@ -2,11 +2,16 @@
 
 #include "boxcatalog.h"
 #include "boxpage.h"
+#include "callwatch.h"
 #include "decoderbox.h"
+#include "deskmemory.h"
 #include "deskwindow.h"
 #include "headunit.h"
 #include "lineoutput.h"
+#include "linereporter.h"
+#include "linetrace.h"
 #include "quitonsignals.h"
+#include "replayrun.h"
 #include "scenarioplayer.h"
 #include "scriptrunner.h"
 #include "sidepanel.h"
@@ -84,13 +89,21 @@ HeadUnitProgram::HeadUnitProgram(const HeadUnitOptions &options, QObject *parent
 
 HeadUnitProgram::~HeadUnitProgram()
 {
+    if (const DeskWindow *desk = qobject_cast<DeskWindow *>(m_window.get())) {
+        DeskMemory().store(desk, int(m_options.canBusType()));
+    }
     // The window shows the unit, and the plug-in's windows lie in it.
     m_script.reset();
     if (m_unit) {
         m_unit->unloadPlugin();
     }
     m_window.reset();
+    m_replay.reset();
+    m_watch.reset();
     OrbTrace::setListener(nullptr);
+    if (m_report.isOpen() && !m_report.write(m_options.script)) {
+        std::fprintf(stderr, "headunit: %s could not be written\n", qPrintable(m_options.junit));
+    }
 }
 
 bool HeadUnitProgram::begin(QString *error)
@@ -110,6 +123,10 @@ bool HeadUnitProgram::begin(QString *error)
     if (!startRecorder(error)) {
         return false;
     }
+    if (m_replay) {
+        m_replay->begin(m_unit->lineRecorder());
+    }
+    watchLine();
     openScreen();
     const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
     if (!m_unit->loadPlugin(plugin, error)) {
@@ -142,9 +159,12 @@ bool HeadUnitProgram::openTrace(QString *error)
             m_output->waitForReader();
         }
     }
-    m_writer.reset(new TraceWriter(m_output.get()));
+    m_writer.reset(new TraceWriter(m_output.get(), m_options.tracesValues));
     if (isTraced) {
         OrbTrace::setListener(m_writer.get());
+    }
+    if (!m_options.script.isEmpty()) {
+        m_watch.reset(new CallWatch(OrbTrace::listener));
     }
     return true;
 }
@@ -173,6 +193,19 @@ void HeadUnitProgram::configureUnit()
     sayWhyNoDecoder(m_options);
 }
 
+void HeadUnitProgram::watchLine()
+{
+    LineHealth *health = m_unit->lineHealth();
+    health->setType(int(m_options.canBusType()));
+    health->setPort(m_options.canBusType() == 0
+                        ? QString()
+                        : OrbApplication::instance()->getOrbProductValue("CANPortName").toString());
+    if (m_options.tracesLine) {
+        LineReporter *reporter = new LineReporter(health, m_box.get(), m_unit.get());
+        new LineTrace(reporter, m_writer.get(), reporter);
+    }
+}
+
 bool HeadUnitProgram::startRecorder(QString *error)
 {
     LineRecorder *recorder = m_unit->lineRecorder();
@@ -190,15 +223,53 @@ bool HeadUnitProgram::startRecorder(QString *error)
 
 bool HeadUnitProgram::openBox(QString *error)
 {
+    if (m_options.replay) {
+        return openReplay(error);
+    }
     if (!m_options.hasDecoderBox) {
         return true;
     }
     m_box.reset(BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error));
-    if (!m_box || !m_box->open(QString(), error)) {
+    if (!m_box) {
         return false;
     }
-    OrbHost::instance()->setProductValue("CANPortName", m_box->portPath());
+    if (m_options.isUnpaced) {
+        m_box->setUnpaced();
+    }
+    if (m_options.hasSeed) {
+        m_box->faults()->setSeed(m_options.seed);
+    }
+    m_lineFolder.reset(new QTemporaryDir);
+    const QString link = m_lineFolder->filePath("box");
+    if (!m_box->open(link, error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", link);
     return m_options.scenario.isEmpty() || openScenario(error);
+}
+
+bool HeadUnitProgram::openReplay(QString *error)
+{
+    m_replay.reset(new ReplayRun(*m_options.replay, int(m_options.canBusType())));
+    if (!m_replay->open(error)) {
+        return false;
+    }
+    OrbHost::instance()->setProductValue("CANPortName", m_replay->portPath());
+    connect(m_replay.get(), &ReplayRun::finished, this,
+            [this] { QTimer::singleShot(LastPackagesMs, this, &HeadUnitProgram::endReplay); });
+    return true;
+}
+
+// A script, and a window, go on without the log.
+void HeadUnitProgram::endReplay()
+{
+    const QByteArray text = m_options.replay->asJson ? m_replay->json() : m_replay->summary().toLocal8Bit();
+    const bool isTraceOnOutput = m_output && m_traceFile.handle() == STDOUT_FILENO;
+    std::fprintf(isTraceOnOutput ? stderr : stdout, "%s\n", text.constData());
+    std::fflush(stdout);
+    if (m_options.isHeadless && m_options.script.isEmpty()) {
+        QCoreApplication::exit(m_replay->isFine() ? 0 : 1);
+    }
 }
 
 // Read before anything else starts, played when the unit has opened its port.
@@ -224,7 +295,8 @@ bool HeadUnitProgram::openScenario(QString *error)
 bool HeadUnitProgram::hasAnEnd(QString *error) const
 {
     const bool hasEnd = !m_options.virtualStart.isValid() || !m_options.script.isEmpty() ||
-                        (m_player && !m_player->isEndless());
+                        (m_player && !m_player->isEndless()) ||
+                        (m_options.replay && !m_options.replay->loops);
     if (!hasEnd) {
         *error = "under the virtual clock this would never end: it takes a script, or a scenario with an end";
     }
@@ -261,7 +333,9 @@ void HeadUnitProgram::openScreen()
         m_window.reset(new UnitScreen(m_options.screenSize));
         m_window->setUpdatesEnabled(false); // nobody looks; a screenshot paints all the same
     } else {
-        m_window.reset(new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize));
+        DeskWindow *desk = new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize);
+        m_window.reset(desk);
+        DeskMemory().restore(desk);
     }
     m_window->show();
 }
@@ -269,7 +343,8 @@ void HeadUnitProgram::openScreen()
 bool HeadUnitProgram::openScript(QString *error)
 {
     return m_options.script.isEmpty() ||
-           open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error);
+           (open(&m_scriptFile, m_options.script, QFile::ReadOnly | QFile::Unbuffered, STDIN_FILENO, error) &&
+            (m_options.junit.isEmpty() || m_report.open(m_options.junit, error)));
 }
 
 void HeadUnitProgram::startScript()
@@ -277,6 +352,16 @@ void HeadUnitProgram::startScript()
     if (!m_scriptFile.isOpen()) {
         return;
     }
-    m_script.reset(new ScriptRunner(m_scriptFile.handle(), m_unit.get(), m_writer.get()));
+    const ScriptRunner::Surroundings surroundings = {m_unit.get(), m_box.get(), m_watch.get(), m_writer.get(),
+                                                     m_report.isOpen() ? &m_report : nullptr};
+    m_script.reset(new ScriptRunner(m_scriptFile.handle(), surroundings, m_options.isStrict));
     connect(m_script.get(), &ScriptRunner::finished, qApp, &QCoreApplication::quit);
+    connect(m_script.get(), &ScriptRunner::failed, this, &HeadUnitProgram::failStrictly);
+}
+
+void HeadUnitProgram::failStrictly(int line, const QString &command, const QString &reason)
+{
+    std::fprintf(stderr, "headunit: %s:%d: %s: %s\n", qPrintable(m_options.script), line, qPrintable(command),
+                 qPrintable(reason));
+    QCoreApplication::exit(1);
 }

@@ -3,14 +3,19 @@
 
 #include "headunitoptions.h"
 
+#include "junitreport.h"
+
 #include <QFile>
 #include <QObject>
+#include <QTemporaryDir>
 
 #include <memory>
 
+class CallWatch;
 class DecoderBox;
 class HeadUnit;
 class LineOutput;
+class ReplayRun;
 class ScenarioPlayer;
 class ScriptRunner;
 class TraceWriter;
@@ -37,7 +42,10 @@ private:
     bool openTrace(QString *error);
     void configureUnit();
     bool startRecorder(QString *error);
+    void watchLine();
     bool openBox(QString *error);
+    bool openReplay(QString *error);
+    void endReplay();
     bool openScenario(QString *error);
     bool hasAnEnd(QString *error) const;
     void playOnce();
@@ -45,17 +53,22 @@ private:
     void openScreen();
     bool openScript(QString *error);
     void startScript();
+    void failStrictly(int line, const QString &command, const QString &reason);
 
     HeadUnitOptions m_options;
     QFile m_traceFile;
     QFile m_scriptFile;
     std::unique_ptr<LineOutput> m_output;
     std::unique_ptr<TraceWriter> m_writer;
+    std::unique_ptr<QTemporaryDir> m_lineFolder; // of the link that stays when the box's line comes back
     std::unique_ptr<DecoderBox> m_box;
+    std::unique_ptr<ReplayRun> m_replay;
+    JUnitReport m_report;
     ScenarioPlayer *m_player = nullptr;
     bool m_hasPlayed = false;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<HeadUnit> m_unit;
+    std::unique_ptr<CallWatch> m_watch;
     std::unique_ptr<ScriptRunner> m_script;
 };
 

@@ -1,7 +1,8 @@
 #include "jsontext.h"
 
-#include "orbctrlkeys.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
+#include "orbkeyset.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,10 +31,10 @@ QByteArray member(const char *key, const QByteArray &value)
     return '"' + QByteArray(key) + "\": " + value;
 }
 
-QByteArray fromKeySet(const CtrlKeyList &keys)
+QByteArray fromKeySet(const OrbKeySet &keys)
 {
     QByteArrayList records;
-    for (const CtrlKeyPair &key : keys) {
+    for (const OrbKeyRecord &key : keys) {
         records << '{' + member("keyCode", QByteArray::number(key.keyCode)) + ", " +
                        member("ctrlValue", QByteArray::number(key.ctrlValue)) + '}';
     }
@@ -42,7 +43,7 @@ QByteArray fromKeySet(const CtrlKeyList &keys)
 
 bool isKeySetRegistration(const OrbEvent &event)
 {
-    return event.getSource() == 400 && event.getId() == 1 && int(event.type()) == OrbEvent::NotifyType &&
+    return event.getSource() == 400 && event.getId() == 1 && int(event.type()) == OrbEventType::Notify &&
            event.getParam() == 20497 && event.getParam2() == 21;
 }
 
@@ -52,7 +53,7 @@ QByteArray fromEventVariant(const OrbEvent &event)
     if (variant.userType() != QMetaType::VoidStar) {
         return JsonText::fromVariant(variant);
     }
-    const auto *keys = static_cast<const CtrlKeyList *>(variant.value<void *>());
+    const auto *keys = static_cast<const OrbKeySet *>(variant.value<void *>());
     // Behind any other address nobody knows what there is.
     return keys && isKeySetRegistration(event) ? fromKeySet(*keys) : QByteArray("null");
 }

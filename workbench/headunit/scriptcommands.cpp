@@ -1,5 +1,7 @@
 #include "scriptcommands.h"
 
+#include "callwatch.h"
+#include "expectation.h"
 #include "frontscreen.h"
 #include "headunit.h"
 #include "numbertext.h"
@@ -15,7 +17,6 @@
 
 namespace {
 
-constexpr int ManyTexts = 64;
 constexpr quint32 LanguageNotification = 20486;
 constexpr quint32 LongestWaitMs = 24 * 3600 * 1000;
 constexpr quint32 FirstEventType = QEvent::User; // the types below act on any object, whatever it is
@@ -49,45 +50,20 @@ bool readEventTexts(const QStringList &texts, OrbEvent *event)
 
 } // namespace
 
-ScriptCommands::ScriptCommands(HeadUnit *unit, QObject *parent) : QObject(parent), m_unit(unit) {}
+ScriptCommands::ScriptCommands(HeadUnit *unit, DecoderBox *box, CallWatch *watch, QObject *parent)
+    : QObject(parent), m_unit(unit), m_box(box), m_watch(watch)
+{}
 
-const QVector<ScriptCommands::Row> &ScriptCommands::rows()
-{
-    using C = ScriptCommands;
-    static const QVector<Row> table = {
-        {"event", "TYPE [PARAM [PARAM2]] [bytes=HEX] [string=TEXT]", 1, 3, 0, 2, &C::appEvent},
-        {"show", "APPID", 1, 1, 0, 0, &C::show},
-        {"notify", "PARAM [PARAM2]", 1, 2, 0, 0, &C::notify},
-        {"state", "STATE MASK", 2, 2, 0, 0, &C::state},
-        {"key", "CODE press|repeat|release", 1, 1, 1, 1, &C::key},
-        {"mode", "MODE [OTHER]", 1, 2, 0, 0, &C::mode},
-        {"disk", "DISK STATUS [PATH...]", 2, 2, 0, ManyTexts, &C::disk},
-        {"tag", "ID VALUE", 1, 1, 1, 1, &C::tag},
-        {"product", "KEY VALUE", 0, 0, 2, 2, &C::product},
-        {"front", "APPID", 1, 1, 0, 0, &C::front},
-        {"language", "en|de|zh_CN", 0, 0, 1, 1, &C::language},
-        {"windows", "", 0, 0, 0, 0, &C::windows},
-        {"open", "TITLE", 0, 0, 1, ManyTexts, &C::open},
-        {"text", "NAME", 0, 0, 1, 1, &C::textOf},
-        {"style", "NAME", 0, 0, 1, 1, &C::styleOf},
-        {"click", "NAME", 0, 0, 1, 1, &C::click},
-        {"check", "N", 1, 1, 0, 0, &C::check},
-        {"rows", "", 0, 0, 0, 0, &C::listRows},
-        {"row", "N [COLUMN]", 1, 2, 0, 0, &C::row},
-        {"wait", "MS", 1, 1, 0, 0, &C::wait},
-        {"screenshot", "FILE", 0, 0, 1, 1, &C::screenshot},
-        {"save", "FILE", 0, 0, 1, 1, &C::save},
-        {"quit", "", 0, 0, 0, 0, &C::quit},
-    };
-    return table;
-}
-
+ScriptCommands::~ScriptCommands() = default;
 ScriptCommands::Outcome ScriptCommands::carryOut(const QStringList &words)
 {
     m_result.clear();
     m_error.clear();
     for (const Row &row : rows()) {
         if (words.first() == row.name) {
+            if (row.handler != &ScriptCommands::expect && row.handler != &ScriptCommands::wait) {
+                m_watch->forget();
+            }
             return readArguments(row, words.mid(1))
                        ? (this->*row.handler)()
                        : fail(QString("expected: %1 %2").arg(row.name, row.arguments).trimmed());
@@ -277,6 +253,22 @@ ScriptCommands::Outcome ScriptCommands::save()
 ScriptCommands::Outcome ScriptCommands::quit()
 {
     return Ends;
+}
+
+ScriptCommands::Outcome ScriptCommands::expect()
+{
+    m_expectation.reset(new Expectation(m_watch));
+    if (!m_expectation->read(m_texts, &m_error)) {
+        return Failed;
+    }
+    connect(m_expectation.get(), &Expectation::decided, this, [this] {
+        const QString outcome = m_expectation->outcome();
+        m_result = {outcome};
+        m_error = m_expectation->isMet() ? QString() : QString("not met: %1").arg(outcome);
+        Q_EMIT decided();
+    });
+    m_expectation->begin();
+    return Expects;
 }
 
 ScriptCommands::Outcome ScriptCommands::fail(const QString &error)

@@ -7,7 +7,11 @@
 #include <QVector>
 
 #include <functional>
+#include <memory>
 
+class CallWatch;
+class DecoderBox;
+class Expectation;
 class HeadUnit;
 class QWidget;
 
@@ -18,15 +22,27 @@ class ScriptCommands : public QObject
 
 public:
     enum Outcome {
-        Failed, ///< error() says why; nothing happened
-        Done,   ///< result() stands
-        Posted, ///< it acts from the event loop; result() stands when that has gone round
-        Waits,  ///< nothing goes on for waitMs()
-        Ends    ///< the script is over
+        Failed,  ///< error() says why; nothing happened
+        Done,    ///< result() stands
+        Posted,  ///< it acts from the event loop; result() stands when that has gone round
+        Waits,   ///< nothing goes on for waitMs()
+        Expects, ///< decided() comes; then result() stands, or error() when the expectation was not met
+        Ends     ///< the script is over
     };
 
-    /// \a unit must outlive the object.
-    explicit ScriptCommands(HeadUnit *unit, QObject *parent = nullptr);
+    /// A command as a reader sees it.
+    struct Syntax
+    {
+        QString name;
+        QString arguments;
+        QString help;
+    };
+    /// All of them, in the order in which they should be told.
+    static QVector<Syntax> syntax();
+
+    /// \a unit, \a box (null for none) and \a watch must outlive the object.
+    ScriptCommands(HeadUnit *unit, DecoderBox *box, CallWatch *watch, QObject *parent = nullptr);
+    ~ScriptCommands() override;
 
     /// Carries out the command \a words: its name and its arguments, at least one word.
     Outcome carryOut(const QStringList &words);
@@ -35,12 +51,16 @@ public:
     const QString &error() const { return m_error; }
     int waitMs() const { return m_waitMs; }
 
+Q_SIGNALS:
+    void decided();
+
 private:
     /// Arguments are numbers first, texts behind them.
     struct Row
     {
         const char *name;
         const char *arguments;
+        const char *help;
         int minNumbers;
         int maxNumbers;
         int minTexts;
@@ -76,13 +96,25 @@ private:
     Outcome screenshot();
     Outcome save();
     Outcome quit();
+    Outcome expect();
+    Outcome set();
+    Outcome press();
+    Outcome orderBox();
+    Outcome list();
+    Outcome help();
 
+    Outcome order(const QString &line);
+    bool listProperties();
+    bool listKeys();
     Outcome fail(const QString &error);
     Outcome done(const QVariant &result);
     Outcome postedIf(bool ok) const { return ok ? Posted : Failed; }
     Outcome post(const std::function<void()> &effect);
 
     HeadUnit *m_unit;
+    DecoderBox *m_box;
+    CallWatch *m_watch;
+    std::unique_ptr<Expectation> m_expectation; // under way
     QVector<quint32> m_numbers;
     QStringList m_texts;
     QVariantList m_result;

@@ -15,13 +15,19 @@ constexpr int SettlingRounds = 2;
 
 } // namespace
 
-ScriptRunner::ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, QObject *parent)
-    : QObject(parent), m_lines(descriptor), m_commands(unit), m_writer(writer)
+ScriptRunner::ScriptRunner(int descriptor, const Surroundings &surroundings, bool isStrict, QObject *parent)
+    : QObject(parent)
+    , m_lines(descriptor)
+    , m_commands(surroundings.unit, surroundings.box, surroundings.watch)
+    , m_writer(surroundings.writer)
+    , m_report(surroundings.report)
+    , m_isStrict(isStrict)
 {
     m_waitTimer.setSingleShot(true);
     m_waitTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_waitTimer, &QTimer::timeout, this, &ScriptRunner::answer);
     connect(&m_lines, &DescriptorLines::arrived, this, &ScriptRunner::work);
+    connect(&m_commands, &ScriptCommands::decided, this, &ScriptRunner::onDecided);
     if (VirtualClock::isOn()) {
         m_idleNotifier.reset(new QSocketNotifier(VirtualClock::idleDescriptor(), QSocketNotifier::Read));
         connect(m_idleNotifier.get(), &QSocketNotifier::activated, this, &ScriptRunner::onIdle);
@@ -32,9 +38,12 @@ ScriptRunner::ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, 
 void ScriptRunner::work()
 {
     while (isFree() && m_lines.hasLine()) {
-        QString line;
-        if (m_lines.takeLine(&line)) {
-            carryOut(line.trimmed());
+        const bool isWhole = m_lines.takeLine(&m_line);
+        ++m_lineNumber;
+        m_line = m_line.trimmed();
+        m_lineClock.start();
+        if (isWhole) {
+            carryOut(m_line);
         } else {
             answerError("the line is too long");
         }
@@ -72,6 +81,8 @@ void ScriptRunner::carryOut(const QString &line)
     case ScriptCommands::Waits:
         m_waitTimer.start(m_commands.waitMs());
         break;
+    case ScriptCommands::Expects:
+        break;
     case ScriptCommands::Ends:
         m_lines.stop();
         answer();
@@ -93,6 +104,18 @@ void ScriptRunner::answer()
 {
     m_isBusy = false;
     m_writer->called("script", m_command, m_commands.result());
+    report(JUnitReport::Passed, QString());
+    goOn();
+}
+
+void ScriptRunner::onDecided()
+{
+    if (m_commands.error().isEmpty()) {
+        answer();
+        return;
+    }
+    m_isBusy = false;
+    answerError(m_commands.error(), JUnitReport::Failed);
     goOn();
 }
 
@@ -113,7 +136,20 @@ void ScriptRunner::onIdle()
     work();
 }
 
-void ScriptRunner::answerError(const QString &reason)
+void ScriptRunner::answerError(const QString &reason, JUnitReport::Outcome outcome)
 {
     m_writer->called("script", "error", {reason});
+    report(outcome, reason);
+    if (m_isStrict) {
+        m_isOver = true;
+        m_lines.stop();
+        Q_EMIT failed(m_lineNumber, m_line, reason);
+    }
+}
+
+void ScriptRunner::report(JUnitReport::Outcome outcome, const QString &message)
+{
+    if (m_report) {
+        m_report->add(m_lineNumber, m_line, double(m_lineClock.elapsed()) / 1000, outcome, message);
+    }
 }

@@ -2,9 +2,11 @@
 #define SCRIPTRUNNER_H
 
 #include "descriptorlines.h"
+#include "junitreport.h"
 #include "scriptcommands.h"
 #include "virtualclock.h"
 
+#include <QElapsedTimer>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -21,26 +23,41 @@ class TraceWriter;
 /// time is over, and time stands still while the next line is not there yet: it makes no difference how
 /// quickly they are written.
 ///
-/// A line that cannot be carried out is answered as the call "error" with the reason. Empty lines and those
-/// that begin with # are passed over.
+/// A line that cannot be carried out, or an expectation that is not met, is answered as the call "error" with
+/// the reason. Empty lines and those that begin with # are passed over.
 class ScriptRunner : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Reads from \a descriptor, which stays the caller's. \a unit and \a writer must outlive the runner.
-    ScriptRunner(int descriptor, HeadUnit *unit, TraceWriter *writer, QObject *parent = nullptr);
+    /// What the script acts on. All must outlive the runner; \a box may be null, \a report as well.
+    struct Surroundings
+    {
+        HeadUnit *unit;
+        DecoderBox *box;
+        CallWatch *watch;
+        TraceWriter *writer;
+        JUnitReport *report;
+    };
+
+    /// Reads from \a descriptor, which stays the caller's. With \a isStrict the first error is the last line.
+    ScriptRunner(int descriptor, const Surroundings &surroundings, bool isStrict, QObject *parent = nullptr);
 
 Q_SIGNALS:
     /// After `quit` or the end of the input; nothing is carried out any more.
     void finished();
+    /// In place of finished(), when a strict script met an error: \a line, counted from 1, the command, and
+    /// what is wrong.
+    void failed(int line, const QString &command, const QString &reason);
 
 private:
     void work();
     void carryOut(const QString &line);
     void settle(int rounds);
     void answer();
-    void answerError(const QString &reason);
+    void answerError(const QString &reason, JUnitReport::Outcome outcome = JUnitReport::Broken);
+    void onDecided();
+    void report(JUnitReport::Outcome outcome, const QString &message);
     void goOn();
     void onIdle();
     bool isFree() const { return m_isIdle && !m_isBusy && !m_isOver; }
@@ -48,6 +65,11 @@ private:
     DescriptorLines m_lines;
     ScriptCommands m_commands;
     TraceWriter *m_writer;
+    JUnitReport *m_report;
+    bool m_isStrict;
+    int m_lineNumber = 0;
+    QString m_line;
+    QElapsedTimer m_lineClock;
     QTimer m_waitTimer;
     QString m_command;     // under way
     bool m_isBusy = false; // with m_command

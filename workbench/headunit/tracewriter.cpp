@@ -3,7 +3,7 @@
 #include "jsontext.h"
 #include "lineoutput.h"
 
-TraceWriter::TraceWriter(LineOutput *output) : m_output(output)
+TraceWriter::TraceWriter(LineOutput *output, bool withValues) : m_output(output), m_withValues(withValues)
 {
     m_clock.start();
 }
@@ -16,6 +16,13 @@ void TraceWriter::called(const QString &object, const QString &call, const QVari
 void TraceWriter::eventCalled(const QString &call, const OrbEvent &event)
 {
     write("OrbApplication", call, '[' + JsonText::fromEvent(event) + ']');
+}
+
+void TraceWriter::valueTold(const QString &name, const QVariant &value)
+{
+    if (m_withValues) {
+        write("car", name, JsonText::fromVariant(QVariantList{value}));
+    }
 }
 
 void TraceWriter::write(const QString &object, const QString &call, const QByteArray &args)

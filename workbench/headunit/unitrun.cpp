@@ -1,11 +1,16 @@
 #include "unitrun.h"
 
+#include "carpicker.h"
 #include "checkcommand.h"
 #include "command.h"
+#include "deskmemory.h"
+#include "deskstyle.h"
 #include "headunitoptions.h"
 #include "headunitprogram.h"
+#include "portlist.h"
 
 #include "orbapplication.h"
+#include "orbhost.h"
 #include "virtualclock.h"
 
 #include <cstdio>
@@ -74,6 +79,34 @@ bool readOptions(const QStringList &arguments, const UnitCommand *command, HeadU
     return !options->wantsHelp && options->version.isEmpty() && !options->listsPorts;
 }
 
+// Somebody who has started the desk without a word is asked. False when there is no answer.
+bool askForCar(HeadUnitOptions *options)
+{
+    const bool isBare = !options->isHeadless && options->canBusType() == 0 && !options->hasDecoderBox &&
+                        !options->productValues.contains("CANPortName") && options->script.isEmpty() &&
+                        options->trace.isEmpty();
+    if (!isBare) {
+        return true;
+    }
+    QStringList ports;
+    for (const SerialDevice &device : PortList::all()) {
+        ports << device.path;
+    }
+    const DeskMemory memory;
+    DeskStyle::load();
+    OrbHost::instance()->setLanguage(memory.language());
+    CarPicker picker(memory.canBusType(), ports);
+    if (picker.exec() != QDialog::Accepted) {
+        return false;
+    }
+    options->tags.insert(HeadUnitOptions::CanBusTypeTag, uint(picker.canBusType()));
+    options->hasDecoderBox = picker.port().isEmpty();
+    if (!options->hasDecoderBox) {
+        options->productValues.insert("CANPortName", picker.port());
+    }
+    return true;
+}
+
 } // namespace
 
 int runUnit(const QStringList &arguments, const UnitCommand *command)
@@ -99,6 +132,9 @@ int runUnit(const QStringList &arguments, const UnitCommand *command)
     const QtMessageHandler usual = qInstallMessageHandler(sayThatDisplayFails);
     OrbApplication application(wordCount, words);
     qInstallMessageHandler(usual);
+    if (!askForCar(&options)) {
+        return Command::Fine;
+    }
     HeadUnitProgram program(options);
     QString error;
     if (!program.begin(&error)) {

@@ -111,10 +111,12 @@ bool beginsWithNumber(const Cursor &line)
     if (count < 3 || !isOneOf(behind.peek(), " \t,;:")) {
         return false;
     }
+    const bool isLabel = behind.peek() == ':' && behind.peek(1) == ' ';
     skip(&behind, " \t,;:");
-    const char first = behind.peek();
-    return count % 2 != 0 || hexDigits(behind) == 2 || (first == '0' && behind.peek(1) == 'x') ||
-           isOneOf(first, "<>");
+    const bool isMarked = behind.peek() == '0' && behind.peek(1) == 'x';
+    LineRecord::Kind kind = LineRecord::ToUnit;
+    return isLabel || count % 2 != 0 || hexDigits(behind) == 2 || isMarked ||
+           HexLine::takeDirection(&behind, &kind);
 }
 
 // "00000010  2e 20" and "00000010: 2e20".

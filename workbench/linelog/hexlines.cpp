@@ -3,6 +3,10 @@
 #include "hexline.h"
 #include "orblog.h"
 
+namespace {
+const char HeaderMark[] = "# hexadecimal lines of an orblog 1";
+} // namespace
+
 TextLogReader::Outcome HexLinesReader::take(const QByteArray &line, LineRecord *record)
 {
     const QByteArray text = line.trimmed();
@@ -12,13 +16,11 @@ TextLogReader::Outcome HexLinesReader::take(const QByteArray &line, LineRecord *
             *record = state;
             return Record;
         }
-        if (m_isInHeader && OrbLog::read(text, &m_header) && m_header.start.isValid()) {
-            m_clock.setStart(m_header.start);
-        }
+        takeComment(text);
         return Comment;
     }
-    if (text.isEmpty() || text.startsWith(';') || text.startsWith("//") || text.startsWith("--") ||
-        text.startsWith('*')) {
+    if (text.isEmpty() || text.startsWith(';') || text.startsWith("//") ||
+        (text.startsWith("--") && !text.startsWith("-->")) || text.startsWith('*')) {
         return Comment;
     }
     TimeStamp stamp;
@@ -27,6 +29,17 @@ TextLogReader::Outcome HexLinesReader::take(const QByteArray &line, LineRecord *
     }
     setTime(stamp, record);
     return Record;
+}
+
+// People write comments that look like a header's; ours begins with a line that says so.
+void HexLinesReader::takeComment(const QByteArray &text)
+{
+    if (line() == 1) {
+        m_isInHeader = text == HeaderMark;
+    }
+    if (m_isInHeader && OrbLog::read(text, &m_header) && m_header.start.isValid()) {
+        m_clock.setStart(m_header.start);
+    }
 }
 
 void HexLinesReader::setTime(const TimeStamp &stamp, LineRecord *record)
@@ -65,7 +78,7 @@ TextLogReader::Outcome PatternReader::take(const QByteArray &line, LineRecord *r
 void HexLinesWriter::putHeader(const LineLogHeader &header)
 {
     const QByteArray lines = OrbLog::lines(header);
-    put(lines.mid(lines.indexOf('\n') + 1)); // without what makes it a log of ours
+    put(HeaderMark + lines.mid(lines.indexOf('\n')));
 }
 
 void HexLinesWriter::putRecord(const LineRecord &record)

@@ -21,8 +21,10 @@ protected:
     void setTime(const TimeStamp &stamp, LineRecord *record);
 
 private:
+    void takeComment(const QByteArray &text);
+
     LogClock m_clock;
-    bool m_isInHeader = true;
+    bool m_isInHeader = false;
 };
 
 /// Reads lines as a regular expression takes them apart.

@@ -123,6 +123,17 @@ QStringList LineLogFormats::endings()
     return endings;
 }
 
+QString LineLogFormats::patternComplaint(const QString &pattern)
+{
+    const QRegularExpression expression(pattern);
+    if (!expression.isValid()) {
+        return QString("the pattern is wrong: %1").arg(expression.errorString());
+    }
+    return pattern.isEmpty() || expression.namedCaptureGroups().contains("hex")
+               ? QString()
+               : QString("the pattern has no group named hex: (?<hex>...)");
+}
+
 std::unique_ptr<LineLogReader> LineLogFormats::reader(const QString &path, const ReadOptions &options,
                                                       QString *error)
 {
@@ -144,15 +155,13 @@ std::unique_ptr<LineLogReader> LineLogFormats::reader(std::unique_ptr<QIODevice>
                                                       QString *error)
 {
     const QByteArray beginning = device->peek(LookedAt);
-    const QRegularExpression pattern(options.pattern);
     std::unique_ptr<LineLogReader> reader;
+    *error = patternComplaint(options.pattern);
+    if (!error->isEmpty()) {
+        return nullptr;
+    }
     if (!options.pattern.isEmpty()) {
-        if (!pattern.isValid() || !pattern.namedCaptureGroups().contains("hex")) {
-            *error = pattern.isValid() ? QString("the pattern has no group named hex: (?<hex>...)")
-                                       : QString("the pattern is wrong: %1").arg(pattern.errorString());
-            return nullptr;
-        }
-        reader = std::make_unique<PatternReader>(std::move(device), pattern);
+        reader = std::make_unique<PatternReader>(std::move(device), QRegularExpression(options.pattern));
     } else {
         switch (formatOf(beginning, fromEnding(ending), error)) {
         case OrbLogText:

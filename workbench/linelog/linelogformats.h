@@ -34,6 +34,9 @@ struct ReadOptions
         pattern; ///< regular expression of a line, with the named groups time, dir and hex; empty for none
 };
 
+/// What is wrong with \a pattern as one of ReadOptions; empty when nothing is.
+QString patternComplaint(const QString &pattern);
+
 /// A reader for the file \a path, of the format that its content and then its ending tell. Null, with one sentence in
 /// \a error, when it cannot be read, is empty, or holds nothing that looks like a log.
 std::unique_ptr<LineLogReader> reader(const QString &path, const ReadOptions &options, QString *error);

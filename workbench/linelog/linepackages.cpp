@@ -46,6 +46,27 @@ bool LinePackages::next(Item *item)
     return true;
 }
 
+const FrameFormat &LinePackages::formatOf(const QVector<LineRecord> &records)
+{
+    const FrameFormat *best = &FrameFormat::raise();
+    qint64 most = 0;
+    for (const FrameFormat *format : {&FrameFormat::raise(), &FrameFormat::xinHang()}) {
+        LinePackages packages(*format);
+        qint64 bytes = 0;
+        for (const LineRecord &record : records) {
+            packages.feed(record);
+            for (Item item; packages.next(&item);) {
+                bytes += item.piece == LinePiece::Package ? item.record.bytes.size() : 0;
+            }
+        }
+        if (bytes > most) {
+            best = format;
+            most = bytes;
+        }
+    }
+    return *best;
+}
+
 void LinePackages::fetch(LineFramer *framer, LineRecord::Kind kind)
 {
     for (LinePiece piece; framer->next(&piece);) {

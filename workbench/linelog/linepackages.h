@@ -6,6 +6,7 @@
 #include "linerecord.h"
 
 #include <QQueue>
+#include <QVector>
 
 /// The packages of both directions in the records of a log, in order; for formats that hold packages, not chunks.
 class LinePackages
@@ -29,6 +30,9 @@ public:
     void finish();
     /// The next piece, with times that never run backwards; false when there is none before more records come.
     bool next(Item *item);
+
+    /// The format of which most packages stand in \a records; Raise when there are none.
+    static const FrameFormat &formatOf(const QVector<LineRecord> &records);
 
     const FrameFormat &format() const { return m_toUnit.format(); }
 

@@ -19,6 +19,7 @@ enum OptionCode : quint16 {
     Comment = 1,
     PacketFlags = 2,
     InterfaceName = 2,
+    InterfaceDescription = 3,
     SectionApplication = 4,
     InterfaceResolution = 9,
     InterfaceTimeOffset = 14

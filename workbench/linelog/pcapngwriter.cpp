@@ -53,6 +53,7 @@ void PcapngWriter::putHeader(const LineLogHeader &header)
                   option(Pcapng::SectionApplication, "headunit convert")));
     put(block(Pcapng::Interface, number(Pcapng::User0) + number(quint16(0)) + number(quint32(0)),
               option(Pcapng::InterfaceName, header.port.toUtf8().left(MostStates)) +
+                  option(Pcapng::InterfaceDescription, header.type.toUtf8().left(MostStates)) +
                   option(Pcapng::InterfaceResolution, QByteArray(1, char(MicrosecondResolution)))));
 }
 

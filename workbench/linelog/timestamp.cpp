@@ -126,10 +126,10 @@ bool takeDateAndTime(Cursor *cursor, TimeStamp *stamp)
 bool takeSystemTime(Cursor *cursor, TimeStamp *stamp)
 {
     const QByteArray month = cursor->word();
-    const char *const found = month.size() == 3 ? std::strstr(MonthNames, month.constData()) : nullptr;
+    const int found = month.size() == 3 ? int(QByteArray(MonthNames).indexOf(month)) : -1;
     int day = 0;
     cursor->skipBlanks();
-    if (!found || (found - MonthNames) % 3 != 0 || !takeNumber(cursor, 1, 2, &day)) {
+    if (found < 0 || found % 3 != 0 || !takeNumber(cursor, 1, 2, &day)) {
         return false;
     }
     cursor->skipBlanks();

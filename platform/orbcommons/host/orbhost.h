@@ -49,6 +49,9 @@ public:
     /// climate display) out.
     QWidget *frontWindow(bool ignoreOverlays = true) const;
 
+    /// The visible application window on top, whatever dialog lies over it; null: the launcher.
+    QWidget *frontMainWindow() const;
+
     /// Offers a key of the unit to the registered filters, in order; true when one consumed it.
     bool filterKey(unsigned int key, bool pressed, bool held);
 

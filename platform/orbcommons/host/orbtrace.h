@@ -20,6 +20,10 @@ public:
 
     /// "dispatchOrbEvent" or "event" with its record, valid during the call.
     virtual void eventCalled(const QString &call, const OrbEvent &event) = 0;
+
+    /// A value that the plug-in told by a dynamic property of its ProtocolUtils has changed; an invalid \a value is not
+    /// known any more. No call on the framework.
+    virtual void valueTold(const QString &name, const QVariant &value) = 0;
 };
 
 /// The one listener of the process; null when nobody listens, which then costs one test per call.

@@ -36,7 +36,8 @@ public:
     /// Air distribution as a mode; 0xFF: chosen by the car. Others are taken as setWindDirectEx takes them.
     void setWindDirect(int direction);
 
-    /// Fan speed 0 to 7; 0xFF: chosen by the car. Other values count as 7.
+    /// Fan speed 0 to 8; 0xFF: chosen by the car. Other values count as full. The display has seven steps until the
+    /// car tells its eighth.
     void setAirVolume(int level);
 
     /// 0 outside air, 1 recirculation, 0xFF chosen by the car. Other values count as 1.

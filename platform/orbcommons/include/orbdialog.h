@@ -6,28 +6,20 @@
 #include <QDialog>
 
 /// Base of every dialog on the unit's screen. It is drawn inside the screen: an overlay lies over the foot of
-/// the window area and leaves the rest usable; a choice stands in the middle, and what is behind it is dimmed
-/// and takes no touches until the dialog is gone.
+/// the window area and leaves the rest usable; a modal dialog (exec(), setModal) wants an answer: it stands in
+/// the middle, and what is behind it is dimmed and takes no touches until the dialog is gone.
 class ORB_EXPORT OrbDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    enum Kind {
-        Overlay = 0, ///< informs, in the way of nothing (climate)
-        Choice = 1   ///< wants an answer (selection, firmware update)
-    };
-
-    /// \a kind: one of Kind; anything else counts as Overlay. The dialog is put on the unit's screen
-    /// when it becomes visible and taken off it, hidden, when the screen goes. It stays owned by whoever
-    /// built it; one that was built with a parent is deleted after that.
-    explicit OrbDialog(QWidget *parent = nullptr, int kind = Overlay);
+    /// The dialog is put on the unit's screen when it becomes visible and taken off it, hidden, when the
+    /// screen goes. It stays owned by whoever built it; one that was built with a parent is deleted after that.
+    explicit OrbDialog(QWidget *parent = nullptr);
     ~OrbDialog() override;
 
-    int kind() const;
-
 public Q_SLOTS:
-    /// Showing brings the dialog to the front of its kind: overlays lie over windows, choices over both.
+    /// Showing brings the dialog to the front of its kind: overlays lie over windows, modal ones over both.
     /// exec(), open() and show() all come through here.
     void setVisible(bool visible) override;
 
@@ -40,8 +32,6 @@ public Q_SLOTS:
 
 private:
     Q_DISABLE_COPY(OrbDialog)
-    class Private;
-    Private *d;
 };
 
 #endif // ORBDIALOG_H

@@ -20,7 +20,8 @@ class QIODevice;
 ///
 /// A candidate package (a start byte and what follows) that turns out bad costs its start byte only: the
 /// search goes on one byte later, so that a good package inside or behind it is found. One that is not whole
-/// 500 ms after its start byte was read is given up the same way.
+/// 500 ms after its start byte was read is given up the same way. One of 32 bytes or more is bad as well when
+/// good packages stand back to back inside it: its length byte lies, and its checksum fits by chance.
 class ORB_EXPORT ProtocolUtils : public QObject
 {
     Q_OBJECT

@@ -3,8 +3,12 @@
 
 #include "orbdialog.h"
 
-/// Firmware update of an accessory: asks, shows progress, shows the outcome. Buttons: `btnOk` (update),
-/// `btnCancel` (not now, or close).
+/// Firmware update of an accessory: asks, shows progress, shows the outcome. Buttons: `btnOk` (update, try
+/// again), `btnCancel` (not now, or close).
+///
+/// Whoever feeds the accessory sets the dialog's property "everythingGiven" (bool) once the accessory was given
+/// every part of the file, and takes it back when that turns out wrong: only then is a silence the end, and a
+/// disk that is taken out no failure. A percentage tells nothing of it: the accessory asks in any order.
 class ORB_EXPORT UpdateDialog : public OrbDialog
 {
     Q_OBJECT
@@ -17,12 +21,12 @@ public:
     /// with a general text.
     void showUpdateDlg(int kind);
 
-    /// Progress, 0 to 100 %, clamped. The end is 100, or a silence of some seconds near it, since the share
-    /// of the last packet is seldom 100; after a silence before that the user may close the dialog.
+    /// Progress, 0 to 100 %, clamped. After a silence of some seconds the update has ended, or has stalled: the
+    /// user may then close the dialog or try again.
     void updatePercent(int percent);
 
     /// The update failed; \a code is shown with the message. The dialog can then be closed, and one that had
-    /// begun tried again. Ignored when the update has ended well; never shows a hidden dialog.
+    /// begun tried again. The end of one that was given everything; never shows a hidden dialog.
     void setUpdateFailed(int code);
 
 Q_SIGNALS:

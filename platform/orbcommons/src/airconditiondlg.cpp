@@ -10,7 +10,7 @@ namespace {
 
 const int ByTheCar = 0xFF;
 const int AllDirections = 7;
-const int FanLevels = 7;
+const int MostFanLevels = 8;
 const int DisplayHeight = 190;
 
 void trace(const char *call, const QVariantList &args)
@@ -28,7 +28,7 @@ public:
     ClimateState state;
 };
 
-AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent, Overlay), d(new Private)
+AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent), d(new Private)
 {
     setObjectName(QLatin1String("airConditionDlg"));
 }
@@ -95,8 +95,11 @@ void AirConditionDlg::setWindDirect(int direction)
 void AirConditionDlg::setAirVolume(int level)
 {
     trace("setAirVolume", QVariantList() << level);
-    const bool inRange = level >= 0 && level <= FanLevels;
-    d->state.fan = level == ByTheCar ? int(ClimateState::ChosenByCar) : inRange ? level : FanLevels;
+    if (level == MostFanLevels) {
+        d->state.fanLevels = MostFanLevels;
+    }
+    const bool inRange = level >= 0 && level <= d->state.fanLevels;
+    d->state.fan = level == ByTheCar ? int(ClimateState::ChosenByCar) : inRange ? level : d->state.fanLevels;
     update();
 }
 

@@ -10,7 +10,8 @@ namespace {
 
 enum Direction { Feet = 1, Face = 2, Windscreen = 4 };
 
-const int FanLevels = 7;
+const int UsualFanLevels = 7;
+const int HighestFanBar = 64;
 const int Padding = 24;
 const int LargestCentre = 500;
 const int SmallestCentre = 400;
@@ -55,6 +56,7 @@ ClimateState::ClimateState()
     , defrosting(false)
     , direction(0)
     , fan(0)
+    , fanLevels(UsualFanLevels)
     , circulation(0)
 {}
 
@@ -156,16 +158,16 @@ void ClimatePainter::paintFan(const QRect &room, const ClimateState &state)
     } else if (state.fan == ClimateState::ChosenByCar) {
         paintFitted(rest, tr("AUTO"), 36, QFont::Bold, Qt::AlignLeft | Qt::AlignVCenter);
     } else {
-        paintFanBars(rest, state.fan);
+        paintFanBars(rest, state.fan, state.fanLevels);
     }
 }
 
-void ClimatePainter::paintFanBars(const QRect &room, int level)
+void ClimatePainter::paintFanBars(const QRect &room, int level, int levels)
 {
-    const int pitch = room.width() / FanLevels;
+    const int pitch = room.width() / levels;
     m_painter->setPen(Qt::NoPen);
-    for (int i = 0; i < FanLevels; ++i) {
-        const int height = 16 + i * 8;
+    for (int i = 0; i < levels; ++i) {
+        const int height = HighestFanBar - (levels - 1 - i) * 48 / (levels - 1);
         const QRect bar(room.left() + i * pitch, room.center().y() + 32 - height, pitch - 7, height);
         m_painter->setBrush(i < level ? OrbPalette::accent() : OrbPalette::raised());
         m_painter->drawRoundedRect(bar, 4, 4);

@@ -27,7 +27,8 @@ struct ClimateState
     bool automatic;
     bool defrosting;
     int direction;
-    int fan;         ///< 0 to 7, or ChosenByCar
+    int fan;         ///< 0 to fanLevels, or ChosenByCar
+    int fanLevels;   ///< 7, or 8 in a car that was seen to have so many
     int circulation; ///< 0 outside, 1 recirculation, or ChosenByCar
     QString left;
     QString right;
@@ -52,7 +53,7 @@ private:
     void paintTemperature(const QRect &room, const QString &text, double position);
     void paintScale(const QRect &room, double position);
     void paintFan(const QRect &room, const ClimateState &state);
-    void paintFanBars(const QRect &room, int level);
+    void paintFanBars(const QRect &room, int level, int levels);
     void paintDirection(const QRect &room, const ClimateState &state);
     void paintMarks(const QRect &room, const ClimateState &state);
     void paintChip(const QRect &room, bool lit, const QString &text);

@@ -1,13 +1,18 @@
 #include "fingerscrollarea.h"
 
-#include "dragscroller.h"
 #include "orbqtcompat.h"
 
 #include <QAbstractButton>
 #include <QScrollBar>
 
+namespace {
+
+const int DragThreshold = 12; // pixels by which a fingertip trembles
+
+}
+
 FingerScrollArea::FingerScrollArea(QWidget *content, QWidget *parent)
-    : QScrollArea(parent), m_scroller(new DragScroller(verticalScrollBar(), this))
+    : QScrollArea(parent), m_pressY(0), m_lastY(0), m_dragging(false)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
@@ -36,14 +41,15 @@ bool FingerScrollArea::eventFilter(QObject *watched, QEvent *event)
 
     QAbstractButton *button = qobject_cast<QAbstractButton *>(watched);
     const int y = OrbQt::mouseGlobalPos(static_cast<QMouseEvent *>(event)).y();
-    bool taken = false;
     if (type == QEvent::MouseButtonPress) {
-        taken = m_scroller->press(y);
-    } else if (type == QEvent::MouseMove) {
-        taken = m_scroller->move(y);
-    } else {
-        taken = !m_scroller->release();
+        m_pressY = m_lastY = y;
+        m_dragging = false;
+    } else if (type == QEvent::MouseMove && (m_dragging || qAbs(y - m_pressY) >= DragThreshold)) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + m_lastY - y);
+        m_lastY = y;
+        m_dragging = true;
     }
+    const bool taken = m_dragging;
     if (taken && button) {
         button->setDown(false);
     }

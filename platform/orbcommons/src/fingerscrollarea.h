@@ -3,8 +3,6 @@
 
 #include <QScrollArea>
 
-class DragScroller;
-
 /// A vertical scroll area that a finger drags, also where it comes down on a button: the button is then let
 /// go unpressed.
 class FingerScrollArea : public QScrollArea
@@ -21,7 +19,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    DragScroller *m_scroller;
+    int m_pressY;
+    int m_lastY;
+    bool m_dragging;
 };
 
 #endif // FINGERSCROLLAREA_H

@@ -1,6 +1,7 @@
 #include "orbapplication.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost_p.h"
 #include "orbskin.h"
 #include "orbtrace.h"
@@ -63,7 +64,7 @@ void OrbApplication::dispatchOrbEvent(OrbEvent *event)
     if (OrbTrace::listener) {
         OrbTrace::listener->eventCalled("dispatchOrbEvent", *event);
     }
-    if (int(event->type()) == OrbEvent::AppIconType) {
+    if (int(event->type()) == OrbEventType::AppIcon) {
         OrbHostPrivate::get()->setAppIcons(event->getParam(), event->getStringParam());
     }
     Q_EMIT orbEventDispatched(event);
@@ -84,6 +85,7 @@ void OrbApplication::removeKeyFilter(OrbKeyFilter *filter)
 
 bool OrbApplication::event(QEvent *event)
 {
+    // The class is this library's own, whoever built the event: nothing is asked of a plug-in's type information.
     const OrbEvent *orbEvent = dynamic_cast<OrbEvent *>(event);
     if (!orbEvent) {
         return QApplication::event(event);

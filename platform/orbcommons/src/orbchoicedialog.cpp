@@ -66,8 +66,9 @@ QPushButton *dialogButton(const char *name, const QString &text, QWidget *parent
 } // namespace
 
 OrbChoiceDialog::OrbChoiceDialog(const QString &title, const QStringList &texts, int current, QWidget *parent)
-    : OrbDialog(parent, Choice), m_group(new QButtonGroup(this))
+    : OrbDialog(parent), m_group(new QButtonGroup(this))
 {
+    setModal(true);
     setWindowTitle(title);
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(Margin, Margin, Margin, Margin);

@@ -2,31 +2,16 @@
 
 #include "windowstack.h"
 
-class OrbDialog::Private
-{
-public:
-    explicit Private(int dialogKind) : kind(dialogKind == Choice ? Choice : Overlay) {}
-
-    const int kind;
-};
-
-OrbDialog::OrbDialog(QWidget *parent, int kind) : QDialog(parent), d(new Private(kind))
+OrbDialog::OrbDialog(QWidget *parent) : QDialog(parent)
 {
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_NoMousePropagation);
-    const bool choice = d->kind == Choice;
-    WindowStack::instance()->add(this, choice ? WindowStack::ChoiceDialog : WindowStack::OverlayDialog);
+    WindowStack::instance()->add(this, WindowStack::OverlayDialog);
 }
 
 OrbDialog::~OrbDialog()
 {
     WindowStack::instance()->remove(this);
-    delete d;
-}
-
-int OrbDialog::kind() const
-{
-    return d->kind;
 }
 
 void OrbDialog::setVisible(bool visible)
@@ -34,6 +19,7 @@ void OrbDialog::setVisible(bool visible)
     WindowStack *stack = WindowStack::instance();
     stack->traceVisibility(this, visible);
     if (visible) {
+        stack->setKind(this, isModal() ? WindowStack::ModalDialog : WindowStack::OverlayDialog);
         stack->place(this);
     }
     QDialog::setVisible(visible);

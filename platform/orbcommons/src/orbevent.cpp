@@ -6,9 +6,39 @@ OrbEvent::OrbEvent(unsigned int source, unsigned int id, int type)
 
 OrbEvent::~OrbEvent() {}
 
-bool OrbEvent::isOrbEvent(const QEvent *event)
+unsigned int OrbEvent::getSource() const
 {
-    return event && int(event->type()) >= FirstType && int(event->type()) <= LastType;
+    return m_source;
+}
+
+unsigned int OrbEvent::getId() const
+{
+    return m_id;
+}
+
+unsigned int OrbEvent::getParam() const
+{
+    return m_param;
+}
+
+unsigned int OrbEvent::getParam2() const
+{
+    return m_param2;
+}
+
+QByteArray OrbEvent::getByteArrayParam() const
+{
+    return m_bytes;
+}
+
+QString OrbEvent::getStringParam() const
+{
+    return m_string;
+}
+
+QVariant OrbEvent::getVariantParam() const
+{
+    return m_variant;
 }
 
 void OrbEvent::setParams(unsigned int param, unsigned int param2)

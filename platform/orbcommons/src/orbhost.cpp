@@ -201,6 +201,11 @@ QWidget *OrbHost::frontWindow(bool ignoreOverlays) const
     return d->windowStack->front(ignoreOverlays);
 }
 
+QWidget *OrbHost::frontMainWindow() const
+{
+    return d->windowStack->frontMainWindow();
+}
+
 bool OrbHost::filterKey(unsigned int key, bool pressed, bool held)
 {
     // A filter may add and remove filters while it is asked: ask those that were there, as long as they are.

@@ -1,6 +1,7 @@
 #include "orbtitlebar.h"
 
 #include "orbqtcompat.h"
+#include "windowstack.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -44,7 +45,7 @@ OrbTitleBar::OrbTitleBar(QWidget *window) : QWidget(window), m_label(new QLabel(
     row->addWidget(m_label, 1);
     row->addWidget(home);
     connect(back, SIGNAL(clicked()), window, SLOT(back()));
-    connect(home, SIGNAL(clicked()), window, SLOT(home()));
+    connect(home, SIGNAL(clicked()), WindowStack::instance(), SLOT(goHome()));
 }
 
 void OrbTitleBar::setTitle(const QString &title)

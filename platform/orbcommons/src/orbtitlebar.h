@@ -11,7 +11,8 @@ class OrbTitleBar : public QWidget
     Q_OBJECT
 
 public:
-    /// The buttons call the slots back() and home() of \a window, which owns the bar.
+    /// The back button calls the slot back() of \a window, which owns the bar; the home button sends every window
+    /// of the unit's screen home.
     explicit OrbTitleBar(QWidget *window);
 
     /// A title that is too long ends in an ellipsis.

@@ -2,9 +2,11 @@
 
 #include "orbtrace.h"
 #include "pacedwriter.h"
+#include "packagechain.h"
 #include "streamage.h"
 
 #include <QDebug>
+#include <QDynamicPropertyChangeEvent>
 #include <QElapsedTimer>
 #include <QIODevice>
 #include <QTimer>
@@ -15,7 +17,7 @@ namespace {
 
 // One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
 const int ReadSize = 4096;
-const int LongestPackage = 512;
+const int LongestPackage = PackageChain::LongestCandidate;
 
 // Boxes want their acknowledgement within 10 ms, and a device need not announce what arrives.
 const int PollInterval = 4;
@@ -31,6 +33,24 @@ const int ReopenPauses[] = {50, 50, 150, 250, 1000};
 const int LastReopenPause = int(sizeof ReopenPauses / sizeof ReopenPauses[0]) - 1;
 // A device that hangs up again sooner than this, without a word, is not tried again as soon as that.
 const int SteadyTime = 1000;
+
+// What an adapter keeps in dynamic properties is for whoever looks on. A filter, since an event() of the framer's would
+// be one more function that a plug-in finds in this framework alone.
+class ValueTeller : public QObject
+{
+public:
+    explicit ValueTeller(QObject *adapter) : QObject(adapter) { adapter->installEventFilter(this); }
+
+    bool eventFilter(QObject *adapter, QEvent *event) override
+    {
+        if (event->type() == QEvent::DynamicPropertyChange && OrbTrace::listener) {
+            const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
+            OrbTrace::listener->valueTold(QString::fromLatin1(name.constData()),
+                                          adapter->property(name.constData()));
+        }
+        return false;
+    }
+};
 
 } // namespace
 
@@ -51,6 +71,8 @@ public:
         , cursor(0)
         , candidateSize(0)
         , needed(0)
+        , behindPackage(false)
+        , lookedInto(0)
         , streamBase(0)
         , quietTime(0)
         , emitting(false)
@@ -70,29 +92,36 @@ public:
         tries = qMin(tries + 1, LastReopenPause);
     }
 
+    static bool isShortCandidate(ProtocolUtils *hooks, int start);
+    int lookInto(ProtocolUtils *hooks, int start, int size);
+
     void log(const char *direction, const QByteArray &package) const
     {
         qDebug("%s %s %lld %s", qPrintable(tag), direction, static_cast<long long>(clock.elapsed()),
                package.toHex().constData());
     }
 
-    // Moves what is not framed yet to the front of \a buffer, makes room for one read behind it, and returns
-    // its size. Nobody else holds the buffer from then on.
+    // Moves what is not framed yet, and the byte before it, to the front of \a buffer, makes room for one read behind
+    // it, and returns its size. Nobody else holds the buffer from then on.
     int compact(QByteArray *buffer)
     {
-        const int rest = int(buffer->size()) - cursor;
-        if (buffer->capacity() < rest + ReadSize) {
-            buffer->reserve(LongestPackage + ReadSize);
+        const int held = int(buffer->size());
+        if (buffer->capacity() < held - cursor + 1 + ReadSize) {
+            buffer->reserve(LongestPackage + 1 + ReadSize);
         }
         char *const bytes = buffer->data();
-        if (cursor > 0) {
-            if (rest > 0) {
-                memmove(bytes, bytes + cursor, size_t(rest));
-            }
-            streamBase += cursor;
-            cursor = 0;
+        const int passed = cursor - 1;
+        if (passed <= 0) {
+            return held;
         }
-        return rest;
+        if (held > cursor) {
+            memmove(bytes, bytes + passed, size_t(held - passed));
+        } else {
+            bytes[0] = bytes[passed];
+        }
+        streamBase += passed;
+        cursor = 1;
+        return held - passed;
     }
 
     QTimer *const poll;
@@ -107,12 +136,14 @@ public:
     bool received; // something was read since the last poll
     QElapsedTimer sinceOpened;
 
-    int minimum;       // bytes from which the size of a package can be read
-    int cursor;        // index in recvBuffer of the first byte that is not framed yet
-    int candidateSize; // length of the unfinished package at the cursor, 0 while it is not known
-    int needed;        // bytes from the cursor on without which there is nothing to frame
-    qint64 streamBase; // place of recvBuffer[0] in all that was ever read
-    int quietTime;     // ms without data, as long as something is unfinished
+    int minimum;        // bytes from which the size of a package can be read
+    int cursor;         // index in recvBuffer of the first byte that is not framed yet
+    int candidateSize;  // length of the unfinished package at the cursor, 0 while it is not known
+    int needed;         // bytes from the cursor on without which there is nothing to frame
+    bool behindPackage; // the byte before the cursor ends a package that was delivered
+    qint64 lookedInto;  // place in all that was read, up to where a candidate that lied reached
+    qint64 streamBase;  // place of recvBuffer[0] in all that was ever read
+    int quietTime;      // ms without data, as long as something is unfinished
     QElapsedTimer sincePoll;
     StreamAge age;
 
@@ -126,6 +157,7 @@ public:
 
 ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
 {
+    new ValueTeller(this);
     connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
     connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
     connect(m_d->writer, SIGNAL(sent(QByteArray)), this, SLOT(onPackageSent(QByteArray)));
@@ -145,7 +177,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     m_d->device = device;
     m_d->isOpen = device && device->isOpen();
     m_d->writer->setDevice(nullptr);
-    recvBuffer.reserve(ReadSize + LongestPackage);
+    recvBuffer.reserve(LongestPackage + 1 + ReadSize);
     m_d->poll->stop();
     m_d->reopen->stop();
     if (!device) {
@@ -171,6 +203,7 @@ void ProtocolUtils::startPolling()
     m_d->cursor = int(recvBuffer.size());
     m_d->candidateSize = 0;
     m_d->needed = 0;
+    m_d->behindPackage = false;
     m_d->age.clear();
     m_d->quietTime = 0;
     m_d->heard = false;
@@ -206,10 +239,32 @@ void ProtocolUtils::onReadDeviceDatas()
         }
         recvBuffer.resize(held + count);
         p->received = true;
-        if (held + count >= p->needed) {
+        if (held + count - p->cursor >= p->needed) {
             framePackages();
         }
     }
+}
+
+// A package that lost a byte ends with the next one's start byte for its checksum, once in 256 times. What follows
+// such an end is then no start, and the end is one.
+bool ProtocolUtils::Private::isShortCandidate(ProtocolUtils *hooks, int start)
+{
+    return hooks->findPackageStartSig(start) == start &&
+           hooks->getPackageSize(start) < PackageChain::LongCandidate;
+}
+
+// First of the good packages inside the candidate at \a start, when it is none; else -1. What lies in one that was
+// none is not looked into again, so that each byte is a bounded number of times.
+int ProtocolUtils::Private::lookInto(ProtocolUtils *hooks, int start, int size)
+{
+    if (streamBase + start < lookedInto) {
+        return -1;
+    }
+    const int first = PackageChain::firstOfPackagesInside(hooks, minimum, start + 1, start + size);
+    if (first >= 0) {
+        lookedInto = streamBase + start + size;
+    }
+    return first;
 }
 
 // Emits every good package between the cursor and the end of recvBuffer. A slot may run an event loop of its
@@ -230,7 +285,10 @@ void ProtocolUtils::framePackages()
             }
             const int start = findPackageStartSig(cursor);
             if (start != cursor) {
-                cursor = start < cursor ? int(recvBuffer.size()) : start;
+                const bool endedInStart = p->behindPackage && p->isShortCandidate(this, cursor - 1);
+                p->behindPackage = false;
+                const int next = start < cursor ? int(recvBuffer.size()) : start;
+                cursor = endedInStart ? cursor - 1 : next;
                 continue;
             }
             size = getPackageSize(cursor);
@@ -241,13 +299,17 @@ void ProtocolUtils::framePackages()
             p->needed = size;
             break;
         }
-        if (possible && isAvaliablePackage(cursor, cursor + size - 1, size)) {
+        const bool fits = possible && isAvaliablePackage(cursor, cursor + size - 1, size);
+        const int inside = fits && size >= PackageChain::LongCandidate ? p->lookInto(this, cursor, size) : -1;
+        if (fits && inside < 0) {
             p->cursor = cursor + size;
+            p->behindPackage = true;
             emitPackage(recvBuffer.constData() + cursor, size);
             cursor = p->cursor;
         } else {
             // A bad candidate costs its start byte only: a good package may lie inside it.
-            ++cursor;
+            cursor = fits ? inside : cursor + 1;
+            p->behindPackage = false;
         }
         size = 0;
     }

@@ -15,10 +15,8 @@ const int Margin = 32;
 // The same in every state, so that nothing jumps.
 const int Width = 680;
 const int DecoderFirmware = 1;
-// The last packet stands for less than 100 %, and nobody reports the end: a short silence after it is the
-// end.
-const int LastPacketPercent = 90;
-const int SilenceTime = 4000;
+// Nobody reports the end: a silence after everything was given is the end, before that the accessory stands still.
+const int SilenceTime = 4000; // ms
 
 void trace(const char *call, int number)
 {
@@ -26,6 +24,11 @@ void trace(const char *call, int number)
         OrbTrace::listener->called(QLatin1String("UpdateDialog"), QLatin1String(call),
                                    QVariantList() << number);
     }
+}
+
+bool everythingGiven(const UpdateDialog *dialog)
+{
+    return dialog->property("everythingGiven").toBool();
 }
 
 QLabel *textLabel(const char *name, QWidget *parent)
@@ -42,7 +45,7 @@ QLabel *textLabel(const char *name, QWidget *parent)
 class UpdateDialog::Private
 {
 public:
-    enum State { Asking, Running, Waiting, Done, Failed };
+    enum State { Asking, Running, Stalled, Done, Failed };
 
     Private() : state(Asking), kind(0), code(0), retry(false) {}
 
@@ -119,25 +122,25 @@ void UpdateDialog::Private::enter(State next)
     } else {
         silence->stop();
     }
-    bar->setVisible(state == Running || state == Waiting);
-    warning->setVisible(state == Running || state == Waiting);
-    ok->setVisible(state == Asking || (state == Failed && retry));
+    bar->setVisible(state == Running || state == Stalled);
+    warning->setVisible(state == Running || state == Stalled);
+    ok->setVisible(state == Asking || state == Stalled || (state == Failed && retry));
     cancel->setVisible(state != Running);
     showTexts();
 }
 
 void UpdateDialog::Private::showTexts()
 {
-    const char *pictures[] = {"update", "update", "update", "done", "failed"};
+    const char *pictures[] = {"update", "update", "failed", "done", "failed"};
     picture->setPixmap(
         QPixmap(QString(QLatin1String(":/orb/icons/%1.png")).arg(QLatin1String(pictures[state]))));
     const QString titles[] = {UpdateDialog::tr("Update available"), UpdateDialog::tr("Updating"),
-                              UpdateDialog::tr("Updating"), UpdateDialog::tr("Update finished"),
+                              UpdateDialog::tr("Update has stalled"), UpdateDialog::tr("Update finished"),
                               UpdateDialog::tr("Update failed")};
     title->setText(titles[state]);
     text->setText(message());
     warning->setText(UpdateDialog::tr("Do not remove the disk and do not switch off the ignition."));
-    ok->setText(state == Failed ? UpdateDialog::tr("Try again") : UpdateDialog::tr("Update"));
+    ok->setText(state == Asking ? UpdateDialog::tr("Update") : UpdateDialog::tr("Try again"));
     cancel->setText(state == Asking ? UpdateDialog::tr("Later") : UpdateDialog::tr("Close"));
 }
 
@@ -150,8 +153,9 @@ QString UpdateDialog::Private::message() const
                    : UpdateDialog::tr("New firmware was found on the disk. Update now?");
     case Running:
         return UpdateDialog::tr("The new firmware is being transferred.");
-    case Waiting:
-        return UpdateDialog::tr("Waiting for an answer ...");
+    case Stalled:
+        return UpdateDialog::tr(
+            "No more data is being asked for. Wait a minute; if it does not go on, try again.");
     case Done:
         return UpdateDialog::tr("All data was transferred. The disk can be removed.");
     case Failed:
@@ -160,8 +164,9 @@ QString UpdateDialog::Private::message() const
     return UpdateDialog::tr("The update was interrupted (code %1). Check the disk.").arg(code);
 }
 
-UpdateDialog::UpdateDialog(QWidget *parent) : OrbDialog(parent, Choice), d(new Private)
+UpdateDialog::UpdateDialog(QWidget *parent) : OrbDialog(parent), d(new Private)
 {
+    setModal(true);
     d->build(this);
     d->arrange(this);
     d->enter(Private::Asking);
@@ -191,18 +196,21 @@ void UpdateDialog::updatePercent(int percent)
 {
     trace("updatePercent", percent);
     d->bar->setValue(qBound(0, percent, 100));
-    d->enter(percent >= 100 ? Private::Done : Private::Running);
+    d->enter(Private::Running);
 }
 
 void UpdateDialog::setUpdateFailed(int code)
 {
     trace("setUpdateFailed", code);
-    // After the end a disk that is taken out is no failure.
-    if (d->state == Private::Done) {
+    const bool begun =
+        d->state == Private::Running || d->state == Private::Stalled || d->state == Private::Done;
+    // A disk that is taken out after its last packet is no failure.
+    if (begun && everythingGiven(this)) {
+        d->enter(Private::Done);
         return;
     }
     d->code = code;
-    d->retry = d->retry || d->state == Private::Running || d->state == Private::Waiting;
+    d->retry = d->retry || begun;
     d->enter(Private::Failed);
 }
 
@@ -216,7 +224,7 @@ void UpdateDialog::onAccepted()
 
 void UpdateDialog::onSilence()
 {
-    d->enter(d->bar->value() >= LastPacketPercent ? Private::Done : Private::Waiting);
+    d->enter(everythingGiven(this) ? Private::Done : Private::Stalled);
 }
 
 void UpdateDialog::changeEvent(QEvent *event)

@@ -1,6 +1,7 @@
 #include "windowstack.h"
 
 #include "orbhost_p.h"
+#include "orbmainwindow.h"
 #include "orbtrace.h"
 
 #include <QEvent>
@@ -54,6 +55,14 @@ void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
     // On the screen a window is the area's child; what it was built under then still decides when it dies.
     if (window->parent()) {
         connect(window->parent(), SIGNAL(destroyed()), window, SLOT(deleteLater()));
+    }
+}
+
+void WindowStack::setKind(QWidget *window, Kind kind)
+{
+    const int index = indexInOrder(window);
+    if (index >= 0) {
+        m_order[index].kind = kind;
     }
 }
 
@@ -153,7 +162,7 @@ QList<QWidget *> WindowStack::all() const
 
 QWidget *WindowStack::front(bool ignoreOverlays) const
 {
-    int index = topmost(ChoiceDialog);
+    int index = topmost(ModalDialog);
     if (index < 0 && !ignoreOverlays) {
         index = topmost(OverlayDialog);
     }
@@ -163,10 +172,32 @@ QWidget *WindowStack::front(bool ignoreOverlays) const
     return index < 0 ? nullptr : m_order.at(index).window;
 }
 
+QWidget *WindowStack::frontMainWindow() const
+{
+    const int index = topmost(MainWindow);
+    return index < 0 ? nullptr : m_order.at(index).window;
+}
+
 unsigned int WindowStack::frontAppId() const
 {
     const int index = topmost(MainWindow);
     return index < 0 ? 0 : m_order.at(index).appId;
+}
+
+// A window's hook may delete other windows.
+void WindowStack::goHome()
+{
+    QList<QPointer<OrbMainWindow>> windows;
+    for (int i = 0; i < m_order.size(); ++i) {
+        if (m_order.at(i).kind == MainWindow && !m_order.at(i).window->isHidden()) {
+            windows.append(qobject_cast<OrbMainWindow *>(m_order.at(i).window));
+        }
+    }
+    for (int i = 0; i < windows.size(); ++i) {
+        if (windows.at(i) && !windows.at(i)->isHidden()) {
+            windows.at(i)->home();
+        }
+    }
 }
 
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)
@@ -239,8 +270,8 @@ void WindowStack::restack()
     if (!m_area) {
         return;
     }
-    const int choice = topmost(ChoiceDialog);
-    const Kind kinds[] = {MainWindow, OverlayDialog, ChoiceDialog};
+    const int choice = topmost(ModalDialog);
+    const Kind kinds[] = {MainWindow, OverlayDialog, ModalDialog};
     for (int k = 0; k < 3; ++k) {
         for (int i = 0; i < m_order.size(); ++i) {
             if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area) {

@@ -15,7 +15,7 @@ class WindowStack : public QObject
     Q_OBJECT
 
 public:
-    enum Kind { MainWindow, OverlayDialog, ChoiceDialog };
+    enum Kind { MainWindow, OverlayDialog, ModalDialog };
 
     /// Lives as long as OrbHost.
     static WindowStack *instance();
@@ -24,6 +24,7 @@ public:
 
     /// \a appId: the application of a main window; 0 for none and for dialogs.
     void add(QWidget *window, Kind kind, unsigned int appId = 0);
+    void setKind(QWidget *window, Kind kind);
     void remove(QWidget *window);
 
     /// Reports a call of setVisible, but not one that the stack makes itself.
@@ -46,7 +47,10 @@ public:
     /// The topmost visible one, or null.
     QWidget *front(bool ignoreOverlays) const;
 
-    /// Application of the topmost visible main window; 0 when there is none.
+    /// The topmost visible main window, whatever dialog lies over it; null when there is none.
+    QWidget *frontMainWindow() const;
+
+    /// Application of that window; 0 when there is none.
     unsigned int frontAppId() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -54,6 +58,9 @@ public:
 public Q_SLOTS:
     /// Takes every window off the window area, hidden; each is its owner's alone again.
     void leaveArea();
+
+    /// Calls OrbMainWindow::home() on every visible main window, from the lowest up.
+    void goHome();
 
 Q_SIGNALS:
     void changed();

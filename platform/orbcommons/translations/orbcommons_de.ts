@@ -73,6 +73,10 @@
         <translation>Aktualisierung läuft</translation>
     </message>
     <message>
+        <source>Update has stalled</source>
+        <translation>Aktualisierung steht still</translation>
+    </message>
+    <message>
         <source>Update finished</source>
         <translation>Aktualisierung abgeschlossen</translation>
     </message>
@@ -113,8 +117,8 @@
         <translation>Die neue Firmware wird übertragen.</translation>
     </message>
     <message>
-        <source>Waiting for an answer ...</source>
-        <translation>Warten auf Antwort ...</translation>
+        <source>No more data is being asked for. Wait a minute; if it does not go on, try again.</source>
+        <translation>Der Decoder fragt keine Daten mehr ab. Eine Minute warten; geht es nicht weiter, erneut versuchen.</translation>
     </message>
     <message>
         <source>All data was transferred. The disk can be removed.</source>

@@ -73,6 +73,10 @@
         <translation>正在更新</translation>
     </message>
     <message>
+        <source>Update has stalled</source>
+        <translation>更新停滞</translation>
+    </message>
+    <message>
         <source>Update finished</source>
         <translation>更新完成</translation>
     </message>
@@ -113,8 +117,8 @@
         <translation>正在传输新固件。</translation>
     </message>
     <message>
-        <source>Waiting for an answer ...</source>
-        <translation>正在等待应答……</translation>
+        <source>No more data is being asked for. Wait a minute; if it does not go on, try again.</source>
+        <translation>设备不再请求数据。请等待一分钟；若仍无进展，请重试。</translation>
     </message>
     <message>
         <source>All data was transferred. The disk can be removed.</source>

@@ -1,5 +1,7 @@
 #include "serialtap.h"
 
+#include <QIODevice>
+
 #include <ctime>
 
 namespace {
@@ -9,6 +11,8 @@ QList<SerialTapObserver *> &list()
     static QList<SerialTapObserver *> observers;
     return observers;
 }
+
+QIODevice *openPort = nullptr;
 
 } // namespace
 
@@ -47,6 +51,16 @@ void SerialTap::remove(SerialTapObserver *observer)
 const QList<SerialTapObserver *> &SerialTap::observers()
 {
     return list();
+}
+
+bool SerialTap::send(const QByteArray &bytes)
+{
+    return openPort && openPort->write(bytes) == bytes.size();
+}
+
+void SerialTap::setPort(QIODevice *port)
+{
+    openPort = port;
 }
 
 qint64 SerialTap::now()

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+class QIODevice;
 struct PortSettings;
 
 /// Sees what passes over the process's serial line, below whoever reads and writes it: for a recorder, for a
@@ -54,6 +55,13 @@ Q_DECL_EXPORT bool isWired();
 Q_DECL_EXPORT void add(SerialTapObserver *observer);
 /// Does nothing for one that was not added.
 Q_DECL_EXPORT void remove(SerialTapObserver *observer);
+
+/// Writes \a bytes to the open line, as the unit does, between what the unit writes: for a word to the box that
+/// the unit does not say by itself. Observers hear it. False when no line is open, or it takes less than all.
+Q_DECL_EXPORT bool send(const QByteArray &bytes);
+
+/// The port that is open, null for none; for the serial layer.
+Q_DECL_EXPORT void setPort(QIODevice *port);
 
 /// Those that hear, in the order in which they were added; for the serial layer.
 Q_DECL_EXPORT const QList<SerialTapObserver *> &observers();

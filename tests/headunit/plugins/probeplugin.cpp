@@ -5,7 +5,6 @@
 #include "filesystemservice.h"
 #include "orbapplication.h"
 #include "orbcommons.h"
-#include "orbctrlkeys.h"
 #include "orbdialog.h"
 #include "orbevent.h"
 #include "orbqtcompat.h"
@@ -17,11 +16,19 @@
 
 namespace {
 
-CtrlKeyList keySet = {{1, 4294967296ull}, {2, 7}};
+enum EventType { ShowAppEvent = 51001, NotifyEvent = 51007, AppStateEvent = 51011 };
+
+struct KeyRecord
+{
+    quint32 keyCode;
+    quint64 ctrlValue;
+};
+
+QList<KeyRecord> keySet = {{1, 4294967296ull}, {2, 7}};
 
 OrbEvent *keySetEvent(unsigned int param2)
 {
-    OrbEvent *event = new OrbEvent(400, 1, OrbEvent::NotifyType);
+    OrbEvent *event = new OrbEvent(400, 1, NotifyEvent);
     event->setParams(20497, param2);
     event->setVariantParam(QVariant::fromValue<void *>(&keySet));
     return event;
@@ -62,7 +69,7 @@ bool ProbePlugin::filterKey(unsigned int key, bool, bool)
 
 void ProbePlugin::report(Report what, unsigned int param, unsigned int param2, const QString &text)
 {
-    OrbEvent event(7, what, OrbEvent::NotifyType);
+    OrbEvent event(7, what, NotifyEvent);
     event.setParams(param, param2);
     event.setStringParam(text);
     OrbApplication::instance()->dispatchOrbEvent(&event);
@@ -70,7 +77,8 @@ void ProbePlugin::report(Report what, unsigned int param, unsigned int param2, c
 
 void ProbePlugin::ask()
 {
-    OrbDialog dialog(nullptr, OrbDialog::Choice);
+    OrbDialog dialog;
+    dialog.setModal(true);
     dialog.setWindowTitle("Probe dialog");
     QVBoxLayout *layout = new QVBoxLayout(&dialog);
     for (int i = 0; i < 2; ++i) {
@@ -94,11 +102,11 @@ void ProbePlugin::customEvent(QEvent *event)
     echo.setStringParam(orbEvent->getStringParam());
     OrbApplication::instance()->dispatchOrbEvent(&echo);
     const int type = orbEvent->type();
-    if (type == OrbEvent::ShowAppType && orbEvent->getParam() == 700) {
+    if (type == ShowAppEvent && orbEvent->getParam() == 700) {
         m_window->show();
-    } else if (type == OrbEvent::ShowAppType && orbEvent->getParam() == 701) {
+    } else if (type == ShowAppEvent && orbEvent->getParam() == 701) {
         ask();
-    } else if (type == OrbEvent::AppStateType) {
+    } else if (type == AppStateEvent) {
         report(ValuesRead, OrbApplication::instance()->getTag(0x10001).toUInt(),
                OrbWindowManager::getCurWindowAppId(), OrbApplication::getOrbProductValue("Probe").toString());
     }

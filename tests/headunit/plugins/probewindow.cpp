@@ -2,11 +2,11 @@
 
 #include "probeplugin.h"
 
-#include "tablelistview.h"
 #include "tableviewmodel.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTableView>
 #include <QVBoxLayout>
 
 namespace {
@@ -31,7 +31,8 @@ ProbeWindow::ProbeWindow() : OrbMainWindow(700), m_model(new TableViewModel(this
     QPushButton *disabled = named(new QPushButton("Off"), "btnOff");
     disabled->setEnabled(false);
     QPushButton *hidden = named(new QPushButton("Gone"), "btnGone");
-    TableListView *list = new TableListView;
+    QTableView *list = new QTableView;
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     for (QWidget *widget :
          {static_cast<QWidget *>(label), static_cast<QWidget *>(askButton), static_cast<QWidget *>(disabled),
           static_cast<QWidget *>(hidden), static_cast<QWidget *>(list)}) {
@@ -42,10 +43,9 @@ ProbeWindow::ProbeWindow() : OrbMainWindow(700), m_model(new TableViewModel(this
     fillList();
     list->setModel(m_model);
     connect(askButton, &QPushButton::clicked, this, &ProbeWindow::asked);
-    connect(list, &TableListView::itemColumnClicked, this,
-            [](QAbstractItemModel *, const QModelIndex &index) {
-                ProbePlugin::report(ProbePlugin::Clicked, uint(index.row()), uint(index.column()));
-            });
+    connect(list, &QTableView::clicked, this, [](const QModelIndex &index) {
+        ProbePlugin::report(ProbePlugin::Clicked, uint(index.row()), uint(index.column()));
+    });
 }
 
 // More rows than the list can show at once.

@@ -59,7 +59,8 @@ QByteArray GmSpeaker::climate(const SimulatedCar &car)
 {
     const QString circulation = car.text("climate.circulation");
     const int d0 = bit(car.flag("climate.power"), 7) | bit(car.flag("climate.ac"), 6) |
-                   bit(circulation == "in", 5) | bit(circulation == "auto", 3) | car.number("climate.fan");
+                   bit(circulation == "in", 5) | bit(circulation == "auto", 3) |
+                   qMin(car.number("climate.fan"), 7);
     const int way = bit(car.flag("climate.to_window"), 2) | bit(car.flag("climate.to_face"), 1) |
                     bit(car.flag("climate.to_feet"), 0);
     const int d1 = car.flag("climate.defrost") ? AirWayDefrost : AirWays[way];

@@ -35,6 +35,14 @@ void RaiseSpeaker::addKeys(BoxKey::Source source, quint8 command,
     }
 }
 
+QVector<BoxPackage> RaiseSpeaker::keyPackages(const BoxKey &key, KeyState state) const
+{
+    if (state == Released && m_keylessReleases.contains(key.command)) {
+        return {{key.command, bytes({0, 0})}};
+    }
+    return BoxSpeaker::keyPackages(key, state);
+}
+
 QByteArray RaiseSpeaker::bytes(std::initializer_list<int> values)
 {
     QByteArray result;
@@ -50,10 +58,21 @@ QByteArray RaiseSpeaker::doors(const SimulatedCar &car)
                   bit(car.flag("doors.rear_right"), 5) | bit(car.flag("doors.rear_left"), 4)});
 }
 
+quint8 RaiseSpeaker::doorsAndLids(const SimulatedCar &car)
+{
+    return quint8(quint8(doors(car).at(0)) | bit(car.flag("lids.boot"), 3) | bit(car.flag("lids.bonnet"), 2));
+}
+
+QByteArray RaiseSpeaker::signAndSizeSteering(const SimulatedCar &car)
+{
+    const int angle = car.number("steering.angle");
+    return bigEndian16((angle > 0 ? 0x8000 : 0) | qAbs(angle) * 10);
+}
+
 quint8 RaiseSpeaker::airFlow(const SimulatedCar &car)
 {
     return quint8(bit(car.flag("climate.to_window"), 7) | bit(car.flag("climate.to_face"), 6) |
-                  bit(car.flag("climate.to_feet"), 5) | car.number("climate.fan"));
+                  bit(car.flag("climate.to_feet"), 5) | qMin(car.number("climate.fan"), 7));
 }
 
 void RaiseSpeaker::addRadar(const QString &side, quint8 command, const quint8 (&levels)[7])
@@ -83,4 +102,9 @@ int RaiseSpeaker::steering(const SimulatedCar &car, int lock)
 QByteArray RaiseSpeaker::littleEndian16(int value)
 {
     return bytes({value & 0xFF, (value >> 8) & 0xFF});
+}
+
+QByteArray RaiseSpeaker::bigEndian16(int value)
+{
+    return bytes({(value >> 8) & 0xFF, value & 0xFF});
 }

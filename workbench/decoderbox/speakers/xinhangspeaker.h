@@ -14,6 +14,7 @@ public:
     explicit XinHangSpeaker(SimulatedCar *car, QObject *parent = nullptr);
 
     bool usesAcknowledgement() const override { return false; }
+    int baudRate() const override { return 115200; }
     bool hasTouch() const override { return true; }
     BoxPackage touchPackage(Touch touch, int x, int y) const override;
     QVector<BoxPackage> keyPackages(const BoxKey &key, KeyState state) const override;

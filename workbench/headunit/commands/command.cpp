@@ -1,11 +1,21 @@
 #include "command.h"
 
 #include "checkcommand.h"
+#include "convertcommand.h"
+#include "identifycommand.h"
+#include "probecommand.h"
+#include "recordcommand.h"
+#include "replaycommand.h"
 
 const QVector<Command> &Command::all()
 {
     static const QVector<Command> commands = {
+        {"record", "runs the unit and writes its serial line's bytes to a log", recordCommand},
+        {"replay", "runs the unit on the bytes of a log in place of a box", replayCommand},
+        {"identify", "says which CAN-bus type fits a log, or the box on a port", identifyCommand},
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
+        {"convert", "turns one log of a serial line into another", convertCommand},
+        {"probe", "tells which bit of a package does what", probeCommand},
     };
     return commands;
 }

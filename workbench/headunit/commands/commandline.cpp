@@ -24,12 +24,17 @@ bool CommandLine::read(const QStringList &words, int *exitCode)
         *exitCode = Command::Fine;
         return false;
     } catch (const CLI::ParseError &problem) {
-        complain(QString::fromStdString(problem.what()));
-        std::fputs(app.help().c_str(), stderr);
-        *exitCode = Command::WrongUsage;
+        *exitCode = refuse(QString::fromStdString(problem.what()));
         return false;
     }
     return true;
+}
+
+int CommandLine::refuse(const QString &problem) const
+{
+    complain(problem);
+    std::fputs(app.help().c_str(), stderr);
+    return Command::WrongUsage;
 }
 
 int CommandLine::complain(const QString &problem) const

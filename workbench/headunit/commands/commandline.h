@@ -23,6 +23,9 @@ public:
     /// exitCode 0), or the words are wrong, and the reason and the usage are (2).
     bool read(const QStringList &words, int *exitCode);
 
+    /// The words are wrong for a reason that the library does not know: says so, with the usage. Gives
+    /// Command::WrongUsage.
+    int refuse(const QString &problem) const;
     /// "headunit NAME: PROBLEM" on standard error; gives Command::FoundSomething.
     int complain(const QString &problem) const;
 

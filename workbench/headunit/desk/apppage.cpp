@@ -34,6 +34,11 @@ void AppPage::setCarState(const CarState &state)
     m_carView->setState(state);
 }
 
+void AppPage::setDoubt(const QString &doubt)
+{
+    m_carView->setDoubt(doubt);
+}
+
 void AppPage::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

@@ -22,6 +22,8 @@ public:
     uint appId() const { return m_appId; }
     QString title() const { return m_title; }
     void setCarState(const CarState &state);
+    /// See CarView::setDoubt().
+    void setDoubt(const QString &doubt);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -17,8 +17,9 @@ public:
 
     QSize sizeHint() const override;
 
-    /// The lines in which the title is drawn: at most two, the second one shortened if need be.
-    QStringList titleLines() const;
+    /// The lines in which the title is drawn, at most two, in letters of \a pixels: as large as the whole title is
+    /// legible in. Past the smallest ones the second line is shortened.
+    QStringList titleLines(int *pixels) const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,5 +1,7 @@
 #include "boxpage.h"
 
+#include "boxcommand.h"
+#include "observationwords.h"
 #include "panelcard.h"
 #include "scenarioplayer.h"
 
@@ -9,17 +11,44 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include <limits>
 
 namespace {
 
 const int Gap = 8;
-const int NoiseBytes = 24;
-const int CutAfter = 3;
-const int SilenceMs = 3000;
+const int WatchInterval = 250;      // ms
+const int LongestSilence = 3600000; // ms; a box that is silent for longer was stopped
 const int LogLines = 500;
 const int LogHeight = 260;
+
+// What a finger can do to the line.
+struct FaultButton
+{
+    const char *text;
+    const char *order;
+};
+
+const FaultButton FaultButtons[] = {
+    {QT_TRANSLATE_NOOP("BoxPage", "Noise"), "fault noise 24"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Silence, 3 s"), "fault silence 3000"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Cut a package"), "fault cut 3"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Corrupt a package"), "fault corrupt"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Flip a bit"), "fault flip"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Lose a byte"), "fault drop"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Double a byte"), "fault double"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Wrong length"), "fault length"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Stall, 300 ms"), "fault stall 300"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Garbage"), "fault garbage 8"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Late answer"), "fault late 400"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Cut the update"), "fault update 10"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Pull the line"), "fault unplug"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Plug it in"), "fault replug"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Bad line"),
+     "fault flip 2%; fault drop 2%; fault double 2%; fault garbage 5 2%; fault length 1%"},
+    {QT_TRANSLATE_NOOP("BoxPage", "Good line"), "fault none"},
+};
 
 QLabel *plainLabel(const char *objectName)
 {
@@ -78,6 +107,10 @@ BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
     connect(box, &DecoderBox::unitLeft, this, &BoxPage::showState);
     connect(box, &DecoderBox::observed, this, &BoxPage::showObservations);
     connect(box, &DecoderBox::logLine, m_log, &QPlainTextEdit::appendPlainText);
+    // A silence ends without a word.
+    QTimer *watch = new QTimer(this);
+    connect(watch, &QTimer::timeout, this, &BoxPage::showState);
+    watch->start(WatchInterval);
     setTexts();
 }
 
@@ -117,16 +150,32 @@ void BoxPage::addScenarioCard()
 
 void BoxPage::addFaultCard()
 {
-    m_noise = chip();
-    m_cut = chip();
-    m_corrupt = chip();
-    m_silence = chip();
-    m_faultCard->rows()->addLayout(pair(m_noise, m_cut));
-    m_faultCard->rows()->addLayout(pair(m_corrupt, m_silence));
-    connect(m_noise, &QPushButton::clicked, m_box, [this] { m_box->sendNoise(NoiseBytes); });
-    connect(m_cut, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CutNext, CutAfter); });
-    connect(m_corrupt, &QPushButton::clicked, m_box, [this] { m_box->spoilNext(DecoderBox::CorruptNext); });
-    connect(m_silence, &QPushButton::clicked, m_box, [this] { m_box->holdTongue(SilenceMs); });
+    QGridLayout *grid = new QGridLayout;
+    grid->setSpacing(Gap);
+    m_faultCard->rows()->addLayout(grid);
+    for (const FaultButton &fault : FaultButtons) {
+        BoxCommand command;
+        QString error;
+        QPushButton *button = chip();
+        const int place = int(m_faults.size());
+        const QString text = QString::fromLatin1(fault.order);
+        // A box without firmware or acknowledgements has no such fault.
+        button->setEnabled(command.parse(text.section(QLatin1Char(';'), 0, 0), *m_box, &error));
+        connect(button, &QPushButton::clicked, this, [this, text] { order(text); });
+        grid->addWidget(button, place / 2, place % 2);
+        m_faults << button;
+    }
+}
+
+void BoxPage::order(const QString &text)
+{
+    for (const QString &part : text.split(QLatin1Char(';'))) {
+        BoxCommand command;
+        QString error;
+        if (command.parse(part, *m_box, &error)) {
+            command.carryOut(m_box);
+        }
+    }
 }
 
 void BoxPage::choose()
@@ -172,17 +221,28 @@ void BoxPage::showState()
         text = tr("Silent: the unit did not acknowledge");
         break;
     }
+    const int silence = m_box->silenceLeft();
+    if (silence > LongestSilence) {
+        text = tr("Stopped");
+    } else if (silence > 0) {
+        text = tr("Silent by order");
+    }
     m_state->setText(m_box->isUnitThere() ? text : tr("The unit has not opened the port"));
 }
 
-/// A long word (a checksum) that a label may break anywhere.
+/// A long word (a checksum) may be broken anywhere.
 QString BoxPage::breakable(const QString &text)
 {
+    const int longest = 24;
     const QChar zeroWidthSpace(0x200B);
     QString result;
+    int letters = 0;
     for (const QChar &letter : text) {
+        letters = letter.isSpace() ? 0 : letters + 1;
         result += letter;
-        result += zeroWidthSpace;
+        if (letters > longest) {
+            result += zeroWidthSpace;
+        }
     }
     return result;
 }
@@ -192,7 +252,7 @@ void BoxPage::showObservations()
     QStringList lines;
     const QMap<QString, QString> &all = m_box->observations();
     for (auto row = all.begin(); row != all.end(); ++row) {
-        lines << row.key() + QStringLiteral(": ") + breakable(row.value());
+        lines << breakable(ObservationWords::line(m_box->speaker(), row.key(), row.value()));
     }
     m_observations->setText(lines.isEmpty() ? tr("Nothing yet") : lines.join(QLatin1Char('\n')));
 }
@@ -212,10 +272,9 @@ void BoxPage::setTexts()
                              : m_player         ? tr("%1 plays").arg(name)
                                                 : name);
     m_faultCard->setTitle(tr("Line faults"));
-    m_noise->setText(tr("Noise"));
-    m_cut->setText(tr("Cut a package"));
-    m_corrupt->setText(tr("Corrupt a package"));
-    m_silence->setText(tr("Silence, 3 s"));
+    for (int i = 0; i < m_faults.size(); ++i) {
+        m_faults.at(i)->setText(tr(FaultButtons[i].text));
+    }
     m_observationCard->setTitle(tr("What the unit told the box"));
     m_logCard->setTitle(tr("Line log"));
     showState();

@@ -3,6 +3,7 @@
 
 #include "decoderbox.h"
 
+#include <QVector>
 #include <QWidget>
 
 #include <memory>
@@ -33,6 +34,7 @@ private:
     void addStateCard();
     void addScenarioCard();
     void addFaultCard();
+    void order(const QString &text);
     void choose();
     void stopPlaying();
     void showState();
@@ -54,10 +56,7 @@ private:
     QPushButton *m_choose;
     QPushButton *m_playButton;
     PanelCard *m_faultCard;
-    QPushButton *m_noise;
-    QPushButton *m_cut;
-    QPushButton *m_corrupt;
-    QPushButton *m_silence;
+    QVector<QPushButton *> m_faults; // in the order of their table
     PanelCard *m_observationCard;
     QLabel *m_observations;
     PanelCard *m_logCard;

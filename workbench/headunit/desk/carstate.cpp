@@ -1,6 +1,7 @@
 #include "carstate.h"
 
 #include "orbevent.h"
+#include "orbeventtypes.h"
 
 #include <algorithm>
 
@@ -44,7 +45,7 @@ int CarState::nearest() const
 
 bool CarState::take(const OrbEvent &event)
 {
-    if (int(event.type()) != OrbEvent::NotifyType) {
+    if (int(event.type()) != OrbEventType::Notify) {
         return false;
     }
     const CarState before = *this;

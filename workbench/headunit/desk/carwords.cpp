@@ -11,10 +11,22 @@ namespace {
 // What a name does not say by itself.
 const QHash<QString, QString> &exceptions()
 {
-    static const QHash<QString, QString> texts = {{"ac", "A/C"},          {"C", "°C"},
-                                                  {"esc", "ESC"},         {"F", "°F"},
-                                                  {"hangup", "Hang up"},  {"startstop", "Start-stop"},
-                                                  {"view360", "360 view"}};
+    static const QHash<QString, QString> texts = {{"ac", "A/C"},
+                                                  {"C", "°C"},
+                                                  {"esc", "ESC"},
+                                                  {"F", "°F"},
+                                                  {"hangup", "Hang up"},
+                                                  {"startstop", "Start-stop"},
+                                                  {"view360", "360 view"},
+                                                  {"ac_max", "A/C max"},
+                                                  {"pa", "PA"},
+                                                  {"sos", "SOS"},
+                                                  {"wish_am", "Wish AM"},
+                                                  {"wish_aux", "Wish AUX"},
+                                                  {"wish_bluetooth", "Wish Bluetooth"},
+                                                  {"wish_cd", "Wish CD"},
+                                                  {"wish_fm", "Wish FM"},
+                                                  {"wish_usb", "Wish USB"}};
     return texts;
 }
 

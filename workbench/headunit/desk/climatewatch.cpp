@@ -42,6 +42,13 @@ void ClimateWatch::eventCalled(const QString &call, const OrbEvent &event)
     }
 }
 
+void ClimateWatch::valueTold(const QString &name, const QVariant &value)
+{
+    if (m_next) {
+        m_next->valueTold(name, value);
+    }
+}
+
 void ClimateWatch::hideDisplays()
 {
     for (QWidget *window : OrbHost::instance()->windows()) {

@@ -20,6 +20,7 @@ public:
 
     void called(const QString &object, const QString &call, const QVariantList &args) override;
     void eventCalled(const QString &call, const OrbEvent &event) override;
+    void valueTold(const QString &name, const QVariant &value) override;
 
 private:
     void hideDisplays();

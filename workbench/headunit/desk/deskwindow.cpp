@@ -1,8 +1,13 @@
 #include "deskwindow.h"
 
+#include "boxcatalog.h"
 #include "climatewatch.h"
+#include "deskstyle.h"
 #include "headunit.h"
 #include "keystrip.h"
+#include "linepage.h"
+#include "linereporter.h"
+#include "linestrip.h"
 #include "orbapplication.h"
 #include "orbhost.h"
 #include "sidepanel.h"
@@ -10,8 +15,9 @@
 #include "unitshell.h"
 #include "unitview.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QEvent>
-#include <QFile>
 #include <QGridLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -21,38 +27,36 @@ namespace {
 
 const int Margin = 12;
 const QSize Surroundings(8, 44); // about what a desktop puts around windows
+const AppTagId TypeTag = 0x10008;
 const AppTagId KeySetTag = 0x1000c;
 const uint LanguageNotification = 20486;
 const int UsbDisk = 0;
 const int ClimatePatience = 6000; // milliseconds
 
-} // namespace
-
-// Resources of a static library are there only once someone asks for them, outside any namespace.
-static void loadResources()
+// "Toyota" of "CanBus_Raise_Toyota"; empty for a type that does not exist.
+QString carOf(int type)
 {
-    Q_INIT_RESOURCE(desk);
-    Q_INIT_RESOURCE(headunit_i18n);
+    return BoxCatalog::className(type).section(QLatin1Char('_'), -1);
 }
+
+} // namespace
 
 DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize, QWidget *parent)
     : QWidget(parent), m_unit(unit)
 {
-    loadResources();
-    OrbHost::instance()->addTranslationDir(QStringLiteral(":/i18n"));
+    DeskStyle::load();
     setObjectName(QStringLiteral("deskWindow"));
     setAttribute(Qt::WA_StyledBackground);
-    QFile style(QStringLiteral(":/desk/desk.qss"));
-    if (style.open(QIODevice::ReadOnly)) {
-        setStyleSheet(QString::fromUtf8(style.readAll()));
-    }
+    setStyleSheet(DeskStyle::sheet());
 
     m_screen = new UnitScreen(screenSize);
     m_screen->setStyleSheet(styleSheet()); // it is a window of its own
     m_shell = new UnitShell(unit, m_screen, this);
     m_view = new UnitView(m_screen); // what the screen holds is shown with it
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
-    m_sidePanel = new SidePanel(box);
+    m_sidePanel = new SidePanel(box, unit->lineRecorder());
+    m_car = carOf(OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt());
+    m_lineStrip = new LineStrip(m_car);
     new ClimateWatch(ClimatePatience, this);
     m_fold = new QToolButton;
     m_fold->setObjectName(QStringLiteral("foldBar"));
@@ -65,6 +69,7 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     layout->addWidget(m_keyStrip, 1, 0);
     layout->addWidget(m_fold, 0, 1, 2, 1);
     layout->addWidget(m_sidePanel, 0, 2, 2, 1);
+    layout->addWidget(m_lineStrip, 2, 0, 1, 3);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
 
@@ -80,6 +85,7 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     connect(unitPage, &UnitPage::diskChanged, this, [this](bool isIn, const QString &path) {
         m_unit->setDisk(UsbDisk, isIn ? 1 : 0, isIn ? QStringList(path) : QStringList());
     });
+    watchLine(box);
     retranslate();
     m_view->setFocus();
     resize(QWidget::screen()->availableSize() - Surroundings);
@@ -104,7 +110,45 @@ void DeskWindow::addShortcuts()
         connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
     };
     add(Qt::CTRL | Qt::Key_Q, [this] { close(); });
+    add(Qt::Key_F12, [this] { saveLine(); });
     add(Qt::Key_F9, [this] { foldPanel(!isPanelFolded()); });
+}
+
+void DeskWindow::watchLine(DecoderBox *box)
+{
+    LinePage *page = m_sidePanel->linePage();
+    m_lineReporter = new LineReporter(m_unit->lineHealth(), box, this);
+    connect(m_lineReporter, &LineReporter::reported, this, &DeskWindow::showLine);
+    connect(m_lineReporter, &LineReporter::stateChanged, this, &DeskWindow::showTitle);
+    connect(m_lineStrip, &LineStrip::saveWanted, this, &DeskWindow::saveLine);
+    connect(page, &LinePage::saveWanted, this, &DeskWindow::saveLine);
+    connect(page, &LinePage::helloWanted, this, &DeskWindow::sayHello);
+}
+
+void DeskWindow::showLine(const LineStatus &status)
+{
+    m_lineStrip->setStatus(status);
+    m_sidePanel->linePage()->setStatus(status);
+    m_shell->setDoubt(status.isDoubtful() ? tr("Not sure: %1").arg(status.text()) : QString());
+}
+
+void DeskWindow::sayHello()
+{
+    m_sidePanel->linePage()->setAnswer(m_unit->lineHealth()->sayHello()
+                                           ? tr("Hello said: the box was sent the ready command")
+                                           : tr("There is no open line to say hello on"));
+}
+
+void DeskWindow::saveLine()
+{
+    const QString name =
+        QDateTime::currentDateTime().toString(QStringLiteral("'line-'yyyyMMdd-HHmmss'.orblog'"));
+    const QString path = QDir::current().absoluteFilePath(name);
+    QString error;
+    const QString sentence =
+        m_unit->lineRecorder()->save(path, &error) ? tr("Saved the last 60 s: %1").arg(path) : error;
+    m_lineStrip->setNote(sentence);
+    m_sidePanel->linePage()->setAnswer(sentence);
 }
 
 bool DeskWindow::isPanelFolded() const
@@ -119,10 +163,20 @@ void DeskWindow::foldPanel(bool isFolded)
     m_fold->setToolTip(isFolded ? tr("Show the panel (F9)") : tr("Fold the panel away (F9)"));
 }
 
+void DeskWindow::showTitle()
+{
+    const QString port = m_lineReporter->status().port;
+    const QString what =
+        m_car + (m_car.isEmpty() || port.isEmpty() ? QString() : QStringLiteral(" · ")) + port;
+    const QString name = tr("Head unit on the desk");
+    setWindowTitle(what.isEmpty() ? name : what + QStringLiteral(" – ") + name);
+}
+
 void DeskWindow::retranslate()
 {
     foldPanel(isPanelFolded());
-    setWindowTitle(tr("Head unit on the desk"));
+    showTitle();
+    showLine(m_lineReporter->status());
     m_shell->retranslate();
 }
 

@@ -8,6 +8,9 @@
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
+class LineReporter;
+class LineStrip;
+struct LineStatus;
 class QToolButton;
 class SidePanel;
 class UnitShell;
@@ -34,6 +37,12 @@ public:
 
     /// The unit's language, \a language being one of UnitPage::languages(); the plug-in is told.
     void chooseLanguage(const QString &language);
+    /// What the line is like, as the strip below the unit says it.
+    LineStrip *lineStrip() const { return m_lineStrip; }
+
+    /// Saves the last minute of the line in the current folder, and says where.
+    void saveLine();
+
     void foldPanel(bool isFolded);
     bool isPanelFolded() const;
 
@@ -42,6 +51,10 @@ protected:
 
 private:
     void addShortcuts();
+    void watchLine(DecoderBox *box);
+    void showLine(const LineStatus &status);
+    void sayHello();
+    void showTitle();
     void retranslate();
 
     HeadUnit *m_unit;
@@ -51,6 +64,9 @@ private:
     KeyStrip *m_keyStrip;
     QToolButton *m_fold;
     SidePanel *m_sidePanel;
+    QString m_car;
+    LineStrip *m_lineStrip;
+    LineReporter *m_lineReporter;
 };
 
 #endif // DESKWINDOW_H

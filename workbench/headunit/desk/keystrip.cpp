@@ -11,6 +11,7 @@ namespace {
 const int KeyHeight = 64;
 const int KeyGap = 8;
 const int TextMargins = 8;
+const int LetterSize = 13; // pixels; the style sheet's
 
 const QVector<KeyStrip::Key> RawKeysOfSet1 = {{0x2000061, Qt::Key_Back},
                                               {0x2F00005, Qt::Key_Enter},
@@ -87,8 +88,9 @@ void KeyStrip::setTexts()
     for (const Button &button : m_buttons) {
         const QString name = UnitKey::of(button.key.meaning).text();
         button.widget->setText(name);
-        button.widget->ensurePolished();
-        button.widget->setMinimumWidth(button.widget->fontMetrics().size(0, name).width() + TextMargins);
+        QFont font = button.widget->font();
+        font.setPixelSize(LetterSize);
+        button.widget->setMinimumWidth(QFontMetrics(font).horizontalAdvance(name) + TextMargins);
     }
 }
 

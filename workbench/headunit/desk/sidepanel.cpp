@@ -4,6 +4,7 @@
 #include "boxpage.h"
 #include "carpage.h"
 #include "fingerscroll.h"
+#include "linepage.h"
 #include "panelsearch.h"
 #include "unitpage.h"
 
@@ -19,11 +20,12 @@ namespace {
 const int Gap = 8;
 } // namespace
 
-SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
+SidePanel::SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent)
     : QWidget(parent)
     , m_box(box)
     , m_search(new QLineEdit)
     , m_pages(new QStackedWidget)
+    , m_linePage(new LinePage(recorder))
     , m_unitPage(new UnitPage)
 {
     setObjectName(QStringLiteral("sidePanel"));
@@ -46,6 +48,7 @@ SidePanel::SidePanel(DecoderBox *box, QWidget *parent)
         m_keysArea = addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box));
         addPage(QT_TR_NOOP("Box"), m_boxPage);
     }
+    addPage(QT_TR_NOOP("Line"), m_linePage);
     addPage(QT_TR_NOOP("Unit"), m_unitPage);
     QButtonGroup *group = new QButtonGroup(this);
     for (int i = 0; i < m_tabs.size(); ++i) {

@@ -6,6 +6,8 @@
 
 class BoxPage;
 class DecoderBox;
+class LinePage;
+class LineRecorder;
 class QLineEdit;
 class QPushButton;
 class QScrollArea;
@@ -21,11 +23,12 @@ class SidePanel : public QWidget
 public:
     static constexpr int PanelWidth = 380;
 
-    /// \a box may be null, when the unit talks to a real one; the panel then has the unit's page only. Not
-    /// owned, and must outlive the panel.
-    explicit SidePanel(DecoderBox *box, QWidget *parent = nullptr);
+    /// \a box may be null, when the unit talks to a real one; the panel then has the pages of line and unit
+    /// only. Neither is owned; both must outlive the panel.
+    SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent = nullptr);
 
     UnitPage *unitPage() const { return m_unitPage; }
+    LinePage *linePage() const { return m_linePage; }
     /// Null without a box.
     BoxPage *boxPage() const { return m_boxPage; }
 
@@ -52,6 +55,7 @@ private:
     QStackedWidget *m_pages;
     QScrollArea *m_carArea = nullptr;
     QScrollArea *m_keysArea = nullptr;
+    LinePage *m_linePage;
     UnitPage *m_unitPage;
     BoxPage *m_boxPage = nullptr;
 };

@@ -8,8 +8,10 @@
 #include "orbapplication.h"
 #include "orbcommons.h"
 #include "orbevent.h"
+#include "orbeventtypes.h"
 #include "orbhost.h"
 #include "orbmainwindow.h"
+#include "orbtrace.h"
 #include "statusbar.h"
 #include "unitscreen.h"
 
@@ -94,6 +96,10 @@ void UnitShell::connectFramework()
 
 void UnitShell::useKey(int code, int phase)
 {
+    static const char *const phases[] = {"release", "press", "repeat"}; // as HeadUnit::KeyPhase
+    if (OrbTrace::listener) {
+        OrbTrace::listener->called("desk", "key", {code, phases[phase]});
+    }
     if (!m_unit->key(uint(code), HeadUnit::KeyPhase(phase))) {
         m_controls.key(code, phase != HeadUnit::KeyReleased, phase == HeadUnit::KeyRepeated);
     }
@@ -103,9 +109,9 @@ void UnitShell::onEvent(const OrbEvent *event)
 {
     if (m_carState.take(*event)) {
         showCarState();
-    } else if (int(event->type()) == OrbEvent::ShowAppType) {
+    } else if (int(event->type()) == OrbEventType::ShowApp) {
         onShowApp(event->getParam2());
-    } else if (int(event->type()) == OrbEvent::ReturnType) {
+    } else if (int(event->type()) == OrbEventType::Return) {
         onReturn();
     }
 }
@@ -207,6 +213,12 @@ void UnitShell::showCarState()
     m_appPage->setCarState(m_carState);
 }
 
+void UnitShell::setDoubt(const QString &doubt)
+{
+    m_homePage->carView()->setDoubt(doubt);
+    m_appPage->setDoubt(doubt);
+}
+
 void UnitShell::showControls()
 {
     m_statusBar->setTwelveHourClock(
@@ -219,7 +231,7 @@ void UnitShell::showControls()
 
 void UnitShell::showFront()
 {
-    QWidget *front = OrbHost::instance()->frontWindow();
+    QWidget *front = OrbHost::instance()->frontMainWindow();
     if (front) {
         // A window translates its title after the desk does, or changes it while it is open.
         connect(front, &QWidget::windowTitleChanged, this, &UnitShell::showFront, Qt::UniqueConnection);

@@ -34,6 +34,9 @@ public:
     /// takes it.
     void useKey(int code, int phase);
 
+    /// Why the car may be another than was reported; empty when it is as it is shown.
+    void setDoubt(const QString &doubt);
+
     /// Texts of the unit's own pages in the language of now.
     void retranslate();
 

@@ -12,6 +12,10 @@
         <translation>A/C</translation>
     </message>
     <message>
+        <source>A/C max</source>
+        <translation>A/C max</translation>
+    </message>
+    <message>
         <source>Activated</source>
         <translation>Aktiviert</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Alle</translation>
     </message>
     <message>
+        <source>Amplifier</source>
+        <translation>Verstärker</translation>
+    </message>
+    <message>
         <source>Angle</source>
         <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Angled</source>
+        <translation>Schräg</translation>
     </message>
     <message>
         <source>Application</source>
@@ -40,6 +52,10 @@
         <translation>Keine Anwendung</translation>
     </message>
     <message>
+        <source>Arrows</source>
+        <translation>Pfeile</translation>
+    </message>
+    <message>
         <source>Assist</source>
         <translation>Assistenz</translation>
     </message>
@@ -48,12 +64,36 @@
         <translation>Auto</translation>
     </message>
     <message>
+        <source>Auto compressor</source>
+        <translation>Kompressor automatisch</translation>
+    </message>
+    <message>
+        <source>Auto heating driver</source>
+        <translation>Heizung automatisch, Fahrer</translation>
+    </message>
+    <message>
+        <source>Auto heating passenger</source>
+        <translation>Heizung automatisch, Beifahrer</translation>
+    </message>
+    <message>
         <source>Auto lock</source>
         <translation>Selbstverriegelung</translation>
     </message>
     <message>
+        <source>Auto recirculation</source>
+        <translation>Umluft automatisch</translation>
+    </message>
+    <message>
+        <source>Auto unlock</source>
+        <translation>Selbstentriegelung</translation>
+    </message>
+    <message>
         <source>Automatic</source>
         <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Durchschnitt</translation>
     </message>
     <message>
         <source>Average consumption</source>
@@ -68,16 +108,44 @@
         <translation>Zurück</translation>
     </message>
     <message>
+        <source>Backlight</source>
+        <translation>Beleuchtung</translation>
+    </message>
+    <message>
         <source>Backwards</source>
         <translation>Rückwärts</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Wellenbereich</translation>
+    </message>
+    <message>
+        <source>Bass</source>
+        <translation>Bässe</translation>
     </message>
     <message>
         <source>Beyond</source>
         <translation>Über das Ende</translation>
     </message>
     <message>
+        <source>Blind spot</source>
+        <translation>Toter Winkel</translation>
+    </message>
+    <message>
         <source>Blue</source>
         <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Bonnet</source>
+        <translation>Motorhaube</translation>
+    </message>
+    <message>
+        <source>Boot</source>
+        <translation>Kofferraum</translation>
     </message>
     <message>
         <source>Box</source>
@@ -88,6 +156,22 @@
         <translation>Bremse</translation>
     </message>
     <message>
+        <source>Brightest</source>
+        <translation>Am hellsten</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Cabin</source>
+        <translation>Innenraum</translation>
+    </message>
+    <message>
         <source>Call</source>
         <translation>Anruf</translation>
     </message>
@@ -96,16 +180,32 @@
         <translation>Kamera</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
         <source>Car type</source>
         <translation>Fahrzeugtyp</translation>
+    </message>
+    <message>
+        <source>Centerpoint</source>
+        <translation>Centerpoint</translation>
     </message>
     <message>
         <source>Check</source>
         <translation>Prüfen</translation>
     </message>
     <message>
+        <source>Chinese</source>
+        <translation>Chinesisch</translation>
+    </message>
+    <message>
         <source>Circulation</source>
         <translation>Luftzufuhr</translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation>Reinigung</translation>
     </message>
     <message>
         <source>Climate</source>
@@ -126,6 +226,10 @@
     <message>
         <source>Comfort</source>
         <translation>Komfort</translation>
+    </message>
+    <message>
+        <source>Comfort curve</source>
+        <translation>Komfortkurve</translation>
     </message>
     <message>
         <source>Coming home</source>
@@ -164,6 +268,10 @@
         <translation>Zeiger auf</translation>
     </message>
     <message>
+        <source>Darkest</source>
+        <translation>Am dunkelsten</translation>
+    </message>
+    <message>
         <source>Days</source>
         <translation>Tage</translation>
     </message>
@@ -176,8 +284,20 @@
         <translation>Abtauen</translation>
     </message>
     <message>
+        <source>Degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
         <source>Digit</source>
         <translation>Ziffer</translation>
+    </message>
+    <message>
+        <source>Dipped</source>
+        <translation>Abblendlicht</translation>
+    </message>
+    <message>
+        <source>Dipped and fog</source>
+        <translation>Abblend- und Nebelschlusslicht</translation>
     </message>
     <message>
         <source>Display</source>
@@ -200,6 +320,14 @@
         <translation>Abwärts</translation>
     </message>
     <message>
+        <source>Down left</source>
+        <translation>Links unten</translation>
+    </message>
+    <message>
+        <source>Down right</source>
+        <translation>Rechts unten</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Fahren</translation>
     </message>
@@ -214,6 +342,14 @@
     <message>
         <source>Driver alert</source>
         <translation>Müdigkeitswarnung</translation>
+    </message>
+    <message>
+        <source>Driver stage</source>
+        <translation>Klangbühne Fahrer</translation>
+    </message>
+    <message>
+        <source>Dual</source>
+        <translation>Zwei Zonen</translation>
     </message>
     <message>
         <source>Dynamic</source>
@@ -236,8 +372,20 @@
         <translation>Spartipps</translation>
     </message>
     <message>
+        <source>Eject</source>
+        <translation>Auswerfen</translation>
+    </message>
+    <message>
+        <source>Emergency</source>
+        <translation>Notruf</translation>
+    </message>
+    <message>
         <source>Engine</source>
         <translation>Motor</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -246,6 +394,10 @@
     <message>
         <source>Factory</source>
         <translation>Werksanzeige</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
     </message>
     <message>
         <source>Fan</source>
@@ -260,6 +412,10 @@
         <translation>Weit</translation>
     </message>
     <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
         <source>Fault</source>
         <translation>Störung</translation>
     </message>
@@ -268,8 +424,16 @@
         <translation>Firmware</translation>
     </message>
     <message>
+        <source>First forward</source>
+        <translation>Beim ersten Vorwärtsgang</translation>
+    </message>
+    <message>
         <source>Fold</source>
         <translation>Anklappen</translation>
+    </message>
+    <message>
+        <source>Follow me</source>
+        <translation>Nachleuchten</translation>
     </message>
     <message>
         <source>Footwell</source>
@@ -280,8 +444,28 @@
         <translation>Vorspulen</translation>
     </message>
     <message>
+        <source>Forward gear</source>
+        <translation>Vorwärtsgang</translation>
+    </message>
+    <message>
+        <source>Fresh air cycle</source>
+        <translation>Frischluftzyklus</translation>
+    </message>
+    <message>
         <source>Front</source>
         <translation>Vorn</translation>
+    </message>
+    <message>
+        <source>Front and around</source>
+        <translation>Vorn und ringsum</translation>
+    </message>
+    <message>
+        <source>Front and left</source>
+        <translation>Vorn und links</translation>
+    </message>
+    <message>
+        <source>Front and right</source>
+        <translation>Vorn und rechts</translation>
     </message>
     <message>
         <source>Front left</source>
@@ -290,6 +474,10 @@
     <message>
         <source>Front right</source>
         <translation>Vorn rechts</translation>
+    </message>
+    <message>
+        <source>Front service</source>
+        <translation>Wartungsstellung vorn</translation>
     </message>
     <message>
         <source>Front tone</source>
@@ -336,12 +524,28 @@
         <translation>Gang</translation>
     </message>
     <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Handbremse</translation>
+    </message>
+    <message>
         <source>Hang up</source>
         <translation>Auflegen</translation>
     </message>
     <message>
         <source>Head</source>
-        <translation>Kopf</translation>
+        <translation>Dach</translation>
+    </message>
+    <message>
+        <source>Heating driver</source>
+        <translation>Heizung Fahrer</translation>
+    </message>
+    <message>
+        <source>Heating passenger</source>
+        <translation>Heizung Beifahrer</translation>
     </message>
     <message>
         <source>High</source>
@@ -368,6 +572,10 @@
         <translation>Blinker</translation>
     </message>
     <message>
+        <source>Indicator volume</source>
+        <translation>Blinkerlautstärke</translation>
+    </message>
+    <message>
         <source>Individual</source>
         <translation>Individuell</translation>
     </message>
@@ -380,8 +588,32 @@
         <translation>Instrumente</translation>
     </message>
     <message>
+        <source>Introduction</source>
+        <translation>Einführung</translation>
+    </message>
+    <message>
+        <source>Ioniser</source>
+        <translation>Ionisator</translation>
+    </message>
+    <message>
+        <source>Ioniser at start</source>
+        <translation>Ionisator beim Start</translation>
+    </message>
+    <message>
+        <source>Ioniser mode</source>
+        <translation>Ionisatorart</translation>
+    </message>
+    <message>
         <source>Key</source>
         <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Key form</source>
+        <translation>Tastenmeldung</translation>
+    </message>
+    <message>
+        <source>Key position</source>
+        <translation>Sitz je Schlüssel</translation>
     </message>
     <message>
         <source>Known</source>
@@ -396,8 +628,16 @@
         <translation>Spurwechsel</translation>
     </message>
     <message>
+        <source>Lane departure</source>
+        <translation>Spurverlassen</translation>
+    </message>
+    <message>
         <source>Lane keeping</source>
         <translation>Spurhalten</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Last distance</source>
@@ -416,6 +656,22 @@
         <translation>Links</translation>
     </message>
     <message>
+        <source>Left indicator</source>
+        <translation>Blinker links</translation>
+    </message>
+    <message>
+        <source>Left mirror</source>
+        <translation>Spiegel links</translation>
+    </message>
+    <message>
+        <source>Left step</source>
+        <translation>Stufe links</translation>
+    </message>
+    <message>
+        <source>Lids</source>
+        <translation>Klappen</translation>
+    </message>
+    <message>
         <source>Light</source>
         <translation>Licht</translation>
     </message>
@@ -424,8 +680,20 @@
         <translation>Beleuchtung</translation>
     </message>
     <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
         <source>Load</source>
         <translation>Beladung</translation>
+    </message>
+    <message>
+        <source>Lock sound</source>
+        <translation>Verriegelungston</translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation>Lang</translation>
     </message>
     <message>
         <source>Long term</source>
@@ -444,6 +712,14 @@
         <translation>Absenken rückwärts</translation>
     </message>
     <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medien</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>Mittel</translation>
     </message>
@@ -452,8 +728,16 @@
         <translation>Speicher</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
         <source>Message</source>
         <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Mirrors</source>
@@ -468,12 +752,24 @@
         <translation>Autobahn</translation>
     </message>
     <message>
+        <source>Moving object</source>
+        <translation>Bewegte Objekte</translation>
+    </message>
+    <message>
         <source>Mute</source>
         <translation>Stumm</translation>
     </message>
     <message>
         <source>Next</source>
         <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Night brightness</source>
+        <translation>Nachthelligkeit</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>Kein Signal</translation>
     </message>
     <message>
         <source>None</source>
@@ -508,8 +804,16 @@
         <translation>Öltemperatur</translation>
     </message>
     <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
         <source>Opening</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Orange</source>
@@ -520,12 +824,44 @@
         <translation>Außenluft</translation>
     </message>
     <message>
+        <source>Outside</source>
+        <translation>Außen</translation>
+    </message>
+    <message>
+        <source>PA</source>
+        <translation>PA</translation>
+    </message>
+    <message>
+        <source>Parallel</source>
+        <translation>Längs</translation>
+    </message>
+    <message>
+        <source>Parallel parking</source>
+        <translation>Längs einparken</translation>
+    </message>
+    <message>
         <source>Parking</source>
         <translation>Parken</translation>
     </message>
     <message>
+        <source>Parking picture</source>
+        <translation>Parkbild</translation>
+    </message>
+    <message>
+        <source>Perpendicular</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Perpendicular parking</source>
+        <translation>Quer einparken</translation>
+    </message>
+    <message>
         <source>Phone</source>
         <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Play</source>
@@ -534,6 +870,10 @@
     <message>
         <source>Power</source>
         <translation>Ein/Aus</translation>
+    </message>
+    <message>
+        <source>Power time</source>
+        <translation>Laufzeit</translation>
     </message>
     <message>
         <source>Pressure</source>
@@ -572,12 +912,36 @@
         <translation>Hinten</translation>
     </message>
     <message>
+        <source>Rear and around</source>
+        <translation>Hinten und ringsum</translation>
+    </message>
+    <message>
+        <source>Rear and left</source>
+        <translation>Hinten und links</translation>
+    </message>
+    <message>
+        <source>Rear and right</source>
+        <translation>Hinten und rechts</translation>
+    </message>
+    <message>
+        <source>Rear defrost</source>
+        <translation>Heckscheibenheizung</translation>
+    </message>
+    <message>
         <source>Rear left</source>
         <translation>Hinten links</translation>
     </message>
     <message>
+        <source>Rear reversing</source>
+        <translation>Hinten beim Rückwärtsfahren</translation>
+    </message>
+    <message>
         <source>Rear right</source>
         <translation>Hinten rechts</translation>
+    </message>
+    <message>
+        <source>Rear seat</source>
+        <translation>Rücksitz</translation>
     </message>
     <message>
         <source>Rear tone</source>
@@ -600,6 +964,14 @@
         <translation>Gründe</translation>
     </message>
     <message>
+        <source>Relax</source>
+        <translation>Entspannung</translation>
+    </message>
+    <message>
+        <source>Remote</source>
+        <translation>Fernbedienung</translation>
+    </message>
+    <message>
         <source>Remote key</source>
         <translation>Funkschlüssel</translation>
     </message>
@@ -620,6 +992,38 @@
         <translation>Rechts</translation>
     </message>
     <message>
+        <source>Right indicator</source>
+        <translation>Blinker rechts</translation>
+    </message>
+    <message>
+        <source>Right mirror</source>
+        <translation>Spiegel rechts</translation>
+    </message>
+    <message>
+        <source>Right step</source>
+        <translation>Stufe rechts</translation>
+    </message>
+    <message>
+        <source>Roller down</source>
+        <translation>Walze ab</translation>
+    </message>
+    <message>
+        <source>Roller up</source>
+        <translation>Walze auf</translation>
+    </message>
+    <message>
+        <source>SOS</source>
+        <translation>SOS</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchlauf</translation>
+    </message>
+    <message>
         <source>Screen</source>
         <translation>Bildschirm</translation>
     </message>
@@ -628,12 +1032,20 @@
         <translation>Sitz</translation>
     </message>
     <message>
+        <source>Sensor</source>
+        <translation>Sensor</translation>
+    </message>
+    <message>
         <source>Service</source>
         <translation>Wartung</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
     </message>
     <message>
         <source>Show</source>
@@ -656,12 +1068,36 @@
         <translation>Einzeln</translation>
     </message>
     <message>
+        <source>Slow</source>
+        <translation>Langsam</translation>
+    </message>
+    <message>
+        <source>Smart entry</source>
+        <translation>Kluger Einstieg</translation>
+    </message>
+    <message>
         <source>Snow</source>
         <translation>Schnee</translation>
     </message>
     <message>
+        <source>Soft</source>
+        <translation>Sanft</translation>
+    </message>
+    <message>
         <source>Speed</source>
         <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Speed limit</source>
+        <translation>Tempowarnung</translation>
+    </message>
+    <message>
+        <source>Speed lock</source>
+        <translation>Verriegeln beim Fahren</translation>
+    </message>
+    <message>
+        <source>Speed volume</source>
+        <translation>Tempolautstärke</translation>
     </message>
     <message>
         <source>Speed warning</source>
@@ -676,20 +1112,52 @@
         <translation>Standard</translation>
     </message>
     <message>
+        <source>Start animation</source>
+        <translation>Startanimation</translation>
+    </message>
+    <message>
+        <source>Start time</source>
+        <translation>Startzeit</translation>
+    </message>
+    <message>
         <source>Start-stop</source>
         <translation>Start-Stopp</translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation>Beginnt</translation>
     </message>
     <message>
         <source>Steering</source>
         <translation>Lenkung</translation>
     </message>
     <message>
+        <source>Steering mode</source>
+        <translation>Lenkmodus</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Lenkrad</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Stufen</translation>
+    </message>
+    <message>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
     <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
         <source>Sunroof</source>
         <translation>Schiebedach</translation>
+    </message>
+    <message>
+        <source>Surround</source>
+        <translation>Rundum</translation>
     </message>
     <message>
         <source>Switch on</source>
@@ -702,6 +1170,10 @@
     <message>
         <source>Tailgate</source>
         <translation>Heckklappe</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>Time</source>
@@ -724,6 +1196,10 @@
         <translation>Verkehr</translation>
     </message>
     <message>
+        <source>Treble</source>
+        <translation>Höhen</translation>
+    </message>
+    <message>
         <source>Trip</source>
         <translation>Reise</translation>
     </message>
@@ -734,6 +1210,10 @@
     <message>
         <source>Tune knob right</source>
         <translation>Sendersuche rechts</translation>
+    </message>
+    <message>
+        <source>Turning fog</source>
+        <translation>Nebelabbiegelicht</translation>
     </message>
     <message>
         <source>Twice</source>
@@ -752,8 +1232,20 @@
         <translation>Einheiten</translation>
     </message>
     <message>
+        <source>Unlock</source>
+        <translation>Entriegeln</translation>
+    </message>
+    <message>
         <source>Up</source>
         <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Up left</source>
+        <translation>Links oben</translation>
+    </message>
+    <message>
+        <source>Up right</source>
+        <translation>Rechts oben</translation>
     </message>
     <message>
         <source>Vehicle number</source>
@@ -770,6 +1262,10 @@
     <message>
         <source>Very far</source>
         <translation>Sehr weit</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Voice</source>
@@ -800,12 +1296,64 @@
         <translation>Warnung</translation>
     </message>
     <message>
+        <source>Warning volume</source>
+        <translation>Warnlautstärke</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Begrüßung</translation>
+    </message>
+    <message>
         <source>White</source>
         <translation>Weiß</translation>
     </message>
     <message>
+        <source>Window and roof</source>
+        <translation>Fenster und Dach</translation>
+    </message>
+    <message>
         <source>Wiper position</source>
         <translation>Wischerstellung</translation>
+    </message>
+    <message>
+        <source>Wipers</source>
+        <translation>Scheibenwischer</translation>
+    </message>
+    <message>
+        <source>Wish AM</source>
+        <translation>Wunsch AM</translation>
+    </message>
+    <message>
+        <source>Wish AUX</source>
+        <translation>Wunsch AUX</translation>
+    </message>
+    <message>
+        <source>Wish Bluetooth</source>
+        <translation>Wunsch Bluetooth</translation>
+    </message>
+    <message>
+        <source>Wish CD</source>
+        <translation>Wunsch CD</translation>
+    </message>
+    <message>
+        <source>Wish FM</source>
+        <translation>Wunsch FM</translation>
+    </message>
+    <message>
+        <source>Wish USB</source>
+        <translation>Wunsch USB</translation>
+    </message>
+    <message>
+        <source>Wish answer</source>
+        <translation>Wunsch Annehmen</translation>
+    </message>
+    <message>
+        <source>Wish refuse</source>
+        <translation>Wunsch Ablehnen</translation>
     </message>
     <message>
         <source>°C</source>

@@ -15,7 +15,7 @@
         <translation>Tasten am Lenkrad</translation>
     </message>
     <message>
-        <source>Keys on the car's panel</source>
+        <source>Keys on the car&apos;s panel</source>
         <translation>Tasten am Bedienfeld des Autos</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@
         <translation>Szenarien (*.scn)</translation>
     </message>
     <message>
-        <source>Waits for the unit's ready</source>
+        <source>Waits for the unit&apos;s ready</source>
         <translation>Wartet auf die Bereitmeldung des Geräts</translation>
     </message>
     <message>
@@ -113,6 +113,116 @@
         <source>Line log</source>
         <translation>Leitungsprotokoll</translation>
     </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>Bit kippen</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>Byte verlieren</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>Byte verdoppeln</translation>
+    </message>
+    <message>
+        <source>Wrong length</source>
+        <translation>Falsche Länge</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>Stocken, 300 ms</translation>
+    </message>
+    <message>
+        <source>Garbage</source>
+        <translation>Müll</translation>
+    </message>
+    <message>
+        <source>Late answer</source>
+        <translation>Späte Antwort</translation>
+    </message>
+    <message>
+        <source>Cut the update</source>
+        <translation>Update kappen</translation>
+    </message>
+    <message>
+        <source>Pull the line</source>
+        <translation>Leitung ziehen</translation>
+    </message>
+    <message>
+        <source>Plug it in</source>
+        <translation>Einstecken</translation>
+    </message>
+    <message>
+        <source>Bad line</source>
+        <translation>Schlechte Leitung</translation>
+    </message>
+    <message>
+        <source>Good line</source>
+        <translation>Gute Leitung</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Gestoppt</translation>
+    </message>
+    <message>
+        <source>Silent by order</source>
+        <translation>Auf Befehl still</translation>
+    </message>
+</context>
+<context>
+    <name>CarPage</name>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Mid left</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <source>Mid right</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+</context>
+<context>
+    <name>CarPicker</name>
+    <message>
+        <source>Which car?</source>
+        <translation>Welches Auto?</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Virtual box</source>
+        <translation>Virtuelle Box</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The decoder that is fitted</source>
+        <translation>Der eingebaute Decoder</translation>
+    </message>
+    <message>
+        <source>Its line: a virtual box, or a serial device of this computer</source>
+        <translation>Seine Leitung: eine virtuelle Box oder eine serielle Schnittstelle dieses Rechners</translation>
+    </message>
+    <message>
+        <source>%1 (no virtual box)</source>
+        <translation>%1 (keine virtuelle Box)</translation>
+    </message>
 </context>
 <context>
     <name>CarView</name>
@@ -148,12 +258,44 @@
         <source>Steering %1°</source>
         <translation>Lenkung %1°</translation>
     </message>
+    <message>
+        <source>Doors not reported</source>
+        <translation>Türen nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>The car has reported nothing yet</source>
+        <translation>Das Auto hat noch nichts gemeldet</translation>
+    </message>
 </context>
 <context>
     <name>DeskWindow</name>
     <message>
         <source>Head unit on the desk</source>
-        <translation>Kopfeinheit auf dem Tisch</translation>
+        <translation>Bordgerät auf dem Tisch</translation>
+    </message>
+    <message>
+        <source>Not sure: %1</source>
+        <translation>Ungewiss: %1</translation>
+    </message>
+    <message>
+        <source>Hello said: the box was sent the ready command</source>
+        <translation>Begrüßt: die Box hat das Bereit-Kommando bekommen</translation>
+    </message>
+    <message>
+        <source>There is no open line to say hello on</source>
+        <translation>Es ist keine Leitung offen</translation>
+    </message>
+    <message>
+        <source>Saved the last 60 s: %1</source>
+        <translation>Letzte 60 s gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Show the panel (F9)</source>
+        <translation>Bedienfeld zeigen (F9)</translation>
+    </message>
+    <message>
+        <source>Fold the panel away (F9)</source>
+        <translation>Bedienfeld einklappen (F9)</translation>
     </message>
 </context>
 <context>
@@ -176,6 +318,256 @@
     </message>
 </context>
 <context>
+    <name>LineLogModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Zeit, s</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>LinePage</name>
+    <message>
+        <source>Line</source>
+        <translation>Leitung</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Leitung %1</translation>
+    </message>
+    <message>
+        <source>Packages: %1, %2 a second</source>
+        <translation>Pakete: %1, %2 je Sekunde</translation>
+    </message>
+    <message>
+        <source>Last package: %1</source>
+        <translation>Letztes Paket: %1</translation>
+    </message>
+    <message>
+        <source>Acknowledged in: %1</source>
+        <translation>Quittiert in: %1</translation>
+    </message>
+    <message>
+        <source>Bad checksums: %1</source>
+        <translation>Falsche Prüfsummen: %1</translation>
+    </message>
+    <message>
+        <source>Skipped bytes: %1</source>
+        <translation>Übergangene Bytes: %1</translation>
+    </message>
+    <message>
+        <source>Repetitions: %1</source>
+        <translation>Wiederholungen: %1</translation>
+    </message>
+    <message>
+        <source>Say hello</source>
+        <translation>Begrüßen</translation>
+    </message>
+    <message>
+        <source>Sends the box the ready command again</source>
+        <translation>Schickt der Box noch einmal das Bereit-Kommando</translation>
+    </message>
+    <message>
+        <source>Save 60 s</source>
+        <translation>60 s speichern</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Leitungsprotokoll</translation>
+    </message>
+    <message>
+        <source>Bytes to look for: 2e 21</source>
+        <translation>Gesuchte Bytes: 2e 21</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>LineStatus</name>
+    <message>
+        <source>the serial library in use tells nothing</source>
+        <translation>die serielle Bibliothek verrät nichts</translation>
+    </message>
+    <message>
+        <source>the unit has opened no line</source>
+        <translation>das Gerät hat keine Leitung geöffnet</translation>
+    </message>
+    <message>
+        <source>no such device</source>
+        <translation>kein solches Gerät</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>no permission: join the group %1</source>
+        <translation>keine Berechtigung: der Gruppe %1 beitreten</translation>
+    </message>
+    <message>
+        <source>in use by another process</source>
+        <translation>von einem anderen Prozess belegt</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>belegt von %1</translation>
+    </message>
+    <message>
+        <source>no serial device</source>
+        <translation>keine serielle Schnittstelle</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>line lost</source>
+        <translation>Leitung verloren</translation>
+    </message>
+    <message>
+        <source>bytes but no packages: other baud rate?</source>
+        <translation>Bytes, aber keine Pakete: andere Baudrate?</translation>
+    </message>
+    <message>
+        <source>waiting for the box&apos;s first word</source>
+        <translation>wartet auf das erste Wort der Box</translation>
+    </message>
+    <message>
+        <source>talking</source>
+        <translation>im Gespräch</translation>
+    </message>
+    <message>
+        <source>silent for %1 s</source>
+        <translation>still seit %1 s</translation>
+    </message>
+    <message>
+        <source>unit too slow: box repeats</source>
+        <translation>Gerät zu langsam: Box wiederholt</translation>
+    </message>
+    <message>
+        <source>box stopped</source>
+        <translation>Box gestoppt</translation>
+    </message>
+    <message>
+        <source>box silent by order</source>
+        <translation>Box auf Befehl still</translation>
+    </message>
+</context>
+<context>
+    <name>LineStrip</name>
+    <message>
+        <source>Save the last 60 s</source>
+        <translation>Letzte 60 s speichern</translation>
+    </message>
+</context>
+<context>
+    <name>LineWords</name>
+    <message>
+        <source>%1 packages/s</source>
+        <translation>%1 Pakete/s</translation>
+    </message>
+    <message>
+        <source>%1 bad</source>
+        <translation>%1 falsch</translation>
+    </message>
+    <message>
+        <source>%1 bytes skipped</source>
+        <translation>%1 Bytes übergangen</translation>
+    </message>
+    <message>
+        <source>%1 repeated</source>
+        <translation>%1 wiederholt</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>quittiert in %1</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>vor %1 s</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keine</translation>
+    </message>
+</context>
+<context>
+    <name>ObservationWords</name>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Uhr</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Anwendung</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>another one</source>
+        <translation>eine andere</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
     <name>SidePanel</name>
     <message>
         <source>Car</source>
@@ -192,6 +584,14 @@
     <message>
         <source>Unit</source>
         <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Leitung</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
     </message>
 </context>
 <context>

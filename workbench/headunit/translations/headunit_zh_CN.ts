@@ -15,7 +15,7 @@
         <translation>方向盘按键</translation>
     </message>
     <message>
-        <source>Keys on the car's panel</source>
+        <source>Keys on the car&apos;s panel</source>
         <translation>原车面板按键</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@
         <translation>场景 (*.scn)</translation>
     </message>
     <message>
-        <source>Waits for the unit's ready</source>
+        <source>Waits for the unit&apos;s ready</source>
         <translation>等待主机就绪</translation>
     </message>
     <message>
@@ -113,6 +113,116 @@
         <source>Line log</source>
         <translation>线路日志</translation>
     </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>翻转一位</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>丢失一个字节</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>重复一个字节</translation>
+    </message>
+    <message>
+        <source>Wrong length</source>
+        <translation>错误长度</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>停顿 300 毫秒</translation>
+    </message>
+    <message>
+        <source>Garbage</source>
+        <translation>乱码</translation>
+    </message>
+    <message>
+        <source>Late answer</source>
+        <translation>延迟应答</translation>
+    </message>
+    <message>
+        <source>Cut the update</source>
+        <translation>中断升级</translation>
+    </message>
+    <message>
+        <source>Pull the line</source>
+        <translation>拔出线路</translation>
+    </message>
+    <message>
+        <source>Plug it in</source>
+        <translation>重新插入</translation>
+    </message>
+    <message>
+        <source>Bad line</source>
+        <translation>线路不良</translation>
+    </message>
+    <message>
+        <source>Good line</source>
+        <translation>线路良好</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Silent by order</source>
+        <translation>按指令静默</translation>
+    </message>
+</context>
+<context>
+    <name>CarPage</name>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Mid left</source>
+        <translation>左中</translation>
+    </message>
+    <message>
+        <source>Mid right</source>
+        <translation>右中</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+</context>
+<context>
+    <name>CarPicker</name>
+    <message>
+        <source>Which car?</source>
+        <translation>哪款车？</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Virtual box</source>
+        <translation>虚拟盒</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The decoder that is fitted</source>
+        <translation>已安装的解码盒</translation>
+    </message>
+    <message>
+        <source>Its line: a virtual box, or a serial device of this computer</source>
+        <translation>线路：虚拟盒，或本机的串口设备</translation>
+    </message>
+    <message>
+        <source>%1 (no virtual box)</source>
+        <translation>%1（无虚拟盒）</translation>
+    </message>
 </context>
 <context>
     <name>CarView</name>
@@ -148,12 +258,44 @@
         <source>Steering %1°</source>
         <translation>转向 %1°</translation>
     </message>
+    <message>
+        <source>Doors not reported</source>
+        <translation>车门未上报</translation>
+    </message>
+    <message>
+        <source>The car has reported nothing yet</source>
+        <translation>车辆尚未上报任何信息</translation>
+    </message>
 </context>
 <context>
     <name>DeskWindow</name>
     <message>
         <source>Head unit on the desk</source>
         <translation>桌面主机</translation>
+    </message>
+    <message>
+        <source>Not sure: %1</source>
+        <translation>不确定：%1</translation>
+    </message>
+    <message>
+        <source>Hello said: the box was sent the ready command</source>
+        <translation>已问候：已向盒子发送就绪命令</translation>
+    </message>
+    <message>
+        <source>There is no open line to say hello on</source>
+        <translation>没有已打开的线路</translation>
+    </message>
+    <message>
+        <source>Saved the last 60 s: %1</source>
+        <translation>已保存最近 60 秒：%1</translation>
+    </message>
+    <message>
+        <source>Show the panel (F9)</source>
+        <translation>显示面板 (F9)</translation>
+    </message>
+    <message>
+        <source>Fold the panel away (F9)</source>
+        <translation>收起面板 (F9)</translation>
     </message>
 </context>
 <context>
@@ -176,6 +318,256 @@
     </message>
 </context>
 <context>
+    <name>LineLogModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>时间，秒</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>字节</translation>
+    </message>
+</context>
+<context>
+    <name>LinePage</name>
+    <message>
+        <source>Line</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>线路 %1</translation>
+    </message>
+    <message>
+        <source>Packages: %1, %2 a second</source>
+        <translation>数据包：%1，每秒 %2</translation>
+    </message>
+    <message>
+        <source>Last package: %1</source>
+        <translation>最近的数据包：%1</translation>
+    </message>
+    <message>
+        <source>Acknowledged in: %1</source>
+        <translation>应答用时：%1</translation>
+    </message>
+    <message>
+        <source>Bad checksums: %1</source>
+        <translation>校验和错误：%1</translation>
+    </message>
+    <message>
+        <source>Skipped bytes: %1</source>
+        <translation>跳过的字节：%1</translation>
+    </message>
+    <message>
+        <source>Repetitions: %1</source>
+        <translation>重复：%1</translation>
+    </message>
+    <message>
+        <source>Say hello</source>
+        <translation>问候</translation>
+    </message>
+    <message>
+        <source>Sends the box the ready command again</source>
+        <translation>再次向盒子发送就绪命令</translation>
+    </message>
+    <message>
+        <source>Save 60 s</source>
+        <translation>保存 60 秒</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>线路日志</translation>
+    </message>
+    <message>
+        <source>Bytes to look for: 2e 21</source>
+        <translation>要查找的字节：2e 21</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>LineStatus</name>
+    <message>
+        <source>the serial library in use tells nothing</source>
+        <translation>所用的串口库不提供信息</translation>
+    </message>
+    <message>
+        <source>the unit has opened no line</source>
+        <translation>主机未打开线路</translation>
+    </message>
+    <message>
+        <source>no such device</source>
+        <translation>没有该设备</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>没有权限</translation>
+    </message>
+    <message>
+        <source>no permission: join the group %1</source>
+        <translation>没有权限：请加入用户组 %1</translation>
+    </message>
+    <message>
+        <source>in use by another process</source>
+        <translation>被其他进程占用</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>被 %1 占用</translation>
+    </message>
+    <message>
+        <source>no serial device</source>
+        <translation>不是串口设备</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>无法打开：%1</translation>
+    </message>
+    <message>
+        <source>line lost</source>
+        <translation>线路断开</translation>
+    </message>
+    <message>
+        <source>bytes but no packages: other baud rate?</source>
+        <translation>有字节但无数据包：波特率不对？</translation>
+    </message>
+    <message>
+        <source>waiting for the box&apos;s first word</source>
+        <translation>等待盒子的第一条消息</translation>
+    </message>
+    <message>
+        <source>talking</source>
+        <translation>通信中</translation>
+    </message>
+    <message>
+        <source>silent for %1 s</source>
+        <translation>已静默 %1 秒</translation>
+    </message>
+    <message>
+        <source>unit too slow: box repeats</source>
+        <translation>主机太慢：盒子在重发</translation>
+    </message>
+    <message>
+        <source>box stopped</source>
+        <translation>盒子已停止</translation>
+    </message>
+    <message>
+        <source>box silent by order</source>
+        <translation>盒子按指令静默</translation>
+    </message>
+</context>
+<context>
+    <name>LineStrip</name>
+    <message>
+        <source>Save the last 60 s</source>
+        <translation>保存最近 60 秒</translation>
+    </message>
+</context>
+<context>
+    <name>LineWords</name>
+    <message>
+        <source>%1 packages/s</source>
+        <translation>%1 包/秒</translation>
+    </message>
+    <message>
+        <source>%1 bad</source>
+        <translation>%1 个错误</translation>
+    </message>
+    <message>
+        <source>%1 bytes skipped</source>
+        <translation>跳过 %1 字节</translation>
+    </message>
+    <message>
+        <source>%1 repeated</source>
+        <translation>重复 %1</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>应答 %1</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>从未</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>尚无</translation>
+    </message>
+</context>
+<context>
+    <name>ObservationWords</name>
+    <message>
+        <source>Source</source>
+        <translation>音源</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>音效</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>时钟</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>摄像头</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Radio</source>
+        <translation>收音机</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音乐</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>蓝牙</translation>
+    </message>
+    <message>
+        <source>another one</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
     <name>SidePanel</name>
     <message>
         <source>Car</source>
@@ -192,6 +584,14 @@
     <message>
         <source>Unit</source>
         <translation>主机</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,272 @@
+// The program's sub-commands for a line and its logs, with the real plug-in.
+
+#include "boxcatalog.h"
+#include "decoderbox.h"
+#include "headunitrun.h"
+#include "linelogformats.h"
+#include "ptybox.h"
+
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+// One run of the program to its end, during which this process's event loop runs.
+class Run
+{
+public:
+    explicit Run(const QStringList &arguments)
+    {
+        m_process.start(HEADUNIT, arguments);
+        m_process.closeWriteChannel();
+    }
+    ~Run()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    int exitCode()
+    {
+        const bool isOver =
+            PtyBox::waitUntil([this] { return m_process.state() == QProcess::NotRunning; }, 60000);
+        return isOver && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    }
+    QJsonDocument json() { return QJsonDocument::fromJson(m_process.readAllStandardOutput()); }
+
+private:
+    QProcess m_process;
+};
+
+// The records of a log but for their header.
+QVector<LineRecord> recordsOf(const QString &path)
+{
+    QString error;
+    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(path, {}, &error);
+    QVector<LineRecord> records;
+    for (LineRecord record; reader && reader->next(&record);) {
+        records << record;
+    }
+    return records;
+}
+
+QVector<LineRecord> towardsUnit(const QVector<LineRecord> &records)
+{
+    QVector<LineRecord> chunks;
+    for (const LineRecord &record : records) {
+        if (record.isTowardsUnit()) {
+            chunks << record;
+        }
+    }
+    return chunks;
+}
+
+bool write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QFile::WriteOnly) && file.write(text) == text.size();
+}
+
+const QStringList Virtual = {"--headless", "--virtual-clock"};
+
+} // namespace
+
+class TestLineCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void replayOfARecording();
+    void gaps();
+    void replays_data();
+    void replays();
+    void identifies_data();
+    void identifies();
+    void checksABox();
+    void checksAPortInUse();
+    void portThatVanishes_data();
+    void portThatVanishes();
+
+private:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+// A drive of the virtual box, recorded.
+void TestLineCommands::initTestCase()
+{
+    Run run(Virtual +
+            QStringList{"--can-bus-type", "7", "--decoder-box", DRIVE, "--record", path("honda.orblog")});
+    QCOMPARE(run.exitCode(), 0);
+}
+
+void TestLineCommands::replayOfARecording()
+{
+    Run run(QStringList{"replay", path("honda.orblog"), "--record", path("again.orblog")} + Virtual);
+    QCOMPARE(run.exitCode(), 1); // the drive has bad packages
+    const QVector<LineRecord> records = recordsOf(path("honda.orblog"));
+    QVERIFY(records.size() > 100);
+    const QVector<LineRecord> again = recordsOf(path("again.orblog")); // what the unit said as well
+    QCOMPARE(again.size(), records.size());
+    for (int i = 0; i < records.size(); ++i) {
+        LineRecord record = again.at(i);
+        QVERIFY2(qAbs(record.microseconds - records.at(i).microseconds) <= 2000,
+                 qPrintable(QString::number(i)));
+        record.microseconds = records.at(i).microseconds;
+        QCOMPARE(record, records.at(i));
+    }
+}
+
+// Chunks that follow each other more closely than the unit looks keep their distance.
+void TestLineCommands::gaps()
+{
+    QByteArray text = "# orblog 1\n# type 7 CanBus_Raise_Honda\n";
+    const int gaps[] = {3000, 5700, 12300, 50100, 450000}; // us
+    qint64 time = 100300;
+    for (int i = 0; time < 60000000; ++i) {
+        text += "(" + QByteArray::number(double(time) / 1e6, 'f', 6) + ") < 2e20020101db\n";
+        time += gaps[i * 7 % 5];
+    }
+    QVERIFY(write(path("gaps.orblog"), text));
+    Run run(QStringList{"replay", path("gaps.orblog"), "--record", path("gaps-again.orblog")} + Virtual);
+    QCOMPARE(run.exitCode(), 0);
+    const QVector<LineRecord> wanted = recordsOf(path("gaps.orblog"));
+    const QVector<LineRecord> found = towardsUnit(recordsOf(path("gaps-again.orblog")));
+    QCOMPARE(found.size(), wanted.size());
+    for (int i = 1; i < wanted.size(); ++i) {
+        QCOMPARE(found.at(i).bytes, wanted.at(i).bytes);
+        const qint64 wantedGap = wanted.at(i).microseconds - wanted.at(i - 1).microseconds;
+        const qint64 foundGap = found.at(i).microseconds - found.at(i - 1).microseconds;
+        QVERIFY2(qAbs(foundGap - wantedGap) <= 2000, qPrintable(QString("%1: %2").arg(i).arg(foundGap)));
+    }
+}
+
+void TestLineCommands::replays_data()
+{
+    QTest::addColumn<QByteArray>("log");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("counts"); // packages explained acknowledged unknown bad skipped
+    const QByteArray head = "# orblog 1\n# type 7 CanBus_Raise_Honda\n";
+    // A key, doors, a command that nobody knows, and no key: the box knows that one, and nothing comes of it.
+    const QByteArray log = head + "(1.0) < 2e20020101db\n(2.0) < 2e240140 9a\n(3.0) < 2e2401409a\n"
+                                  "(4.0) < 2ed10200c06c\n(5.0) < 2e20020001dc\n";
+    const QByteArray bad = head + "(1.0) < 2e20020101dc\n";
+    QTest::newRow("all") << log << "" << 0 << "5 3 1 1 0 0";
+    QTest::newRow("as fast as it goes") << log << "--speed max" << 0 << "5 3 1 1 0 0";
+    QTest::newRow("answer by answer") << log << "--speed 100 --wait-ack" << 0 << "5 3 1 1 0 0";
+    QTest::newRow("a part") << log << "--from 1.5 --to 4" << 0 << "3 2 0 1 0 0";
+    QTest::newRow("until a command") << log << "--until 0x24" << 0 << "2 2 0 0 0 0";
+    QTest::newRow("until a call") << log << "--until call=simulateKey" << 0 << "1 1 0 0 0 0";
+    QTest::newRow("until what never comes") << log << "--until call=nothing" << 1 << "5 3 1 1 0 0";
+    QTest::newRow("bad package") << bad << "" << 1 << "0 0 0 0 1 6";
+    QTest::newRow("line that is none") << log + "hello\n"
+                                       << "" << 1 << "5 3 1 1 0 0";
+    QTest::newRow("type that is named") << log << "--can-bus-type 15" << 0 << "5 0 0 5 0 0";
+    QTest::newRow("no type") << QByteArray("# orblog 1\n(1.0) < 2e20020101db\n") << "" << 2 << "";
+    QTest::newRow("no log") << QByteArray() << "" << 1 << "";
+    QTest::newRow("speed") << log << "--speed 0" << 2 << "";
+    QTest::newRow("box as well") << log << "--port /dev/x" << 2 << "";
+}
+
+void TestLineCommands::replays()
+{
+    QFETCH(QByteArray, log);
+    QFETCH(QString, options);
+    QFETCH(QString, counts);
+    QVERIFY(write(path("log.orblog"), log));
+    Run run(QStringList{"replay", path("log.orblog"), "--json"} + Virtual +
+            options.split(' ', Qt::SkipEmptyParts));
+    QTEST(run.exitCode(), "exitCode");
+    const QJsonObject answer = run.json().object();
+    QStringList found;
+    for (const char *key :
+         {"packages", "explained", "acknowledged-only", "unknown", "bad", "skipped-bytes"}) {
+        if (answer.contains(QLatin1String(key))) {
+            found << QString::number(answer.value(QLatin1String(key)).toInt());
+        }
+    }
+    QCOMPARE(found.join(' '), counts);
+}
+
+void TestLineCommands::identifies_data()
+{
+    QTest::addColumn<QString>("log");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("isSure");
+    const QString logs = LOGS "/";
+    QTest::newRow("volkswagen") << logs + "volkswagen.orblog" << 3 << false;
+    QTest::newRow("mazda") << logs + "mazda.orblog" << 5 << true;
+    QTest::newRow("honda") << logs + "honda.orblog" << 7 << false;
+    QTest::newRow("toyota") << logs + "toyota.orblog" << 9 << true;
+    QTest::newRow("gm") << logs + "gm.orblog" << 10 << true;
+    QTest::newRow("jeep") << logs + "jeep.orblog" << 15 << false;
+    QTest::newRow("virtual honda") << path("honda.orblog") << 7 << false;
+}
+
+void TestLineCommands::identifies()
+{
+    QFETCH(QString, log);
+    QFETCH(bool, isSure);
+    Run run({"identify", log, "--json"});
+    QCOMPARE(run.exitCode(), isSure ? 0 : 1);
+    const QJsonObject answer = run.json().object();
+    QTEST(answer.value("types").toArray().first().toObject().value("type").toInt(), "type");
+    QCOMPARE(answer.value("sure").toBool(), isSure);
+}
+
+void TestLineCommands::checksABox()
+{
+    QString error;
+    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(7, nullptr, &error));
+    QVERIFY(box && box->open(path("box"), &error));
+    Run run({"check", path("box"), "--seconds", "1", "--json"});
+    QVERIFY(run.exitCode() >= 0);
+    QStringList found;
+    for (const QJsonValue &row : run.json().array()) {
+        found << row.toObject().value("check").toString() + ' ' + row.toObject().value("status").toString();
+    }
+    // The few packages after a start fit several types.
+    QCOMPARE(found.mid(0, 9), QStringList({"device ok", "permission ok", "free ok", "opens ok", "bytes ok",
+                                           "packages ok", "answers ok", "handshake ok", "version ok"}));
+    QCOMPARE(found.size(), 10);
+}
+
+void TestLineCommands::portThatVanishes_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("identify") << QStringList{"identify", "--seconds", "60"};
+    QTest::newRow("check") << QStringList{"check", "--seconds", "60"};
+}
+
+void TestLineCommands::portThatVanishes()
+{
+    QFETCH(QStringList, command);
+    QString error;
+    std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(6, nullptr, &error));
+    QVERIFY(box && box->open(path("box"), &error));
+    Run run(command + QStringList{path("box")});
+    QVERIFY(PtyBox::waitUntil([&] { return box->isUnitThere(); }));
+    box.reset();
+    QCOMPARE(run.exitCode(), 1);
+}
+
+// Two readers take each other's bytes: this process has the line open.
+void TestLineCommands::checksAPortInUse()
+{
+    PtyBox box;
+    Run run({"check", box.path(), "--json"});
+    QCOMPARE(run.exitCode(), 1);
+    const QJsonObject row = run.json().array().at(2).toObject();
+    QCOMPARE(row.value("status").toString(), QString("failure"));
+    QVERIFY(row.value("finding").toString().contains(QString::number(QCoreApplication::applicationPid())));
+    QVERIFY(box.take().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestLineCommands)
+#include "tst_linecommands.moc"

@@ -1,0 +1,58 @@
+#include "replaylog.h"
+
+namespace {
+
+const int MostPassedOver = 4096; // records, before others have their turn
+
+} // namespace
+
+ReplayLog::ReplayLog(const ReplayOptions &options, const FrameFormat *format) : m_options(options)
+{
+    m_readOptions.pattern = options.pattern;
+    if (format) {
+        m_readOptions.frame = format;
+    }
+}
+
+bool ReplayLog::open(QString *error)
+{
+    m_reader = LineLogFormats::reader(m_options.log, m_readOptions, error);
+    return m_reader != nullptr;
+}
+
+ReplayLog::Result ReplayLog::next(LineRecord *record)
+{
+    if (!m_reader) {
+        return End;
+    }
+    LineRecord read;
+    for (int i = 0; i < MostPassedOver; ++i) {
+        if (!m_reader->next(&read) || (m_options.to >= 0 && read.microseconds > m_options.to)) {
+            return atEnd();
+        }
+        if (read.isTowardsUnit() && read.microseconds >= m_options.from) {
+            *record = read;
+            m_hasChunks = true;
+            return Chunk;
+        }
+    }
+    return Later;
+}
+
+// A log without a chunk would begin anew for ever.
+ReplayLog::Result ReplayLog::atEnd()
+{
+    if (m_isFirstTime) {
+        m_unread = m_reader->skipped();
+        m_error = m_reader->error();
+    }
+    m_isFirstTime = false;
+    QString error;
+    const bool goesOn = m_options.loops && m_hasChunks && m_error.isEmpty();
+    if (goesOn && open(&error)) {
+        return StartOver;
+    }
+    m_error = goesOn ? error : m_error;
+    m_reader.reset();
+    return End;
+}
