@@ -1,9 +1,11 @@
 #include "boxlibrary.h"
 
+#include "decoderbox.h"
+
 #include <QFileInfo>
 #include <QLibrary>
 
-CreateBoxSpeakerFunction BoxLibrary::load(const QString &path, QString *error)
+DecoderBox *BoxLibrary::createBox(const QString &path, QObject *parent, QString *error)
 {
     if (!QFileInfo(path).isFile()) {
         *error = QString("there is no box library %1").arg(path);
@@ -15,9 +17,12 @@ CreateBoxSpeakerFunction BoxLibrary::load(const QString &path, QString *error)
         *error = QString("the box library does not load: %1").arg(library.errorString());
         return nullptr;
     }
-    const auto create = reinterpret_cast<CreateBoxSpeakerFunction>(library.resolve("createBoxSpeaker"));
-    if (!create) {
+    using CreateBoxSpeaker = BoxSpeaker *(*)(SimulatedCar *);
+    const auto createBoxSpeaker = reinterpret_cast<CreateBoxSpeaker>(library.resolve("createBoxSpeaker"));
+    if (!createBoxSpeaker) {
         *error = QString("%1 is no box library: it has no createBoxSpeaker").arg(path);
+        return nullptr;
     }
-    return create;
+    SimulatedCar *car = new SimulatedCar;
+    return new DecoderBox(car, createBoxSpeaker(car), parent);
 }

@@ -3,19 +3,20 @@
 
 #include <QString>
 
-class BoxSpeaker;
-class SimulatedCar;
+class DecoderBox;
+class QObject;
 
-/// Somebody else's box: a shared library with a C entry point `createBoxSpeaker`, which gets the car and
-/// returns a new speaker for it, the caller's from then on.
-using CreateBoxSpeakerFunction = BoxSpeaker *(*)(SimulatedCar *);
-
-/// Loads boxes from shared libraries.
+/// Boxes of other people: shared libraries with a C entry point
+///
+///     BoxSpeaker *createBoxSpeaker(SimulatedCar *car)
+///
+/// that returns a new speaker for \a car, the caller's from then on.
 namespace BoxLibrary {
 
-/// The entry point of the library \a path, which stays in the process. Null, with one sentence in \a error,
-/// when the file is not there, does not load or has no such entry point.
-CreateBoxSpeakerFunction load(const QString &path, QString *error);
+/// A box whose speaker is the library's \a path, with its own car, owned by \a parent or else by the caller. The
+/// library stays in the process. Null, with one sentence in \a error, when the file is not there, does not load
+/// or has no such entry point.
+DecoderBox *createBox(const QString &path, QObject *parent, QString *error);
 
 } // namespace BoxLibrary
 
