@@ -26,9 +26,12 @@ void exchangeTexts(const QDialog *dialog, const QStringList &before, const QStri
 {
     const QList<Part *> parts = dialog->findChildren<Part *>();
     for (int i = 0; i < parts.size(); ++i) {
-        const int place = before.indexOf(parts.at(i)->text());
-        if (place >= 0) {
-            parts.at(i)->setText(now.at(place));
+        const QString text = parts.at(i)->text();
+        for (int place = 0; place < before.size(); ++place) {
+            if (before.at(place) == text) {
+                parts.at(i)->setText(now.at(place));
+                break;
+            }
         }
     }
 }

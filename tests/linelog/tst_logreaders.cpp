@@ -268,6 +268,12 @@ private:
     int m_tailAt = 0;
 };
 
+#ifdef __SANITIZE_ADDRESS__
+const qint64 MostGrowth = 512 << 20; // bytes; the sanitizer holds back what is freed
+#else
+const qint64 MostGrowth = 8 << 20; // bytes
+#endif
+
 qint64 residentMemory()
 {
     QFile file("/proc/self/statm");
@@ -284,7 +290,7 @@ void TestLogReaders::oneLineOfAGibibyte()
     QVERIFY(reader.next(&record));
     QCOMPARE(record.bytes.toHex(), QByteArray("2e"));
     QCOMPARE(reader.skipped().texts(), QStringList("1 lines of more than 64 KiB (line 1)"));
-    QVERIFY(residentMemory() - before < 8 * 1024 * 1024);
+    QVERIFY(residentMemory() - before < MostGrowth);
 }
 
 // To the byte: a line of 64 KiB is read, the next longer one is not.
