@@ -6,6 +6,7 @@
 #include <QLabel>
 
 namespace {
+const int KeyEvent = 51006;          // the framework's number of a key of the unit
 const unsigned int HelloAppId = 900; // a number that no application of the unit has
 } // namespace
 
@@ -25,7 +26,7 @@ HelloPlugin::~HelloPlugin()
 
 void HelloPlugin::customEvent(QEvent *event)
 {
-    if (int(event->type()) != OrbEvent::KeyType) {
+    if (int(event->type()) != KeyEvent) {
         return;
     }
     const OrbEvent *key = static_cast<OrbEvent *>(event);
