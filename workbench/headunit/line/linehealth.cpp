@@ -157,7 +157,7 @@ LineStatus::State LineHealth::talkState(qint64 now) const
         return m_boxManner == Stopped ? LineStatus::BoxStopped : LineStatus::BoxHushed;
     }
     const bool isStrange = m_strangeBytes >= FewStrangeBytes && now - m_strangeSince >= StrangeFor;
-    const bool isSilent = m_hasPackages && now - m_lastPackage >= Patience * 1000;
+    const bool isSilent = m_hasPackages && now - m_lastPackage >= qint64(Patience) * 1000;
     if (!m_otherProcess.isEmpty() && (!m_hasPackages || isSilent)) {
         return LineStatus::InUse;
     }
