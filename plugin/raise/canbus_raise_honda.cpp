@@ -39,8 +39,8 @@ RadarGroup frontRadar(UnitLink::Radar5019, byteTable(FourRadarLevels), FourRadar
 RadarGroup rearRadar(UnitLink::Radar501A, byteTable(FourRadarLevels), FourRadarBytes);
 
 // Application mode of the unit and source of the car; any other mode is 0.
-const ModeCode ModeCodes[] = {{2, {4}}, {3, {6}},  {4, {7}},  {5, {7}},  {6, {1}}, {7, {4}},
-                              {9, {3}}, {13, {7}}, {15, {3}}, {17, {3}}, {18, {3}}};
+const ModeCode ModeCodes[] = {{2, 4}, {3, 6},  {4, 7},  {5, 7},  {6, 1}, {7, 4},
+                              {9, 3}, {13, 7}, {15, 3}, {17, 3}, {18, 3}};
 
 QString temperatureText(quint8 value, bool celsius)
 {

@@ -44,8 +44,8 @@ RadarGroup frontRadar(UnitLink::Radar5019, byteTable(RadarLevels), FrontBytes);
 RadarGroup rearRadar(UnitLink::Radar501A, byteTable(RadarLevels), FourRadarBytes);
 
 // Application mode of the unit and source of the car; any other mode is 0x00.
-const ModeCode ModeCodes[] = {{2, {0x04}}, {3, {0x05}},  {4, {0x04}},  {5, {0x04}},  {6, {0x01}}, {7, {0x04}},
-                              {9, {0x07}}, {13, {0x04}}, {15, {0x07}}, {17, {0x07}}, {18, {0x07}}};
+const ModeCode ModeCodes[] = {{2, 0x04}, {3, 0x05},  {4, 0x04},  {5, 0x04},  {6, 0x01}, {7, 0x04},
+                              {9, 0x07}, {13, 0x04}, {15, 0x07}, {17, 0x07}, {18, 0x07}};
 
 QString celsiusText(quint8 value)
 {

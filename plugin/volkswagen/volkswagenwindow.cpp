@@ -5,6 +5,7 @@
 #include "vwdrivingpage.h"
 #include "vwfunctionsetting.h"
 #include "vwsettingstable.h"
+#include "vwtexts.h"
 #include "vwtyrepage.h"
 
 #include <QApplication>
@@ -12,8 +13,6 @@
 #include <QTimer>
 
 namespace {
-
-const int AgeInterval = 10 * 1000; // ms; ages are told in minutes
 
 // The settings pages that are open: \a first before those that it opened.
 QList<VWFunctionSetting *> openPages(unsigned int first)
@@ -43,7 +42,7 @@ VolkswagenWindow::VolkswagenWindow(CanBus_Raise_Volkswagen *adapter, QWidget *pa
     m_driving = new VwDrivingPage(m_ui.data(), adapter, this);
     m_tyres = new VwTyrePage(m_ui.data(), adapter, this);
 
-    m_ageTimer->setInterval(AgeInterval);
+    m_ageTimer->setInterval(Vw::AgeInterval);
     connect(m_ageTimer, SIGNAL(timeout()), SLOT(showAges()));
     connect(m_ui->tabRange, SIGNAL(sweptLeft()), SLOT(on_btnRight_clicked()));
     connect(m_ui->tabRange, SIGNAL(sweptRight()), SLOT(on_btnLeft_clicked()));

@@ -2,6 +2,7 @@
 
 #include "canbus_raise_volkswagen.h"
 #include "selectdialog.h"
+#include "vwcommands.h"
 #include "vwtexts.h"
 
 #include "tablelistview.h"
@@ -13,8 +14,6 @@
 
 namespace {
 
-const int SilenceLimit = 2000; // ms
-const int AgeInterval = 10000;
 const char FootStyle[] = "color:#C3CBD6;border-top:1px solid #2A323E;font-size:20px;padding:12px 24px;";
 
 } // namespace
@@ -64,12 +63,12 @@ VWFunctionSetting::~VWFunctionSetting()
 
 void VWFunctionSetting::onLoadUiSkin()
 {
-    m_silenceTimer.start(SilenceLimit);
+    m_silenceTimer.start(Vw::AnswerPatience);
     refresh();
     m_adapter->repeatReports(this);
     sendRequests();
     if (m_state.reportCommand() != 0) {
-        m_ageTimer.start(AgeInterval);
+        m_ageTimer.start(Vw::AgeInterval);
     }
     connect(m_list, SIGNAL(itemColumnClicked(QAbstractItemModel *, QModelIndex)), this,
             SLOT(onItemColumnClicked(QAbstractItemModel *, QModelIndex)));

@@ -18,6 +18,9 @@ QString getConvConsumerInfo(int number);
 /// "Waiting for the car", for a screen whose questions the box has not answered.
 QString waitingText();
 
+/// Milliseconds after which a screen that shows an age tells it anew: ages are told in minutes.
+const int AgeInterval = 10000;
+
 /// "Last report 12 min ago" for a report that is \a age milliseconds old; empty below a minute.
 QString ageText(qint64 age);
 

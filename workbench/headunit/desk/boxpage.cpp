@@ -50,29 +50,11 @@ const FaultButton FaultButtons[] = {
     {QT_TRANSLATE_NOOP("BoxPage", "Good line"), "fault none"},
 };
 
-QLabel *plainLabel(const char *objectName)
-{
-    QLabel *label = new QLabel;
-    label->setObjectName(QLatin1String(objectName));
-    label->setTextFormat(Qt::PlainText); // it shows what came over the line
-    label->setWordWrap(true);
-    return label;
-}
-
 QPushButton *chip()
 {
     QPushButton *button = new QPushButton;
     button->setObjectName(QStringLiteral("chip"));
     return button;
-}
-
-QHBoxLayout *pair(QWidget *left, QWidget *right)
-{
-    QHBoxLayout *row = new QHBoxLayout;
-    row->setSpacing(Gap);
-    row->addWidget(left, 1);
-    row->addWidget(right, 1);
-    return row;
 }
 
 } // namespace
@@ -90,7 +72,7 @@ BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
     addStateCard();
     addScenarioCard();
     addFaultCard();
-    m_observations = plainLabel("controlName");
+    m_observations = PanelCard::plainLabel("controlName");
     m_observationCard->rows()->addWidget(m_observations);
     m_log = new QPlainTextEdit;
     m_log->setObjectName(QStringLiteral("boxLog"));
@@ -118,11 +100,11 @@ BoxPage::~BoxPage() = default;
 
 void BoxPage::addStateCard()
 {
-    m_state = plainLabel("controlValue");
+    m_state = PanelCard::plainLabel("controlValue");
     m_start = chip();
     m_stop = chip();
     m_stateCard->rows()->addWidget(m_state);
-    m_stateCard->rows()->addLayout(pair(m_start, m_stop));
+    m_stateCard->rows()->addLayout(PanelCard::pair(m_start, m_stop));
     connect(m_start, &QPushButton::clicked, m_box, [this] {
         m_box->holdTongue(0);
         m_box->start();
@@ -133,11 +115,11 @@ void BoxPage::addStateCard()
 
 void BoxPage::addScenarioCard()
 {
-    m_scenarioState = plainLabel("controlName");
+    m_scenarioState = PanelCard::plainLabel("controlName");
     m_choose = chip();
     m_playButton = chip();
     m_scenarioCard->rows()->addWidget(m_scenarioState);
-    m_scenarioCard->rows()->addLayout(pair(m_choose, m_playButton));
+    m_scenarioCard->rows()->addLayout(PanelCard::pair(m_choose, m_playButton));
     connect(m_choose, &QPushButton::clicked, this, &BoxPage::choose);
     connect(m_playButton, &QPushButton::clicked, this, [this] {
         if (m_player) {

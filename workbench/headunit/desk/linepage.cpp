@@ -33,24 +33,6 @@ QPushButton *chip()
     return button;
 }
 
-QLabel *plainLabel(const char *objectName)
-{
-    QLabel *label = new QLabel;
-    label->setObjectName(QLatin1String(objectName));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-QHBoxLayout *pair(QWidget *left, QWidget *right)
-{
-    QHBoxLayout *row = new QHBoxLayout;
-    row->setSpacing(Gap);
-    row->addWidget(left, 1);
-    row->addWidget(right, 1);
-    return row;
-}
-
 } // namespace
 
 LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
@@ -58,9 +40,9 @@ LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
     , m_model(new LineLogModel(recorder, this))
     , m_filtered(new QSortFilterProxyModel(this))
     , m_stateCard(new PanelCard(QString()))
-    , m_state(plainLabel("controlValue"))
-    , m_counts(plainLabel("controlName"))
-    , m_answer(plainLabel("controlName"))
+    , m_state(PanelCard::plainLabel("controlValue"))
+    , m_counts(PanelCard::plainLabel("controlName"))
+    , m_answer(PanelCard::plainLabel("controlName"))
     , m_hello(chip())
     , m_save(chip())
     , m_logCard(new PanelCard(QString()))
@@ -73,7 +55,7 @@ LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
     page->addWidget(m_logCard, 1);
     m_stateCard->rows()->addWidget(m_state);
     m_stateCard->rows()->addWidget(m_counts);
-    m_stateCard->rows()->addLayout(pair(m_hello, m_save));
+    m_stateCard->rows()->addLayout(PanelCard::pair(m_hello, m_save));
     m_stateCard->rows()->addWidget(m_answer);
     m_answer->hide();
     addLogCard();
@@ -127,7 +109,7 @@ void LinePage::addLogCard()
     copy->setContext(Qt::WidgetShortcut);
     connect(copy, &QShortcut::activated, this, &LinePage::copyRows);
     m_logCard->rows()->addWidget(m_filter);
-    m_logCard->rows()->addLayout(pair(m_pause, m_copy));
+    m_logCard->rows()->addLayout(PanelCard::pair(m_pause, m_copy));
     m_logCard->rows()->addWidget(m_table, 1);
 }
 

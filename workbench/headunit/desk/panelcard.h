@@ -3,6 +3,7 @@
 
 #include <QFrame>
 
+class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
 
@@ -16,6 +17,11 @@ public:
 
     void setTitle(const QString &title);
     QVBoxLayout *rows() const { return m_rows; }
+
+    /// A row of \a left and \a right, equally wide; for a layout to take.
+    static QHBoxLayout *pair(QWidget *left, QWidget *right);
+    /// A label for what came over the line: plain text, wrapped.
+    static QLabel *plainLabel(const char *objectName);
 
 private:
     QLabel *m_title;

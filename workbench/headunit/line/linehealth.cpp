@@ -79,7 +79,7 @@ void LineHealth::openFailed(const QString &port, int systemError, qint64)
     if (m_status.state == LineStatus::NoPermission) {
         m_status.who = PortHolder::groupOf(port);
     } else if (m_status.state == LineStatus::InUse) {
-        m_status.who = PortHolder::processAt(port);
+        m_status.who = PortHolder::processesAt(port).value(0);
     } else if (m_status.state == LineStatus::CannotOpen) {
         m_status.who = QString::fromLocal8Bit(std::strerror(systemError));
     }
@@ -157,7 +157,7 @@ LineStatus::State LineHealth::talkState(qint64 now) const
         return m_boxManner == Stopped ? LineStatus::BoxStopped : LineStatus::BoxHushed;
     }
     const bool isStrange = m_strangeBytes >= FewStrangeBytes && now - m_strangeSince >= StrangeFor;
-    const bool isSilent = m_hasPackages && now - m_lastPackage >= Patience * 1000;
+    const bool isSilent = m_hasPackages && now - m_lastPackage >= qint64(Patience) * 1000;
     if (!m_otherProcess.isEmpty() && (!m_hasPackages || isSilent)) {
         return LineStatus::InUse;
     }
@@ -179,7 +179,7 @@ void LineHealth::lookForOthers(qint64 now)
     const bool isTalking = m_hasPackages && now - m_lastPackage < Second;
     if (!isTalking && (m_lastLook < 0 || now - m_lastLook >= Second)) {
         m_lastLook = now;
-        m_otherProcess = PortHolder::processAt(m_status.port);
+        m_otherProcess = PortHolder::processesAt(m_status.port).value(0);
     }
 }
 

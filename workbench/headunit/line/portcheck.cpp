@@ -1,10 +1,9 @@
 #include "portcheck.h"
 
+#include "portholder.h"
 #include "portlistener.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <grp.h>
 #include <sys/stat.h>
@@ -17,25 +16,6 @@ const int WantedAnswer = 10; // ms within which a box wants its acknowledgement
 bool readStatus(const QString &path, struct stat *status)
 {
     return ::stat(QFile::encodeName(path).constData(), status) == 0;
-}
-
-QString nameOf(const QDir &process)
-{
-    QFile file(process.filePath("comm"));
-    return file.open(QFile::ReadOnly) ? QString::fromLocal8Bit(file.readAll()).trimmed() : QString();
-}
-
-bool holds(const QDir &process, dev_t device)
-{
-    const QDir folder(process.filePath("fd"));
-    for (const QString &name : folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
-        struct stat status;
-        if (readStatus(folder.filePath(name), &status) && S_ISCHR(status.st_mode) &&
-            status.st_rdev == device) {
-            return true;
-        }
-    }
-    return false;
 }
 
 bool isVersionCommand(quint8 command)
@@ -93,31 +73,13 @@ CheckResult PortCheck::permission() const
             QString("sudo usermod -aG %1 $USER, then log in again").arg(name)};
 }
 
-QStringList PortCheck::holderNames() const
-{
-    struct stat status;
-    QStringList names;
-    if (!readStatus(m_path, &status) || !S_ISCHR(status.st_mode)) {
-        return names;
-    }
-    const QDir processes("/proc");
-    for (const QString &id : processes.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const QDir process(processes.filePath(id));
-        bool isProcess = false;
-        if (id.toLongLong(&isProcess) != ::getpid() && isProcess && holds(process, status.st_rdev)) {
-            names << QString("%1 (%2)").arg(id, nameOf(process));
-        }
-    }
-    return names;
-}
-
 CheckResult PortCheck::holders() const
 {
-    const QStringList names = holderNames();
+    const QStringList names = PortHolder::processesAt(m_path);
     if (names.isEmpty()) {
         return {"free", CheckResult::Ok, "no process is seen to have it open", QString()};
     }
-    return {"free", CheckResult::Failure, "it is in use by process " + names.join(", "),
+    return {"free", CheckResult::Failure, "it is in use by " + names.join(", "),
             "end that program: two readers take each other's bytes"};
 }
 

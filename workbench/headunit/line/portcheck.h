@@ -3,7 +3,7 @@
 
 #include "portlist.h"
 
-#include <QStringList>
+#include <QString>
 
 class PortListener;
 
@@ -34,10 +34,6 @@ public:
     CheckResult holders() const;
     /// How long the adapter keeps bytes back.
     CheckResult latency() const;
-
-    /// The processes that have the device open, but for this one: "1234 (minicom)". What belongs to others may
-    /// be hidden from who is not root.
-    QStringList holderNames() const;
 
 private:
     QString m_path;

@@ -59,11 +59,12 @@ bool holds(const QByteArray &process, const QByteArray &device)
 
 } // namespace
 
-QString PortHolder::processAt(const QString &port)
+QStringList PortHolder::processesAt(const QString &port)
 {
     const QByteArray device = QFile::encodeName(QFileInfo(port).canonicalFilePath());
+    QStringList processes;
     if (device.isEmpty()) {
-        return QString();
+        return processes;
     }
     for (const QString &name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
         const qint64 id = name.toLongLong();
@@ -74,11 +75,11 @@ QString PortHolder::processAt(const QString &port)
         if (holds(process, device)) {
             QFile command(QFile::decodeName(process + "/comm"));
             const bool isThere = command.open(QIODevice::ReadOnly);
-            return QStringLiteral("%1 (%2)").arg(
+            processes << QStringLiteral("%1 (%2)").arg(
                 isThere ? QString::fromLocal8Bit(command.readAll()).trimmed() : QStringLiteral("?"), name);
         }
     }
-    return QString();
+    return processes;
 }
 
 QString PortHolder::groupOf(const QString &port)
