@@ -25,7 +25,7 @@ done
 printf 'event 51006 7 1\nwait 100\ntext lblKey\n' |
     "$prefix/bin/headunit" --headless --plugin "$work/build-plugin/libHello.so" --settings-dir "$work" --script - |
     grep -q 'Key 7 pressed' || fail "the smallest plug-in does not show the key"
-printf 'wait 2000\npress volume_up\nexpect simulateKey within 1000\nset doors.front_left on\nexpect event within 1000\n' |
+printf 'wait 2000\npress volume_up\nexpect simulateKey within 1000\nset doors.front_left on\nexpect dispatchOrbEvent within 1000\n' |
     "$prefix/bin/headunit" --headless --virtual-clock --can-bus-type toyota --box "$work/build-box/libMyBox.so" \
         --settings-dir "$work" --script - --strict || fail "the smallest box says nothing that the plug-in hears"
 
