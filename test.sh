@@ -2,9 +2,10 @@
 # Builds everything and runs every test. Arguments go to ctest (./test.sh -R framing); then only what those tests need
 # is built.
 #
-#     ./test.sh [--sanitize] [--car CAR | ctest arguments]
+#     ./test.sh [--sanitize | --qt6] [--car CAR | ctest arguments]
 #
-# --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder of its own.
+# --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder of its own;
+# --qt6 with Qt 6 in place of Qt 5, likewise.
 # --car foo runs what concerns that car: its sheet and its drives (the words are those of decoderbox --list).
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
@@ -20,6 +21,11 @@ if [ "${1:-}" = --sanitize ]; then
     export ASAN_OPTIONS="detect_stack_use_after_return=1:strict_string_checks=1"
     export LSAN_OPTIONS="suppressions=$root/tools/leaks.supp:print_suppressions=0"
     export UBSAN_OPTIONS="print_stacktrace=1"
+elif [ "${1:-}" = --qt6 ]; then
+    shift
+    need_packages qt6-base-dev qt6-l10n-tools libgl-dev
+    build=${CANBUS_BUILD:-$root/build}-qt6
+    configure -DCANBUS_TESTS=ON -DCANBUS_QT_VERSION=6
 else
     configure -DCANBUS_TESTS=ON
 fi

@@ -2,7 +2,7 @@
 
 #include "hostilelog.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <random>
 

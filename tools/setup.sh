@@ -47,7 +47,7 @@ configure() {
         libcli11-dev pkg-config fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
     log=$(mktemp)
-    if ! cmake -S "$root" -B "$build" -G Ninja "$@" >"$log" 2>&1; then
+    if ! cmake -S "$root" -B "$build" -G Ninja -DCANBUS_PRECOMPILE=ON "$@" >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
         fail "configuring failed"

@@ -3,7 +3,7 @@
 #include "framing.h"
 #include "packageview.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestPackageView : public QObject
 {

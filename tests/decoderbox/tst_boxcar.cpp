@@ -3,8 +3,11 @@
 #include "simulatedcar.h"
 #include "transcript.h"
 
+#include <QSet>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QStringList>
+#include <QTest>
+#include <QVariant>
 
 class TestBoxCar : public QObject
 {

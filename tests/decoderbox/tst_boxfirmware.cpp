@@ -4,8 +4,12 @@
 #include "simulatedunit.h"
 #include "virtualmain.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QtTest>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTest>
+#include <QVector>
 
 #include <numeric>
 

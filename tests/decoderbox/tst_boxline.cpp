@@ -5,7 +5,14 @@
 #include "simulatedunit.h"
 #include "virtualmain.h"
 
-#include <QtTest>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVector>
 
 namespace {
 

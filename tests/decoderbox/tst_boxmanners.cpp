@@ -4,7 +4,14 @@
 #include "simulatedunit.h"
 #include "virtualmain.h"
 
-#include <QtTest>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVector>
 
 namespace {
 

@@ -7,9 +7,16 @@
 #include "transcript.h"
 #include "virtualmain.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVector>
 
 #include <unistd.h>
 

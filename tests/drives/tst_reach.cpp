@@ -3,11 +3,16 @@
 #include "scenario.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QSet>
-#include <QtTest>
+#include <QStringList>
+#include <QTest>
+#include <QVector>
 
 #include <memory>
 

@@ -4,6 +4,8 @@
 
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
 #include <functional>
 
 namespace {

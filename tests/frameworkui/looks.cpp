@@ -8,10 +8,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QLabel>
+#include <QTest>
 #include <QTextLayout>
-#include <QtTest>
 
 namespace {
 

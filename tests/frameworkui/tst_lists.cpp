@@ -5,6 +5,7 @@
 #include "tableviewmodel.h"
 
 #include <QScrollBar>
+#include <QSignalSpy>
 
 /// The list model, and the list under a finger.
 class TestLists : public QObject

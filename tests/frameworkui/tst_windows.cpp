@@ -10,6 +10,7 @@
 #include "updatedialog.h"
 
 #include <QLabel>
+#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>

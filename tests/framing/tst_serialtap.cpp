@@ -4,8 +4,10 @@
 #include "testmain.h"
 
 #include <QEventLoop>
+#include <QStringList>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
+#include <QVector>
 
 #include <cerrno>
 #include <memory>

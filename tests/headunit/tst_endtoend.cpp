@@ -2,7 +2,13 @@
 #include "ptybox.h"
 #include "raisewire.h"
 
-#include <QtTest>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <unistd.h>
 

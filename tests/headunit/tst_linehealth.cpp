@@ -3,8 +3,11 @@
 #include "qextserialport.h"
 #include "testmain.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryFile>
-#include <QtTest>
+#include <QTest>
 
 #include <cerrno>
 

@@ -2,8 +2,11 @@
 #include "headunitrun.h"
 #include "transcript.h"
 
+#include <QMap>
+#include <QRegularExpression>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// The command line: what it sets, and what the program says to a wrong one.
 class TestOptions : public QObject

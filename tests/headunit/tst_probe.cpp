@@ -2,7 +2,10 @@
 #include "headunitrun.h"
 #include "transcript.h"
 
-#include <QtTest>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTest>
 
 /// The command `probe` with the real plug-in: which bit of a package does what.
 class TestProbe : public QObject

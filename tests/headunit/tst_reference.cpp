@@ -5,9 +5,12 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QSet>
+#include <QStringList>
+#include <QTest>
 
 /// docs/headunit-reference.md tells every option, command and call that there is, and no other.
 class TestReference : public QObject

@@ -4,8 +4,12 @@
 #include "transcript.h"
 
 #include <QImage>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QXmlStreamReader>
-#include <QtTest>
 
 #include <memory>
 

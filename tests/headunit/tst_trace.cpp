@@ -8,7 +8,13 @@
 #include "orbkeyset.h"
 #include "orbqtcompat.h"
 
-#include <QtTest>
+#include <QFile>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVariant>
 
 #include <csignal>
 

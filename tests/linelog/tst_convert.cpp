@@ -3,12 +3,14 @@
 #include "logtools.h"
 #include "testfiles.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using TestSupport::contentOf;
 using TestSupport::writeFile;

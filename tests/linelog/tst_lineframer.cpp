@@ -3,7 +3,9 @@
 #include "lineframer.h"
 #include "linepackages.h"
 
-#include <QtTest>
+#include <QStringList>
+#include <QTest>
+#include <QVector>
 
 #include <random>
 

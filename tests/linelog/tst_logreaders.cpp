@@ -2,7 +2,12 @@
 
 #include "logtools.h"
 
-#include <QtTest>
+#include <QDate>
+#include <QDateTime>
+#include <QFile>
+#include <QStringList>
+#include <QTest>
+#include <QTime>
 
 class TestLogReaders : public QObject
 {

@@ -4,8 +4,13 @@
 #include "linevaluesource.h"
 #include "logtools.h"
 
+#include <QDate>
+#include <QDateTime>
+#include <QFile>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
+#include <QTime>
 
 class TestLogWriters : public QObject
 {

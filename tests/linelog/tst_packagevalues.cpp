@@ -3,7 +3,9 @@
 #include "boxcatalog.h"
 #include "packagevalues.h"
 
-#include <QtTest>
+#include <QStringList>
+#include <QTest>
+#include <QVariant>
 
 #include <random>
 

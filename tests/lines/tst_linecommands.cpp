@@ -6,9 +6,15 @@
 #include "linelogformats.h"
 #include "ptybox.h"
 
+#include <QFile>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QProcess>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
+#include <QVector>
 
 #include <memory>
 

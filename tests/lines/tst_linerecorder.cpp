@@ -6,6 +6,7 @@
 #include "testmain.h"
 
 #include <QEventLoop>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 

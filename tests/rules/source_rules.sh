@@ -17,9 +17,14 @@ complain() {
 portable=$(find plugin platform/orbcommons -name '*.cpp' -o -name '*.h' | sort)
 
 # One source for three Qt generations. These came after 4.8, or went with 6.
+later='QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|->grab\(|setSectionResizeMode|QTemporaryDir|qInstallMessageHandler|toHex\([^)]|\.chopped\(|constFirst|constLast|QFileInfo::exists\(|removeRecursively|pixelColor|QRandomGenerator|qEnvironmentVariable|singleShot\([^;"]*\[|Q(Map|Hash|MultiMap|MultiHash)<[^;]*>( \w+)?( =)? *\{'
+gone='QRegExp|QDesktopWidget|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|[sS]ize(\(\))?\.scaled?\(|\bforeach *\('
 # shellcheck disable=SC2086
-grep -nE 'QStringLiteral|QRegularExpression|QLoggingCategory|QSaveFile|QStandardPaths|QCommandLineParser|QSignalBlocker|QOverload|qAsConst|QStringView|Qt::endl|QJson|\.noquote\(\)|Q_ENUM\(|qInfo\(|QRegExp|QDesktopWidget|->grab\(|setSectionResizeMode|QLinkedList|qrand|QMatrix\b|SkipEmptyParts|[sS]ize(\(\))?\.scaled?\(|\bforeach *\(' $portable |
-    complain "not in every Qt generation"
+grep -nE "$later|$gone" $portable | complain "not in every Qt generation"
+# The unit's serial library waits for bytes in a read: it is asked first how many are there.
+for file in $(grep -lE 'device->read\(' $portable); do
+    awk '/bytesAvailable\(\)/ { asked = NR } /device->read\(/ && (!asked || NR - asked > 15) { print FILENAME ":" NR ": " $0 }' "$file"
+done | complain "a read of the line that may wait"
 # shellcheck disable=SC2086
 grep -nE 'connect\([^;]*&[A-Za-z_]+::[A-Za-z_]+' $portable | complain "functor connect"
 # shellcheck disable=SC2086

@@ -1,25 +1,13 @@
 #!/bin/sh
 # Builds the plug-in as for a head unit, against a folder that is laid out as a maker's SDK, and loads it:
-#     build.sh SOURCE WORK CMAKE QT_VERSION COMPILER FRAMEWORK SERIAL_LIBRARIES SERIAL_HEADERS HEADUNIT
+#     build.sh SOURCE BUILD WORK CMAKE QT_VERSION COMPILER HEADUNIT
 # WORK stays: the next run builds only what has changed.
 set -eu
-source=$1 work=$2 cmake=$3 qt=$4 compiler=$5 framework=$6 serial=$7 serial_headers=$8 headunit=$9
+source=$1 built=$2 work=$3 cmake=$4 qt=$5 compiler=$6 headunit=$7
 sdk=$work/sdk
 
 rm -rf "$sdk"
-mkdir -p "$sdk/include" "$sdk/lib"
-# Nothing but the classes that every unit's framework has.
-for header in airconditiondlg filesystemservice gpiooperater orbapplication orbchoicedialog orbcommons orbdialog \
-    orbevent orbglobal orbiniconfig orbkeyfilter orbmainwindow orbplugin orbwindowmanager protocolutils \
-    tableviewmodel updatedialog; do
-    ln -s "$source/platform/orbcommons/include/$header.h" "$sdk/include/"
-done
-for header in "$serial_headers"/qextserialport*.h; do
-    ln -s "$header" "$sdk/include/"
-done
-ln -s "$framework" "$sdk/lib/libOrbCommons.so"
-# A maker's stands alone; ours comes with what watches the line.
-echo "INPUT($serial)" >"$sdk/lib/libqextserialport.so"
+CANBUS_BUILD=$built "$source/tools/sdk.sh" "$sdk"
 
 launcher=
 if command -v ccache >/dev/null; then

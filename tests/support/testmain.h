@@ -4,7 +4,7 @@
 #include "orbapplication.h"
 #include "virtualclock.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace TestSupport {
 

@@ -3,7 +3,7 @@
 
 #include "virtualclock.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// main() of a test program that runs on the virtual clock, from 2026-01-01 00:00 UTC on: its waits cost no
 /// time and cannot be too short. Link CanBus::VirtualClock. What another process or thread does needs a

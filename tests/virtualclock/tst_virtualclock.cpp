@@ -1,12 +1,16 @@
 #include "pseudoterminal.h"
 #include "virtualmain.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QSocketNotifier>
+#include <QStringList>
+#include <QTest>
 #include <QThread>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 #include <thread>

@@ -11,6 +11,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QSignalSpy>
 
 /// The car's settings menu as the text vwmenu.txt: what every row shows and does under a finger, with a virtual
 /// box behind it. golden.h says how the text is written anew.
