@@ -68,6 +68,10 @@ for file in $(grep -rlE '^CANBUS_ADAPTER\(' plugin --include='*.cpp' | sort); do
         echo "$file: $class" | complain "a decoder's file is not named after its class"
 done
 
+# What tools/new-car wrote is not a car before each mark is gone.
+grep -rn 'FILL:' README.md plugin workbench scenarios tests/cars/sheets tests/decoderbox/boxes |
+    complain "a row of a new car that is to be filled in"
+
 # Key codes have names, pinned in one header.
 grep -rnE '0x0?1[01]0[0-9A-Fa-f]{4}\b' plugin --include='*.cpp' --include='*.h' | grep -v 'core/carkeys.h' |
     grep -vE '0x0?1000000\b' |

@@ -144,7 +144,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
         }
         answer(one, order,
                QString("%1, package 0x%2%3: %4")
-                   .arg(BoxCatalog::rows().at(type - 1).className)
+                   .arg(BoxCatalog::className(type))
                    .arg(subject.package.command, 2, 16, QLatin1Char('0'))
                    .arg(subject.name.isEmpty() ? QString() : ", " + subject.name,
                         QString::fromLatin1(subject.package.data.toHex(' '))));
