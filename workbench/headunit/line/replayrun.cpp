@@ -49,7 +49,9 @@ bool ReplayRun::open(QString *error)
 void ReplayRun::begin(LineRecorder *recorder)
 {
     m_listener = OrbTrace::setListener(nullptr);
-    m_watch = new PackageWatch(BoxCatalog::frameOf(m_type), BoxCatalog::reportedBy(m_type), m_listener, this);
+    const QList<quint8> known = BoxCatalog::reportedBy(m_type).keys();
+    m_watch = new PackageWatch(BoxCatalog::frameOf(m_type), QSet<quint8>(known.begin(), known.end()),
+                               m_listener, this);
     OrbTrace::setListener(m_watch);
     if (!m_options.untilCall.isEmpty()) {
         connect(m_watch, &PackageWatch::callSeen, this, &ReplayRun::onCall);
