@@ -77,7 +77,7 @@ bool ReplayRun::hasReachedEnd() const
 bool ReplayRun::isFine() const
 {
     return hasReachedEnd() && m_replayer->badPackages() == 0 && m_replayer->skippedBytes() == 0 &&
-           m_replayer->log().unread().isEmpty() && m_replayer->log().error().isEmpty();
+           m_replayer->problem().isEmpty() && m_replayer->log().unread().isEmpty() && m_replayer->log().error().isEmpty();
 }
 
 QString ReplayRun::summary() const
@@ -101,6 +101,9 @@ QString ReplayRun::summary() const
     }
     if (!m_replayer->log().error().isEmpty()) {
         text += '\n' + m_options.log + ": " + m_replayer->log().error();
+    }
+    if (!m_replayer->problem().isEmpty()) {
+        text += "\nthe line did not come back: " + m_replayer->problem();
     }
     return text + (hasReachedEnd() ? QString() : "\nwhat --until names never came");
 }
