@@ -285,7 +285,8 @@ void TestLineCommands::replaysALostLine()
     }
     QVERIFY2(qAbs(states.value("lost") - 2000000) < 10000, qPrintable(QString::number(states.value("lost"))));
     // The unit tries once a second.
-    QVERIFY2(qAbs(states.value("back") - 5500000) < 600000, qPrintable(QString::number(states.value("back"))));
+    QVERIFY2(qAbs(states.value("back") - 5500000) < 600000,
+             qPrintable(QString::number(states.value("back"))));
 }
 
 // The unit goes on without its line, and the log says so; a disk that is full ends the log only.
@@ -301,7 +302,7 @@ void TestLineCommands::recordsALostLine_data()
 void TestLineCommands::recordsALostLine()
 {
     QFETCH(QString, file);
-    const QString script = "wait 3000\nfault unplug 2000\nwait 5000\nquit\n";
+    const QString script = "wait 3000\nbox fault unplug 2000\nwait 5000\nquit\n";
     QVERIFY(write(path("script"), script.toUtf8()));
     Run run(QStringList{"record", file, "--can-bus-type", "7", "--decoder-box", "--strict", "--script",
                         path("script")} +

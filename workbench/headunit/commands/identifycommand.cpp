@@ -219,8 +219,10 @@ int identify(const Options &options, const CommandLine &line)
         std::printf("It is type %d, %s.\n", fits.first().type,
                     qPrintable(BoxCatalog::className(fits.first().type)));
     } else if (heard.framed() > 0) {
-        std::puts("Not sure: 90% at least of the evidence should speak for the first, which should know 75% of "
-                  "what was said, in 3 commands at least, and explain 8 packages; and 60% at most for the second.");
+        std::puts(
+            "Not sure: 90% at least of the evidence should speak for the first, which should know 75% of "
+            "what was said, in 3 commands at least, one of them its own, and explain 8 packages; and 60% at "
+            "most for the second.");
     } else {
         std::puts(isPort && !options.greets ? "No package was heard; --hello greets the box."
                                             : "No package was heard.");

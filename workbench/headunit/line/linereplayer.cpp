@@ -11,7 +11,7 @@ namespace {
 
 const qint64 AnswerPatience = 1000000; // us for which a package waits for the answer to the one before
 const int AnswerLookInterval = 1;      // ms
-const qint64 BackBefore = 25000; // us for which the device is there before the unit's next try finds it
+const qint64 BackBefore = 25000;       // us for which the device is there before the unit's next try finds it
 const qint64 Punctual = 500;           // us before which a chunk may leave: timers know milliseconds only
 
 } // namespace

@@ -27,8 +27,8 @@ public:
     enum Result {
         Chunk,
         LineChange, ///< the logged line was lost, or came back
-        Later,     ///< much had to be passed over: ask again, and let others have their turn in between
-        StartOver, ///< the log begins anew: its times count from here
+        Later,      ///< much had to be passed over: ask again, and let others have their turn in between
+        StartOver,  ///< the log begins anew: its times count from here
         End
     };
 

@@ -77,7 +77,8 @@ bool ReplayRun::hasReachedEnd() const
 bool ReplayRun::isFine() const
 {
     return hasReachedEnd() && m_replayer->badPackages() == 0 && m_replayer->skippedBytes() == 0 &&
-           m_replayer->problem().isEmpty() && m_replayer->log().unread().isEmpty() && m_replayer->log().error().isEmpty();
+           m_replayer->problem().isEmpty() && m_replayer->log().unread().isEmpty() &&
+           m_replayer->log().error().isEmpty();
 }
 
 QString ReplayRun::summary() const

@@ -38,6 +38,7 @@ QVector<TypeEvidence::Command> TypeEvidence::commandsOf(const PackageCensus &cen
             const double grade = sum / double(places.size());
             command.grades << grade;
             command.sum += grade;
+            command.second = std::max(command.second, std::min(command.best, grade));
             command.best = std::max(command.best, grade);
         }
         commands << command;
@@ -56,6 +57,7 @@ void TypeEvidence::score(const QVector<Command> &commands, const QVector<TypeFit
         double knownOfAll = 0;
         double all = 0;
         int knownCommands = 0;
+        int ownCommands = 0;
         for (const Command &command : commands) {
             const double counts = command.sum > 0 ? command.weight * command.trust : 0;
             const double tells = counts / std::max(1.0, command.sum);
@@ -66,10 +68,13 @@ void TypeEvidence::score(const QVector<Command> &commands, const QVector<TypeFit
             knownToAny += counts;
             knownOfAll += isKnown ? command.weight : 0;
             knownCommands += isKnown ? 1 : 0;
+            const bool isBest = isKnown && command.grades.at(i) >= command.best;
+            ownCommands += isBest && command.second <= command.best / 2 ? 1 : 0;
             all += command.weight;
         }
         fits.at(i)->evidence = mostTold > 0 ? told / mostTold * known / knownToAny : 0;
         fits.at(i)->knownCommands = knownCommands;
+        fits.at(i)->ownCommands = ownCommands;
         fits.at(i)->known = all > 0 ? knownOfAll / all : 0;
     }
 }

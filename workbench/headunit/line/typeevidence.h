@@ -5,12 +5,12 @@
 
 /// Weighs what the packages of a line tell about the types that could have sent them. Packages of one command stand
 /// together, since a hundred positions of a wheel tell little more than ten. A command for which several types account
-/// tells as much less; one that only types account for which are out of the question otherwise is more likely one
+/// tells as much less; one for which only types account that are out of the question otherwise is more likely one
 /// that nobody knows, and hardly counts against the others.
 class TypeEvidence
 {
 public:
-    /// Sets evidence, known and knownCommands of those of \a fits that have the frame of \a census and a grade for each package.
+    /// Sets evidence, known, knownCommands and ownCommands of those of \a fits that have the frame of \a census and a grade for each package.
     static void weigh(const PackageCensus &census, QVector<TypeFit> *fits);
 
 private:
@@ -21,6 +21,7 @@ private:
         QVector<double> grades; // of each type, 0 to 1
         double sum = 0;
         double best = 0;
+        double second = 0;
     };
 
     static QVector<Command> commandsOf(const PackageCensus &census, const QVector<TypeFit *> &fits);

@@ -21,9 +21,10 @@ const int FewestCommands = 3;
 
 // How well a package is accounted for.
 const double Whole = 1;
-const double KnownOnly = 0.5;  // the box sends such ones; this one changed nothing
-const double OtherLength = 0.5; // explained, with more bytes than the box is known to send: there are later boxes
-const double TooShort = 0.1;    // explained, with fewer: what is missing was read as 0
+const double KnownOnly = 0.5; // the box sends such ones; this one changed nothing
+const double OtherLength =
+    0.5; // explained, with more bytes than the box is known to send: there are later boxes
+const double TooShort = 0.1; // explained, with fewer: what is missing was read as 0
 
 // Of a package with size data bytes; lengths are those that the type's box is known to send with its command.
 double gradeOf(const QSet<int> &lengths, int size, bool isExplained)
@@ -46,7 +47,8 @@ bool TypeFits::isSure(const QVector<TypeFit> &fits)
         return false;
     }
     const TypeFit &first = fits.first();
-    const bool isEnough = first.explainedCount >= FewestExplained && first.knownCommands >= FewestCommands;
+    const bool isEnough = first.explainedCount >= FewestExplained && first.knownCommands >= FewestCommands &&
+                          first.ownCommands > 0;
     return isEnough && first.framed >= LeastFramed && first.known >= LeastKnown &&
            first.evidence >= SureFirst && (fits.size() < 2 || fits.at(1).evidence <= SureSecond);
 }

@@ -21,6 +21,7 @@ struct TypeFit
     double evidence = 0;     ///< what speaks for this type, 0 to 1; see TypeEvidence
     double known = 0;        ///< part of what was said that is of commands which the type knows, 0 to 1
     int knownCommands = 0;   ///< commands for which it accounts at all
+    int ownCommands = 0;     ///< of them, those for which no other type accounts half as well
 };
 
 /// Tries what a box has said on the plug-in of every type. The plug-in builds one decoder per process, so each
@@ -41,7 +42,8 @@ public:
 
     /// Whether the first of \a fits is the box's type: at least 90 % of the evidence speak for it and at most 60 % for
     /// the second, it knows three quarters of what was said, and there was enough to tell by: eight different packages
-    /// explained, and three commands that it knows.
+    /// explained, and three commands that it knows, one of them as no other type does: cars of many makes say keys, doors
+    /// and radars alike.
     static bool isSure(const QVector<TypeFit> &fits);
 
 private:
