@@ -78,6 +78,7 @@ void TestLineHealth::states()
     QCOMPARE(line.name(), QString("box-hushed"));
     line.health.setBoxManner(LineHealth::Speaks);
     line.health.closed(true, SerialTap::now());
+    line.health.openFailed("/nowhere/port", ENOENT, SerialTap::now()); // the unit tries again at once
     QCOMPARE(line.name(), QString("lost"));
     line.health.opened("/nowhere/port", Settings, SerialTap::now());
     QCOMPARE(line.name(), QString("waiting"));
@@ -92,7 +93,7 @@ void TestLineHealth::openFailures_data()
     QTest::newRow("not allowed") << EACCES << "no permission: join the group %1";
     QTest::newRow("taken") << EBUSY << "in use by another process";
     QTest::newRow("a file") << ENOTTY << "no serial device";
-    QTest::newRow("hung up") << EIO << "line lost";
+    QTest::newRow("hung up") << EIO << "line lost: was the adapter pulled out?";
     QTest::newRow("odd") << ENOMEM << "cannot be opened: Cannot allocate memory";
 }
 

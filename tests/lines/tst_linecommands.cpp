@@ -41,6 +41,7 @@ public:
             PtyBox::waitUntil([this] { return m_process.state() == QProcess::NotRunning; }, 60000);
         return isOver && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
     }
+    QByteArray complaints() { return m_process.readAllStandardError(); }
     QJsonDocument json() { return QJsonDocument::fromJson(m_process.readAllStandardOutput()); }
 
 private:
@@ -95,6 +96,9 @@ private Q_SLOTS:
     void identifies();
     void checksABox();
     void checksAPortInUse();
+    void replaysALostLine();
+    void recordsALostLine_data();
+    void recordsALostLine();
     void portThatVanishes_data();
     void portThatVanishes();
 
@@ -214,13 +218,32 @@ void TestLineCommands::identifies_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<bool>("isSure");
     const QString logs = LOGS "/";
+    // Half of what these three boxes said is of commands that the decoder does not know.
     QTest::newRow("volkswagen") << logs + "volkswagen.orblog" << 3 << false;
     QTest::newRow("mazda") << logs + "mazda.orblog" << 5 << true;
     QTest::newRow("honda") << logs + "honda.orblog" << 7 << false;
     QTest::newRow("toyota") << logs + "toyota.orblog" << 9 << true;
     QTest::newRow("gm") << logs + "gm.orblog" << 10 << true;
     QTest::newRow("jeep") << logs + "jeep.orblog" << 15 << false;
-    QTest::newRow("virtual honda") << path("honda.orblog") << 7 << false;
+    QTest::newRow("virtual honda") << path("honda.orblog") << 7 << true;
+    // Keys and doors that many boxes say in the same way.
+    const QByteArray shared = "# orblog 1\n(1.0) < 2e20020101db\n(2.0) < 2e20020201da\n(3.0) < 2e20020301d9\n"
+                              "(4.0) < 2e20020001dc\n(5.0) < 2e240140 9a\n(6.0) < 2e2401805a\n"
+                              "(7.0) < 2e220400000000d9\n(8.0) < 2e220408101820 89\n"
+                              "(9.0) < 2e23040101010 1d4\n(10.0) < 2e2304123c543600\n";
+    QVERIFY(write(path("shared.orblog"), shared));
+    QTest::newRow("what many share") << path("shared.orblog") << 7 << false;
+    // What three cars have each on its own, in one log: a box of no type.
+    QByteArray strange = "# orblog 1\n";
+    for (const char *name : {"gm", "toyota", "mazda"}) {
+        QFile log(logs + name + ".orblog");
+        QVERIFY(log.open(QFile::ReadOnly));
+        for (const QByteArray &line : log.readAll().split('\n')) {
+            strange += line.startsWith('(') ? line + '\n' : QByteArray();
+        }
+    }
+    QVERIFY(write(path("strange.orblog"), strange));
+    QTest::newRow("of no type") << path("strange.orblog") << 10 << false;
 }
 
 void TestLineCommands::identifies()
@@ -249,6 +272,54 @@ void TestLineCommands::checksABox()
     QCOMPARE(found.mid(0, 9), QStringList({"device ok", "permission ok", "free ok", "opens ok", "bytes ok",
                                            "packages ok", "answers ok", "handshake ok", "version ok"}));
     QCOMPARE(found.size(), 10);
+}
+
+// Where the logged line was lost the unit loses its own, and has it again when the log does.
+void TestLineCommands::replaysALostLine()
+{
+    QVERIFY(write(path("lost.orblog"), "# orblog 1\n# type 7 CanBus_Raise_Honda\n(1.0) < 2e20020101db\n"
+                                       "(2.0) # lost\n(5.0) # back\n(6.0) < 2e2401409a\n"));
+    Run run(QStringList{"replay", path("lost.orblog"), "--record", path("lost-again.orblog"), "--json"} +
+            Virtual);
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.json().object().value("explained").toInt(), 2);
+    QMap<QString, qint64> states;
+    for (const LineRecord &record : recordsOf(path("lost-again.orblog"))) {
+        if (record.kind == LineRecord::State && !states.contains(record.text)) {
+            states.insert(record.text, record.microseconds);
+        }
+    }
+    QVERIFY2(qAbs(states.value("lost") - 2000000) < 10000, qPrintable(QString::number(states.value("lost"))));
+    // The unit tries once a second.
+    QVERIFY2(qAbs(states.value("back") - 5500000) < 600000,
+             qPrintable(QString::number(states.value("back"))));
+}
+
+// The unit goes on without its line, and the log says so; a disk that is full ends the log only.
+void TestLineCommands::recordsALostLine_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("losses");
+    QTest::addColumn<int>("complaints");
+    QTest::newRow("log") << path("vanished.orblog") << 1 << 0;
+    QTest::newRow("full disk") << "/dev/full" << 0 << 1;
+}
+
+void TestLineCommands::recordsALostLine()
+{
+    QFETCH(QString, file);
+    const QString script = "wait 3000\nbox fault unplug 2000\nwait 5000\nquit\n";
+    QVERIFY(write(path("script"), script.toUtf8()));
+    Run run(QStringList{"record", file, "--can-bus-type", "7", "--decoder-box", "--strict", "--script",
+                        path("script")} +
+            Virtual);
+    QCOMPARE(run.exitCode(), 0);
+    int losses = 0;
+    for (const LineRecord &record : recordsOf(file)) {
+        losses += record.kind == LineRecord::State && record.text.startsWith("lost") ? 1 : 0;
+    }
+    QTEST(losses, "losses");
+    QTEST(int(run.complaints().count("recording stops, the unit goes on")), "complaints");
 }
 
 void TestLineCommands::portThatVanishes_data()

@@ -112,20 +112,24 @@ const FrameFormat *BoxCatalog::frameOf(int type)
     return speaker ? &speaker->format() : nullptr;
 }
 
-QSet<quint8> BoxCatalog::reportedBy(int type)
+QHash<quint8, QSet<int>> BoxCatalog::reportedBy(int type)
 {
     SimulatedCar car;
     const std::unique_ptr<BoxSpeaker> speaker = speakerOf(type, &car);
-    QSet<quint8> commands;
-    if (speaker) {
-        for (const BoxReport &report : speaker->reports()) {
-            commands << report.command;
-        }
-        for (const BoxKey &key : speaker->keys()) {
-            commands << key.command;
+    QHash<quint8, QSet<int>> lengths;
+    for (int i = 0; speaker && i < speaker->reports().size(); ++i) {
+        const BoxPackage package = speaker->reportPackage(i);
+        lengths[package.command] << package.n();
+    }
+    for (const BoxKey &key : speaker ? speaker->keys() : QVector<BoxKey>()) {
+        const QVector<BoxPackage> presses = key.source == BoxKey::Knob
+                                                ? QVector<BoxPackage>{speaker->knobPackage(key, 1)}
+                                                : speaker->keyPackages(key, BoxSpeaker::Pressed);
+        for (const BoxPackage &package : presses) {
+            lengths[package.command] << package.n();
         }
     }
-    return commands;
+    return lengths;
 }
 
 DecoderBox *BoxCatalog::createBox(int type, QObject *parent, QString *error)

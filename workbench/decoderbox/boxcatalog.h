@@ -1,6 +1,7 @@
 #ifndef BOXCATALOG_H
 #define BOXCATALOG_H
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -38,8 +39,9 @@ public:
     /// How the packages of \a type look; null for a type that does not exist or whose packages nobody knows.
     static const FrameFormat *frameOf(int type);
 
-    /// The commands with which a box of \a type is known to report something to the unit.
-    static QSet<quint8> reportedBy(int type);
+    /// The commands with which a box of \a type is known to report something to the unit, each with the numbers of
+    /// data bytes that it has then.
+    static QHash<quint8, QSet<int>> reportedBy(int type);
 
     /// A box for \a type with its own car, owned by \a parent or else by the caller. Null, with one sentence
     /// in \a error, for a type that does not exist or whose box nobody knows.

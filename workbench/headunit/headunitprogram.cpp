@@ -338,6 +338,9 @@ void HeadUnitProgram::openScreen()
     } else {
         DeskWindow *desk = new DeskWindow(m_unit.get(), m_box.get(), m_options.screenSize);
         m_window.reset(desk);
+        if (m_replay) {
+            desk->showReplay(m_replay->replayer());
+        }
         DeskMemory().restore(desk);
     }
     m_window->show();

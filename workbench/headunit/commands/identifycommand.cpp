@@ -159,6 +159,7 @@ QByteArray toJson(const QVector<TypeFit> &fits, const Heard &heard)
                             {"framed", fit.framed},
                             {"packages", fit.packages},
                             {"evidence", fit.evidence},
+                            {"known", fit.known},
                             {"explained", fit.packages == 0 ? 0 : double(fit.explainedCount) / fit.packages},
                             {"explained-packages", fit.explainedCount},
                             {"unknown-commands", unknown}};
@@ -175,9 +176,10 @@ QByteArray toJson(const QVector<TypeFit> &fits, const Heard &heard)
 
 void printRows(const QVector<TypeFit> &fits)
 {
-    std::puts("evidence  framed  explained  type  class");
+    std::puts("evidence  framed  known  explained  type  class");
     for (const TypeFit &fit : fits) {
-        std::printf("%7d%%  %5d%%  %9s  %4d  %s%s\n", percent(fit.evidence), percent(fit.framed),
+        std::printf("%7d%%  %5d%%  %4d%%  %9s  %4d  %s%s\n", percent(fit.evidence), percent(fit.framed),
+                    percent(fit.known),
                     qPrintable(QString("%1 of %2").arg(fit.explainedCount).arg(fit.packages)), fit.type,
                     qPrintable(BoxCatalog::className(fit.type)),
                     fit.unknown.isEmpty() ? "" : qPrintable("  unknown: " + hexCommands(fit.unknown)));
@@ -217,8 +219,10 @@ int identify(const Options &options, const CommandLine &line)
         std::printf("It is type %d, %s.\n", fits.first().type,
                     qPrintable(BoxCatalog::className(fits.first().type)));
     } else if (heard.framed() > 0) {
-        std::puts("Not sure: 90% at least of the evidence should speak for the first, and 60% at most for "
-                  "the second.");
+        std::puts(
+            "Not sure: 90% at least of the evidence should speak for the first, which should know 75% of "
+            "what was said, in 3 commands at least, one of them its own, and explain 8 packages; and 60% at "
+            "most for the second.");
     } else {
         std::puts(isPort && !options.greets ? "No package was heard; --hello greets the box."
                                             : "No package was heard.");

@@ -10,6 +10,7 @@
 #include "linestrip.h"
 #include "orbapplication.h"
 #include "orbhost.h"
+#include "replaycard.h"
 #include "sidepanel.h"
 #include "unitpage.h"
 #include "unitshell.h"
@@ -123,6 +124,14 @@ void DeskWindow::watchLine(DecoderBox *box)
     connect(m_lineStrip, &LineStrip::saveWanted, this, &DeskWindow::saveLine);
     connect(page, &LinePage::saveWanted, this, &DeskWindow::saveLine);
     connect(page, &LinePage::helloWanted, this, &DeskWindow::sayHello);
+}
+
+void DeskWindow::showReplay(LineReplayer *replayer)
+{
+    ReplayCard *card = new ReplayCard(replayer);
+    m_sidePanel->linePage()->addCard(card);
+    connect(new QShortcut(Qt::Key_Space, this), &QShortcut::activated, card, &ReplayCard::toggle);
+    connect(new QShortcut(Qt::Key_Period, this), &QShortcut::activated, card, &ReplayCard::step);
 }
 
 void DeskWindow::showLine(const LineStatus &status)

@@ -8,6 +8,7 @@
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
+class LineReplayer;
 class LineReporter;
 class LineStrip;
 struct LineStatus;
@@ -39,6 +40,10 @@ public:
     void chooseLanguage(const QString &language);
     /// What the line is like, as the strip below the unit says it.
     LineStrip *lineStrip() const { return m_lineStrip; }
+
+    /// Shows \a replayer, which is not owned and must outlive the window, on the page of the line; the space bar pauses
+    /// it, a full stop steps.
+    void showReplay(LineReplayer *replayer);
 
     /// Saves the last minute of the line in the current folder, and says where.
     void saveLine();

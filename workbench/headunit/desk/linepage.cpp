@@ -136,6 +136,11 @@ void LinePage::setStatus(const LineStatus &status)
     showStatus();
 }
 
+void LinePage::addCard(QWidget *card)
+{
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, card);
+}
+
 void LinePage::setAnswer(const QString &sentence)
 {
     m_answer->setText(sentence);

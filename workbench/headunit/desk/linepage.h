@@ -24,6 +24,8 @@ public:
     explicit LinePage(LineRecorder *recorder, QWidget *parent = nullptr);
 
     void setStatus(const LineStatus &status);
+    /// Shows \a card above the others, and owns it.
+    void addCard(QWidget *card);
     /// What became of the last wish, in one sentence.
     void setAnswer(const QString &sentence);
 

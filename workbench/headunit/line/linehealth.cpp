@@ -62,6 +62,7 @@ void LineHealth::opened(const QString &port, const PortSettings &, qint64)
 {
     m_status.port = port;
     m_isOpen = true;
+    m_wasLost = false;
     m_hasPackages = false;
     m_strangeBytes = 0;
     m_otherProcess.clear();
@@ -74,7 +75,9 @@ void LineHealth::opened(const QString &port, const PortSettings &, qint64)
 void LineHealth::openFailed(const QString &port, int systemError, qint64)
 {
     m_status.port = port;
-    m_status.state = stateOfError(systemError);
+    const LineStatus::State state = stateOfError(systemError);
+    // Of an adapter that was pulled out nobody wants to hear that there is none.
+    m_status.state = m_wasLost && state == LineStatus::NoDevice ? LineStatus::Lost : state;
     m_status.who.clear();
     if (m_status.state == LineStatus::NoPermission) {
         m_status.who = PortHolder::groupOf(port);
@@ -88,6 +91,7 @@ void LineHealth::openFailed(const QString &port, int systemError, qint64)
 void LineHealth::closed(bool isLost, qint64)
 {
     m_isOpen = false;
+    m_wasLost = isLost;
     m_status.who.clear();
     m_status.state = isLost ? LineStatus::Lost : LineStatus::NotOpened;
 }

@@ -56,6 +56,7 @@ private:
     LineStatus m_status; // its state is the line's; what the talk is like is told when it is asked
 
     bool m_isOpen = false;
+    bool m_wasLost = false;            // and is not back
     std::deque<qint64> m_packageTimes; // of the last second
     qint64 m_lastPackage = -1;
     bool m_hasPackages = false; // since the line was opened

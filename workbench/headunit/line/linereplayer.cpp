@@ -3,12 +3,15 @@
 #include "serialtap.h"
 #include "virtualline.h"
 
+#include <QFile>
+
 #include <unistd.h>
 
 namespace {
 
 const qint64 AnswerPatience = 1000000; // us for which a package waits for the answer to the one before
 const int AnswerLookInterval = 1;      // ms
+const qint64 BackBefore = 25000;       // us for which the device is there before the unit's next try finds it
 const qint64 Punctual = 500;           // us before which a chunk may leave: timers know milliseconds only
 
 } // namespace
@@ -27,25 +30,66 @@ LineReplayer::LineReplayer(const ReplayOptions &options, const FrameFormat *form
 
 bool LineReplayer::open(QString *error)
 {
-    if (!m_log.open(error) || !m_terminal.open(error)) {
+    m_link = m_folder.filePath("log");
+    return m_log.open(error) && openTerminal(error);
+}
+
+bool LineReplayer::openTerminal(QString *error)
+{
+    m_terminal.reset(new TerminalPair);
+    if (!m_terminal->open(error)) {
+        m_terminal.reset();
         return false;
     }
-    if (!m_terminal.holdLine()) {
-        *error = QString("cannot open %1").arg(m_terminal.devicePath());
+    if (!m_terminal->holdLine() || !QFile::link(m_terminal->devicePath(), m_link)) {
+        *error = QString("cannot open %1").arg(m_terminal->devicePath());
+        m_terminal.reset();
         return false;
     }
-    m_readNotifier.reset(new QSocketNotifier(m_terminal.farEnd(), QSocketNotifier::Read));
+    m_readNotifier.reset(new QSocketNotifier(m_terminal->farEnd(), QSocketNotifier::Read));
     connect(m_readNotifier.get(), &QSocketNotifier::activated, this, &LineReplayer::takeAnswers);
-    m_writeNotifier.reset(new QSocketNotifier(m_terminal.farEnd(), QSocketNotifier::Write));
+    m_writeNotifier.reset(new QSocketNotifier(m_terminal->farEnd(), QSocketNotifier::Write));
     m_writeNotifier->setEnabled(false);
     connect(m_writeNotifier.get(), &QSocketNotifier::activated, this, &LineReplayer::flush);
     return true;
 }
 
+void LineReplayer::hangUp()
+{
+    QFile::remove(m_link);
+    m_readNotifier.reset();
+    m_writeNotifier.reset();
+    m_terminal.reset();
+    m_unsent.clear();
+    m_unanswered = 0;
+}
+
+void LineReplayer::comeBack()
+{
+    if (!m_terminal && !openTerminal(&m_problem)) {
+        finish();
+    }
+}
+
+void LineReplayer::changeLine(const LineRecord &change)
+{
+    if (change.text.startsWith("lost")) {
+        hangUp();
+    } else {
+        comeBack();
+    }
+}
+
+void LineReplayer::setState(State state)
+{
+    m_state = state;
+    Q_EMIT stateChanged();
+}
+
 void LineReplayer::start()
 {
     if (m_state == Waiting) {
-        m_state = Playing;
+        setState(Playing);
         m_origin = SerialTap::now() - qint64(double(m_options.from) / m_options.speed);
         m_timer.start(0);
     }
@@ -54,7 +98,7 @@ void LineReplayer::start()
 void LineReplayer::pause()
 {
     if (m_state == Playing) {
-        m_state = Paused;
+        setState(Paused);
         m_pausedAt = SerialTap::now();
         m_timer.stop();
     }
@@ -63,7 +107,7 @@ void LineReplayer::pause()
 void LineReplayer::play()
 {
     if (m_state == Paused) {
-        m_state = Playing;
+        setState(Playing);
         m_origin += SerialTap::now() - m_pausedAt;
         m_timer.start(0);
     }
@@ -83,7 +127,7 @@ void LineReplayer::step()
 void LineReplayer::finish()
 {
     if (m_state != Finished) {
-        m_state = Finished;
+        setState(Finished);
         m_timer.stop();
         if (m_framer) {
             m_framer->giveUp();
@@ -127,7 +171,14 @@ bool LineReplayer::fetch()
     case ReplayLog::Chunk:
         m_hasNext = true;
         break;
+    case ReplayLog::LineChange:
+        m_hasNext = true;
+        if (m_next.text.startsWith("back")) {
+            m_next.microseconds -= qint64(double(BackBefore) * m_options.speed);
+        }
+        break;
     case ReplayLog::StartOver:
+        comeBack();
         m_origin = SerialTap::now() - qint64(double(m_options.from) / m_options.speed);
         break;
     case ReplayLog::Later:
@@ -161,6 +212,12 @@ void LineReplayer::playNext()
 {
     m_hasNext = false;
     const LineRecord record = m_next;
+    m_place = record.microseconds;
+    if (record.kind == LineRecord::State) {
+        changeLine(record);
+        Q_EMIT played(record);
+        return;
+    }
     send(record.bytes);
     if (m_framer) {
         m_framer->feed(record.bytes, record.microseconds);
@@ -174,18 +231,21 @@ void LineReplayer::playNext()
 
 void LineReplayer::send(const QByteArray &bytes)
 {
-    const int there = VirtualLine::waitingAtUnit(m_terminal);
+    if (!m_terminal) {
+        return; // lost, says the log, and so it was not heard
+    }
+    const int there = VirtualLine::waitingAtUnit(*m_terminal);
     m_unsent = bytes;
     flush();
     if (!m_options.isFast && m_unsent.isEmpty()) {
-        VirtualLine::waitUntilThere(m_terminal, there + int(bytes.size()));
+        VirtualLine::waitUntilThere(*m_terminal, there + int(bytes.size()));
     }
 }
 
 void LineReplayer::flush()
 {
     while (!m_unsent.isEmpty()) {
-        const ssize_t count = ::write(m_terminal.farEnd(), m_unsent.constData(), size_t(m_unsent.size()));
+        const ssize_t count = ::write(m_terminal->farEnd(), m_unsent.constData(), size_t(m_unsent.size()));
         if (count <= 0) {
             break;
         }
@@ -226,7 +286,7 @@ void LineReplayer::drainFramer()
 void LineReplayer::takeAnswers()
 {
     char bytes[4096];
-    const ssize_t count = ::read(m_terminal.farEnd(), bytes, sizeof bytes);
+    const ssize_t count = ::read(m_terminal->farEnd(), bytes, sizeof bytes);
     if (count <= 0 || !m_answers) {
         return;
     }

@@ -7,13 +7,15 @@
 
 #include <QObject>
 #include <QSocketNotifier>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <memory>
 
 /// Plays what a log holds towards the unit through a pseudo-terminal, in the chunks and with the gaps with
-/// which it came. The unit's answers are taken and, but for ReplayOptions::waitsForAnswer, forgotten; states
-/// of the logged line are not played.
+/// which it came. The unit's answers are taken and, but for ReplayOptions::waitsForAnswer, forgotten. Where the logged
+/// line was lost the device goes, and a new one stands behind the same name where it came back, unless the log is played
+/// as fast as it goes; no other state is played.
 class LineReplayer : public QObject
 {
     Q_OBJECT
@@ -24,8 +26,8 @@ public:
 
     /// Opens log and pseudo-terminal. False, with one sentence in \a error, when that fails.
     bool open(QString *error);
-    /// The unit's serial port; empty before open().
-    QString portPath() const { return m_terminal.devicePath(); }
+    /// The unit's serial port, a link; empty before open().
+    QString portPath() const { return m_link; }
 
     /// Begins to play, once: this is the moment of the log's time 0, or of ReplayOptions::from.
     void start();
@@ -38,6 +40,11 @@ public:
     void finish();
 
     bool isPlaying() const { return m_state == Playing; }
+    bool isPaused() const { return m_state == Paused; }
+    bool isOver() const { return m_state == Finished; }
+    /// The time in the log of what was played last, in microseconds, and how much of the file was read, 0 to 1.
+    qint64 place() const { return m_place; }
+    double progress() const { return m_log.progress(); }
 
     /// What has gone to the unit.
     qint64 packages() const { return m_packages; }
@@ -46,16 +53,25 @@ public:
     /// Whether ReplayOptions::untilCommand was played.
     bool hasReachedCommand() const { return m_hasReachedCommand; }
     const ReplayLog &log() const { return m_log; }
+    /// Why the line did not come back; empty while all is well.
+    QString problem() const { return m_problem; }
 
 Q_SIGNALS:
-    /// The bytes of \a record have gone to the unit.
+    /// The bytes of \a record have gone to the unit, or what it tells of the line has come about.
     void played(const LineRecord &record);
+    /// It plays, pauses, or does so no longer.
+    void stateChanged();
     /// There is nothing more to play.
     void finished();
 
 private:
     enum State { Waiting, Playing, Paused, Finished };
 
+    bool openTerminal(QString *error);
+    void hangUp();
+    void comeBack();
+    void changeLine(const LineRecord &change);
+    void setState(State state);
     void work();
     bool fetch();
     qint64 dueIn() const;
@@ -67,7 +83,9 @@ private:
     bool mayPlay();
 
     const ReplayOptions m_options;
-    TerminalPair m_terminal; // outlives the notifiers on it
+    QTemporaryDir m_folder; // of the link
+    QString m_link;
+    std::unique_ptr<TerminalPair> m_terminal; // outlives the notifiers on it; null while the line is lost
     std::unique_ptr<QSocketNotifier> m_readNotifier;
     std::unique_ptr<QSocketNotifier> m_writeNotifier;
     QTimer m_timer;
@@ -76,6 +94,8 @@ private:
     LineRecord m_next;
     bool m_hasNext = false;
     State m_state = Waiting;
+    qint64 m_place = 0;
+    QString m_problem;
     qint64 m_origin = 0; // when the log's time 0 is, on the tap's clock
     qint64 m_pausedAt = 0;
     QByteArray m_unsent;

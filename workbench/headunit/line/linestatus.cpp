@@ -18,7 +18,7 @@ QString LineStatus::text() const
     case CannotOpen:
         return tr("cannot be opened: %1").arg(who);
     case Lost:
-        return tr("line lost");
+        return tr("line lost: was the adapter pulled out?");
     case OtherRate:
         return tr("bytes but no packages: other baud rate?");
     case Waiting:

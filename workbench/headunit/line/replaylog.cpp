@@ -4,6 +4,12 @@ namespace {
 
 const int MostPassedOver = 4096; // records, before others have their turn
 
+bool isLineChange(const LineRecord &record)
+{
+    return record.kind == LineRecord::State &&
+           (record.text.startsWith("lost") || record.text.startsWith("back"));
+}
+
 } // namespace
 
 ReplayLog::ReplayLog(const ReplayOptions &options, const FrameFormat *format) : m_options(options)
@@ -35,8 +41,18 @@ ReplayLog::Result ReplayLog::next(LineRecord *record)
             m_hasChunks = true;
             return Chunk;
         }
+        if (isLineChange(read) && read.microseconds >= m_options.from && !m_options.isFast) {
+            *record = read;
+            return LineChange;
+        }
     }
     return Later;
+}
+
+double ReplayLog::progress() const
+{
+    const qint64 size = m_reader ? m_reader->size() : 0;
+    return size > 0 ? double(m_reader->position()) / double(size) : m_reader ? 0 : 1;
 }
 
 // A log without a chunk would begin anew for ever.

@@ -26,8 +26,9 @@ class ReplayLog
 public:
     enum Result {
         Chunk,
-        Later,     ///< much had to be passed over: ask again, and let others have their turn in between
-        StartOver, ///< the log begins anew: its times count from here
+        LineChange, ///< the logged line was lost, or came back
+        Later,      ///< much had to be passed over: ask again, and let others have their turn in between
+        StartOver,  ///< the log begins anew: its times count from here
         End
     };
 
@@ -37,8 +38,12 @@ public:
     /// False, with one sentence in \a error, when it cannot be read.
     bool open(QString *error);
 
-    /// The next bytes for the unit; \a record is unchanged unless it answers Chunk.
+    /// The next bytes for the unit, or what became of the line; \a record is unchanged unless it answers Chunk or
+    /// LineChange.
     Result next(LineRecord *record);
+
+    /// How much of the file was read, 0 to 1.
+    double progress() const;
 
     /// What could not be read, in the first time through.
     const LineLogCounts &unread() const { return m_unread; }

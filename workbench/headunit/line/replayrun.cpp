@@ -49,7 +49,9 @@ bool ReplayRun::open(QString *error)
 void ReplayRun::begin(LineRecorder *recorder)
 {
     m_listener = OrbTrace::setListener(nullptr);
-    m_watch = new PackageWatch(BoxCatalog::frameOf(m_type), BoxCatalog::reportedBy(m_type), m_listener, this);
+    const QList<quint8> known = BoxCatalog::reportedBy(m_type).keys();
+    m_watch = new PackageWatch(BoxCatalog::frameOf(m_type), QSet<quint8>(known.begin(), known.end()),
+                               m_listener, this);
     OrbTrace::setListener(m_watch);
     if (!m_options.untilCall.isEmpty()) {
         connect(m_watch, &PackageWatch::callSeen, this, &ReplayRun::onCall);
@@ -75,7 +77,8 @@ bool ReplayRun::hasReachedEnd() const
 bool ReplayRun::isFine() const
 {
     return hasReachedEnd() && m_replayer->badPackages() == 0 && m_replayer->skippedBytes() == 0 &&
-           m_replayer->log().unread().isEmpty() && m_replayer->log().error().isEmpty();
+           m_replayer->problem().isEmpty() && m_replayer->log().unread().isEmpty() &&
+           m_replayer->log().error().isEmpty();
 }
 
 QString ReplayRun::summary() const
@@ -99,6 +102,9 @@ QString ReplayRun::summary() const
     }
     if (!m_replayer->log().error().isEmpty()) {
         text += '\n' + m_options.log + ": " + m_replayer->log().error();
+    }
+    if (!m_replayer->problem().isEmpty()) {
+        text += "\nthe line did not come back: " + m_replayer->problem();
     }
     return text + (hasReachedEnd() ? QString() : "\nwhat --until names never came");
 }

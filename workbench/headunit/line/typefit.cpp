@@ -1,9 +1,9 @@
 #include "typefit.h"
 
 #include "boxcatalog.h"
+#include "typeevidence.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QThread>
 
 #include <algorithm>
@@ -15,13 +15,42 @@ const int Patience = 120000; // ms for one type
 const double SureFirst = 0.9;
 const double SureSecond = 0.6;
 const double LeastFramed = 0.5; // of a line that speaks the type's frame at all
+const double LeastKnown = 0.75; // a box of another make shares a command or two with most types
+const int FewestExplained = 8;
+const int FewestCommands = 3;
+
+// How well a package is accounted for.
+const double Whole = 1;
+const double KnownOnly = 0.5; // the box sends such ones; this one changed nothing
+const double OtherLength =
+    0.5; // explained, with more bytes than the box is known to send: there are later boxes
+const double TooShort = 0.1; // explained, with fewer: what is missing was read as 0
+
+// Of a package with size data bytes; lengths are those that the type's box is known to send with its command.
+double gradeOf(const QSet<int> &lengths, int size, bool isExplained)
+{
+    if (lengths.contains(size)) {
+        return isExplained ? Whole : KnownOnly;
+    }
+    if (!isExplained) {
+        return 0;
+    }
+    const auto shortest = std::min_element(lengths.begin(), lengths.end());
+    return lengths.isEmpty() || size > *shortest ? OtherLength : TooShort;
+}
 
 } // namespace
 
 bool TypeFits::isSure(const QVector<TypeFit> &fits)
 {
-    return !fits.isEmpty() && fits.first().framed >= LeastFramed && fits.first().evidence >= SureFirst &&
-           (fits.size() < 2 || fits.at(1).evidence <= SureSecond);
+    if (fits.isEmpty()) {
+        return false;
+    }
+    const TypeFit &first = fits.first();
+    const bool isEnough = first.explainedCount >= FewestExplained && first.knownCommands >= FewestCommands &&
+                          first.ownCommands > 0;
+    return isEnough && first.framed >= LeastFramed && first.known >= LeastKnown &&
+           first.evidence >= SureFirst && (fits.size() < 2 || fits.at(1).evidence <= SureSecond);
 }
 
 bool TypeFits::find(const PackageCensus &raise, const PackageCensus &xinHang, QVector<TypeFit> *fits,
@@ -51,33 +80,13 @@ bool TypeFits::find(const PackageCensus &raise, const PackageCensus &xinHang, QV
         }
         *fits << probes[done].fit;
     }
-    weigh(fits);
-    return true;
-}
-
-// Types of one frame have tried the same packages; the frame with more of the bytes goes first.
-void TypeFits::weigh(QVector<TypeFit> *fits)
-{
-    QHash<const FrameFormat *, QVector<double>> types; // that explain each package
-    for (const TypeFit &fit : qAsConst(*fits)) {
-        QVector<double> &counts = types[fit.frame];
-        counts.resize(fit.packages);
-        for (int i = 0; i < fit.explained.size(); ++i) {
-            counts[i] += fit.explained.at(i) ? 1 : 0;
-        }
-    }
-    for (TypeFit &fit : *fits) {
-        double total = 0;
-        for (int i = 0; i < fit.explained.size(); ++i) {
-            const double count = types[fit.frame].at(i);
-            total += count > 0 ? 1 / count : 0;
-            fit.evidence += fit.explained.at(i) ? 1 / count : 0;
-        }
-        fit.evidence = total > 0 ? fit.evidence / total : 0;
+    for (const PackageCensus *census : {&raise, &xinHang}) {
+        TypeEvidence::weigh(*census, fits);
     }
     std::stable_sort(fits->begin(), fits->end(), [](const TypeFit &a, const TypeFit &b) {
         return a.evidence * a.framed > b.evidence * b.framed;
     });
+    return true;
 }
 
 void TypeFits::start(Probe *probe)
@@ -108,19 +117,23 @@ bool TypeFits::readAnswer(Probe *probe)
         return false;
     }
     const QList<QByteArray> answers = probe->process->readAllStandardOutput().split('\n');
-    QSet<quint8> explained = BoxCatalog::reportedBy(probe->fit.type);
+    const QHash<quint8, QSet<int>> reported = BoxCatalog::reportedBy(probe->fit.type);
     const FrameFormat &format = probe->census->format();
-    for (int i = 0; i < probe->fit.packages; ++i) {
-        probe->fit.explained << (answers.value(i) == "1");
-        if (probe->fit.explained.last()) {
-            ++probe->fit.explainedCount;
-            explained << format.package(probe->census->packages().at(i)).command;
+    QSet<quint8> explained;
+    TypeFit *const fit = &probe->fit;
+    for (int i = 0; i < fit->packages; ++i) {
+        const BoxPackage package = format.package(probe->census->packages().at(i));
+        const bool isExplained = answers.value(i) == "1";
+        fit->grades << gradeOf(reported.value(package.command), package.n(), isExplained);
+        if (isExplained) {
+            ++fit->explainedCount;
+            explained << package.command;
         }
     }
     for (const QByteArray &package : probe->census->packages()) {
         const quint8 command = format.package(package).command;
-        if (!explained.contains(command) && !probe->fit.unknown.contains(command)) {
-            probe->fit.unknown << command;
+        if (!explained.contains(command) && !reported.contains(command) && !fit->unknown.contains(command)) {
+            fit->unknown << command;
         }
     }
     return true;

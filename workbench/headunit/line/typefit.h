@@ -16,12 +16,12 @@ struct TypeFit
     double framed = 0;       ///< part of the bytes that are packages of this type, 0 to 1
     int packages = 0;        ///< different ones
     int explainedCount = 0;  ///< of them, by the plug-in
-    QVector<bool> explained; ///< for each package; empty without packages
+    QVector<double> grades;  ///< for each package, 0 to 1: how well the type accounts for it
     QVector<quint8> unknown; ///< commands of which the plug-in explains no package, in order
-
-    /// Part of what the packages tell about the type that speaks for this one, 0 to 1. A package that several
-    /// types explain tells as much less, and one that no type explains tells nothing.
-    double evidence = 0;
+    double evidence = 0;     ///< what speaks for this type, 0 to 1; see TypeEvidence
+    double known = 0;        ///< part of what was said that is of commands which the type knows, 0 to 1
+    int knownCommands = 0;   ///< commands for which it accounts at all
+    int ownCommands = 0;     ///< of them, those for which no other type accounts half as well
 };
 
 /// Tries what a box has said on the plug-in of every type. The plug-in builds one decoder per process, so each
@@ -40,8 +40,10 @@ public:
     bool find(const PackageCensus &raise, const PackageCensus &xinHang, QVector<TypeFit> *fits,
               QString *error);
 
-    /// Whether the first of \a fits is the box's type: at least 90 % of the evidence speak for it, and at most
-    /// 60 % for the second.
+    /// Whether the first of \a fits is the box's type: at least 90 % of the evidence speak for it and at most 60 % for
+    /// the second, it knows three quarters of what was said, and there was enough to tell by: eight different packages
+    /// explained, and three commands that it knows, one of them as no other type does: cars of many makes say keys, doors
+    /// and radars alike.
     static bool isSure(const QVector<TypeFit> &fits);
 
 private:
@@ -54,7 +56,6 @@ private:
 
     void start(Probe *probe);
     static bool readAnswer(Probe *probe);
-    static void weigh(QVector<TypeFit> *fits);
 
     const QString m_plugin;
 };

@@ -430,8 +430,8 @@
         <translation>lässt sich nicht öffnen: %1</translation>
     </message>
     <message>
-        <source>line lost</source>
-        <translation>Leitung verloren</translation>
+        <source>line lost: was the adapter pulled out?</source>
+        <translation>Leitung verloren: Adapter abgezogen?</translation>
     </message>
     <message>
         <source>bytes but no packages: other baud rate?</source>
@@ -565,6 +565,45 @@
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayCard</name>
+    <message>
+        <source>%1 s of the log, %2 packages</source>
+        <translation>%1 s der Aufzeichnung, %2 Pakete</translation>
+    </message>
+    <message>
+        <source>Replay: at its end</source>
+        <translation>Wiedergabe: zu Ende</translation>
+    </message>
+    <message>
+        <source>Replay: paused</source>
+        <translation>Wiedergabe: angehalten</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>Plays the next bytes and pauses (full stop)</source>
+        <translation>Spielt die nächsten Bytes und hält an (Punkt)</translation>
     </message>
 </context>
 <context>

@@ -430,8 +430,8 @@
         <translation>无法打开：%1</translation>
     </message>
     <message>
-        <source>line lost</source>
-        <translation>线路断开</translation>
+        <source>line lost: was the adapter pulled out?</source>
+        <translation>线路丢失：适配器被拔出了吗？</translation>
     </message>
     <message>
         <source>bytes but no packages: other baud rate?</source>
@@ -565,6 +565,45 @@
     <message>
         <source>none</source>
         <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayCard</name>
+    <message>
+        <source>%1 s of the log, %2 packages</source>
+        <translation>记录的第 %1 秒，%2 个数据包</translation>
+    </message>
+    <message>
+        <source>Replay: at its end</source>
+        <translation>回放：已结束</translation>
+    </message>
+    <message>
+        <source>Replay: paused</source>
+        <translation>回放：已暂停</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>回放</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>空格键</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>单步</translation>
+    </message>
+    <message>
+        <source>Plays the next bytes and pauses (full stop)</source>
+        <translation>播放下一段字节并暂停（句点键）</translation>
     </message>
 </context>
 <context>
