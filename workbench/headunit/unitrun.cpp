@@ -83,8 +83,8 @@ bool readOptions(const QStringList &arguments, const UnitCommand *command, HeadU
 bool askForCar(HeadUnitOptions *options)
 {
     const bool isBare = !options->isHeadless && options->canBusType() == 0 && !options->hasDecoderBox &&
-                        !options->productValues.contains("CANPortName") && options->script.isEmpty() &&
-                        options->trace.isEmpty();
+                        !options->replay && !options->productValues.contains("CANPortName") &&
+                        options->script.isEmpty() && options->trace.isEmpty();
     if (!isBare) {
         return true;
     }

@@ -36,7 +36,7 @@ public:
     bool hasTimes() const { return m_hasTimes; }
 
     /// How much of the device was read, in bytes, for a bar of progress.
-    qint64 position() const { return m_device->pos(); }
+    qint64 position() const { return m_device->pos() - waiting(); }
     /// Size of the device in bytes; 0 when it is not known.
     qint64 size() const { return m_device->isSequential() ? 0 : m_device->size(); }
 
@@ -49,6 +49,8 @@ protected:
     virtual bool read(LineRecord *record) = 0;
     /// Number of the line that read() has read last, from 1.
     virtual qint64 line() const = 0;
+    /// Bytes that were read from the device and not yet looked at.
+    virtual qint64 waiting() const { return 0; }
 
     QIODevice *device() const { return m_device.get(); }
     void skip(const QString &what, qint64 count = 1) { m_skipped.add(what, line(), count); }

@@ -26,6 +26,8 @@ public:
 
     /// Number of the last line, from 1.
     qint64 line() const { return m_line; }
+    /// Bytes that lie behind the last line and were read already.
+    qint64 waiting() const { return m_buffer.size() - m_front; }
     /// Whether the last line had an end; one without is the last of the text and may have been cut.
     bool isWhole() const { return m_isWhole; }
     /// Why the device could not be read; empty while all is well.

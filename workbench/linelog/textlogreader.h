@@ -25,6 +25,7 @@ protected:
 
     bool read(LineRecord *record) final;
     qint64 line() const final { return m_source.line(); }
+    qint64 waiting() const final { return m_source.waiting(); }
 
 private:
     LineSource m_source;
