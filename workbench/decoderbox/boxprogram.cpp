@@ -31,6 +31,22 @@ void listBoxes()
     }
 }
 
+bool isQuestion(const QCommandLineParser &parser)
+{
+    return parser.isSet("help") || parser.isSet("version") || parser.isSet("list");
+}
+
+void answer(const QCommandLineParser &parser)
+{
+    if (parser.isSet("help")) {
+        print(stdout, parser.helpText());
+    } else if (parser.isSet("version")) {
+        print(stdout, QString("decoderbox %1 (Qt %2)").arg(CANBUS_VERSION, qVersion()));
+    } else {
+        listBoxes();
+    }
+}
+
 } // namespace
 
 BoxProgram::BoxProgram(QObject *parent) : QObject(parent) {}
@@ -46,13 +62,9 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
         return false;
     }
     *exitCode = CannotRun;
-    if (parser.isSet("help") || parser.isSet("list")) {
+    if (isQuestion(parser)) {
         *exitCode = Fine;
-        if (parser.isSet("help")) {
-            print(stdout, parser.helpText());
-        } else {
-            listBoxes();
-        }
+        answer(parser);
         return false;
     }
     QString error;
@@ -90,6 +102,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
         "A virtual CAN decoder box on a pseudo-terminal, whose path is the first line "
         "of output.");
     parser->addOptions({{{"h", "help"}, "Shows this."},
+                        {"version", "Prints the version."},
                         {"list", "Lists all types: number, class, car, and box or none."},
                         {"type", "CAN-bus type by number or class name.", "N|CLASS"},
                         {"link", "Keeps a link of this name to the pseudo-terminal.", "PATH"},
@@ -107,7 +120,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
         error = "--seed takes a number, not '" + parser->value("seed") + "'";
     } else if (!parser->positionalArguments().isEmpty()) {
         error = "what is '" + parser->positionalArguments().first() + "'?";
-    } else if (!parser->isSet("help") && !parser->isSet("list")) {
+    } else if (!isQuestion(*parser)) {
         *type = BoxCatalog::typeFromText(parser->value("type"));
         error = *type != 0 ? QString()
                            : QString("--type takes a number or a class name of --list, not '%1'")
