@@ -139,7 +139,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
     }
     for (const Subject &subject : all) {
         BitProbe one(&unit, speaker.format(), subject.package);
-        if (!subject.package.data.isEmpty() && !one.run(order.byte, order.walksValues, &error)) {
+        if (!subject.package.data.isEmpty() && one.run(order.byte, order.walksValues, &error) != BitProbe::Done) {
             return line.complain(error);
         }
         answer(one, order,
@@ -149,6 +149,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
                    .arg(subject.name.isEmpty() ? QString() : ", " + subject.name,
                         QString::fromLatin1(subject.package.data.toHex(' '))));
     }
+    std::fprintf(stderr,"trials %d\n", unit.trialCount());
     return Command::Fine;
 }
 

@@ -10,7 +10,7 @@ QStringList effects(const BitProbe::Row &row)
 {
     QStringList lines;
     for (const BitProbe::Effect &effect : row.effects) {
-        lines << (row.high == row.low ? effect.call + ' ' : effect.call + ": ") + effect.text;
+        lines << (!row.isRun() ? effect.call + ' ' : effect.call + ": ") + effect.text;
     }
     if (lines.isEmpty()) {
         lines << (row.partner.isEmpty() ? QString("no effect")
