@@ -143,7 +143,7 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     }
     m_hasDialogs = trial.hasDialog;
     m_base[Fresh] = effectsOf(trial);
-    m_base[Opposite] = tryOut(Opposite, {m_package.data}).first();
+    m_base[Opposite] = tryOut(Opposite, {m_package.data}, Exactly).first();
     probeBits(only);
     for (int byte = 0; byte < m_package.n(); ++byte) {
         if (only < 0 || byte == only) {
@@ -155,7 +155,7 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
 }
 
 // What each of \a datas, as this package's, causes in a state.
-QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArray> &datas)
+QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArray> &datas, Care care)
 {
     BoxPackage opposite = m_package;
     for (char &byte : opposite.data) {
@@ -170,7 +170,7 @@ QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArra
         trials << (packages << m_format.frame({m_package.command, data}));
     }
     QVector<Effects> all;
-    for (const ProbeUnit::Trial &trial : state == Fresh ? m_unit->tryFresh(trials) : m_unit->tryInTurn(trials)) {
+    for (const ProbeUnit::Trial &trial : care == Exactly ? m_unit->tryFresh(trials) : m_unit->tryInTurn(trials)) {
         m_hasDialogs = m_hasDialogs || trial.hasDialog;
         all << effectsOf(trial);
     }
@@ -195,8 +195,11 @@ void BitProbe::probeBits(int only)
     for (int bit = first; bit < first + count; ++bit) {
         datas << flipped({bit});
     }
+    // A package that does nothing whatever its bits are needs no fork for each of them.
+    const QVector<Effects> quick = tryOut(Opposite, datas, Quickly);
+    const bool isIdle = quick.count(m_base[Opposite]) == quick.size();
     for (const State state : {Fresh, Opposite}) {
-        const QVector<Effects> all = tryOut(state, datas);
+        const QVector<Effects> all = isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
         for (int i = 0; i < count; ++i) {
             m_flipped[state].insert(first + i, all.at(i));
             for (const Effect &effect : changesBy(state, first + i)) {
@@ -271,7 +274,7 @@ void BitProbe::probeRun(Row *row)
         data[row->byte] = char((quint8(data.at(row->byte)) & ~mask) | (value << row->low));
         datas << data;
     }
-    const QVector<Effects> all = tryOut(Opposite, datas);
+    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
     QMap<QString, bool> calls; // sorted
     for (const Effects &effects : all) {
         for (const Effect &effect : difference(m_base[Opposite], effects)) {
@@ -305,10 +308,10 @@ void BitProbe::findPartners()
         others.removeAll(bit);
         datas << flipped({bit}) << flipped(others << bit);
     }
-    const QVector<Effects> all = tryOut(Opposite, datas);
+    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
     for (int bit = 0; 2 * bit < all.size(); ++bit) {
         if (all.at(2 * bit) != all.at(2 * bit + 1)) {
-            idle = findPartnersOf(bit, idle, all.at(2 * bit));
+            idle = findPartnersOf(bit, idle);
         }
     }
     for (Row &row : m_rows) {
@@ -318,21 +321,26 @@ void BitProbe::findPartners()
     }
 }
 
-// Those of \a idle that do nothing beside \a bit either, which by itself causes \a alone.
-QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle, const Effects &alone)
+// Those of \a idle that do nothing beside \a bit either.
+QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
 {
-    QVector<QByteArray> datas;
-    for (const int one : idle) {
-        datas << (one == bit ? flipped({bit}) : flipped({one, bit}));
+    QVector<int> others = idle;
+    others.removeAll(bit);
+    const QVector<Effects> alone = tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
+    if (alone.at(0) == alone.at(1)) {
+        return idle;
     }
-    const QVector<Effects> all = tryOut(Opposite, datas);
-    QVector<int> left;
-    for (int i = 0; i < idle.size(); ++i) {
-        if (all.at(i) == alone) {
-            left << idle.at(i);
-        } else {
-            m_partners.insert(idle.at(i), QString("d[%1].%2").arg(bit / Bits).arg(bit % Bits));
-            for (const Effect &effect : difference(alone, all.at(i))) {
+    QVector<QByteArray> datas;
+    for (const int other : std::as_const(others)) {
+        datas << flipped({other, bit});
+    }
+    const QVector<Effects> all = tryOut(Opposite, datas, Exactly);
+    QVector<int> left = idle;
+    for (int i = 0; i < others.size(); ++i) {
+        if (all.at(i) != alone.at(0)) {
+            left.removeAll(others.at(i));
+            m_partners.insert(others.at(i), QString("d[%1].%2").arg(bit / Bits).arg(bit % Bits));
+            for (const Effect &effect : difference(alone.at(0), all.at(i))) {
                 m_moved << effect.call;
             }
         }

@@ -68,7 +68,11 @@ public:
 private:
     enum State { Fresh, Opposite };
 
-    QVector<Effects> tryOut(State state, const QVector<QByteArray> &datas);
+    enum Care {
+        Exactly, ///< a fork each
+        Quickly  ///< one behind the other, where what the ones before left behind may show
+    };
+    QVector<Effects> tryOut(State state, const QVector<QByteArray> &datas, Care care);
     QByteArray flipped(const QVector<int> &bits) const;
     void probeBits(int only);
     void addRows(int byte, bool walksValues);
@@ -77,7 +81,7 @@ private:
     QVector<Effect> changesBy(State state, int bit) const;
     void probeRun(Row *row);
     void findPartners();
-    QVector<int> findPartnersOf(int bit, const QVector<int> &idle, const Effects &alone);
+    QVector<int> findPartnersOf(int bit, const QVector<int> &idle);
     QString absentOr(const Effects &effects, const QString &call) const;
     QVector<Effect> difference(const Effects &before, const Effects &after) const;
 

@@ -8,6 +8,7 @@
 #include "orbhost.h"
 
 #include <QDataStream>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QThread>
 #include <QTimer>
@@ -18,8 +19,10 @@
 namespace {
 
 // Time of the virtual clock.
-const int StartMs = 1500; // until the unit has greeted its box
+const int StartMs = 3000; // until the unit has greeted its box, and missed its answers
 const int SettleMs = 20;  // until what a package brings about is over; the unit reads every 4 ms
+const int TurnMs = 1000;  // of trials in turn: what the first one brings about later comes no sooner
+const int MostWaits = 8;  // for a time in which the plug-in says nothing by itself
 const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
 
 void letPass(int ms)
@@ -122,6 +125,10 @@ bool ProbeUnit::start(const QString &plugin, int type, const Packages &greeting,
     m_sentAtStart = sent();
     ScreenWatch::openWindows(m_unit.get());
     letPass(StartMs);
+    // A clock that is told every ten seconds is no answer to a package.
+    for (int i = 0; i < MostWaits && !sentAfter([](HeadUnit *) {}, 2 * TurnMs).isEmpty(); ++i) {
+        letPass(TurnMs);
+    }
     m_texts = ScreenWatch::texts();
     drainLine();
     return true;
@@ -154,7 +161,9 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
     int status = 0;
     const bool isRun = inChild(
         [&](int result) {
-            for (int i = from; i < trials.size(); ++i) {
+            QElapsedTimer clock;
+            clock.start();
+            for (int i = from; i < trials.size() && clock.elapsed() < TurnMs; ++i) {
                 ::alarm(LongestTrial);
                 play(trials.at(i), 0, result);
             }
@@ -178,8 +187,8 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
         (*results)[next] = trial;
         ++m_trialCount;
     }
-    const bool isOver = next > from && results->at(next - 1).hasDialog;
-    if (next < trials.size() && !isOver) {
+    const bool isWell = isRun && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    if (next < trials.size() && !isWell) {
         (*results)[next].end = !isRun                ? QString("there is no process to give")
                                : WIFSIGNALED(status) ? QString("signal %1").arg(WTERMSIG(status))
                                                      : QString("exit %1").arg(WEXITSTATUS(status));
