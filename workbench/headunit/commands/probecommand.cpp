@@ -57,6 +57,12 @@ void addOptions(CLI::App *app, Order *order)
     app->add_flag("--json", order->asJson, "answers in JSON")->excludes(markdown)->needs(frame);
 }
 
+bool isForeign(const QByteArray &bytes, const FrameFormat &format)
+{
+    const FrameFormat &other = &format == &FrameFormat::raise() ? FrameFormat::xinHang() : FrameFormat::raise();
+    return other.isFrame(bytes);
+}
+
 // A whole frame, or what would stand in one.
 bool readPackage(const Order &order, const FrameFormat &format, BoxPackage *package, QString *error)
 {
@@ -69,6 +75,10 @@ bool readPackage(const Order &order, const FrameFormat &format, BoxPackage *pack
     } else if (quint8(bytes.at(0)) == format.start &&
                format.frameSize(bytes.constData(), int(bytes.size())) == bytes.size()) {
         *error = QString("the checksum of %1 is wrong").arg(QString::fromLatin1(bytes.toHex()));
+    } else if (isForeign(bytes, format)) {
+        *error = QString("%1 is a frame of another box; those of this type begin with %2")
+                     .arg(QString::fromLatin1(bytes.toHex()))
+                     .arg(format.start, 2, 16, QLatin1Char('0'));
     } else {
         *package = {quint8(bytes.at(0)), bytes.mid(1)};
     }

@@ -143,7 +143,7 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     }
     m_hasDialogs = trial.hasDialog;
     m_base[Fresh] = effectsOf(trial);
-    m_base[Opposite] = tryOut(Opposite, {m_package.data}, Exactly).first();
+    chooseOtherState();
     probeBits(only);
     for (int byte = 0; byte < m_package.n(); ++byte) {
         if (only < 0 || byte == only) {
@@ -154,19 +154,27 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     return Done;
 }
 
-// What each of \a datas, as this package's, causes in a state.
-QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArray> &datas, Care care)
+// The second state comes from the opposite in every bit; where that kills the plug-in or leaves a dialog open, there is
+// none but the fresh one.
+void BitProbe::chooseOtherState()
 {
     BoxPackage opposite = m_package;
     for (char &byte : opposite.data) {
         byte = char(~byte);
     }
+    const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(opposite)}}).first();
+    if (trial.end.isEmpty() && !trial.hasDialog) {
+        m_before = {m_format.frame(opposite)};
+    }
+    m_base[Opposite] = tryOut(Opposite, {m_package.data}, Exactly).first();
+}
+
+// What each of \a datas, as this package's, causes in a state.
+QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArray> &datas, Care care)
+{
     QVector<ProbeUnit::Packages> trials;
     for (const QByteArray &data : datas) {
-        ProbeUnit::Packages packages;
-        if (state == Opposite) {
-            packages << m_format.frame(opposite);
-        }
+        ProbeUnit::Packages packages = state == Opposite ? m_before : ProbeUnit::Packages();
         trials << (packages << m_format.frame({m_package.command, data}));
     }
     QVector<Effects> all;
@@ -314,11 +322,28 @@ void BitProbe::findPartners()
             idle = findPartnersOf(bit, idle);
         }
     }
-    for (Row &row : m_rows) {
-        for (int bit = row.high; row.partner.isEmpty() && bit >= row.low; --bit) {
-            row.partner = m_partners.value(row.byte * Bits + bit);
+    splitByPartner();
+}
+
+// Bits of a run without effect that have another partner, or none, are a row of their own.
+void BitProbe::splitByPartner()
+{
+    QVector<Row> rows;
+    for (const Row &row : std::as_const(m_rows)) {
+        Row part = row;
+        for (int bit = row.high; row.effects.isEmpty() && bit >= row.low; --bit) {
+            const QString partner = m_partners.value(row.byte * Bits + bit);
+            if (bit < row.high && partner != part.partner) {
+                part.low = bit + 1;
+                rows << part;
+                part.high = bit;
+            }
+            part.partner = partner;
         }
+        part.low = row.low;
+        rows << part;
     }
+    m_rows = rows;
 }
 
 // Those of \a idle that do nothing beside \a bit either.

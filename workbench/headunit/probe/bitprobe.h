@@ -9,7 +9,7 @@
 
 /// What each bit of a package's data moves: the package is fed as it is, with each bit flipped, and runs of
 /// bits that move the same with each of their values. Twice: to a fresh unit, and to one that has just been told
-/// the opposite in every bit.
+/// the opposite in every bit (unless the unit does not bear that).
 class BitProbe
 {
 public:
@@ -73,6 +73,7 @@ private:
         Quickly  ///< one behind the other, where what the ones before left behind may show
     };
     QVector<Effects> tryOut(State state, const QVector<QByteArray> &datas, Care care);
+    void chooseOtherState();
     QByteArray flipped(const QVector<int> &bits) const;
     void probeBits(int only);
     void addRows(int byte, bool walksValues);
@@ -81,6 +82,7 @@ private:
     QVector<Effect> changesBy(State state, int bit) const;
     void probeRun(Row *row);
     void findPartners();
+    void splitByPartner();
     QVector<int> findPartnersOf(int bit, const QVector<int> &idle);
     QString absentOr(const Effects &effects, const QString &call) const;
     QVector<Effect> difference(const Effects &before, const Effects &after) const;
@@ -88,6 +90,7 @@ private:
     ProbeUnit *m_unit;
     const FrameFormat &m_format;
     BoxPackage m_package;
+    ProbeUnit::Packages m_before; // bring about the second state
     Effects m_base[2];
     QMap<int, Effects> m_flipped[2]; // by byte * 8 + bit
     QVector<Row> m_rows;

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace {
@@ -170,6 +171,7 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
         },
         &told, &status);
     drainLine();
+    ::tcflush(m_line.unitEnd(), TCIFLUSH); // what a child has not read is not the next one's
     QDataStream stream(told);
     int next = from;
     for (; isRun && next < trials.size() && !stream.atEnd(); ++next) {
