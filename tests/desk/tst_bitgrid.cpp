@@ -45,8 +45,11 @@ void TestBitGrid::readsTheProbe()
     QVERIFY(shown.wait(60000));
     QStringList texts;
     for (const BitGrid::Run &run : grid.findChild<BitGridPicture *>()->runs().mid(0, runs.size())) {
-        texts << QString("%1.%2-%3 %4").arg(run.byte).arg(run.high).arg(run.low).arg(
-            run.partner.isEmpty() ? run.effects.join(", ") : "with " + run.partner);
+        texts << QString("%1.%2-%3 %4")
+                     .arg(run.byte)
+                     .arg(run.high)
+                     .arg(run.low)
+                     .arg(run.partner.isEmpty() ? run.effects.join(", ") : "with " + run.partner);
     }
     QCOMPARE(texts, runs);
     QTEST(grid.findChild<QLabel *>("bitGridNote")->text(), "note");

@@ -108,9 +108,9 @@ void TestProbe::compares()
     };
     const auto act = [&](const QString &order) {
         const QStringList words = order.split(' ');
-        QStringList said = run(QStringList{"diff", change(words.at(0), QString()),
-                                           change(words.value(1), words.value(2))} +
-                               words.mid(3));
+        QStringList said =
+            run(QStringList{"diff", change(words.at(0), QString()), change(words.value(1), words.value(2))} +
+                words.mid(3));
         return said.replaceInStrings(LOGS "/", "").replaceInStrings(folder.path() + '/', "");
     };
     COMPARE_WITH_TRANSCRIPT("diff.txt", act);

@@ -86,7 +86,8 @@ QVector<QVariant> valuesOf(const CarProperty &property)
             values << (property.kind == CarProperty::Integer ? QVariant(qRound(value)) : QVariant(value));
         }
         if (property.kind == CarProperty::Temperature) {
-            values << "LO" << "HI";
+            values << "LO"
+                   << "HI";
         }
     }
     return values << property.initial;
@@ -184,8 +185,9 @@ QString complaint(const Side &a, const Side &b)
 
 int diffCommand(const QStringList &words)
 {
-    CommandLine line("diff", "How two boxes of one type differ: commands, lengths, bits, rhythm. Says nothing, and "
-                             "ends with 0, when they do not.");
+    CommandLine line("diff",
+                     "How two boxes of one type differ: commands, lengths, bits, rhythm. Says nothing, and "
+                     "ends with 0, when they do not.");
     std::string names[2];
     bool asJson = false;
     line.app.add_option("A", names[0], "a log, or a CAN-bus type whose virtual box is meant: honda, 7")

@@ -34,13 +34,14 @@ void addOptions(CLI::App *app, Order *order)
 {
     app->add_option("--can-bus-type", order->type, "the decoder: number, class or short name")
         ->type_name("N|CLASS");
-    CLI::Option *const frame = app->add_option("--frame", order->frame,
-                                               "the package: a whole frame, or its command and data")
-                                   ->type_name("HEX");
+    CLI::Option *const frame =
+        app->add_option("--frame", order->frame, "the package: a whole frame, or its command and data")
+            ->type_name("HEX");
     CLI::Option *const all =
-        app->add_option("--all", order->folder,
-                        "writes the sheet of each type (or of the one) to DIR, with each package both ways, and "
-                        "the matrix of what the cars can do")
+        app->add_option(
+               "--all", order->folder,
+               "writes the sheet of each type (or of the one) to DIR, with each package both ways, and "
+               "the matrix of what the cars can do")
             ->type_name("DIR")
             ->excludes(frame);
     app->add_option("--drives", order->drives, "where the golden drives lie that prove something")
@@ -59,7 +60,8 @@ void addOptions(CLI::App *app, Order *order)
 
 bool isForeign(const QByteArray &bytes, const FrameFormat &format)
 {
-    const FrameFormat &other = &format == &FrameFormat::raise() ? FrameFormat::xinHang() : FrameFormat::raise();
+    const FrameFormat &other =
+        &format == &FrameFormat::raise() ? FrameFormat::xinHang() : FrameFormat::raise();
     return other.isFrame(bytes);
 }
 
@@ -87,7 +89,8 @@ bool readPackage(const Order &order, const FrameFormat &format, BoxPackage *pack
     } else if (error->isEmpty() && format.package(format.frame(*package)).data != package->data) {
         *error = QString("%1 data bytes are more than a frame holds").arg(package->n());
     } else if (error->isEmpty() && order.byte >= package->n()) {
-        *error = QString("the package has %1 data bytes, there is no byte %2").arg(package->n()).arg(order.byte);
+        *error =
+            QString("the package has %1 data bytes, there is no byte %2").arg(package->n()).arg(order.byte);
     }
     return error->isEmpty();
 }
@@ -143,7 +146,8 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
 int writeSheets(const CommandLine &line, const Order &order, int type)
 {
     QString error;
-    const ProbeSheets::Order sheets = {QString::fromStdString(order.plugin), QString::fromStdString(order.folder),
+    const ProbeSheets::Order sheets = {QString::fromStdString(order.plugin),
+                                       QString::fromStdString(order.folder),
                                        QString::fromStdString(order.drives), type};
     return ProbeSheets::write(sheets, &error) ? int(Command::Fine) : line.complain(error);
 }
@@ -163,8 +167,7 @@ int probeCommand(const QStringList &words)
     }
     const int type = BoxCatalog::typeFromText(QString::fromStdString(order.type));
     if (type == 0 && !order.type.empty()) {
-        return line.refuse(
-            QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
+        return line.refuse(QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
     }
     if (!order.folder.empty()) {
         return writeSheets(line, order, type);

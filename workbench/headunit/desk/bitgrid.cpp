@@ -90,15 +90,16 @@ void BitGrid::showPackage(int type, const QByteArray &frame)
     setTexts();
     say(tr("The bits are being tried out ..."));
     m_probe = new QProcess(this);
-    connect(m_probe, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &BitGrid::onFinished);
+    connect(m_probe, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+            &BitGrid::onFinished);
     connect(m_probe, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
             onFinished(1, QProcess::CrashExit);
         }
     });
-    m_probe->start(m_program, {QStringLiteral("probe"), QStringLiteral("--can-bus-type"), QString::number(type),
-                               QStringLiteral("--frame"), QString::fromLatin1(frame.toHex()),
-                               QStringLiteral("--json")});
+    m_probe->start(m_program,
+                   {QStringLiteral("probe"), QStringLiteral("--can-bus-type"), QString::number(type),
+                    QStringLiteral("--frame"), QString::fromLatin1(frame.toHex()), QStringLiteral("--json")});
     show();
     raise();
 }
@@ -140,7 +141,6 @@ void BitGrid::setTexts()
     const FrameFormat *format = BoxCatalog::frameOf(m_type);
     const int command = format && format->isFrame(m_frame) ? format->package(m_frame).command : 0;
     setWindowTitle(tr("Bits of a package"));
-    m_title->setText(tr("Package 0x%1 of %2")
-                         .arg(command, 2, 16, QLatin1Char('0'))
-                         .arg(BoxCatalog::className(m_type)));
+    m_title->setText(
+        tr("Package 0x%1 of %2").arg(command, 2, 16, QLatin1Char('0')).arg(BoxCatalog::className(m_type)));
 }

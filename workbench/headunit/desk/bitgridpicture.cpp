@@ -10,9 +10,9 @@ const int HeadWidth = 96; // of a byte's name and value
 const int CellSize = 40;
 const int CellGap = 4;
 const int Margin = 16;
-const int LineGap = 14;   // between two bytes
-const int TextGap = 6;    // between the texts of two runs
-const int TextSize = 14;  // pixels
+const int LineGap = 14;      // between two bytes
+const int TextGap = 6;       // between the texts of two runs
+const int TextSize = 14;     // pixels
 const int LongestText = 420; // characters; a key table is longer than anybody reads here
 
 QFont fontOf(const QWidget *widget, int pixels, bool isBold = false)
@@ -25,7 +25,7 @@ QFont fontOf(const QWidget *widget, int pixels, bool isBold = false)
 
 QColor colourOf(const BitGrid::Run &run)
 {
-    return !run.effects.isEmpty()   ? run.dependsOnState ? DeskColours::Warning : DeskColours::Accent
+    return !run.effects.isEmpty()  ? run.dependsOnState ? DeskColours::Warning : DeskColours::Accent
            : run.partner.isEmpty() ? DeskColours::Edge
                                    : DeskColours::Good;
 }
@@ -50,11 +50,10 @@ void BitGridPicture::resizeEvent(QResizeEvent *event)
 
 QString BitGridPicture::textOf(const BitGrid::Run &run) const
 {
-    const QString bits = run.high == run.low ? QString::number(run.low)
-                         : run.high - run.low == 7
-                             ? QString()
-                             : QStringLiteral("%1-%2").arg(run.high).arg(run.low);
-    QString text = !run.effects.isEmpty()   ? run.effects.join(QLatin1Char('\n'))
+    const QString bits = run.high == run.low       ? QString::number(run.low)
+                         : run.high - run.low == 7 ? QString()
+                                                   : QStringLiteral("%1-%2").arg(run.high).arg(run.low);
+    QString text = !run.effects.isEmpty()  ? run.effects.join(QLatin1Char('\n'))
                    : run.partner.isEmpty() ? tr("no effect")
                                            : tr("only together with %1").arg(run.partner);
     if (text.size() > LongestText) {
@@ -148,6 +147,7 @@ void BitGridPicture::paintRun(QPainter *painter, const BitGrid::Run &run, int to
         painter->setFont(fontOf(this, 18, true));
         painter->setPen(isIdle ? DeskColours::Dim : DeskColours::Text);
         painter->drawText(place.adjusted(0, 6, 0, 0), Qt::AlignCenter,
-                          quint8(m_data.at(run.byte)) & (1 << bit) ? QStringLiteral("1") : QStringLiteral("0"));
+                          quint8(m_data.at(run.byte)) & (1 << bit) ? QStringLiteral("1")
+                                                                   : QStringLiteral("0"));
     }
 }

@@ -172,9 +172,10 @@ void compareCommand(const LineTraffic &a, const LineTraffic &b, int direction, q
     const double before = a.hasTimes ? rhythm(first) : 0;
     const double after = b.hasTimes ? rhythm(second) : 0;
     if (before > 0 && after > 0 && (before > after * ClearFactor || after > before * ClearFactor)) {
-        *result << Difference{
-            "rhythm", head.direction, command,
-            QString("every %1 ms in the first, every %2 ms in the second").arg(qRound(before)).arg(qRound(after))};
+        *result << Difference{"rhythm", head.direction, command,
+                              QString("every %1 ms in the first, every %2 ms in the second")
+                                  .arg(qRound(before))
+                                  .arg(qRound(after))};
     }
 }
 
@@ -187,10 +188,7 @@ void LineTraffic::add(Direction direction, const BoxPackage &package, qint64 mic
 
 QString LineComparison::Difference::line() const
 {
-    return QString("%1 0x%2 %3: %4")
-        .arg(direction)
-        .arg(command, 2, 16, QLatin1Char('0'))
-        .arg(kind, text);
+    return QString("%1 0x%2 %3: %4").arg(direction).arg(command, 2, 16, QLatin1Char('0')).arg(kind, text);
 }
 
 QVector<LineComparison::Difference> LineComparison::differences(const LineTraffic &first,

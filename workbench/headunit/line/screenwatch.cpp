@@ -47,7 +47,8 @@ QString stateOf(const QWidget *widget)
     QStringList parts;
     for (const char *name : {"text", "value", "checked"}) {
         const QVariant value = widget->property(name);
-        if (value.isValid() && (value.userType() != QMetaType::Bool || widget->property("checkable").toBool())) {
+        if (value.isValid() &&
+            (value.userType() != QMetaType::Bool || widget->property("checkable").toBool())) {
             parts << value.toString().simplified();
         }
     }

@@ -178,7 +178,8 @@ QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArra
         trials << (packages << m_format.frame({m_package.command, data}));
     }
     QVector<Effects> all;
-    for (const ProbeUnit::Trial &trial : care == Exactly ? m_unit->tryFresh(trials) : m_unit->tryInTurn(trials)) {
+    for (const ProbeUnit::Trial &trial :
+         care == Exactly ? m_unit->tryFresh(trials) : m_unit->tryInTurn(trials)) {
         m_hasDialogs = m_hasDialogs || trial.hasDialog;
         all << effectsOf(trial);
     }
@@ -207,7 +208,8 @@ void BitProbe::probeBits(int only)
     const QVector<Effects> quick = tryOut(Opposite, datas, Quickly);
     const bool isIdle = quick.count(m_base[Opposite]) == quick.size();
     for (const State state : {Fresh, Opposite}) {
-        const QVector<Effects> all = isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
+        const QVector<Effects> all =
+            isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
         for (int i = 0; i < count; ++i) {
             m_flipped[state].insert(first + i, all.at(i));
             for (const Effect &effect : changesBy(state, first + i)) {
@@ -229,8 +231,8 @@ void BitProbe::addRows(int byte, bool walksValues)
         bool isIdleRun = true;
         for (int bit = byte * Bits + low; bit <= byte * Bits + high; ++bit) {
             isIdleRun = isIdleRun && isIdle(bit);
-            row.dependsOnState = row.dependsOnState ||
-                                 textOf(changesBy(Fresh, bit)) != textOf(changesBy(Opposite, bit));
+            row.dependsOnState =
+                row.dependsOnState || textOf(changesBy(Fresh, bit)) != textOf(changesBy(Opposite, bit));
         }
         const int bit = byte * Bits + high;
         if (row.isRun() && (walksValues || !isIdleRun)) {
@@ -351,7 +353,8 @@ QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
 {
     QVector<int> others = idle;
     others.removeAll(bit);
-    const QVector<Effects> alone = tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
+    const QVector<Effects> alone =
+        tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
     if (alone.at(0) == alone.at(1)) {
         return idle;
     }
@@ -376,13 +379,12 @@ QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
 // A value of \a call, or what holds without one.
 QString BitProbe::absentOr(const Effects &effects, const QString &call) const
 {
-    return effects.contains(call)     ? readable(effects.value(call))
-           : call.startsWith(CarValue) ? QString("not told")
-           : call.startsWith(ScreenText)
-               ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size())))
-           : call == Dialog ? QString("none")
-           : call == PlugIn ? QString("lives")
-                            : QString("no call");
+    return effects.contains(call)        ? readable(effects.value(call))
+           : call.startsWith(CarValue)   ? QString("not told")
+           : call.startsWith(ScreenText) ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size())))
+           : call == Dialog              ? QString("none")
+           : call == PlugIn              ? QString("lives")
+                                         : QString("no call");
 }
 
 QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after) const

@@ -8,7 +8,7 @@ namespace {
 // The modes in front that the unit tells its plug-ins of.
 const uint FirstMode = 2;
 const uint LastMode = 18;
-const int AnswerMs = 300;   // until what follows a change of the mode is said
+const int AnswerMs = 300;    // until what follows a change of the mode is said
 const int SilenceMs = 12000; // in which the unit says what it says by itself
 const int MostHexBytes = 24;
 
@@ -21,7 +21,8 @@ QString hex(int value)
 
 QString hex(const QByteArray &bytes)
 {
-    return QString::fromLatin1(bytes.left(MostHexBytes).toHex(' ')) + (bytes.size() > MostHexBytes ? " ..." : "");
+    return QString::fromLatin1(bytes.left(MostHexBytes).toHex(' ')) +
+           (bytes.size() > MostHexBytes ? " ..." : "");
 }
 
 QString cell(QString text)
@@ -56,9 +57,9 @@ bool BitSheet::run(QString *error)
     }
     QList<quint8> commands; // a key of each kind tells of all of them
     for (const BoxKey &key : m_speaker->keys()) {
-        const QVector<BoxPackage> packages =
-            key.source == BoxKey::Knob ? QVector<BoxPackage>{m_speaker->knobPackage(key, 1)}
-                                       : m_speaker->keyPackages(key, BoxSpeaker::Pressed);
+        const QVector<BoxPackage> packages = key.source == BoxKey::Knob
+                                                 ? QVector<BoxPackage>{m_speaker->knobPackage(key, 1)}
+                                                 : m_speaker->keyPackages(key, BoxSpeaker::Pressed);
         if (!packages.isEmpty() && !commands.contains(packages.first().command)) {
             commands << packages.first().command;
             const QString name = key.source == BoxKey::Knob ? "knobs" : "keys";
@@ -71,8 +72,8 @@ bool BitSheet::run(QString *error)
     return true;
 }
 
-bool BitSheet::probe(const BoxPackage &package, const QString &name, const QStringList &functions, bool isKeys,
-                     QString *error)
+bool BitSheet::probe(const BoxPackage &package, const QString &name, const QStringList &functions,
+                     bool isKeys, QString *error)
 {
     m_fromBox += QString("### %1 %2\n\n`%3`\n\n").arg(hex(package.command), name, hex(package.data));
     bool isDecoded = false;
@@ -83,7 +84,8 @@ bool BitSheet::probe(const BoxPackage &package, const QString &name, const QStri
             return false;
         }
         m_fromBox += ProbeText::markdown(probe) + '\n';
-        for (const QString &call : probe.moved() + QSet<QString>(probe.base().keyBegin(), probe.base().keyEnd())) {
+        for (const QString &call :
+             probe.moved() + QSet<QString>(probe.base().keyBegin(), probe.base().keyEnd())) {
             isDecoded = true;
             isDrawn = isDrawn || !call.startsWith("car ");
         }
@@ -149,7 +151,8 @@ void BitSheet::addSent(const QByteArray &frame, const QString &cause)
         function.isSent = function.isSent || understanding == BoxSpeaker::Understood;
         m_sentKinds.insert(kind, int(m_sent.size()));
         m_sent << Sent{frame,
-                       understanding == BoxSpeaker::Understood ? meaning : QString("the box knows no such command"),
+                       understanding == BoxSpeaker::Understood ? meaning
+                                                               : QString("the box knows no such command"),
                        {},
                        0};
     }
@@ -167,13 +170,14 @@ void BitSheet::addSent(const QByteArray &frame, const QString &cause)
 QString BitSheet::text() const
 {
     const QString className = BoxCatalog::className(m_type);
-    QString text = QString("# %1\n\n"
-                           "The box of type %2. This sheet is made by `headunit probe --all docs/boxes` from the "
-                           "plug-in's calls and the virtual box's names; a change by hand is overwritten. A bit that "
-                           "only a page shows that a menu's row opens stands among those without effect.\n\n"
-                           "## From the box\n\n")
-                       .arg(className)
-                       .arg(m_type);
+    QString text =
+        QString("# %1\n\n"
+                "The box of type %2. This sheet is made by `headunit probe --all docs/boxes` from the "
+                "plug-in's calls and the virtual box's names; a change by hand is overwritten. A bit that "
+                "only a page shows that a menu's row opens stands among those without effect.\n\n"
+                "## From the box\n\n")
+            .arg(className)
+            .arg(m_type);
     text += m_fromBox;
     text += "## To the box\n\n| command | data | what the box makes of it | when |\n|---|---|---|---|\n";
     for (const Sent &sent : m_sent) {
@@ -190,8 +194,9 @@ QString BitSheet::functionTable() const
     QString text = "| function | decoded | drawn | sent | driven |\n|---|---|---|---|---|\n";
     for (auto at = m_functions.cbegin(); at != m_functions.cend(); ++at) {
         const auto mark = [](bool is) { return QLatin1String(is ? Yes : ""); };
-        text += QString("| %1 | %2 | %3 | %4 | %5 |\n")
-                    .arg(at.key(), mark(at->isDecoded), mark(at->isDrawn), mark(at->isSent), mark(at->isDriven));
+        text +=
+            QString("| %1 | %2 | %3 | %4 | %5 |\n")
+                .arg(at.key(), mark(at->isDecoded), mark(at->isDrawn), mark(at->isSent), mark(at->isDriven));
     }
     return text;
 }

@@ -22,7 +22,8 @@ bool DriveTraces::read(const QString &folder, const QString &car, QString *error
                 continue;
             }
             const QJsonObject row = QJsonDocument::fromJson(line).object();
-            const QByteArray frame = QByteArray::fromHex(row.value("args").toArray().at(0).toString().toLatin1());
+            const QByteArray frame =
+                QByteArray::fromHex(row.value("args").toArray().at(0).toString().toLatin1());
             if (row.value("call").toString() == "recvProtocolData") {
                 if (!seen.contains(frame)) {
                     seen << frame;

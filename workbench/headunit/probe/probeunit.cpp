@@ -20,10 +20,10 @@
 namespace {
 
 // Time of the virtual clock.
-const int StartMs = 3000; // until the unit has greeted its box, and missed its answers
-const int SettleMs = 20;  // until what a package brings about is over; the unit reads every 4 ms
-const int TurnMs = 1000;  // of trials in turn: what the first one brings about later comes no sooner
-const int MostWaits = 8;  // for a time in which the plug-in says nothing by itself
+const int StartMs = 3000;     // until the unit has greeted its box, and missed its answers
+const int SettleMs = 20;      // until what a package brings about is over; the unit reads every 4 ms
+const int TurnMs = 1000;      // of trials in turn: what the first one brings about later comes no sooner
+const int MostWaits = 8;      // for a time in which the plug-in says nothing by itself
 const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
 
 void letPass(int ms)
