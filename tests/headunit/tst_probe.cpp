@@ -1,4 +1,5 @@
 #include "bitprobe.h"
+#include "frameformat.h"
 #include "headunitrun.h"
 #include "transcript.h"
 
@@ -7,7 +8,7 @@
 #include <QStringList>
 #include <QTest>
 
-/// The command `probe` with the real plug-in: which bit of a package does what.
+/// The commands `probe`, which bit of a package does what with the real plug-in, and `diff`, how two boxes differ.
 class TestProbe : public QObject
 {
     Q_OBJECT
@@ -16,6 +17,10 @@ private Q_SLOTS:
     void mappings_data();
     void mappings();
     void probes();
+    void compares();
+
+private:
+    static QStringList run(const QStringList &words);
 };
 
 void TestProbe::mappings_data()
@@ -39,26 +44,79 @@ void TestProbe::mappings()
     QTEST(BitProbe::mapping(values), "text");
 }
 
+QStringList TestProbe::run(const QStringList &words)
+{
+    QProcess program;
+    program.start(HEADUNIT, words);
+    program.waitForFinished(60000);
+    QString said = QString::fromUtf8(program.readAllStandardOutput());
+    // The usage behind a complaint is the same for each.
+    said += QString::fromUtf8(program.readAllStandardError()).section('\n', 0, 0);
+    // Empty lines and those with # are the reader's in a transcript.
+    return said.split('\n').filter(QRegularExpression("^[^#]")) +
+           QStringList(QString("ends with %1").arg(program.exitCode()));
+}
+
 void TestProbe::probes()
 {
     const auto act = [](const QString &order) {
-        if (order.startsWith("==")) {
-            return QStringList();
-        }
         QStringList words;
         for (const QString &word : order.split(' ')) {
-            words << QString(word).replace('_', ' ');
+            words << QString(word).replace('_', ' ').replace("FRAGILE", FRAGILE_PLUGIN);
         }
-        QProcess program;
-        program.start(HEADUNIT, QStringList("probe") + words);
-        program.waitForFinished(60000);
-        QString said = QString::fromUtf8(program.readAllStandardOutput());
-        said += QString::fromUtf8(program.readAllStandardError()).section("\nUsage", 0, 0);
-        // Empty lines and those with # are the reader's in a transcript.
-        return said.split('\n').filter(QRegularExpression("^[^#]")) +
-               QStringList(QString("ends with %1").arg(program.exitCode()));
+        return order.startsWith("==") ? QStringList() : run(QStringList("probe") + words);
     };
     COMPARE_WITH_TRANSCRIPT("probe.txt", act);
+}
+
+// An order: two sides, either with what is done to the log first, "DIRECTION COMMAND BYTE MASK" flips the bits of one
+// package, "drop COMMAND" leaves a command out, "slow" lets twice the time pass.
+void TestProbe::compares()
+{
+    QTemporaryDir folder;
+    const auto change = [&](const QString &side, const QString &order) {
+        QFile log(QString(LOGS "/%1.orblog").arg(side));
+        if (order.isEmpty() || !log.open(QIODevice::ReadOnly)) {
+            return log.exists() ? log.fileName() : side;
+        }
+        const QStringList words = order.split(',');
+        const FrameFormat &format = FrameFormat::raise();
+        QByteArrayList lines;
+        bool isDone = false;
+        for (const QByteArray &line : log.readAll().split('\n')) {
+            const QByteArrayList parts = line.split(' ');
+            const QByteArray frame = QByteArray::fromHex(parts.value(2));
+            BoxPackage package = format.isFrame(frame) ? format.package(frame) : BoxPackage();
+            const bool isMeant = package.command == words.value(1).toInt(nullptr, 16);
+            if (words.first() == "drop" && isMeant) {
+                continue;
+            }
+            QByteArray changed = line;
+            if (words.first() == "flip" && isMeant && !isDone) {
+                const int byte = words.at(2).toInt();
+                package.data[byte] = char(package.data.at(byte) ^ words.at(3).toInt(nullptr, 16));
+                changed = parts.at(0) + ' ' + parts.at(1) + ' ' + format.frame(package).toHex();
+                isDone = true;
+            } else if (words.first() == "longer" && isMeant) {
+                package.data += char(0);
+                changed = parts.at(0) + ' ' + parts.at(1) + ' ' + format.frame(package).toHex();
+            } else if (words.first() == "slow" && line.startsWith('(')) {
+                const double time = parts.at(0).mid(1, parts.at(0).size() - 2).toDouble();
+                changed = '(' + QByteArray::number(2 * time, 'f', 6) + line.mid(parts.at(0).size() - 1);
+            }
+            lines << changed;
+        }
+        TestSupport::writeFile(folder.filePath("changed.orblog"), lines.join('\n'));
+        return folder.filePath("changed.orblog");
+    };
+    const auto act = [&](const QString &order) {
+        const QStringList words = order.split(' ');
+        QStringList said =
+            run(QStringList{"diff", change(words.at(0), QString()), change(words.value(1), words.value(2))} +
+                words.mid(3));
+        return said.replaceInStrings(LOGS "/", "").replaceInStrings(folder.path() + '/', "");
+    };
+    COMPARE_WITH_TRANSCRIPT("diff.txt", act);
 }
 
 QTEST_GUILESS_MAIN(TestProbe)

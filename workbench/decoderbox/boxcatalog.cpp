@@ -59,13 +59,13 @@ const QVector<BoxCatalog::Row> &BoxCatalog::rows()
         {5, "CanBus_XBS_Mazda", "mazda", make<MazdaSpeaker>},
         {6, "CanBus_XinRi", "xinri", makePlain},
         {7, "CanBus_Raise_Honda", "honda", make<HondaSpeaker>},
-        {8, "CanBus_Raise_Nissan", "nissan", make<NissanSpeaker>},
+        {8, "CanBus_Raise_Nissan", "nissan", make<NissanSpeaker>, true},
         {9, "CanBus_Raise_Toyota", "toyota", make<ToyotaSpeaker>},
         {10, "CanBus_Raise_GM", "gm", make<GmSpeaker>},
-        {11, "CanBus_Raise_Haval", "haval", make<HavalSpeaker>},
-        {12, "CanBus_Raise_GAC", "gac", make<GacSpeaker>},
-        {13, "CanBus_Raise_Venucia", "venucia", make<VenuciaSpeaker>},
-        {14, "CanBus_Raise_Renault", "renault", make<RenaultSpeaker>},
+        {11, "CanBus_Raise_Haval", "haval", make<HavalSpeaker>, true},
+        {12, "CanBus_Raise_GAC", "gac", make<GacSpeaker>, true},
+        {13, "CanBus_Raise_Venucia", "venucia", make<VenuciaSpeaker>, true},
+        {14, "CanBus_Raise_Renault", "renault", make<RenaultSpeaker>, true},
         {15, "CanBus_Raise_Jeep", "jeep", make<JeepSpeaker>},
     };
     return rows;

@@ -22,6 +22,7 @@ public:
         const char *className; ///< of the plug-in's adapter
         const char *car;       ///< one short word, with which drives' file names begin
         BoxSpeaker *(*makeSpeaker)(SimulatedCar *car); ///< null where nobody knows the box's protocol
+        bool isFromDataSheet = false; ///< after the box maker's data sheet, not yet seen on a car
     };
 
     /// All types, in order of their numbers.

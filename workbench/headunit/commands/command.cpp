@@ -2,6 +2,7 @@
 
 #include "checkcommand.h"
 #include "convertcommand.h"
+#include "diffcommand.h"
 #include "identifycommand.h"
 #include "probecommand.h"
 #include "recordcommand.h"
@@ -16,6 +17,7 @@ const QVector<Command> &Command::all()
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
         {"convert", "turns one log of a serial line into another", convertCommand},
         {"probe", "tells which bit of a package does what", probeCommand},
+        {"diff", "tells how two boxes of one type differ", diffCommand},
     };
     return commands;
 }

@@ -6,8 +6,9 @@
 #include "commandline.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
+#include "probesheets.h"
+#include "probestart.h"
 #include "probetext.h"
-#include "virtualclock.h"
 
 #include "orbapplication.h"
 
@@ -16,15 +17,14 @@
 
 namespace {
 
-const std::time_t StartOfClock = 1767268800; // 2026-01-01 12:00, as drives start
-
 struct Order
 {
     std::string type;
     std::string frame;
+    std::string folder;
+    std::string drives = "scenarios";
     std::string plugin;
     int byte = -1;
-    bool isAll = false;
     bool walksValues = false;
     bool asMarkdown = false;
     bool asJson = false;
@@ -32,26 +32,43 @@ struct Order
 
 void addOptions(CLI::App *app, Order *order)
 {
-    app->add_option("--can-bus-type", order->type, "the decoder: number or class name")
-        ->required()
+    app->add_option("--can-bus-type", order->type, "the decoder: number, class or short name")
         ->type_name("N|CLASS");
-    app->add_option("--frame", order->frame, "the package: a whole frame, or its command and data")
-        ->type_name("HEX");
-    app->add_flag("--all", order->isAll,
-                  "each package that the virtual box of the type sends, in place of one");
+    CLI::Option *const frame =
+        app->add_option("--frame", order->frame, "the package: a whole frame, or its command and data")
+            ->type_name("HEX");
+    CLI::Option *const all =
+        app->add_option(
+               "--all", order->folder,
+               "writes the sheet of each type (or of the one) to DIR, with each package both ways, and "
+               "the matrix of what the cars can do")
+            ->type_name("DIR")
+            ->excludes(frame);
+    app->add_option("--drives", order->drives, "where the golden drives lie that prove something")
+        ->type_name("DIR")
+        ->needs(all);
     app->add_option("--byte", order->byte, "this data byte only, counted from 0")
         ->type_name("N")
-        ->check(CLI::NonNegativeNumber);
-    app->add_flag("--values", order->walksValues, "walks all values of each byte");
+        ->check(CLI::NonNegativeNumber)
+        ->needs(frame);
+    app->add_flag("--values", order->walksValues, "walks all values of each byte")->needs(frame);
     app->add_option("--plugin", order->plugin, "another build of the plug-in")->type_name("PATH");
-    CLI::Option *const markdown = app->add_flag("--markdown", order->asMarkdown, "answers as a table");
-    app->add_flag("--json", order->asJson, "answers in JSON")->excludes(markdown);
+    CLI::Option *const markdown =
+        app->add_flag("--markdown", order->asMarkdown, "answers as a table")->needs(frame);
+    app->add_flag("--json", order->asJson, "answers in JSON")->excludes(markdown)->needs(frame);
+}
+
+bool isForeign(const QByteArray &bytes, const FrameFormat &format)
+{
+    const FrameFormat &other =
+        &format == &FrameFormat::raise() ? FrameFormat::xinHang() : FrameFormat::raise();
+    return other.isFrame(bytes);
 }
 
 // A whole frame, or what would stand in one.
-bool readPackage(const std::string &text, const FrameFormat &format, BoxPackage *package, QString *error)
+bool readPackage(const Order &order, const FrameFormat &format, BoxPackage *package, QString *error)
 {
-    const QByteArray digits = QByteArray::fromStdString(text).replace(' ', "").toLower();
+    const QByteArray digits = QByteArray::fromStdString(order.frame).replace(' ', "").toLower();
     const QByteArray bytes = QByteArray::fromHex(digits);
     if (bytes.isEmpty() || bytes.toHex() != digits) {
         *error = "--frame takes two hexadecimal digits for each byte";
@@ -60,6 +77,10 @@ bool readPackage(const std::string &text, const FrameFormat &format, BoxPackage 
     } else if (quint8(bytes.at(0)) == format.start &&
                format.frameSize(bytes.constData(), int(bytes.size())) == bytes.size()) {
         *error = QString("the checksum of %1 is wrong").arg(QString::fromLatin1(bytes.toHex()));
+    } else if (isForeign(bytes, format)) {
+        *error = QString("%1 is a frame of another box; those of this type begin with %2")
+                     .arg(QString::fromLatin1(bytes.toHex()))
+                     .arg(format.start, 2, 16, QLatin1Char('0'));
     } else {
         *package = {quint8(bytes.at(0)), bytes.mid(1)};
     }
@@ -67,21 +88,11 @@ bool readPackage(const std::string &text, const FrameFormat &format, BoxPackage 
         *error = "the package has no data, so there is no bit to flip";
     } else if (error->isEmpty() && format.package(format.frame(*package)).data != package->data) {
         *error = QString("%1 data bytes are more than a frame holds").arg(package->n());
+    } else if (error->isEmpty() && order.byte >= package->n()) {
+        *error =
+            QString("the package has %1 data bytes, there is no byte %2").arg(package->n()).arg(order.byte);
     }
     return error->isEmpty();
-}
-
-// What the box says at start, but for the package that is asked about: some decoders want to know their box.
-QVector<QByteArray> greeting(const BoxSpeaker &speaker, int command)
-{
-    QVector<QByteArray> frames;
-    for (int i = 0; i < speaker.reports().size(); ++i) {
-        const BoxReport &report = speaker.reports().at(i);
-        if (report.atStart && int(report.command) != command) {
-            frames << speaker.format().frame(speaker.reportPackage(i));
-        }
-    }
-    return frames;
 }
 
 void answer(const BitProbe &probe, const Order &order, const QString &title)
@@ -95,81 +106,50 @@ void answer(const BitProbe &probe, const Order &order, const QString &title)
     }
 }
 
-// A package to probe, and what the box calls it.
-struct Subject
+int probe(const CommandLine &line, const Order &order, int type, const BoxSpeaker &speaker)
 {
+    QString error;
     BoxPackage package;
-    QString name;
-};
-
-// All that the box tells of its own accord, as it is for a car that stands, and one key of each kind.
-QVector<Subject> subjects(const BoxSpeaker &speaker)
-{
-    QVector<Subject> result;
-    for (int i = 0; i < speaker.reports().size(); ++i) {
-        result << Subject{speaker.reportPackage(i), speaker.reports().at(i).meaning};
+    if (!readPackage(order, speaker.format(), &package, &error)) {
+        return line.refuse(error);
     }
-    QList<quint8> commands;
-    for (const BoxKey &key : speaker.keys()) {
-        const QVector<BoxPackage> packages = key.source == BoxKey::Knob
-                                                 ? QVector<BoxPackage>{speaker.knobPackage(key, 1)}
-                                                 : speaker.keyPackages(key, BoxSpeaker::Pressed);
-        if (!packages.isEmpty() && !commands.contains(packages.first().command)) {
-            commands << packages.first().command;
-            result << Subject{packages.first(), "keys"};
-        }
+    if (!ProbeStart::prepare(&error)) {
+        return line.complain(error);
     }
-    return result;
-}
-
-int probe(const CommandLine &line, const Order &order, int type, const BoxSpeaker &speaker,
-          const QVector<Subject> &all)
-{
     char name[] = "headunit";
     char *arguments[] = {name, nullptr};
     int count = 1;
-    QString error;
     OrbApplication application(count, arguments);
     ProbeUnit unit;
     const QString plugin =
         order.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(order.plugin);
-    if (!unit.start(plugin, type, greeting(speaker, all.size() == 1 ? all.first().package.command : -1),
-                    &error)) {
+    if (!unit.start(plugin, type, ProbeStart::greeting(speaker, package.command), &error)) {
         return line.complain(error);
     }
-    for (const Subject &subject : all) {
-        BitProbe one(&unit, speaker.format(), subject.package);
-        if (!subject.package.data.isEmpty() && !one.run(order.byte, order.walksValues, &error)) {
-            return line.complain(error);
-        }
-        answer(one, order,
-               QString("%1, package 0x%2%3: %4")
-                   .arg(BoxCatalog::className(type))
-                   .arg(subject.package.command, 2, 16, QLatin1Char('0'))
-                   .arg(subject.name.isEmpty() ? QString() : ", " + subject.name,
-                        QString::fromLatin1(subject.package.data.toHex(' '))));
+    BitProbe one(&unit, speaker.format(), package);
+    switch (one.run(order.byte, order.walksValues, &error)) {
+    case BitProbe::NotFramed:
+        return line.refuse(error);
+    case BitProbe::Killed:
+        return line.complain(error);
+    case BitProbe::Done:
+        break;
     }
+    answer(one, order,
+           QString("%1, package 0x%2: %3")
+               .arg(BoxCatalog::className(type))
+               .arg(package.command, 2, 16, QLatin1Char('0'))
+               .arg(QString::fromLatin1(package.data.toHex(' '))));
     return Command::Fine;
 }
 
-// What is to be probed, or why nothing can be.
-bool readSubjects(const Order &order, const BoxSpeaker &speaker, QVector<Subject> *all, QString *error)
+int writeSheets(const CommandLine &line, const Order &order, int type)
 {
-    if (order.isAll) {
-        *all = subjects(speaker);
-        return true;
-    }
-    Subject subject;
-    if (order.frame.empty()) {
-        *error = "--frame or --all says what is to be probed";
-    } else if (readPackage(order.frame, speaker.format(), &subject.package, error) &&
-               order.byte >= subject.package.n()) {
-        *error = QString("the package has %1 data bytes, there is no byte %2")
-                     .arg(subject.package.n())
-                     .arg(order.byte);
-    }
-    *all = {subject};
-    return error->isEmpty();
+    QString error;
+    const ProbeSheets::Order sheets = {QString::fromStdString(order.plugin),
+                                       QString::fromStdString(order.folder),
+                                       QString::fromStdString(order.drives), type};
+    return ProbeSheets::write(sheets, &error) ? int(Command::Fine) : line.complain(error);
 }
 
 } // namespace
@@ -181,29 +161,24 @@ int probeCommand(const QStringList &words)
     Order order;
     int exitCode = 0;
     QString error;
-    QVector<Subject> all;
     addOptions(&line.app, &order);
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
     const int type = BoxCatalog::typeFromText(QString::fromStdString(order.type));
-    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-    if (type == 0) {
-        return line.complain(
-            QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
+    if (type == 0 && !order.type.empty()) {
+        return line.refuse(QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
     }
+    if (!order.folder.empty()) {
+        return writeSheets(line, order, type);
+    }
+    if (order.frame.empty() || type == 0) {
+        return line.refuse("--can-bus-type and --frame say what is to be probed, or --all for everything");
+    }
+    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
     if (!box) {
         return line.complain(
             "the frame of this type is not known, so it decodes nothing that could be probed");
     }
-    if (!readSubjects(order, *box->speaker(), &all, &error)) {
-        return line.complain(error);
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!VirtualClock::start(StartOfClock)) {
-        return line.complain("the virtual clock does not reach the libraries of this program");
-    }
-    qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &) {}); // of hundreds of trials
-    return probe(line, order, type, *box->speaker(), all);
+    return probe(line, order, type, *box->speaker());
 }

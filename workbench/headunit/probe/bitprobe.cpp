@@ -3,14 +3,14 @@
 #include "orbeventtypes.h"
 
 #include <QRegularExpression>
-#include <QSet>
-
-#include <algorithm>
 
 namespace {
 
-const int MostPairs = 3000;
 const int Bits = 8;
+const QString CarValue = "car ";
+const QString ScreenText = "screen ";
+const QString Dialog = "dialog";
+const QString PlugIn = "plug-in";
 
 // An event is told apart by what it is about; the other members are its values.
 void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
@@ -39,15 +39,27 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
     }
 }
 
-BitProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
+BitProbe::Effects effectsOf(const ProbeUnit::Trial &trial)
 {
     QMap<QString, QStringList> values;
-    for (const CallWatch::Call &call : calls) {
+    for (const CallWatch::Call &call : trial.calls) {
         take(call, &values);
     }
     BitProbe::Effects effects;
     for (auto at = values.begin(); at != values.end(); ++at) {
         effects.insert(at.key(), at.value().join(", "));
+    }
+    for (auto at = trial.values.cbegin(); at != trial.values.cend(); ++at) {
+        effects.insert(CarValue + at.key(), at.value());
+    }
+    for (auto at = trial.texts.cbegin(); at != trial.texts.cend(); ++at) {
+        effects.insert(ScreenText + at.key(), at.value());
+    }
+    if (trial.hasDialog) {
+        effects.insert(Dialog, "opens");
+    }
+    if (!trial.end.isEmpty()) {
+        effects.insert(PlugIn, "dies of " + trial.end);
     }
     return effects;
 }
@@ -55,11 +67,6 @@ BitProbe::Effects effectsOf(const QVector<CallWatch::Call> &calls)
 QString readable(const QString &value)
 {
     return value.isEmpty() ? QString("empty") : value;
-}
-
-QString absentOr(const BitProbe::Effects &effects, const QString &call)
-{
-    return effects.contains(call) ? readable(effects.value(call)) : QString("no call");
 }
 
 // "21.5°C" in parts; false for what is no number with a unit.
@@ -122,72 +129,131 @@ BitProbe::BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage 
     : m_unit(unit), m_format(format), m_package(package)
 {}
 
-bool BitProbe::run(int only, bool walksValues, QString *error)
+BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
 {
-    bool ok =
-        tryOut(Fresh, m_package.data, &m_base[Fresh]) && tryOut(Opposite, m_package.data, &m_base[Opposite]);
-    for (int byte = 0; ok && byte < m_package.n(); ++byte) {
-        ok = (only >= 0 && byte != only) || probeBits(byte);
-        if (only >= 0 && byte != only) {
-            continue;
-        }
-        for (int high = Bits - 1; ok && high >= 0;) {
-            int low = walksValues ? 0 : high;
-            while (low > 0 && isAlike(byte, high, low - 1)) {
-                --low;
-            }
-            Row row = {byte, high, low, {}, false, {}};
-            for (int bit = low; bit <= high; ++bit) {
-                const int key = byte * Bits + bit;
-                row.dependsOnState = row.dependsOnState ||
-                                     textOf(difference(m_base[Fresh], m_flipped[Fresh].value(key))) !=
-                                         textOf(difference(m_base[Opposite], m_flipped[Opposite].value(key)));
-            }
-            ok = probeRun(&row);
-            m_rows << row;
-            high = low - 1;
+    const QString frame = QString::fromLatin1(m_format.frame(m_package).toHex());
+    const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(m_package)}}).first();
+    if (!trial.end.isEmpty()) {
+        *error = QString("the plug-in does not survive %1 (%2)").arg(frame, trial.end);
+        return Killed;
+    }
+    if (!trial.isFramed) {
+        *error = QString("the decoder does not take %1 for a package").arg(frame);
+        return NotFramed;
+    }
+    m_hasDialogs = trial.hasDialog;
+    m_base[Fresh] = effectsOf(trial);
+    chooseOtherState();
+    probeBits(only);
+    for (int byte = 0; byte < m_package.n(); ++byte) {
+        if (only < 0 || byte == only) {
+            addRows(byte, walksValues);
         }
     }
-    ok = ok && probePairs();
-    *error = m_error;
-    return ok;
+    findPartners();
+    return Done;
 }
 
-bool BitProbe::tryOut(State state, const QByteArray &data, Effects *effects)
+// The second state comes from the opposite in every bit; where that kills the plug-in or leaves a dialog open, there is
+// none but the fresh one.
+void BitProbe::chooseOtherState()
 {
-    QVector<QByteArray> packages;
-    if (state == Opposite) {
-        BoxPackage opposite = m_package;
-        for (char &byte : opposite.data) {
-            byte = char(~byte);
-        }
-        packages << m_format.frame(opposite);
+    BoxPackage opposite = m_package;
+    for (char &byte : opposite.data) {
+        byte = char(~byte);
     }
-    packages << m_format.frame({m_package.command, data});
-    const ProbeUnit::Trial trial = m_unit->tryOut(packages);
-    m_hasDialogs = m_hasDialogs || trial.hasDialog;
-    if (!trial.problem.isEmpty()) {
-        m_error = QString("%1: %2").arg(QString::fromLatin1(packages.last().toHex()), trial.problem);
-    } else if (!trial.isFramed) {
-        m_error = QString("the decoder does not take %1 for a package")
-                      .arg(QString::fromLatin1(packages.last().toHex()));
+    const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(opposite)}}).first();
+    if (trial.end.isEmpty() && !trial.hasDialog) {
+        m_before = {m_format.frame(opposite)};
     }
-    *effects = effectsOf(trial.calls);
-    return m_error.isEmpty();
+    m_base[Opposite] = tryOut(Opposite, {m_package.data}, Exactly).first();
 }
 
-bool BitProbe::probeBits(int byte)
+// What each of \a datas, as this package's, causes in a state.
+QVector<BitProbe::Effects> BitProbe::tryOut(State state, const QVector<QByteArray> &datas, Care care)
 {
-    for (int bit = 0; bit < Bits; ++bit) {
-        QByteArray data = m_package.data;
-        data[byte] = char(data.at(byte) ^ (1 << bit));
-        for (const State state : {Fresh, Opposite}) {
-            if (!tryOut(state, data, &m_flipped[state][byte * Bits + bit])) {
-                return false;
+    QVector<ProbeUnit::Packages> trials;
+    for (const QByteArray &data : datas) {
+        ProbeUnit::Packages packages = state == Opposite ? m_before : ProbeUnit::Packages();
+        trials << (packages << m_format.frame({m_package.command, data}));
+    }
+    QVector<Effects> all;
+    for (const ProbeUnit::Trial &trial :
+         care == Exactly ? m_unit->tryFresh(trials) : m_unit->tryInTurn(trials)) {
+        m_hasDialogs = m_hasDialogs || trial.hasDialog;
+        all << effectsOf(trial);
+    }
+    return all;
+}
+
+// The data with \a bits, each byte * 8 + bit, the other way.
+QByteArray BitProbe::flipped(const QVector<int> &bits) const
+{
+    QByteArray data = m_package.data;
+    for (const int bit : bits) {
+        data[bit / Bits] = char(data.at(bit / Bits) ^ (1 << bit % Bits));
+    }
+    return data;
+}
+
+void BitProbe::probeBits(int only)
+{
+    QVector<QByteArray> datas;
+    const int first = qMax(only, 0) * Bits;
+    const int count = only < 0 ? m_package.n() * Bits : Bits;
+    for (int bit = first; bit < first + count; ++bit) {
+        datas << flipped({bit});
+    }
+    // A package that does nothing whatever its bits are needs no fork for each of them.
+    const QVector<Effects> quick = tryOut(Opposite, datas, Quickly);
+    const bool isIdle = quick.count(m_base[Opposite]) == quick.size();
+    for (const State state : {Fresh, Opposite}) {
+        const QVector<Effects> all =
+            isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
+        for (int i = 0; i < count; ++i) {
+            m_flipped[state].insert(first + i, all.at(i));
+            for (const Effect &effect : changesBy(state, first + i)) {
+                m_moved << effect.call;
             }
         }
     }
-    return true;
+}
+
+// A byte's bits, those together that move the same.
+void BitProbe::addRows(int byte, bool walksValues)
+{
+    for (int high = Bits - 1; high >= 0;) {
+        int low = walksValues ? 0 : high;
+        while (low > 0 && isAlike(byte, high, low - 1)) {
+            --low;
+        }
+        Row row = {byte, high, low, {}, false, {}};
+        bool isIdleRun = true;
+        for (int bit = byte * Bits + low; bit <= byte * Bits + high; ++bit) {
+            isIdleRun = isIdleRun && isIdle(bit);
+            row.dependsOnState =
+                row.dependsOnState || textOf(changesBy(Fresh, bit)) != textOf(changesBy(Opposite, bit));
+        }
+        const int bit = byte * Bits + high;
+        if (row.isRun() && (walksValues || !isIdleRun)) {
+            probeRun(&row);
+        } else {
+            row.effects = changesBy(Fresh, bit);
+            row.effects = row.effects.isEmpty() ? changesBy(Opposite, bit) : row.effects;
+        }
+        m_rows << row;
+        high = low - 1;
+    }
+}
+
+QVector<BitProbe::Effect> BitProbe::changesBy(State state, int bit) const
+{
+    return difference(m_base[state], m_flipped[state].value(bit));
+}
+
+bool BitProbe::isIdle(int bit) const
+{
+    return m_flipped[Fresh].value(bit) == m_base[Fresh] && m_flipped[Opposite].value(bit) == m_base[Opposite];
 }
 
 // Whether two bits move the same calls in both states: they may be parts of a number.
@@ -196,8 +262,7 @@ bool BitProbe::isAlike(int byte, int bit, int other) const
     for (const State state : {Fresh, Opposite}) {
         QStringList calls[2];
         for (const int i : {0, 1}) {
-            for (const Effect &effect :
-                 difference(m_base[state], m_flipped[state].value(byte * Bits + (i == 0 ? bit : other)))) {
+            for (const Effect &effect : changesBy(state, byte * Bits + (i == 0 ? bit : other))) {
                 calls[i] << effect.call;
             }
         }
@@ -208,82 +273,133 @@ bool BitProbe::isAlike(int byte, int bit, int other) const
     return true;
 }
 
-// A single bit is told as a change, a run by the values of its calls for each of its own.
-bool BitProbe::probeRun(Row *row)
+// The values of a run's calls for each of its own.
+void BitProbe::probeRun(Row *row)
 {
-    const int key = row->byte * Bits + row->high;
-    QVector<Effect> changes = difference(m_base[Fresh], m_flipped[Fresh].value(key));
-    changes = changes.isEmpty() ? difference(m_base[Opposite], m_flipped[Opposite].value(key)) : changes;
-    if (row->high == row->low || (changes.isEmpty() && row->high - row->low < Bits - 1)) {
-        row->effects = changes;
-        return true;
-    }
-    QVector<Effects> all;
-    QSet<QString> calls;
+    QVector<QByteArray> datas;
     const int count = 1 << (row->high - row->low + 1);
+    const int mask = (count - 1) << row->low;
     for (int value = 0; value < count; ++value) {
         QByteArray data = m_package.data;
-        const int mask = (count - 1) << row->low;
         data[row->byte] = char((quint8(data.at(row->byte)) & ~mask) | (value << row->low));
-        Effects effects;
-        if (!tryOut(Opposite, data, &effects)) {
-            return false;
-        }
+        datas << data;
+    }
+    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
+    QMap<QString, bool> calls; // sorted
+    for (const Effects &effects : all) {
         for (const Effect &effect : difference(m_base[Opposite], effects)) {
-            calls << effect.call;
+            calls.insert(effect.call, true);
+            m_moved << effect.call;
         }
-        all << effects;
     }
-    QStringList names = calls.values();
-    names.sort();
-    for (const QString &call : std::as_const(names)) {
+    for (auto call = calls.cbegin(); call != calls.cend(); ++call) {
         QStringList values;
-        for (const Effects &effects : std::as_const(all)) {
-            values << absentOr(effects, call);
+        for (const Effects &effects : all) {
+            values << absentOr(effects, call.key());
         }
-        row->effects << Effect{call, mapping(values)};
+        row->effects << Effect{call.key(), mapping(values)};
     }
-    return true;
 }
 
-// Bits that do nothing by themselves, each with each other one.
-bool BitProbe::probePairs()
+// Bits that do nothing by themselves may do something while another is flipped. With each other bit all of them are
+// flipped at once, and looked at one by one only where that makes a difference: a pair each would be thousands of
+// trials.
+void BitProbe::findPartners()
 {
-    int pairs = 0;
-    for (Row &row : m_rows) {
-        for (int bit = row.low; row.effects.isEmpty() && bit <= row.high && row.partner.isEmpty(); ++bit) {
-            for (auto other = m_flipped[Opposite].cbegin(); other != m_flipped[Opposite].cend(); ++other) {
-                if (other.key() == row.byte * Bits + bit || ++pairs > MostPairs) {
-                    continue;
-                }
-                QByteArray data = m_package.data;
-                data[other.key() / Bits] = char(data.at(other.key() / Bits) ^ (1 << other.key() % Bits));
-                data[row.byte] = char(data.at(row.byte) ^ (1 << bit));
-                Effects effects;
-                if (!tryOut(Opposite, data, &effects)) {
-                    return false;
-                }
-                if (effects != other.value()) {
-                    row.partner = QString("d[%1].%2").arg(other.key() / Bits).arg(other.key() % Bits);
-                    break;
-                }
+    QVector<int> idle;
+    for (const Row &row : std::as_const(m_rows)) {
+        for (int bit = row.low; row.effects.isEmpty() && bit <= row.high; ++bit) {
+            idle << row.byte * Bits + bit;
+        }
+    }
+    QVector<QByteArray> datas;
+    for (int bit = 0; !idle.isEmpty() && bit < m_package.n() * Bits; ++bit) {
+        QVector<int> others = idle;
+        others.removeAll(bit);
+        datas << flipped({bit}) << flipped(others << bit);
+    }
+    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
+    for (int bit = 0; 2 * bit < all.size(); ++bit) {
+        if (all.at(2 * bit) != all.at(2 * bit + 1)) {
+            idle = findPartnersOf(bit, idle);
+        }
+    }
+    splitByPartner();
+}
+
+// Bits of a run without effect that have another partner, or none, are a row of their own.
+void BitProbe::splitByPartner()
+{
+    QVector<Row> rows;
+    for (const Row &row : std::as_const(m_rows)) {
+        Row part = row;
+        for (int bit = row.high; row.effects.isEmpty() && bit >= row.low; --bit) {
+            const QString partner = m_partners.value(row.byte * Bits + bit);
+            if (bit < row.high && partner != part.partner) {
+                part.low = bit + 1;
+                rows << part;
+                part.high = bit;
+            }
+            part.partner = partner;
+        }
+        part.low = row.low;
+        rows << part;
+    }
+    m_rows = rows;
+}
+
+// Those of \a idle that do nothing beside \a bit either.
+QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
+{
+    QVector<int> others = idle;
+    others.removeAll(bit);
+    const QVector<Effects> alone =
+        tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
+    if (alone.at(0) == alone.at(1)) {
+        return idle;
+    }
+    QVector<QByteArray> datas;
+    for (const int other : std::as_const(others)) {
+        datas << flipped({other, bit});
+    }
+    const QVector<Effects> all = tryOut(Opposite, datas, Exactly);
+    QVector<int> left = idle;
+    for (int i = 0; i < others.size(); ++i) {
+        if (all.at(i) != alone.at(0)) {
+            left.removeAll(others.at(i));
+            m_partners.insert(others.at(i), QString("d[%1].%2").arg(bit / Bits).arg(bit % Bits));
+            for (const Effect &effect : difference(alone.at(0), all.at(i))) {
+                m_moved << effect.call;
             }
         }
     }
-    return true;
+    return left;
 }
 
-QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after)
+// A value of \a call, or what holds without one.
+QString BitProbe::absentOr(const Effects &effects, const QString &call) const
+{
+    return effects.contains(call)        ? readable(effects.value(call))
+           : call.startsWith(CarValue)   ? QString("not told")
+           : call.startsWith(ScreenText) ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size())))
+           : call == Dialog              ? QString("none")
+           : call == PlugIn              ? QString("lives")
+                                         : QString("no call");
+}
+
+QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after) const
 {
     QVector<Effect> result;
-    QStringList calls = before.keys() + after.keys();
-    calls.removeDuplicates();
-    calls.sort();
-    for (const QString &call : std::as_const(calls)) {
-        const QString was = absentOr(before, call);
-        const QString is = absentOr(after, call);
+    if (before == after) {
+        return result;
+    }
+    Effects both = before;
+    both.insert(after);
+    for (auto at = both.cbegin(); at != both.cend(); ++at) {
+        const QString was = absentOr(before, at.key());
+        const QString is = absentOr(after, at.key());
         if (was != is) {
-            result << Effect{call, was + " -> " + is};
+            result << Effect{at.key(), was + " -> " + is};
         }
     }
     return result;

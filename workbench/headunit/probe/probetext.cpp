@@ -6,11 +6,13 @@
 
 namespace {
 
+const char DialogNote[] = "A dialog opens and waits for an answer; what would come after it is not told.";
+
 QStringList effects(const BitProbe::Row &row)
 {
     QStringList lines;
     for (const BitProbe::Effect &effect : row.effects) {
-        lines << (row.high == row.low ? effect.call + ' ' : effect.call + ": ") + effect.text;
+        lines << (!row.isRun() ? effect.call + ' ' : effect.call + ": ") + effect.text;
     }
     if (lines.isEmpty()) {
         lines << (row.partner.isEmpty() ? QString("no effect")
@@ -41,21 +43,33 @@ QString ProbeText::plain(const BitProbe &probe)
         }
     }
     if (probe.hasDialogs()) {
-        text += "A dialog opens and waits for an answer; what would come after it is not told.\n";
+        text += QString("%1\n").arg(DialogNote);
+    }
+    if (probe.isIdle()) {
+        text += "Neither the package nor any of its bits causes anything.\n";
     }
     return text;
 }
 
 QString ProbeText::markdown(const BitProbe &probe)
 {
-    QString text = "| bits | what they move | state |\n|---|---|---|\n";
+    QString table;
+    QStringList idle;
     for (const BitProbe::Row &row : probe.rows()) {
-        text += QString("| `%1` | %2 | %3 |\n")
-                    .arg(bits(row), effects(row).join("<br>").replace('|', "\\|"),
-                         row.dependsOnState ? "matters" : "");
+        if (row.effects.isEmpty() && row.partner.isEmpty() && !row.dependsOnState) {
+            idle << '`' + bits(row) + '`';
+        } else {
+            table += QString("| `%1` | %2 | %3 |\n")
+                         .arg(bits(row), effects(row).join("<br>").replace('|', "\\|"),
+                              row.dependsOnState ? "matters" : "");
+        }
+    }
+    QString text = table.isEmpty() ? QString() : "| bits | what they move | state |\n|---|---|---|\n" + table;
+    if (!idle.isEmpty()) {
+        text += (text.isEmpty() ? "Without effect: " : "\nWithout effect: ") + idle.join(", ") + ".\n";
     }
     if (probe.hasDialogs()) {
-        text += "\nA dialog opens and waits for an answer; what would come after it is not told.\n";
+        text += QString("\n%1\n").arg(DialogNote);
     }
     return text;
 }

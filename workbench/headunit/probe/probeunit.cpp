@@ -1,35 +1,42 @@
 #include "probeunit.h"
 
 #include "headunitoptions.h"
+#include "screenwatch.h"
+#include "virtualline.h"
 
+#include "jsontext.h"
 #include "orbhost.h"
 
 #include <QDataStream>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QThread>
 #include <QTimer>
 
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace {
 
 // Time of the virtual clock.
-const int StartMs = 1500;   // until the unit has greeted its box
-const int SettleMs = 120;   // until what a package brings about is over
-const uint LongestRun = 20; // s of real time, for a plug-in that never comes back
+const int StartMs = 3000;     // until the unit has greeted its box, and missed its answers
+const int SettleMs = 20;      // until what a package brings about is over; the unit reads every 4 ms
+const int TurnMs = 1000;      // of trials in turn: what the first one brings about later comes no sooner
+const int MostWaits = 8;      // for a time in which the plug-in says nothing by itself
+const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
 
 void letPass(int ms)
 {
     QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
 QByteArray readAll(int descriptor)
 {
     QByteArray bytes;
-    char part[4096];
+    char part[16384];
     for (ssize_t count = 1; count > 0;) {
         count = ::read(descriptor, part, sizeof part);
         bytes.append(part, int(qMax(ssize_t(0), count)));
@@ -37,13 +44,63 @@ QByteArray readAll(int descriptor)
     return bytes;
 }
 
+void writeAll(int descriptor, const QByteArray &bytes)
+{
+    for (int written = 0; written < bytes.size();) {
+        const ssize_t count =
+            ::write(descriptor, bytes.constData() + written, size_t(bytes.size() - written));
+        if (count <= 0) {
+            ::_exit(1);
+        }
+        written += int(count);
+    }
+}
+
+// Forks, and has the child run \a life and end; what it wrote to the descriptor that it is given. False when
+// the system gives no process.
+bool inChild(const std::function<void(int)> &life, QByteArray *told, int *status)
+{
+    int ends[2];
+    if (::pipe(ends) != 0) {
+        return false;
+    }
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(ends[0]);
+        life(ends[1]);
+        ::_exit(0);
+    }
+    ::close(ends[1]);
+    *told = readAll(ends[0]);
+    ::close(ends[0]);
+    return child > 0 && ::waitpid(child, status, 0) == child;
+}
+
 } // namespace
 
-bool ProbeUnit::start(const QString &plugin, int type, const QVector<QByteArray> &greeting, QString *error)
+/// The values that the car tells by name, which are no calls.
+class ProbeUnit::ValueWatch : public OrbTraceListener
+{
+public:
+    void called(const QString &, const QString &, const QVariantList &) override {}
+    void eventCalled(const QString &, const OrbEvent &) override {}
+    void valueTold(const QString &name, const QVariant &value) override
+    {
+        values.insert(name, value.isValid() ? value.toString() : QString("unknown"));
+    }
+
+    QMap<QString, QString> values;
+};
+
+ProbeUnit::ProbeUnit() = default;
+ProbeUnit::~ProbeUnit() = default;
+
+bool ProbeUnit::start(const QString &plugin, int type, const Packages &greeting, QString *error)
 {
     if (!m_line.open(error)) {
         return false;
     }
+    m_line.holdLine();
     OrbHost *host = OrbHost::instance();
     host->setSettingsDir(m_settings.path());
     host->setTag(HeadUnitOptions::CanBusTypeTag, type);
@@ -51,7 +108,8 @@ bool ProbeUnit::start(const QString &plugin, int type, const QVector<QByteArray>
     m_screen.reset(new UnitScreen(UnitScreen::standardSize()));
     m_screen->setUpdatesEnabled(false);
     m_screen->show();
-    m_watch.reset(new CallWatch(nullptr));
+    m_values.reset(new ValueWatch);
+    m_watch.reset(new CallWatch(m_values.get()));
     m_unit.reset(new HeadUnit);
     if (!m_unit->loadPlugin(plugin, error)) {
         return false;
@@ -62,67 +120,113 @@ bool ProbeUnit::start(const QString &plugin, int type, const QVector<QByteArray>
             *error = "the unit does not read its line";
             return false;
         }
+        VirtualLine::waitUntilThere(m_line, int(package.size()));
         letPass(SettleMs);
     }
+    m_sentAtStart = sent();
+    ScreenWatch::openWindows(m_unit.get());
+    letPass(StartMs);
+    // A clock that is told every ten seconds is no answer to a package.
+    for (int i = 0; i < MostWaits && !sentAfter([](HeadUnit *) {}, 2 * TurnMs).isEmpty(); ++i) {
+        letPass(TurnMs);
+    }
+    m_texts = ScreenWatch::texts();
     drainLine();
     return true;
 }
 
-ProbeUnit::Trial ProbeUnit::tryOut(const QVector<QByteArray> &packages)
+QVector<ProbeUnit::Trial> ProbeUnit::tryFresh(const QVector<Packages> &trials)
 {
-    Trial trial;
-    int ends[2];
-    if (::pipe(ends) != 0) {
-        trial.problem = "the system has no pipe to give";
-        return trial;
+    QVector<Trial> results(trials.size());
+    for (int i = 0; i < trials.size(); ++i) {
+        QVector<Trial> one(1);
+        runChild({trials.at(i)}, 0, &one);
+        results[i] = one.first();
     }
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::close(ends[0]);
-        play(packages, ends[1]);
+    return results;
+}
+
+QVector<ProbeUnit::Trial> ProbeUnit::tryInTurn(const QVector<Packages> &trials)
+{
+    QVector<Trial> results(trials.size());
+    for (int next = 0; next < trials.size();) {
+        next = runChild(trials, next, &results);
     }
-    ::close(ends[1]);
-    const QByteArray told = readAll(ends[0]);
-    ::close(ends[0]);
+    return results;
+}
+
+// Trials from \a from on, as many as one child survives; the number of the next one.
+int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial> *results)
+{
+    QByteArray told;
     int status = 0;
-    ::waitpid(child, &status, 0);
+    const bool isRun = inChild(
+        [&](int result) {
+            QElapsedTimer clock;
+            clock.start();
+            for (int i = from; i < trials.size() && clock.elapsed() < TurnMs; ++i) {
+                ::alarm(LongestTrial);
+                play(trials.at(i), 0, result);
+            }
+        },
+        &told, &status);
     drainLine();
+    ::tcflush(m_line.unitEnd(), TCIFLUSH); // what a child has not read is not the next one's
     QDataStream stream(told);
-    qint32 count = -1;
-    stream >> trial.isFramed >> trial.hasDialog >> count;
-    for (int i = 0; i < count; ++i) {
-        CallWatch::Call call;
-        stream >> call.object >> call.name >> call.args;
-        trial.calls << call;
+    int next = from;
+    for (; isRun && next < trials.size() && !stream.atEnd(); ++next) {
+        Trial trial;
+        qint32 count = 0;
+        stream >> trial.isFramed >> trial.hasDialog >> trial.values >> trial.texts >> count;
+        for (int i = 0; i < count; ++i) {
+            CallWatch::Call call;
+            stream >> call.object >> call.name >> call.args;
+            trial.calls << call;
+        }
+        if (stream.status() != QDataStream::Ok) {
+            break; // died while it told
+        }
+        (*results)[next] = trial;
+        ++m_trialCount;
     }
-    if (child < 0 || count < 0 || stream.status() != QDataStream::Ok) {
-        trial.problem =
-            child < 0 ? "the system has no process to give"
-                      : QString("the plug-in did not survive the package (signal %1)").arg(WTERMSIG(status));
+    const bool isWell = isRun && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    if (next < trials.size() && !isWell) {
+        (*results)[next].end = !isRun                ? QString("there is no process to give")
+                               : WIFSIGNALED(status) ? QString("signal %1").arg(WTERMSIG(status))
+                                                     : QString("exit %1").arg(WEXITSTATUS(status));
+        ++m_trialCount;
+        ++next;
     }
-    return trial;
+    return next;
 }
 
-// The child's life. A dialog that opens runs a loop of its own in here: only timers go on.
-void ProbeUnit::play(const QVector<QByteArray> &packages, int result)
+// The child's life: feeds \a packages from number \a from on, and tells what the last one caused. A dialog that
+// opens runs a loop of its own in here, so that what comes behind it is fed from there, and the child then ends.
+void ProbeUnit::play(const Packages &packages, int from, int result)
 {
-    ::alarm(LongestRun);
-    feed(packages, 0, result);
-    QEventLoop().exec();
-    ::_exit(1);
-}
-
-void ProbeUnit::feed(const QVector<QByteArray> &packages, int index, int result)
-{
-    if (index == packages.size()) {
-        tell(packages.last(), result);
+    for (int i = from; i < packages.size(); ++i) {
+        drainLine();
+        m_watch->forget();
+        const QByteArray &package = packages.at(i);
+        if (::write(m_line.farEnd(), package.constData(), size_t(package.size())) != package.size()) {
+            ::_exit(1);
+        }
+        VirtualLine::waitUntilThere(m_line, int(package.size()));
+        QEventLoop loop;
+        const int level = QThread::currentThread()->loopLevel() + 1;
+        QTimer::singleShot(SettleMs, Qt::PreciseTimer, &loop, [&] {
+            if (QThread::currentThread()->loopLevel() > level) {
+                m_isInDialog = true;
+                play(packages, i + 1, result);
+            }
+            loop.quit();
+        });
+        loop.exec();
     }
-    m_watch->forget();
-    const QByteArray &package = packages.at(index);
-    if (::write(m_line.farEnd(), package.constData(), size_t(package.size())) != package.size()) {
-        ::_exit(1);
+    tell(packages.last(), result);
+    if (m_isInDialog) {
+        ::_exit(0);
     }
-    QTimer::singleShot(SettleMs, m_screen.get(), [=] { feed(packages, index + 1, result); });
 }
 
 void ProbeUnit::tell(const QByteArray &package, int result)
@@ -136,20 +240,57 @@ void ProbeUnit::tell(const QByteArray &package, int result)
             calls << call;
         }
     }
+    QMap<QString, QString> texts = m_texts.isEmpty() ? m_texts : ScreenWatch::texts();
+    for (auto at = texts.begin(); at != texts.end();) {
+        at = m_texts.value(at.key()) == at.value() ? texts.erase(at) : std::next(at);
+    }
     QByteArray told;
     QDataStream stream(&told, QIODevice::WriteOnly);
-    stream << isFramed << (QThread::currentThread()->loopLevel() > 1) << qint32(calls.size());
+    stream << isFramed << m_isInDialog << m_values->values << texts << qint32(calls.size());
     for (const CallWatch::Call &call : std::as_const(calls)) {
         stream << call.object << call.name << call.args;
     }
-    for (int written = 0; written < told.size();) {
-        const ssize_t count = ::write(result, told.constData() + written, size_t(told.size() - written));
-        if (count <= 0) {
-            ::_exit(1);
+    writeAll(result, told);
+}
+
+ProbeUnit::Packages ProbeUnit::sentAfter(const std::function<void(HeadUnit *)> &act, int ms)
+{
+    QByteArray told;
+    int status = 0;
+    inChild(
+        [&](int result) {
+            ::alarm(LongestTrial);
+            m_watch->forget();
+            QTimer::singleShot(ms, m_screen.get(), [&] {
+                QByteArray bytes;
+                QDataStream stream(&bytes, QIODevice::WriteOnly);
+                stream << sent();
+                writeAll(result, bytes);
+                ::_exit(0);
+            });
+            act(m_unit.get());
+            QEventLoop().exec();
+        },
+        &told, &status);
+    drainLine();
+    Packages packages;
+    QDataStream stream(told);
+    stream >> packages;
+    return packages;
+}
+
+// Acknowledgements are single bytes, and go another way.
+ProbeUnit::Packages ProbeUnit::sent() const
+{
+    Packages packages;
+    for (const CallWatch::Call &call : m_watch->calls()) {
+        const QByteArray bytes = QByteArray::fromHex(call.args.value(0).toLatin1());
+        if ((call.name == "writeDatas" || call.name == "writeDatas_direct") && bytes.size() > 1 &&
+            !packages.contains(bytes)) {
+            packages << bytes;
         }
-        written += int(count);
     }
-    ::_exit(0);
+    return packages;
 }
 
 // What the unit said is of no interest here, and would fill the line.

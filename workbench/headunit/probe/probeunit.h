@@ -9,39 +9,72 @@
 #include <QTemporaryDir>
 #include <QVector>
 
-/// A unit with the real plug-in that many packages are tried on, each in the state in which it started: for
-/// each trial the process forks, and the child does what the packages bring about and tells its calls. Needs
-/// an OrbApplication on the virtual clock, and nothing else that runs in the process.
+#include <functional>
+
+/// A unit with the real plug-in that many packages are tried on: the process forks, and the child does what the
+/// packages bring about and tells its calls. A package that kills the plug-in, or that opens a dialog, takes a
+/// child along and no more. Needs an OrbApplication on the virtual clock, and nothing else that runs in the
+/// process.
 class ProbeUnit
 {
 public:
+    /// Whole frames, fed one after the other; the last one is what is asked about.
+    using Packages = QVector<QByteArray>;
+
     /// What came of a trial.
     struct Trial
     {
         bool isFramed = false;          ///< the decoder's framer took the last package
         bool hasDialog = false;         ///< a dialog waits for an answer
+        QString end;                    ///< "signal 11" of a plug-in that did not survive it
         QVector<CallWatch::Call> calls; ///< those that the last package caused, without the line's
-        QString problem;                ///< why there was no trial, one sentence; empty for none
+        QMap<QString, QString> values;  ///< what the car has told by name, so far
+        QMap<QString, QString> texts;   ///< what the plug-in's windows show other than at start
     };
+
+    ProbeUnit();
+    ~ProbeUnit();
 
     /// Starts the plug-in \a plugin with the decoder of \a type, feeds it \a greeting, the packages with which
     /// a box begins, and lets it settle. False, with one sentence in \a error, when it does not run.
-    bool start(const QString &plugin, int type, const QVector<QByteArray> &greeting, QString *error);
+    bool start(const QString &plugin, int type, const Packages &greeting, QString *error);
 
-    /// Feeds \a packages, whole frames, one after the other.
-    Trial tryOut(const QVector<QByteArray> &packages);
+    /// Each of \a trials in the state in which the unit started: a fork each.
+    QVector<Trial> tryFresh(const QVector<Packages> &trials);
+    /// \a trials one behind the other: each has to begin with packages that bring about its state. A fork for
+    /// all that go well.
+    QVector<Trial> tryInTurn(const QVector<Packages> &trials);
+
+    /// What the unit wants to say to its box from \a act on, for \a ms, in a child: packages as they are queued.
+    Packages sentAfter(const std::function<void(HeadUnit *)> &act, int ms);
+    /// What it wanted to say by the end of start().
+    const Packages &sentAtStart() const { return m_sentAtStart; }
+
+    /// What the plug-in's windows show at start: "MenuWindow.title" to its text.
+    const QMap<QString, QString> &textsAtStart() const { return m_texts; }
+
+    /// Trials so far.
+    int trialCount() const { return m_trialCount; }
 
 private:
-    [[noreturn]] void play(const QVector<QByteArray> &packages, int result);
-    void feed(const QVector<QByteArray> &packages, int index, int result);
-    [[noreturn]] void tell(const QByteArray &package, int result);
+    class ValueWatch;
+
+    int runChild(const QVector<Packages> &trials, int from, QVector<Trial> *results);
+    void play(const Packages &packages, int from, int result);
+    void tell(const QByteArray &package, int result);
+    Packages sent() const;
     void drainLine();
 
     QTemporaryDir m_settings;
     TerminalPair m_line;
+    std::unique_ptr<ValueWatch> m_values;
     std::unique_ptr<UnitScreen> m_screen;
-    std::unique_ptr<HeadUnit> m_unit;
     std::unique_ptr<CallWatch> m_watch;
+    std::unique_ptr<HeadUnit> m_unit;
+    Packages m_sentAtStart;
+    QMap<QString, QString> m_texts;
+    bool m_isInDialog = false; // of a child
+    int m_trialCount = 0;
 };
 
 #endif // PROBEUNIT_H

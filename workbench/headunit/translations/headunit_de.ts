@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>BitGrid</name>
+    <message>
+        <source>The bits are being tried out ...</source>
+        <translation>Die Bits werden ausprobiert ...</translation>
+    </message>
+    <message>
+        <source>The bits could not be tried out.</source>
+        <translation>Die Bits ließen sich nicht ausprobieren.</translation>
+    </message>
+    <message>
+        <source>Bits of a package</source>
+        <translation>Bits eines Pakets</translation>
+    </message>
+    <message>
+        <source>Package 0x%1 of %2</source>
+        <translation>Paket 0x%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>BitGridPicture</name>
+    <message>
+        <source>no effect</source>
+        <translation>ohne Wirkung</translation>
+    </message>
+    <message>
+        <source>only together with %1</source>
+        <translation>nur zusammen mit %1</translation>
+    </message>
+    <message>
+        <source>depends on what the car said before</source>
+        <translation>hängt davon ab, was das Auto vorher sagte</translation>
+    </message>
+</context>
+<context>
     <name>AppPage</name>
     <message>
         <source>This picture comes from the car.</source>

@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>BitGrid</name>
+    <message>
+        <source>The bits are being tried out ...</source>
+        <translation>正在逐位测试……</translation>
+    </message>
+    <message>
+        <source>The bits could not be tried out.</source>
+        <translation>无法逐位测试。</translation>
+    </message>
+    <message>
+        <source>Bits of a package</source>
+        <translation>数据包的各位</translation>
+    </message>
+    <message>
+        <source>Package 0x%1 of %2</source>
+        <translation>%2 的数据包 0x%1</translation>
+    </message>
+</context>
+<context>
+    <name>BitGridPicture</name>
+    <message>
+        <source>no effect</source>
+        <translation>无作用</translation>
+    </message>
+    <message>
+        <source>only together with %1</source>
+        <translation>仅与 %1 一起有效</translation>
+    </message>
+    <message>
+        <source>depends on what the car said before</source>
+        <translation>取决于车辆之前的报告</translation>
+    </message>
+</context>
+<context>
     <name>AppPage</name>
     <message>
         <source>This picture comes from the car.</source>

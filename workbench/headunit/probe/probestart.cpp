@@ -1,0 +1,35 @@
+#include "probestart.h"
+
+#include "boxspeaker.h"
+#include "virtualclock.h"
+
+namespace {
+
+const std::time_t StartOfClock = 1767268800; // 2026-01-01 12:00, as drives start
+
+} // namespace
+
+bool ProbeStart::prepare(QString *error)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("TZ", "UTC"); // what the unit tells of the time is the same everywhere
+    if (!VirtualClock::start(StartOfClock)) {
+        *error = "the virtual clock does not reach the libraries of this program";
+        return false;
+    }
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) {}); // of hundreds of trials
+    return true;
+}
+
+ProbeUnit::Packages ProbeStart::greeting(const BoxSpeaker &speaker, int command)
+{
+    ProbeUnit::Packages frames;
+    for (int i = 0; i < speaker.reports().size(); ++i) {
+        const BoxReport &report = speaker.reports().at(i);
+        if (report.atStart && int(report.command) != command) {
+            frames << speaker.format().frame(speaker.reportPackage(i));
+        }
+    }
+    return frames;
+}
