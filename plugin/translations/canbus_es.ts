@@ -66,11 +66,11 @@
     </message>
     <message>
         <source>Tire pressure</source>
-        <translation>Presión de los neumáticos</translation>
+        <translation>Neumáticos</translation>
     </message>
     <message>
         <source>Car status</source>
-        <translation>Estado del vehículo</translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>Tire pressure status</source>
-        <translation>Estado de la presión de los neumáticos</translation>
+        <translation>Presión de los neumáticos</translation>
     </message>
     <message>
         <source>Since start</source>
@@ -765,11 +765,11 @@
     </message>
     <message>
         <source>Off-road</source>
-        <translation>Campo a través</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Off-road individual</source>
-        <translation>Campo a través Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Remote key activated</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Off-road mode is activated</source>
-        <translation>El modo campo a través está activado</translation>
+        <translation>El modo Offroad está activado</translation>
     </message>
     <message>
         <source>System protection intervention Buttonlever activated too often</source>
@@ -1025,11 +1025,11 @@
     </message>
     <message>
         <source>Last report %1 min ago</source>
-        <translation>Último aviso hace %1 min</translation>
+        <translation>Recibido hace %1 min</translation>
     </message>
     <message>
         <source>Last report %1 h ago</source>
-        <translation>Último aviso hace %1 h</translation>
+        <translation>Recibido hace %1 h</translation>
     </message>
 </context>
 <context>

@@ -62,15 +62,15 @@
     </message>
     <message>
         <source>Driving data</source>
-        <translation>Données de conduite</translation>
+        <translation>Conduite</translation>
     </message>
     <message>
         <source>Tire pressure</source>
-        <translation>Pression des pneus</translation>
+        <translation>Pneus</translation>
     </message>
     <message>
         <source>Car status</source>
-        <translation>État du véhicule</translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>Tire pressure status</source>
-        <translation>État de la pression des pneus</translation>
+        <translation>Pression des pneus</translation>
     </message>
     <message>
         <source>Since start</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>Please check the tire pressure</source>
-        <translation>Veuillez contrôler la pression des pneus</translation>
+        <translation>Contrôlez la pression des pneus</translation>
     </message>
     <message>
         <source>Tire pressure is too low</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>not in this car</source>
-        <translation>absent de ce véhicule</translation>
+        <translation>non disponible</translation>
     </message>
 </context>
 <context>
@@ -765,11 +765,11 @@
     </message>
     <message>
         <source>Off-road</source>
-        <translation>Tout-terrain</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Off-road individual</source>
-        <translation>Tout-terrain Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Remote key activated</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Off-road mode is activated</source>
-        <translation>Le mode tout-terrain est activé</translation>
+        <translation>Le mode Offroad est activé</translation>
     </message>
     <message>
         <source>System protection intervention Buttonlever activated too often</source>
@@ -1025,11 +1025,11 @@
     </message>
     <message>
         <source>Last report %1 min ago</source>
-        <translation>Dernier message il y a %1 min</translation>
+        <translation>Reçu il y a %1 min</translation>
     </message>
     <message>
         <source>Last report %1 h ago</source>
-        <translation>Dernier message il y a %1 h</translation>
+        <translation>Reçu il y a %1 h</translation>
     </message>
 </context>
 <context>

@@ -62,15 +62,15 @@
     </message>
     <message>
         <source>Driving data</source>
-        <translation>Данные о поездке</translation>
+        <translation>Поездка</translation>
     </message>
     <message>
         <source>Tire pressure</source>
-        <translation>Давление в шинах</translation>
+        <translation>Шины</translation>
     </message>
     <message>
         <source>Car status</source>
-        <translation>Состояние автомобиля</translation>
+        <translation>Состояние</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>Tire pressure status</source>
-        <translation>Состояние давления в шинах</translation>
+        <translation>Давление в шинах</translation>
     </message>
     <message>
         <source>Since start</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>not in this car</source>
-        <translation>нет в автомобиле</translation>
+        <translation>недоступно</translation>
     </message>
 </context>
 <context>
@@ -765,11 +765,11 @@
     </message>
     <message>
         <source>Off-road</source>
-        <translation>Бездорожье</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Off-road individual</source>
-        <translation>Бездорожье Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Remote key activated</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Off-road mode is activated</source>
-        <translation>Включён режим бездорожья</translation>
+        <translation>Включён режим Offroad</translation>
     </message>
     <message>
         <source>System protection intervention Buttonlever activated too often</source>
@@ -1025,11 +1025,11 @@
     </message>
     <message>
         <source>Last report %1 min ago</source>
-        <translation>Последние данные: %1 мин назад</translation>
+        <translation>Данные: %1 мин назад</translation>
     </message>
     <message>
         <source>Last report %1 h ago</source>
-        <translation>Последние данные: %1 ч назад</translation>
+        <translation>Данные: %1 ч назад</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,8 @@
 
 namespace {
 
-const qreal Tolerance = 1; // pixels: metrics are rounded
+const QChar Ellipsis(0x2026);
+const qreal Tolerance = 2; // pixels: metrics are rounded
 
 struct PaintedText
 {
@@ -43,7 +44,10 @@ public:
     void drawPolygon(const QPointF *, int, PolygonDrawMode) override {}
     void drawTextItem(const QPointF &place, const QTextItem &item) override
     {
-        const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(place);
+        // As high as its ink, as wide as it was laid out.
+        QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(place);
+        ink.setLeft(place.x());
+        ink.setWidth(item.width());
         const QRectF room = painter()->hasClipping() ? painter()->clipBoundingRect() : QRectF();
         texts << PaintedText{item.text(), m_transform.mapRect(ink),
                              room.isNull() ? room : m_transform.mapRect(room)};
@@ -91,6 +95,7 @@ private:
 struct Canvas
 {
     QString name;
+    QString text; ///< that the widget was given
     QRectF rect;
     QVector<PaintedText> texts;
 };
@@ -105,7 +110,7 @@ Canvas cellCanvas(const TableListView *list, const QModelIndex &index)
     QPainter painter(&device);
     list->itemDelegate()->paint(&painter, option, index);
     painter.end();
-    return {"row " + index.siblingAtColumn(0).data().toString(), option.rect, device.texts()};
+    return {"row " + index.siblingAtColumn(0).data().toString(), QString(), option.rect, device.texts()};
 }
 
 QString nameOf(const QWidget *widget)
@@ -153,16 +158,19 @@ QVector<Canvas> canvases(const QWidget *shown)
         }
         RecorderDevice device(widget->size());
         widget->render(&device, QPoint(), QRegion(), QWidget::RenderFlags());
-        result << Canvas{nameOf(widget), seenRect(widget), device.texts()};
+        result << Canvas{nameOf(widget), widget->property("text").toString(), seenRect(widget),
+                         device.texts()};
     }
     return result;
 }
 
-bool isCut(const PaintedText &text, const QRectF &seen)
+/// Whether \a text is cut; \a whole: what the widget was given.
+bool isCut(const PaintedText &text, const QRectF &seen, const QString &whole)
 {
     const QRectF room =
         (text.room.isNull() ? seen : seen & text.room).adjusted(-Tolerance, -Tolerance, Tolerance, Tolerance);
-    return text.text.endsWith(QChar(0x2026)) || (!text.ink.isEmpty() && !room.contains(text.ink));
+    return (text.text.contains(Ellipsis) && !whole.contains(Ellipsis)) ||
+           (!text.ink.isEmpty() && !room.contains(text.ink));
 }
 
 } // namespace
@@ -172,7 +180,7 @@ QStringList PaintedTexts::cut(const QWidget *shown)
     QStringList result;
     for (const Canvas &canvas : canvases(shown)) {
         for (const PaintedText &text : canvas.texts) {
-            if (isCut(text, canvas.rect)) {
+            if (isCut(text, canvas.rect, canvas.text)) {
                 result << canvas.name + ": " + text.text;
             }
         }

@@ -90,8 +90,8 @@ std::unique_ptr<QWidget> longChoice()
 {
     return choiceOf({vw("Trailer mode"), vw("Windscreen could become fogged"),
                      vw("Gearbox requires engine to be running"), vw("Starting start-stop system"),
-                     vw("Start-stop system is currently not  available"), vw("Power consumption is high"),
-                     vw("Emergency brake function intervention"), vw("ACC intervention")});
+                     vw("Power consumption is high"), vw("Emergency brake function intervention"),
+                     vw("ACC intervention")});
 }
 
 TableViewItemDatas row(int id, const QString &text, const QVariant &value, const QString &mark = QString())

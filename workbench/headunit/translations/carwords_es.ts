@@ -785,15 +785,15 @@
     </message>
     <message>
         <source>Offroad</source>
-        <translation>Campo a través</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Offroad climate</source>
-        <translation>Campo a través: climatización</translation>
+        <translation>Offroad: climatización</translation>
     </message>
     <message>
         <source>Offroad individual</source>
-        <translation>Campo a través Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Oil</source>

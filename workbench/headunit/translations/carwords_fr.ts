@@ -785,15 +785,15 @@
     </message>
     <message>
         <source>Offroad</source>
-        <translation>Tout-terrain</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Offroad climate</source>
-        <translation>Tout-terrain : climatisation</translation>
+        <translation>Offroad : climatisation</translation>
     </message>
     <message>
         <source>Offroad individual</source>
-        <translation>Tout-terrain Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Oil</source>

@@ -785,15 +785,15 @@
     </message>
     <message>
         <source>Offroad</source>
-        <translation>Бездорожье</translation>
+        <translation>Offroad</translation>
     </message>
     <message>
         <source>Offroad climate</source>
-        <translation>Бездорожье: климат</translation>
+        <translation>Offroad: климат</translation>
     </message>
     <message>
         <source>Offroad individual</source>
-        <translation>Бездорожье Individual</translation>
+        <translation>Offroad Individual</translation>
     </message>
     <message>
         <source>Oil</source>

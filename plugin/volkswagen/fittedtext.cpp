@@ -1,0 +1,74 @@
+#include "fittedtext.h"
+
+#include "orbqtcompat.h"
+
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
+
+namespace {
+
+const int SmallestText = 14; // pixels
+const int Padding = 6;
+const int Gap = 8; // between icon and the text beside it
+
+} // namespace
+
+QFont FittedText::font(const QFont &font, const QString &text, int width)
+{
+    QFont fitted(font);
+    int size = QFontInfo(font).pixelSize();
+    while (size > SmallestText && OrbQt::textWidth(QFontMetrics(fitted), text) > width) {
+        fitted.setPixelSize(--size);
+    }
+    return fitted;
+}
+
+FittedLabel::FittedLabel(QWidget *parent) : QLabel(parent) {}
+
+QSize FittedLabel::minimumSizeHint() const
+{
+    return QSize(0, QLabel::minimumSizeHint().height());
+}
+
+void FittedLabel::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    const QRect room = contentsRect();
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.setFont(FittedText::font(font(), text(), room.width()));
+    painter.drawText(room, int(alignment()), text());
+}
+
+FittedButton::FittedButton(QWidget *parent) : QToolButton(parent) {}
+
+void FittedButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton ground;
+    initStyleOption(&ground);
+    ground.text.clear();
+    ground.icon = QIcon();
+    painter.drawComplexControl(QStyle::CC_ToolButton, ground);
+
+    const bool isBeside = toolButtonStyle() == Qt::ToolButtonTextBesideIcon;
+    const int room = width() - 2 * Padding - (isBeside ? iconSize().width() + Gap : 0);
+    const QFont textFont = FittedText::font(font(), text(), room);
+    const QFontMetrics metrics(textFont);
+    const QSize textSize(qMin(room, OrbQt::textWidth(metrics, text())), metrics.height());
+    QRect iconPlace(QPoint(0, 0), iconSize());
+    QRect textPlace(QPoint(0, 0), textSize);
+    if (isBeside) {
+        iconPlace.moveTo((width() - iconPlace.width() - Gap - textSize.width()) / 2,
+                         (height() - iconPlace.height()) / 2);
+        textPlace.moveTo(iconPlace.right() + 1 + Gap, (height() - textSize.height()) / 2);
+    } else {
+        iconPlace.moveTo((width() - iconPlace.width()) / 2,
+                         (height() - iconPlace.height() - textSize.height()) / 2);
+        textPlace.moveTo((width() - textSize.width()) / 2, iconPlace.bottom() + 1);
+    }
+    icon().paint(&painter, iconPlace);
+    painter.setFont(textFont);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(textPlace, int(Qt::AlignCenter | Qt::TextDontClip), text());
+}
