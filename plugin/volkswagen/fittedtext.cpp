@@ -7,8 +7,8 @@
 
 namespace {
 
-const int SmallestText = 14; // pixels
-const int Padding = 6;
+const int SmallestText = 13; // pixels
+const int Padding = 4;
 const int Gap = 8; // between icon and the text beside it
 
 } // namespace
@@ -41,6 +41,11 @@ void FittedLabel::paintEvent(QPaintEvent *event)
 }
 
 FittedButton::FittedButton(QWidget *parent) : QToolButton(parent) {}
+
+QSize FittedButton::minimumSizeHint() const
+{
+    return QSize(0, QToolButton::minimumSizeHint().height());
+}
 
 void FittedButton::paintEvent(QPaintEvent *)
 {

@@ -8,7 +8,7 @@
 /// cut.
 namespace FittedText {
 
-/// \a font, or as much smaller as \a text needs for \a width pixels; at least 14 pixels high.
+/// \a font, or as much smaller as \a text needs for \a width pixels; at least 13 pixels high.
 QFont font(const QFont &font, const QString &text, int width);
 
 } // namespace FittedText
@@ -34,6 +34,8 @@ class FittedButton : public QToolButton
 
 public:
     explicit FittedButton(QWidget *parent = nullptr);
+
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-/// Draws screens on both screen sizes and in every language, and checks that each text has the room that it
-/// needs and is in that language. With ORB_SCREENSHOTS=FOLDER the pictures are kept there.
+/// Draws screens on both screen sizes and in three languages (with ORB_ALL_LANGUAGES=1 in all), and checks that each
+/// text has the room that it needs and is in that language. With ORB_SCREENSHOTS=FOLDER the pictures are kept there.
 namespace Looks {
 
 struct Scene
