@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractScrollArea>
+#include <QGraphicsView>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -145,7 +146,8 @@ QVector<Canvas> canvases(const QWidget *shown)
     QList<QWidget *> widgets = shown->findChildren<QWidget *>();
     widgets.prepend(const_cast<QWidget *>(shown));
     for (QWidget *widget : qAsConst(widgets)) {
-        if (!widget->isVisible()) {
+        // What lies in a graphics view is asked by itself.
+        if (!widget->isVisible() || qobject_cast<const QGraphicsView *>(widget->parentWidget())) {
             continue;
         }
         if (const auto *list = qobject_cast<const TableListView *>(widget->parentWidget())) {

@@ -571,7 +571,7 @@
     <name>SidePanel</name>
     <message>
         <source>Car</source>
-        <translation>Автомобиль</translation>
+        <translation>Авто</translation>
     </message>
     <message>
         <source>Keys</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>Unit</source>
-        <translation>Устройство</translation>
+        <translation>ГУ</translation>
     </message>
     <message>
         <source>Line</source>
