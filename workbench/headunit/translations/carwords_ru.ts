@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Advance warning</source>
-        <translation>Предупреждение</translation>
+        <translation>Предварительное предупреждение</translation>
     </message>
     <message>
         <source>All</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>In</source>
-        <translation>Рециркуляция</translation>
+        <translation>Внутри</translation>
     </message>
     <message>
         <source>Indicator</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Out</source>
-        <translation>Наружный воздух</translation>
+        <translation>Снаружи</translation>
     </message>
     <message>
         <source>Outside</source>
