@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Advance warning</source>
-        <translation>Предварительное предупреждение</translation>
+        <translation>Предупреждение</translation>
     </message>
     <message>
         <source>Display distance warning</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>Eco tips</source>
-        <translation>Советы по экономии</translation>
+        <translation>Эко-советы</translation>
     </message>
     <message>
         <source>Travelling time</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Advance warning</source>
-        <translation>Предварительное предупреждение</translation>
+        <translation>Предупреждение</translation>
     </message>
     <message>
         <source>All</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Distance warning</source>
-        <translation>Предупреждение о дистанции</translation>
+        <translation>Дистанция</translation>
     </message>
     <message>
         <source>Doors</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Driver alert</source>
-        <translation>Контроль усталости</translation>
+        <translation>Усталость</translation>
     </message>
     <message>
         <source>Driver stage</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Eco tips</source>
-        <translation>Советы по экономии</translation>
+        <translation>Эко-советы</translation>
     </message>
     <message>
         <source>Eject</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Emergency</source>
-        <translation>Экстренный вызов</translation>
+        <translation>SOS-вызов</translation>
     </message>
     <message>
         <source>Engine</source>
@@ -497,27 +497,27 @@
     </message>
     <message>
         <source>Function call</source>
-        <translation>Функция: вызов</translation>
+        <translation>Fn вызов</translation>
     </message>
     <message>
         <source>Function forward</source>
-        <translation>Функция: вперёд</translation>
+        <translation>Fn вперёд</translation>
     </message>
     <message>
         <source>Function hangup</source>
-        <translation>Функция: завершить</translation>
+        <translation>Fn отбой</translation>
     </message>
     <message>
         <source>Function next</source>
-        <translation>Функция: следующий</translation>
+        <translation>Fn след.</translation>
     </message>
     <message>
         <source>Function previous</source>
-        <translation>Функция: предыдущий</translation>
+        <translation>Fn пред.</translation>
     </message>
     <message>
         <source>Function rewind</source>
-        <translation>Функция: назад</translation>
+        <translation>Fn назад</translation>
     </message>
     <message>
         <source>Gear</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Hang up</source>
-        <translation>Завершить</translation>
+        <translation>Отбой</translation>
     </message>
     <message>
         <source>Head</source>
@@ -629,11 +629,11 @@
     </message>
     <message>
         <source>Lane departure</source>
-        <translation>Выезд из полосы</translation>
+        <translation>Выезд</translation>
     </message>
     <message>
         <source>Lane keeping</source>
-        <translation>Удержание в полосе</translation>
+        <translation>Удержание</translation>
     </message>
     <message>
         <source>Language</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>Last distance</source>
-        <translation>Последняя дистанция</translation>
+        <translation>Прежняя</translation>
     </message>
     <message>
         <source>Late</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>Left indicator</source>
-        <translation>Левый поворотник</translation>
+        <translation>Поворот. Л</translation>
     </message>
     <message>
         <source>Left mirror</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Lower reversing</source>
-        <translation>Опускать при заднем ходе</translation>
+        <translation>Опускать назад</translation>
     </message>
     <message>
         <source>Map</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Next</source>
-        <translation>Следующий</translation>
+        <translation>След.</translation>
     </message>
     <message>
         <source>Night brightness</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Oil temperature</source>
-        <translation>Температура масла</translation>
+        <translation>Темп. масла</translation>
     </message>
     <message>
         <source>On</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>Parking picture</source>
-        <translation>Изображение парковки</translation>
+        <translation>Вид парковки</translation>
     </message>
     <message>
         <source>Perpendicular</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Previous</source>
-        <translation>Предыдущий</translation>
+        <translation>Пред.</translation>
     </message>
     <message>
         <source>Radar</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Rear wiping</source>
-        <translation>Задний очиститель</translation>
+        <translation>Задняя щётка</translation>
     </message>
     <message>
         <source>Reasons</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Right indicator</source>
-        <translation>Правый поворотник</translation>
+        <translation>Поворот. П</translation>
     </message>
     <message>
         <source>Right mirror</source>
@@ -1005,11 +1005,11 @@
     </message>
     <message>
         <source>Roller down</source>
-        <translation>Колёсико вниз</translation>
+        <translation>Колесо вниз</translation>
     </message>
     <message>
         <source>Roller up</source>
-        <translation>Колёсико вверх</translation>
+        <translation>Колесо вверх</translation>
     </message>
     <message>
         <source>SOS</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>Speed warning</source>
-        <translation>Предупреждение о скорости</translation>
+        <translation>Лимит скорости</translation>
     </message>
     <message>
         <source>Sport</source>
@@ -1205,11 +1205,11 @@
     </message>
     <message>
         <source>Tune knob left</source>
-        <translation>Настройка влево</translation>
+        <translation>Поиск влево</translation>
     </message>
     <message>
         <source>Tune knob right</source>
-        <translation>Настройка вправо</translation>
+        <translation>Поиск вправо</translation>
     </message>
     <message>
         <source>Turning fog</source>
@@ -1257,11 +1257,11 @@
     </message>
     <message>
         <source>Very close</source>
-        <translation>Очень близко</translation>
+        <translation>Вплотную</translation>
     </message>
     <message>
         <source>Very far</source>
-        <translation>Очень далеко</translation>
+        <translation>Макс.</translation>
     </message>
     <message>
         <source>Video</source>
@@ -1281,11 +1281,11 @@
     </message>
     <message>
         <source>Volume knob down</source>
-        <translation>Ручка громкости −</translation>
+        <translation>Громкость −</translation>
     </message>
     <message>
         <source>Volume knob up</source>
-        <translation>Ручка громкости +</translation>
+        <translation>Громкость +</translation>
     </message>
     <message>
         <source>Volume up</source>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Wish Bluetooth</source>
-        <translation>Запрос Bluetooth</translation>
+        <translation>Bluetooth</translation>
     </message>
     <message>
         <source>Wish CD</source>
@@ -1349,11 +1349,11 @@
     </message>
     <message>
         <source>Wish answer</source>
-        <translation>Запрос: ответить</translation>
+        <translation>Ответить</translation>
     </message>
     <message>
         <source>Wish refuse</source>
-        <translation>Запрос: отклонить</translation>
+        <translation>Отклонить</translation>
     </message>
     <message>
         <source>°C</source>
