@@ -28,7 +28,7 @@ def main(root, language, column):
         if text != text.strip() and source == source.strip():
             wrong.append(f"{source}: blanks around '{text}'")
     wrong += [f"{term} is no text any more" for term in terms if term not in found]
-    sys.exit("\n".join(wrong))
+    sys.exit("\n".join(wrong) or 0)
 
 
 main(*sys.argv[1:])

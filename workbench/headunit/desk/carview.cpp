@@ -10,7 +10,8 @@
 namespace {
 
 const int HeadingHeight = 64;
-const int SmallestFont = 11; // pixels
+const int SmallestFont = 15; // pixels
+const int SmallestHeading = 11;
 const int Margin = 16;
 const qreal GreyOpacity = 0.45; // of what is no longer sure
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
@@ -37,11 +38,13 @@ const QPointF Wheels[] = {QPointF(25, 86), QPointF(175, 86), QPointF(25, 330), Q
 // As large as the room allows, and no larger than \a font.
 void drawFitted(QPainter *painter, const QRectF &room, int alignment, QFont font, const QString &text)
 {
-    while (QFontMetrics(font).horizontalAdvance(text) > room.width() && font.pixelSize() > SmallestFont) {
+    const int flags = alignment | Qt::TextWordWrap;
+    while (font.pixelSize() > SmallestHeading &&
+           !room.contains(QFontMetricsF(font).boundingRect(room, flags, text))) {
         font.setPixelSize(font.pixelSize() - 1);
     }
     painter->setFont(font);
-    painter->drawText(room, alignment, text);
+    painter->drawText(room, flags, text);
 }
 
 } // namespace
