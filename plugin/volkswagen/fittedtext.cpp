@@ -30,11 +30,11 @@ QSize FittedLabel::minimumSizeHint() const
     return QSize(0, QLabel::minimumSizeHint().height());
 }
 
-void FittedLabel::paintEvent(QPaintEvent *event)
+void FittedLabel::paintEvent(QPaintEvent *)
 {
-    QFrame::paintEvent(event);
     const QRect room = contentsRect();
     QPainter painter(this);
+    drawFrame(&painter);
     painter.setPen(palette().color(foregroundRole()));
     painter.setFont(FittedText::font(font(), text(), room.width()));
     painter.drawText(room, int(alignment()), text());
