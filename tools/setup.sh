@@ -43,7 +43,7 @@ need_packages() {
 
 # configure CMAKE_OPTIONS...
 configure() {
-    need_packages g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools \
+    need_packages g++ cmake ninja-build python3 qtbase5-dev qttools5-dev qttools5-dev-tools \
         libcli11-dev pkg-config fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
     log=$(mktemp)

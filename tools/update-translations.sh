@@ -5,7 +5,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-for language in de zh_CN; do
+for language in de zh_CN fr es ru; do
     lupdate -silent -locations none -no-obsolete plugin \
         -target-language "$language" -ts "plugin/translations/canbus_$language.ts"
     lupdate -silent -locations none -no-obsolete platform/orbcommons \

@@ -57,7 +57,7 @@ bool FlowLayout::hasHeightForWidth() const
 
 int FlowLayout::heightForWidth(int width) const
 {
-    return layOut(QRect(0, 0, width, 0), false);
+    return layOut(QRect(0, 0, width, 0), m_verticalSpacing, false);
 }
 
 QSize FlowLayout::sizeHint() const
@@ -78,7 +78,12 @@ QSize FlowLayout::minimumSize() const
 void FlowLayout::setGeometry(const QRect &rect)
 {
     QLayout::setGeometry(rect);
-    layOut(rect, true);
+    // Where words are long, one line more than fits moves the others together.
+    int spacing = m_verticalSpacing;
+    while (spacing > 0 && layOut(rect, spacing, false) > rect.height()) {
+        --spacing;
+    }
+    layOut(rect, spacing, true);
 }
 
 int FlowLayout::columnsIn(int width) const
@@ -92,10 +97,12 @@ int FlowLayout::columnsIn(int width) const
     return linesOf(count, qMin(MostLines, linesOf(count, most)));
 }
 
-int FlowLayout::layOut(const QRect &rect, bool apply) const
+int FlowLayout::layOut(const QRect &rect, int spacing, bool apply) const
 {
     const QMargins margins = contentsMargins();
-    const QRect area = rect.adjusted(margins.left(), margins.top(), -margins.right(), -margins.bottom());
+    const int top = qMin(margins.top(), spacing);
+    const int bottom = qMin(margins.bottom(), spacing);
+    const QRect area = rect.adjusted(margins.left(), top, -margins.right(), -bottom);
     const int columns = columnsIn(area.width());
     const int columnWidth = (area.width() - (columns - 1) * m_horizontalSpacing) / columns;
     int y = area.top();
@@ -106,7 +113,7 @@ int FlowLayout::layOut(const QRect &rect, bool apply) const
         const QSize size = item->sizeHint();
         const int span = size.width() > columnWidth ? qMin(2, columns) : 1;
         if (column + span > columns) {
-            y += lineHeight + m_verticalSpacing;
+            y += lineHeight + spacing;
             column = 0;
             lineHeight = 0;
         }
@@ -118,5 +125,5 @@ int FlowLayout::layOut(const QRect &rect, bool apply) const
         column += span;
         lineHeight = qMax(lineHeight, size.height());
     }
-    return y + lineHeight + margins.bottom() - rect.top();
+    return y + lineHeight + bottom - rect.top();
 }

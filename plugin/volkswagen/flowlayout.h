@@ -33,7 +33,7 @@ private:
     /// Columns in \a width pixels.
     int columnsIn(int width) const;
     /// Height that \a rect's width needs; with \a apply the items are placed as well.
-    int layOut(const QRect &rect, bool apply) const;
+    int layOut(const QRect &rect, int spacing, bool apply) const;
 
     QList<QLayoutItem *> m_items;
     const int m_horizontalSpacing;

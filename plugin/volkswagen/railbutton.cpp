@@ -1,7 +1,5 @@
 #include "railbutton.h"
 
-#include "orbqtcompat.h"
-
 #include <QPainter>
 
 namespace {
@@ -39,7 +37,7 @@ void drawBadge(QPainter *painter, const QRect &button)
 
 } // namespace
 
-RailButton::RailButton(QWidget *parent) : QToolButton(parent), m_badge(false) {}
+RailButton::RailButton(QWidget *parent) : FittedButton(parent), m_badge(false) {}
 
 void RailButton::setBadge(bool badge)
 {
@@ -55,16 +53,10 @@ void RailButton::setReason(const QString &reason)
     update();
 }
 
-QSize RailButton::sizeHint() const
-{
-    const QSize hint = QToolButton::sizeHint();
-    return m_reason.isEmpty() ? hint : QSize(OrbQt::textWidth(fontMetrics(), text()), hint.height());
-}
-
 void RailButton::paintEvent(QPaintEvent *event)
 {
     if (m_reason.isEmpty()) {
-        QToolButton::paintEvent(event);
+        FittedButton::paintEvent(event);
     }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -87,9 +79,9 @@ void RailButton::drawReason(QPainter *painter) const
 {
     const int middle = height() / 2;
     painter->setPen(QColor(ReasonColour));
-    painter->setFont(font());
+    painter->setFont(FittedText::font(font(), text(), width()));
     painter->drawText(QRect(0, 0, width(), middle), int(Qt::AlignHCenter | Qt::AlignBottom), text());
-    painter->setFont(sized(font(), ReasonTextSize, false));
+    painter->setFont(FittedText::font(sized(font(), ReasonTextSize, false), m_reason, width()));
     painter->drawText(QRect(0, middle, width(), height() - middle), int(Qt::AlignHCenter | Qt::AlignTop),
                       m_reason);
 }

@@ -1,12 +1,13 @@
 #ifndef RAILBUTTON_H
 #define RAILBUTTON_H
 
+#include "fittedtext.h"
+
 #include <QString>
-#include <QToolButton>
 
 /// A button of the rail at the screen's left edge. It draws a bar where it is checked, a badge where something
 /// behind it wants the driver. One that leads nowhere says why instead of looking like a button.
-class RailButton : public QToolButton
+class RailButton : public FittedButton
 {
     Q_OBJECT
 
@@ -18,8 +19,6 @@ public:
 
     /// \a reason: why the button leads nowhere; stands under its text in place of the icon.
     void setReason(const QString &reason);
-
-    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -8,6 +8,7 @@
 #include "headunit.h"
 #include "homepage.h"
 #include "keystrip.h"
+#include "paintedtexts.h"
 #include "sidepanel.h"
 #include "unitkey.h"
 #include "unitpage.h"
@@ -105,7 +106,8 @@ int TestUnitShell::tileOf(const QString &title) const
     return -1;
 }
 
-/// Of the buttons in sight: those that are too narrow for their text, or cut off at a side.
+/// Of the buttons in sight: those that are too narrow for their text, or cut off at a side. And what is cut on the
+/// unit's screen.
 QStringList TestUnitShell::clippedTexts() const
 {
     QStringList result;
@@ -116,6 +118,11 @@ QStringList TestUnitShell::clippedTexts() const
         const int seen = button->visibleRegion().boundingRect().width();
         if (seen > 0 && (seen < button->width() || seen < needed)) {
             result << button->text();
+        }
+    }
+    for (const QString &text : PaintedTexts::cut(m_desk->screen())) {
+        if (!text.startsWith("AppTile")) { // shortens titles of other people's applications
+            result << text;
         }
     }
     return result;
@@ -299,7 +306,7 @@ void TestUnitShell::nothingIsClipped()
                 QCoreApplication::processEvents();
                 QTRY_COMPARE(clippedTexts().join(", "), QString()); // a wider text widens the window first
             }
-            QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN");
+            QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN" && language != "ru");
             QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
         }
         QVERIFY(m_desk->minimumSizeHint().width() <= 1358 && m_desk->minimumSizeHint().height() <= 724);

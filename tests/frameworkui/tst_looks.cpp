@@ -73,20 +73,25 @@ std::unique_ptr<QWidget> updateAfterSilence(bool everything)
     return dialog;
 }
 
+/// Texts as long as drivers get to see, in the language of now.
+QString vw(const char *text)
+{
+    return QCoreApplication::translate("Vw", text);
+}
+
 std::unique_ptr<QWidget> choiceOf(const QStringList &texts)
 {
-    std::unique_ptr<QWidget> dialog(new OrbChoiceDialog("Convenience opening", texts, 1));
+    std::unique_ptr<QWidget> dialog(new OrbChoiceDialog(vw("Convenience opening"), texts, 1));
     dialog->show();
     return dialog;
 }
 
-QStringList profiles()
+std::unique_ptr<QWidget> longChoice()
 {
-    QStringList texts;
-    for (int i = 1; i <= 12; ++i) {
-        texts << QString("Profile %1 of the driver").arg(i);
-    }
-    return texts;
+    return choiceOf({vw("Trailer mode"), vw("Windscreen could become fogged"),
+                     vw("Gearbox requires engine to be running"), vw("Starting start-stop system"),
+                     vw("Power consumption is high"), vw("Emergency brake function intervention"),
+                     vw("ACC intervention")});
 }
 
 TableViewItemDatas row(int id, const QString &text, const QVariant &value, const QString &mark = QString())
@@ -100,21 +105,20 @@ TableViewItemDatas row(int id, const QString &text, const QVariant &value, const
 std::unique_ptr<QWidget> list()
 {
     std::unique_ptr<OrbMainWindow> window(new OrbMainWindow(782));
-    window->setWindowTitle("Driver assistance");
+    window->setWindowTitle(vw("Driver assistance"));
     TableListView *view = new TableListView;
     TableViewModel *model = new TableViewModel(view);
     const QString mark = ":/orb/icons/dropdown.png";
-    model->appendItemDatas(row(1, "Lane keeping assist system", true));
-    model->appendItemDatas(row(2, "Front assist", false));
-    TableViewItemDatas heading(-1, "Adaptive cruise control");
+    model->appendItemDatas(row(1, vw("Lane keeping assist system"), true));
+    model->appendItemDatas(row(2, vw("Front assist"), false));
+    TableViewItemDatas heading(-1, vw("Adaptive cruise control"));
     heading.setHeading(true);
     model->appendItemDatas(heading);
-    model->appendItemDatas(row(3, "Drive program", "Standard", mark));
-    model->appendItemDatas(
-        row(4, "Start-stop system requires engine to be running because it is cold", "Far"));
-    model->appendItemDatas(row(5, "Inspection distance", "overdue by 1200 kilometres", mark));
+    model->appendItemDatas(row(3, vw("Drive program"), vw("Standard"), mark));
+    model->appendItemDatas(row(4, vw("Start-stop system requires engine to be running"), vw("Far")));
+    model->appendItemDatas(row(5, vw("Inspection distance"), vw("overdue by") + " 1200 " + vw("km"), mark));
     for (int i = 6; i < 14; ++i) {
-        model->appendItemDatas(row(i, QString("Interior lighting %1").arg(i), QString("%1 %").arg(i), mark));
+        model->appendItemDatas(row(i, vw("Door ambient light"), QString("%1 %").arg(i), mark));
     }
     view->setModel(model);
     window->setCentralWidget(view);
@@ -134,9 +138,9 @@ const QList<Looks::Scene> Scenes = {
     {"update-stalled", [] { return updateAfterSilence(false); }},
     {"choice-short",
      [] {
-         return choiceOf({"OFF", "Driver window", "All windows"});
+         return choiceOf({vw("OFF"), vw("Driver window"), vw("All window")});
      }},
-    {"choice-long", [] { return choiceOf(profiles()); }},
+    {"choice-long", longChoice},
     {"list", list},
 };
 

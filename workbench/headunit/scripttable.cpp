@@ -30,9 +30,10 @@ const QVector<ScriptCommands::Row> &ScriptCommands::rows()
         {"tag", "ID VALUE", "what the framework answers for a tag from now on", 1, 1, 1, 1, &C::tag},
         {"product", "KEY VALUE", "what it answers for a product value", 0, 0, 2, 2, &C::product},
         {"front", "APPID", "what it answers for the application in front", 1, 1, 0, 0, &C::front},
-        {"language", "en|de|zh_CN",
-         "the unit's language; until one is asked for, headless texts are the sources' own", 0, 0, 1, 1,
-         &C::language},
+        {"language", "en|de|zh_CN|fr|es|ru|pseudo",
+         "the unit's language; until one is asked for, headless texts are the sources' own. \"pseudo\", "
+         "longer and accented, is there in a build folder only",
+         0, 0, 1, 1, &C::language},
         {"windows", "", "class, title and visibility of every window and dialog", 0, 0, 0, 0, &C::windows},
         {"open", "TITLE", "shows the window with that title", 0, 0, 1, Many, &C::open},
         {"text", "NAME", "the text of the widget of that name in the front window", 0, 0, 1, 1, &C::textOf},

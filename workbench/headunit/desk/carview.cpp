@@ -11,6 +11,7 @@ namespace {
 
 const int HeadingHeight = 64;
 const int SmallestFont = 15; // pixels
+const int SmallestHeading = 11;
 const int Margin = 16;
 const qreal GreyOpacity = 0.45; // of what is no longer sure
 // The car's picture: 200 by 420 units, with the paint from 24 to 176 and from 8 to 414.
@@ -33,6 +34,18 @@ const DoorLeaf DoorLeaves[] = {{CarState::FrontLeft, QPointF(27, 162), 74},
                                {CarState::RearRight, QPointF(175, 238), 68}};
 
 const QPointF Wheels[] = {QPointF(25, 86), QPointF(175, 86), QPointF(25, 330), QPointF(175, 330)};
+
+// As large as the room allows, and no larger than \a font.
+void drawFitted(QPainter *painter, const QRectF &room, int alignment, QFont font, const QString &text)
+{
+    const int flags = alignment | Qt::TextWordWrap;
+    while (font.pixelSize() > SmallestHeading &&
+           !room.contains(QFontMetricsF(font).boundingRect(room, flags, text))) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    painter->setFont(font);
+    painter->drawText(room, flags, text);
+}
 
 } // namespace
 
@@ -132,20 +145,13 @@ void CarView::paintHeading(QPainter *painter) const
     QFont font = painter->font();
     font.setPixelSize(20);
     font.setBold(true);
-    while (QFontMetrics(font).horizontalAdvance(message()) > line.width() &&
-           font.pixelSize() > SmallestFont) {
-        font.setPixelSize(font.pixelSize() - 1);
-    }
-    painter->setFont(font);
     painter->setPen(messageColour());
-    painter->drawText(line, Qt::AlignHCenter | Qt::AlignBottom,
-                      painter->fontMetrics().elidedText(message(), Qt::ElideRight, int(line.width())));
+    drawFitted(painter, line, Qt::AlignHCenter | Qt::AlignBottom, font, message());
     font.setPixelSize(18);
     font.setBold(false);
-    painter->setFont(font);
     painter->setPen(DeskColours::Text);
-    painter->drawText(QRectF(line.left(), line.bottom(), line.width(), HeadingHeight - line.bottom()),
-                      Qt::AlignCenter, m_doubt.isEmpty() ? steeringText() : m_doubt);
+    drawFitted(painter, QRectF(line.left(), line.bottom(), line.width(), HeadingHeight - line.bottom()),
+               Qt::AlignCenter, font, m_doubt.isEmpty() ? steeringText() : m_doubt);
 }
 
 void CarView::paintLights(QPainter *painter, const QRectF &car) const

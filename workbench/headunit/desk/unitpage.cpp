@@ -19,7 +19,8 @@ struct Language
     const char *name; // in that language, so that everyone finds the own one
 };
 
-const Language LanguageRows[] = {{"en", "English"}, {"de", "Deutsch"}, {"zh_CN", "简体中文"}};
+const Language LanguageRows[] = {{"en", "English"},  {"de", "Deutsch"}, {"zh_CN", "简体中文"},
+                                 {"fr", "Français"}, {"es", "Español"}, {"ru", "Русский"}};
 
 QPushButton *chip(const QString &text)
 {

@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Average consumption</source>
-        <translation>Mittelverbrauch</translation>
+        <translation>Durchschnittsverbrauch</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Eco tips</source>
-        <translation>Spartipps</translation>
+        <translation>Spritspartipps</translation>
     </message>
     <message>
         <source>Eject</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>Engine</source>
-        <translation>Motor</translation>
+        <translation>Antrieb</translation>
     </message>
     <message>
         <source>English</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Individual</source>
-        <translation>Individuell</translation>
+        <translation>Individual</translation>
     </message>
     <message>
         <source>Inspection</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Offroad individual</source>
-        <translation>Gelände individuell</translation>
+        <translation>Gelände individual</translation>
     </message>
     <message>
         <source>Oil</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Since refuel</source>
-        <translation>Seit dem Tanken</translation>
+        <translation>Ab Tanken</translation>
     </message>
     <message>
         <source>Since start</source>
-        <translation>Seit dem Start</translation>
+        <translation>Ab Start</translation>
     </message>
     <message>
         <source>Single</source>

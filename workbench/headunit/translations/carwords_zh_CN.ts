@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Blue</source>
-        <translation>蓝</translation>
+        <translation>蓝色</translation>
     </message>
     <message>
         <source>Bonnet</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Early</source>
-        <translation>提前</translation>
+        <translation>早</translation>
     </message>
     <message>
         <source>Eco</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>Late</source>
-        <translation>延迟</translation>
+        <translation>晚</translation>
     </message>
     <message>
         <source>Leaving home</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Orange</source>
-        <translation>橙</translation>
+        <translation>橙色</translation>
     </message>
     <message>
         <source>Out</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Since refuel</source>
-        <translation>加油后</translation>
+        <translation>加油以来</translation>
     </message>
     <message>
         <source>Since start</source>
-        <translation>启动后</translation>
+        <translation>启动以来</translation>
     </message>
     <message>
         <source>Single</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>Speed warning</source>
-        <translation>超速警告</translation>
+        <translation>车速警告</translation>
     </message>
     <message>
         <source>Sport</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>White</source>
-        <translation>白</translation>
+        <translation>白色</translation>
     </message>
     <message>
         <source>Window and roof</source>

@@ -1,0 +1,797 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name>AppPage</name>
+    <message>
+        <source>This picture comes from the car.</source>
+        <translation>Это изображение передаёт автомобиль.</translation>
+    </message>
+</context>
+<context>
+    <name>BoxKeysPage</name>
+    <message>
+        <source>Keys on the steering wheel</source>
+        <translation>Кнопки на руле</translation>
+    </message>
+    <message>
+        <source>Keys on the car&apos;s panel</source>
+        <translation>Кнопки на панели автомобиля</translation>
+    </message>
+    <message>
+        <source>This car has no keys</source>
+        <translation>У этого автомобиля нет кнопок</translation>
+    </message>
+    <message>
+        <source>Knobs</source>
+        <translation>Поворотные ручки</translation>
+    </message>
+</context>
+<context>
+    <name>BoxPage</name>
+    <message>
+        <source>Scenario</source>
+        <translation>Сценарий</translation>
+    </message>
+    <message>
+        <source>Scenarios (*.scn)</source>
+        <translation>Сценарии (*.scn)</translation>
+    </message>
+    <message>
+        <source>Waits for the unit&apos;s ready</source>
+        <translation>Ждёт готовности устройства</translation>
+    </message>
+    <message>
+        <source>Talks with the unit</source>
+        <translation>Обменивается с устройством</translation>
+    </message>
+    <message>
+        <source>Silent: the unit did not acknowledge</source>
+        <translation>Молчит: устройство не подтвердило</translation>
+    </message>
+    <message>
+        <source>The unit has not opened the port</source>
+        <translation>Устройство не открыло порт</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Пока ничего</translation>
+    </message>
+    <message>
+        <source>Box at %1</source>
+        <translation>Блок на %1</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Запустить</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Open ...</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>Не выбран</translation>
+    </message>
+    <message>
+        <source>%1 plays</source>
+        <translation>Идёт %1</translation>
+    </message>
+    <message>
+        <source>Line faults</source>
+        <translation>Сбои линии</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Шум</translation>
+    </message>
+    <message>
+        <source>Cut a package</source>
+        <translation>Обрезать пакет</translation>
+    </message>
+    <message>
+        <source>Corrupt a package</source>
+        <translation>Исказить пакет</translation>
+    </message>
+    <message>
+        <source>Silence, 3 s</source>
+        <translation>Тишина, 3 с</translation>
+    </message>
+    <message>
+        <source>What the unit told the box</source>
+        <translation>Что устройство сообщило блоку</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Журнал линии</translation>
+    </message>
+    <message>
+        <source>Flip a bit</source>
+        <translation>Инвертировать бит</translation>
+    </message>
+    <message>
+        <source>Lose a byte</source>
+        <translation>Потерять байт</translation>
+    </message>
+    <message>
+        <source>Double a byte</source>
+        <translation>Удвоить байт</translation>
+    </message>
+    <message>
+        <source>Wrong length</source>
+        <translation>Неверная длина</translation>
+    </message>
+    <message>
+        <source>Stall, 300 ms</source>
+        <translation>Задержка, 300 мс</translation>
+    </message>
+    <message>
+        <source>Garbage</source>
+        <translation>Мусор</translation>
+    </message>
+    <message>
+        <source>Late answer</source>
+        <translation>Поздний ответ</translation>
+    </message>
+    <message>
+        <source>Cut the update</source>
+        <translation>Прервать обновление</translation>
+    </message>
+    <message>
+        <source>Pull the line</source>
+        <translation>Отключить линию</translation>
+    </message>
+    <message>
+        <source>Plug it in</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>Bad line</source>
+        <translation>Плохая линия</translation>
+    </message>
+    <message>
+        <source>Good line</source>
+        <translation>Хорошая линия</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Остановлен</translation>
+    </message>
+    <message>
+        <source>Silent by order</source>
+        <translation>Молчит по команде</translation>
+    </message>
+</context>
+<context>
+    <name>CarPage</name>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Mid left</source>
+        <translation>В центре слева</translation>
+    </message>
+    <message>
+        <source>Mid right</source>
+        <translation>В центре справа</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+</context>
+<context>
+    <name>CarPicker</name>
+    <message>
+        <source>Which car?</source>
+        <translation>Какой автомобиль?</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Virtual box</source>
+        <translation>Виртуальный блок</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Запустить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>The decoder that is fitted</source>
+        <translation>Установленный декодер</translation>
+    </message>
+    <message>
+        <source>Its line: a virtual box, or a serial device of this computer</source>
+        <translation>Его линия: виртуальный блок или последовательный порт этого компьютера</translation>
+    </message>
+    <message>
+        <source>%1 (no virtual box)</source>
+        <translation>%1 (нет виртуального блока)</translation>
+    </message>
+</context>
+<context>
+    <name>CarView</name>
+    <message>
+        <source>Front left door open</source>
+        <translation>Открыта передняя левая дверь</translation>
+    </message>
+    <message>
+        <source>Front right door open</source>
+        <translation>Открыта передняя правая дверь</translation>
+    </message>
+    <message>
+        <source>Rear left door open</source>
+        <translation>Открыта задняя левая дверь</translation>
+    </message>
+    <message>
+        <source>Rear right door open</source>
+        <translation>Открыта задняя правая дверь</translation>
+    </message>
+    <message>
+        <source>Doors open</source>
+        <translation>Двери открыты</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>All doors closed</source>
+        <translation>Все двери закрыты</translation>
+    </message>
+    <message>
+        <source>Steering %1°</source>
+        <translation>Руль %1°</translation>
+    </message>
+    <message>
+        <source>Doors not reported</source>
+        <translation>Нет данных о дверях</translation>
+    </message>
+    <message>
+        <source>The car has reported nothing yet</source>
+        <translation>Автомобиль ещё ничего не сообщил</translation>
+    </message>
+</context>
+<context>
+    <name>DeskWindow</name>
+    <message>
+        <source>Head unit on the desk</source>
+        <translation>Головное устройство на столе</translation>
+    </message>
+    <message>
+        <source>Not sure: %1</source>
+        <translation>Не точно: %1</translation>
+    </message>
+    <message>
+        <source>Hello said: the box was sent the ready command</source>
+        <translation>Приветствие отправлено: блок получил команду готовности</translation>
+    </message>
+    <message>
+        <source>There is no open line to say hello on</source>
+        <translation>Нет открытой линии для приветствия</translation>
+    </message>
+    <message>
+        <source>Saved the last 60 s: %1</source>
+        <translation>Последние 60 с сохранены: %1</translation>
+    </message>
+    <message>
+        <source>Show the panel (F9)</source>
+        <translation>Показать панель (F9)</translation>
+    </message>
+    <message>
+        <source>Fold the panel away (F9)</source>
+        <translation>Свернуть панель (F9)</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCard</name>
+    <message>
+        <source>Last key</source>
+        <translation>Последняя кнопка</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Пока нет</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>Кнопка %1</translation>
+    </message>
+    <message>
+        <source>held, %1×</source>
+        <translation>удержание, %1×</translation>
+    </message>
+</context>
+<context>
+    <name>LineLogModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Время, с</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Байты</translation>
+    </message>
+</context>
+<context>
+    <name>LinePage</name>
+    <message>
+        <source>Line</source>
+        <translation>Линия</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Линия %1</translation>
+    </message>
+    <message>
+        <source>Packages: %1, %2 a second</source>
+        <translation>Пакеты: %1, %2 в секунду</translation>
+    </message>
+    <message>
+        <source>Last package: %1</source>
+        <translation>Последний пакет: %1</translation>
+    </message>
+    <message>
+        <source>Acknowledged in: %1</source>
+        <translation>Подтверждение за: %1</translation>
+    </message>
+    <message>
+        <source>Bad checksums: %1</source>
+        <translation>Неверные контрольные суммы: %1</translation>
+    </message>
+    <message>
+        <source>Skipped bytes: %1</source>
+        <translation>Пропущенные байты: %1</translation>
+    </message>
+    <message>
+        <source>Repetitions: %1</source>
+        <translation>Повторы: %1</translation>
+    </message>
+    <message>
+        <source>Say hello</source>
+        <translation>Приветствие</translation>
+    </message>
+    <message>
+        <source>Sends the box the ready command again</source>
+        <translation>Повторно отправляет блоку команду готовности</translation>
+    </message>
+    <message>
+        <source>Save 60 s</source>
+        <translation>Сохранить 60 с</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Журнал линии</translation>
+    </message>
+    <message>
+        <source>Bytes to look for: 2e 21</source>
+        <translation>Искать байты: 2e 21</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>LineStatus</name>
+    <message>
+        <source>the serial library in use tells nothing</source>
+        <translation>используемая библиотека порта ничего не сообщает</translation>
+    </message>
+    <message>
+        <source>the unit has opened no line</source>
+        <translation>устройство не открыло линию</translation>
+    </message>
+    <message>
+        <source>no such device</source>
+        <translation>нет такого устройства</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>нет прав доступа</translation>
+    </message>
+    <message>
+        <source>no permission: join the group %1</source>
+        <translation>нет прав доступа: вступите в группу %1</translation>
+    </message>
+    <message>
+        <source>in use by another process</source>
+        <translation>занято другим процессом</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>занято: %1</translation>
+    </message>
+    <message>
+        <source>no serial device</source>
+        <translation>это не последовательный порт</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>не открывается: %1</translation>
+    </message>
+    <message>
+        <source>line lost</source>
+        <translation>линия потеряна</translation>
+    </message>
+    <message>
+        <source>bytes but no packages: other baud rate?</source>
+        <translation>байты есть, пакетов нет: другая скорость?</translation>
+    </message>
+    <message>
+        <source>waiting for the box&apos;s first word</source>
+        <translation>ждёт первого сообщения блока</translation>
+    </message>
+    <message>
+        <source>talking</source>
+        <translation>идёт обмен</translation>
+    </message>
+    <message>
+        <source>silent for %1 s</source>
+        <translation>молчит %1 с</translation>
+    </message>
+    <message>
+        <source>unit too slow: box repeats</source>
+        <translation>устройство не успевает: блок повторяет</translation>
+    </message>
+    <message>
+        <source>box stopped</source>
+        <translation>блок остановлен</translation>
+    </message>
+    <message>
+        <source>box silent by order</source>
+        <translation>блок молчит по команде</translation>
+    </message>
+</context>
+<context>
+    <name>LineStrip</name>
+    <message>
+        <source>Save the last 60 s</source>
+        <translation>Сохранить последние 60 с</translation>
+    </message>
+</context>
+<context>
+    <name>LineWords</name>
+    <message>
+        <source>%1 packages/s</source>
+        <translation>%1 пакетов/с</translation>
+    </message>
+    <message>
+        <source>%1 bad</source>
+        <translation>неверных: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes skipped</source>
+        <translation>пропущено байт: %1</translation>
+    </message>
+    <message>
+        <source>%1 repeated</source>
+        <translation>повторов: %1</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>ответ за %1</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>никогда</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>%1 с назад</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>пока нет</translation>
+    </message>
+</context>
+<context>
+    <name>ObservationWords</name>
+    <message>
+        <source>Source</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Настройка</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Звук</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Часы</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Приложение</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Прошивка</translation>
+    </message>
+    <message>
+        <source>Radio</source>
+        <translation>Радио</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>another one</source>
+        <translation>другой</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanel</name>
+    <message>
+        <source>Car</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Кнопки</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Блок</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>ГУ</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Линия</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+</context>
+<context>
+    <name>UnitControls</name>
+    <message>
+        <source>Radio</source>
+        <translation>Радио</translation>
+    </message>
+    <message>
+        <source>USB music</source>
+        <translation>Музыка USB</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Навигация</translation>
+    </message>
+    <message>
+        <source>In a call</source>
+        <translation>Разговор</translation>
+    </message>
+    <message>
+        <source>Listening …</source>
+        <translation>Слушаю…</translation>
+    </message>
+    <message>
+        <source>Muted</source>
+        <translation>Без звука</translation>
+    </message>
+    <message>
+        <source>Volume %1</source>
+        <translation>Громкость %1</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Дорожка %1</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation>Играет</translation>
+    </message>
+    <message>
+        <source>Pauses</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>No call</source>
+        <translation>Нет звонка</translation>
+    </message>
+    <message>
+        <source>For the window in front</source>
+        <translation>Для переднего окна</translation>
+    </message>
+    <message>
+        <source>No effect on the desk</source>
+        <translation>Здесь не действует</translation>
+    </message>
+</context>
+<context>
+    <name>UnitKey</name>
+    <message>
+        <source>Vol −</source>
+        <translation>Тише</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <translation>Громче</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Без звука</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Предыдущий</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Следующий</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Перемотка −</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Перемотка +</translation>
+    </message>
+    <message>
+        <source>Previous track</source>
+        <translation>Предыдущая дорожка</translation>
+    </message>
+    <message>
+        <source>Next track</source>
+        <translation>Следующая дорожка</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Пуск</translation>
+    </message>
+    <message>
+        <source>Play/pause</source>
+        <translation>Пуск/пауза</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Голос</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Вызов</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Завершить</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Влево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Вправо</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Folder behind the disk</source>
+        <translation>Папка диска</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>USB-диск</translation>
+    </message>
+    <message>
+        <source>Choose the folder that is on the disk.</source>
+        <translation>Выберите папку, которая будет на диске.</translation>
+    </message>
+    <message>
+        <source>Plugged in: %1</source>
+        <translation>Подключён: %1</translation>
+    </message>
+    <message>
+        <source>Pulled out: %1</source>
+        <translation>Извлечён: %1</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>Папка…</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>Извлечь</translation>
+    </message>
+    <message>
+        <source>Put in</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+</context>
+<context>
+    <name>UnitShell</name>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>Application %1</source>
+        <translation>Приложение %1</translation>
+    </message>
+</context>
+</TS>
