@@ -3,6 +3,7 @@
 #include "checkcommand.h"
 #include "convertcommand.h"
 #include "identifycommand.h"
+#include "inspectcommand.h"
 #include "probecommand.h"
 #include "recordcommand.h"
 #include "replaycommand.h"
@@ -15,6 +16,7 @@ const QVector<Command> &Command::all()
         {"identify", "says which CAN-bus type fits a log, or the box on a port", identifyCommand},
         {"check", "looks at a serial line and the box behind it, and says what to do", checkCommand},
         {"convert", "turns one log of a serial line into another", convertCommand},
+        {"inspect", "tells of each package in a log what changed, and what it caused", inspectCommand},
         {"probe", "tells which bit of a package does what", probeCommand},
     };
     return commands;
