@@ -5,6 +5,7 @@
 #include "deskstyle.h"
 #include "headunit.h"
 #include "keystrip.h"
+#include "lineinspector.h"
 #include "linepage.h"
 #include "linereporter.h"
 #include "linestrip.h"
@@ -54,8 +55,11 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     m_shell = new UnitShell(unit, m_screen, this);
     m_view = new UnitView(m_screen); // what the screen holds is shown with it
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
-    m_sidePanel = new SidePanel(box, unit->lineRecorder());
-    m_car = carOf(OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt());
+    const int type = OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt();
+    LineInspector *inspector = new LineInspector(type, this);
+    inspector->follow(unit);
+    m_sidePanel = new SidePanel(box, inspector);
+    m_car = carOf(type);
     m_lineStrip = new LineStrip(m_car);
     new ClimateWatch(ClimatePatience, this);
     m_fold = new QToolButton;

@@ -20,12 +20,12 @@ namespace {
 const int Gap = 8;
 } // namespace
 
-SidePanel::SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent)
+SidePanel::SidePanel(DecoderBox *box, LineInspector *inspector, QWidget *parent)
     : QWidget(parent)
     , m_box(box)
     , m_search(new QLineEdit)
     , m_pages(new QStackedWidget)
-    , m_linePage(new LinePage(recorder))
+    , m_linePage(new LinePage(inspector))
     , m_unitPage(new UnitPage)
 {
     setObjectName(QStringLiteral("sidePanel"));

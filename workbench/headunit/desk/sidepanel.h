@@ -6,8 +6,8 @@
 
 class BoxPage;
 class DecoderBox;
+class LineInspector;
 class LinePage;
-class LineRecorder;
 class QLineEdit;
 class QPushButton;
 class QScrollArea;
@@ -25,7 +25,7 @@ public:
 
     /// \a box may be null, when the unit talks to a real one; the panel then has the pages of line and unit
     /// only. Neither is owned; both must outlive the panel.
-    SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent = nullptr);
+    SidePanel(DecoderBox *box, LineInspector *inspector, QWidget *parent = nullptr);
 
     UnitPage *unitPage() const { return m_unitPage; }
     LinePage *linePage() const { return m_linePage; }

@@ -37,8 +37,9 @@ struct InspectionRow
     /// The bits of data byte \a i that differ and that nobody understands.
     quint8 strangeBits(int i) const
     {
+        const bool isCaused = known.isEmpty() && isExplained; // not described, but the plug-in makes something of it
         const int knownBits = i < known.size() ? known.at(i) : 0;
-        return i < changed.size() ? quint8(changed.at(i) & ~knownBits) : quint8(0);
+        return i < changed.size() && !isCaused ? quint8(changed.at(i) & ~knownBits) : quint8(0);
     }
     /// The windows and dialogs among the calls that were opened: "AirConditionDlg".
     QStringList screens() const;
