@@ -42,6 +42,7 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     if (!VirtualClock::start(StartOfClock)) {
         return m_line->complain("the virtual clock does not reach the libraries of this program");
     }
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // of the plug-in
     char program[] = "headunit";
     char *words[] = {program, nullptr};
     int count = 1;

@@ -54,6 +54,8 @@ FilterBar::FilterBar(bool isWide, QWidget *parent)
     m_words->lineEdit()->setClearButtonEnabled(true);
     row->addWidget(m_words, 1);
     row->addLayout(PanelCard::pair(m_keep, m_forget));
+    m_keep->setVisible(isWide);
+    m_forget->setVisible(isWide);
     row->addLayout(PanelCard::pair(m_unexplained, m_changing));
     m_problem->hide();
     connect(m_words->lineEdit(), &QLineEdit::textChanged, this, &FilterBar::apply);

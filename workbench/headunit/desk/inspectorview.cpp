@@ -115,10 +115,11 @@ void InspectorView::layOut(bool isWide)
         connect(m_window, &QPushButton::clicked, this, &InspectorView::windowWanted);
         QHBoxLayout *buttons = PanelCard::pair(m_pause, m_copy);
         buttons->addWidget(m_window, 1);
-        column->addWidget(m_search);
-        column->addLayout(buttons);
+        m_search->setParent(this);
+        m_search->hide();
         column->addWidget(m_table, 1);
         column->addWidget(m_chosen);
+        column->addLayout(buttons);
         m_table->setColumnWidth(InspectionModel::TimeColumn, 62);
         m_table->setColumnWidth(InspectionModel::DirectionColumn, 18);
         m_table->setColumnWidth(InspectionModel::SubjectColumn, 96);
