@@ -5,6 +5,7 @@
 #include "deskstyle.h"
 #include "headunit.h"
 #include "keystrip.h"
+#include "keywatch.h"
 #include "lineinspector.h"
 #include "linepage.h"
 #include "linereporter.h"
@@ -56,12 +57,12 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     m_view = new UnitView(m_screen); // what the screen holds is shown with it
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
     const int type = OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt();
-    LineInspector *inspector = new LineInspector(type, this);
-    inspector->follow(unit);
-    m_sidePanel = new SidePanel(box, inspector);
+    new ClimateWatch(ClimatePatience, this);
+    m_inspector = new LineInspector(type, this);
+    m_inspector->follow(unit);
+    m_sidePanel = new SidePanel(box, m_inspector, new KeyWatch(m_inspector, this));
     m_car = carOf(type);
     m_lineStrip = new LineStrip(m_car);
-    new ClimateWatch(ClimatePatience, this);
     m_fold = new QToolButton;
     m_fold->setObjectName(QStringLiteral("foldBar"));
     m_fold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
@@ -99,6 +100,7 @@ DeskWindow::~DeskWindow()
 {
     // The shell works on the screen's pages, which go with the window's other children.
     delete m_shell;
+    delete m_inspector; // who began to listen last stops first
 }
 
 void DeskWindow::chooseLanguage(const QString &language)
@@ -115,6 +117,7 @@ void DeskWindow::addShortcuts()
     };
     add(Qt::CTRL | Qt::Key_Q, [this] { close(); });
     add(Qt::Key_F12, [this] { saveLine(); });
+    add(Qt::Key_F8, [this] { m_sidePanel->linePage()->openInspector(); });
     add(Qt::Key_F9, [this] { foldPanel(!isPanelFolded()); });
 }
 

@@ -141,10 +141,10 @@ void FilterBar::setTexts()
     m_keep->setToolTip(tr("Keeps this filter under a name"));
     m_forget->setText(tr("Forget"));
     m_forget->setToolTip(tr("Forgets the kept filter"));
-    m_unexplained->setText(tr("Hide explained"));
-    m_unexplained->setToolTip(tr("Shows what nobody understands yet"));
-    m_changing->setText(tr("Only changes"));
-    m_changing->setToolTip(tr("Shows packages that differ from the one of their command before"));
+    m_unexplained->setText(tr("Unexplained"));
+    m_unexplained->setToolTip(tr("Hides what is explained"));
+    m_changing->setText(tr("Changes"));
+    m_changing->setToolTip(tr("Hides packages that are as the one of their command before"));
 }
 
 void FilterBar::showEvent(QShowEvent *event)

@@ -52,6 +52,7 @@ void makeDense(QTableView *table)
     table->verticalHeader()->setMinimumSectionSize(RowHeight);
     table->verticalHeader()->setDefaultSectionSize(RowHeight);
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setMinimumSectionSize(16);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
@@ -308,7 +309,7 @@ void InspectorView::setTexts()
     m_copy->setText(tr("Copy"));
     if (m_window) {
         m_window->setText(tr("Window"));
-        m_window->setToolTip(tr("Shows calls and rates as well"));
+        m_window->setToolTip(tr("Calls and rates as well (F8)"));
     }
     if (m_rates) {
         m_callsTitle->setText(tr("Calls (a click goes to the package)"));

@@ -48,14 +48,14 @@ LinePage::LinePage(LineInspector *inspector, QWidget *parent)
     m_stateCard->rows()->addWidget(m_answer);
     m_answer->hide();
     m_logCard->rows()->addWidget(m_view, 1);
-    connect(m_view, &InspectorView::windowWanted, this, &LinePage::openWindow);
+    connect(m_view, &InspectorView::windowWanted, this, &LinePage::openInspector);
     connect(m_view, &InspectorView::packageChosen, this, &LinePage::packageChosen);
     connect(m_hello, &QPushButton::clicked, this, &LinePage::helloWanted);
     connect(m_save, &QPushButton::clicked, this, &LinePage::saveWanted);
     setTexts();
 }
 
-void LinePage::openWindow()
+void LinePage::openInspector()
 {
     if (!m_window) {
         m_window = new InspectorView(m_inspector, InspectorView::Wide, this);

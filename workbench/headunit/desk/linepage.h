@@ -23,6 +23,8 @@ public:
     void setStatus(const LineStatus &status);
     /// What became of the last wish, in one sentence.
     void setAnswer(const QString &sentence);
+    /// Shows the inspector in a window of its own.
+    void openInspector();
 
 Q_SIGNALS:
     void helloWanted();
@@ -34,7 +36,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void openWindow();
     void setTexts();
     void showStatus();
 
