@@ -14,6 +14,7 @@
 namespace {
 
 const int Gap = 8;
+const int LeastWidth = 116; // of a button beside the words
 const char *const KeptFilters = "lineFilters"; // a map of names to words
 
 QSettings settings()
@@ -57,6 +58,9 @@ FilterBar::FilterBar(bool isWide, QWidget *parent)
     m_keep->setVisible(isWide);
     m_forget->setVisible(isWide);
     row->addLayout(PanelCard::pair(m_unexplained, m_changing));
+    for (QPushButton *button : {m_keep, m_forget, m_unexplained, m_changing}) {
+        button->setMinimumWidth(isWide ? LeastWidth : 0);
+    }
     m_problem->hide();
     connect(m_words->lineEdit(), &QLineEdit::textChanged, this, &FilterBar::apply);
     connect(m_words, QOverload<int>::of(&QComboBox::activated), this, &FilterBar::choose);

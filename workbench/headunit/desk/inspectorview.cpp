@@ -30,6 +30,7 @@ namespace {
 const int Gap = 8;
 const int RowHeight = 22;
 const int LeastTableHeight = 220;
+const int ChosenHeight = 60;
 const int SideWidth = 380;
 const int CallsInSight = 6; // of the chosen package, in a narrow view
 
@@ -69,6 +70,8 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     , m_copy(chip())
 {
     makeTable();
+    m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
+    m_chosen->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_search->setClearButtonEnabled(true);
     m_pause->setCheckable(true);
     layOut(width == Wide);
@@ -142,7 +145,7 @@ void InspectorView::layOut(bool isWide)
     m_table->setColumnWidth(InspectionModel::TimeColumn, 78);
     m_table->setColumnWidth(InspectionModel::DirectionColumn, 20);
     m_table->setColumnWidth(InspectionModel::SubjectColumn, 150);
-    m_table->setColumnWidth(InspectionModel::BytesColumn, 330);
+    m_table->setColumnWidth(InspectionModel::BytesColumn, 270);
     m_table->setColumnWidth(InspectionModel::AnswerColumn, 64);
     m_table->horizontalHeader()->setStretchLastSection(true);
 }
@@ -200,8 +203,8 @@ void InspectorView::choosePackage(qint64 number)
 void InspectorView::showChosen()
 {
     const QModelIndex index = m_table->currentIndex();
-    m_chosen->setVisible(index.isValid());
     if (!index.isValid()) {
+        m_chosen->setText(tr("Choose a package to see all of it."));
         return;
     }
     const qint64 number = m_model->numberOf(index.row());
@@ -218,11 +221,11 @@ void InspectorView::showChosen()
     if (!m_calls) {
         lines << row.calls.mid(0, CallsInSight);
         if (row.calls.size() > CallsInSight) {
-            lines << tr("and %n more calls", nullptr, int(row.calls.size()) - CallsInSight);
+            lines << tr("Further calls: %1").arg(row.calls.size() - CallsInSight);
         }
     } else if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
         lines << (row.calls.isEmpty() ? row.isTaken ? tr("The unit made nothing of it") : tr("The unit did not take it")
-                                      : tr("%n calls", nullptr, int(row.calls.size())));
+                                      : tr("Calls: %1").arg(row.calls.size()));
     }
     m_chosen->setText(lines.join('\n'));
     showCallsOf(number);

@@ -299,6 +299,159 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation type="unfinished">时间，秒</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation type="unfinished">应答 %1</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished">暂停</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">复制</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>KeyCard</name>
     <message>
         <source>Last key</source>
@@ -318,14 +471,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>时间，秒</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>字节</translation>
+        <source>no press</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished">主机</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished">下</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -379,16 +608,8 @@
         <translation>线路日志</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>要查找的字节：2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>暂停</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
+        <source>Inspector</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
