@@ -2,6 +2,7 @@
 
 #include "numbertext.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -36,7 +37,7 @@ Term commandTerm(const QString &value, QString *error)
         } else if (command <= 0xFF) {
             commands << command;
         } else {
-            *error = QString("a command is at most 0xff, not %1").arg(part);
+            *error = QCoreApplication::translate("InspectionFilter", "a command is at most 0xff, not %1").arg(part);
         }
     }
     return [=](const InspectionRow &row) {
@@ -50,7 +51,7 @@ Term directionTerm(const QString &value, QString *error)
 {
     const bool isIn = value == "in" || value == "<";
     if (!isIn && value != "out" && value != ">") {
-        *error = QString("dir= takes in or out, not '%1'").arg(value);
+        *error = QCoreApplication::translate("InspectionFilter", "dir= takes in or out, not '%1'").arg(value);
     }
     return [=](const InspectionRow &row) {
         return (row.isPackage() || row.kind == InspectionRow::Noise) && row.isTowardsUnit == isIn;
@@ -76,7 +77,7 @@ Term hexTerm(const QString &value, QString *error)
 {
     const QByteArray bytes = QByteArray::fromHex(value.toLatin1());
     if (bytes.isEmpty() || bytes.toHex() != value.toLower().toLatin1()) {
-        *error = QString("hex= takes pairs of hexadecimal digits, not '%1'").arg(value);
+        *error = QCoreApplication::translate("InspectionFilter", "hex= takes pairs of hexadecimal digits, not '%1'").arg(value);
     }
     return [=](const InspectionRow &row) { return row.bytes.contains(bytes); };
 }
@@ -88,7 +89,9 @@ Term dataTerm(const QRegularExpressionMatch &match, QString *error)
     const int bit = match.captured(2).isEmpty() ? -1 : match.captured(2).toInt();
     quint32 value = 0;
     if (!NumberText::read(match.captured(3), &value) || value > (bit < 0 ? 0xFFU : 1U) || bit > 7) {
-        *error = QString("'%1' takes %2").arg(match.captured(0), bit < 0 ? "a byte" : "a bit 0 to 7 and 0 or 1");
+        *error = (bit < 0 ? QCoreApplication::translate("InspectionFilter", "'%1' takes a byte")
+                           : QCoreApplication::translate("InspectionFilter", "'%1' takes a bit 0 to 7 and 0 or 1"))
+                     .arg(match.captured(0));
     }
     return [=](const InspectionRow &row) {
         if (!row.isPackage() || at >= row.data.size()) {
@@ -109,7 +112,7 @@ Term acknowledgementTerm(QChar sign, const QString &value, QString *error)
     bool isNumber = false;
     const double ms = value.toDouble(&isNumber);
     if (!isNumber || sign == '=') {
-        *error = "ack takes < or > and milliseconds, or =none";
+        *error = QCoreApplication::translate("InspectionFilter", "ack takes < or > and milliseconds, or =none");
     }
     return [=](const InspectionRow &row) {
         const double answer = double(row.acknowledgement) / 1000;
@@ -122,7 +125,7 @@ Term timeTerm(QChar sign, const QString &value, QString *error)
     bool isNumber = false;
     const double seconds = value.toDouble(&isNumber);
     if (!isNumber || sign == '=') {
-        *error = "t takes < or > and seconds";
+        *error = QCoreApplication::translate("InspectionFilter", "t takes < or > and seconds");
     }
     return [=](const InspectionRow &row) {
         const double at = double(row.microseconds) / 1e6;
@@ -179,7 +182,7 @@ InspectionFilter::Term InspectionFilter::term(const QString &word, QString *erro
     const QChar sign = match.captured(2).isEmpty() ? QChar() : match.captured(2).at(0);
     const QString value = match.captured(3);
     if (match.hasMatch() && value.isEmpty()) {
-        *error = QString("'%1' lacks its value").arg(word);
+        *error = QCoreApplication::translate("InspectionFilter", "'%1' lacks its value").arg(word);
         return nullptr;
     }
     if (key == "ack") {
@@ -206,7 +209,7 @@ InspectionFilter::Term InspectionFilter::term(const QString &word, QString *erro
     }
     const Term plain = plainTerm(word.toLower());
     if (!plain) {
-        *error = QString("'%1' is no word of a filter; there are %2").arg(word, QLatin1String(Words));
+        *error = QCoreApplication::translate("InspectionFilter", "'%1' is no word of a filter; there are %2").arg(word, QLatin1String(Words));
     }
     return plain;
 }

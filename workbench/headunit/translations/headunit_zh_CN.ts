@@ -302,51 +302,90 @@
     <name>FilterBar</name>
     <message>
         <source>Keep the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>保留筛选</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名称：</translation>
     </message>
     <message>
         <source>Filter: cmd=0x28 changed call=setTemp*</source>
-        <translation type="unfinished"></translation>
+        <translation>筛选：cmd=0x28 changed call=setTemp*</translation>
     </message>
     <message>
         <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
-        <translation type="unfinished"></translation>
+        <translation>所有词都须符合：cmd=0x28、cmd=climate、dir=in、bad、changed、explained、call=set*、screen=Air*、hex=2e28、d2=0x1f、d0.6=1、ack&gt;20、ack=none、t&lt;9.5；! 表示取反</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>保留</translation>
     </message>
     <message>
         <source>Keeps this filter under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>以名称保留此筛选</translation>
     </message>
     <message>
         <source>Forget</source>
-        <translation type="unfinished"></translation>
+        <translation>删除</translation>
     </message>
     <message>
         <source>Forgets the kept filter</source>
-        <translation type="unfinished"></translation>
+        <translation>删除已保留的筛选</translation>
     </message>
     <message>
         <source>Unexplained</source>
-        <translation type="unfinished"></translation>
+        <translation>未解释</translation>
     </message>
     <message>
         <source>Hides what is explained</source>
-        <translation type="unfinished"></translation>
+        <translation>隐藏已解释的内容</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>变化</translation>
     </message>
     <message>
         <source>Hides packages that are as the one of their command before</source>
-        <translation type="unfinished"></translation>
+        <translation>隐藏与同命令上一包相同的包</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>命令最大为 0xff，而不是 %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= 只能是 in 或 out，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= 需要成对的十六进制数字，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>“%1”需要一个字节</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>“%1”需要 0 到 7 的位以及 0 或 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack 需要 &lt; 或 &gt; 加毫秒数，或 =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t 需要 &lt; 或 &gt; 加秒数</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>“%1”缺少值</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>“%1”不是筛选词；可用的有 %2</translation>
     </message>
 </context>
 <context>
@@ -357,26 +396,26 @@
     </message>
     <message>
         <source>Package</source>
-        <translation type="unfinished"></translation>
+        <translation>数据包</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>数据</translation>
     </message>
     <message>
         <source>Answer</source>
-        <translation type="unfinished"></translation>
+        <translation>应答</translation>
     </message>
     <message>
         <source>Caused</source>
-        <translation type="unfinished"></translation>
+        <translation>引起</translation>
     </message>
 </context>
 <context>
     <name>InspectorView</name>
     <message>
         <source>Choose a package to see all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>选择一个数据包以查看详情。</translation>
     </message>
     <message>
         <source>answered in %1</source>
@@ -384,27 +423,27 @@
     </message>
     <message>
         <source>Further calls: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>其余调用：%1</translation>
     </message>
     <message>
         <source>The unit made nothing of it</source>
-        <translation type="unfinished"></translation>
+        <translation>主机未作处理</translation>
     </message>
     <message>
         <source>The unit did not take it</source>
-        <translation type="unfinished"></translation>
+        <translation>主机未接收</translation>
     </message>
     <message>
         <source>Calls: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>调用：%1</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到</translation>
     </message>
     <message>
         <source>Search: 2e 21, setTemperature, climate</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索：2e 21、setTemperature、climate</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -416,39 +455,39 @@
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>窗口</translation>
     </message>
     <message>
         <source>Calls and rates as well (F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>还有调用和频率（F8）</translation>
     </message>
     <message>
         <source>Calls (a click goes to the package)</source>
-        <translation type="unfinished"></translation>
+        <translation>调用（点击转到数据包）</translation>
     </message>
     <message>
         <source>Commands (a double click filters)</source>
-        <translation type="unfinished"></translation>
+        <translation>命令（双击筛选）</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>per s</source>
-        <translation type="unfinished"></translation>
+        <translation>每秒</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>变化</translation>
     </message>
     <message>
         <source>Bad</source>
-        <translation type="unfinished"></translation>
+        <translation>错误</translation>
     </message>
 </context>
 <context>
@@ -474,31 +513,31 @@
     <name>KeyTesterCard</name>
     <message>
         <source>%1 %2 has been down for %3 s and does not come up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 已按下 %3 秒且未松开</translation>
     </message>
     <message>
         <source>no press</source>
-        <translation type="unfinished"></translation>
+        <translation>无按下</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 毫秒</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Steering wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>方向盘</translation>
     </message>
     <message>
         <source>Car&apos;s panel</source>
-        <translation type="unfinished"></translation>
+        <translation>汽车面板</translation>
     </message>
     <message>
         <source>Knob</source>
-        <translation type="unfinished"></translation>
+        <translation>旋钮</translation>
     </message>
     <message>
         <source>Unit</source>
@@ -506,47 +545,47 @@
     </message>
     <message>
         <source>Pressed at %1 s, held %2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒按下，保持 %2 次</translation>
     </message>
     <message>
         <source>Still down</source>
-        <translation type="unfinished"></translation>
+        <translation>仍按下</translation>
     </message>
     <message>
         <source>Came up at %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒松开</translation>
     </message>
     <message>
         <source>Becomes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>变为：%1</translation>
     </message>
     <message>
         <source>After redefinition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重定义后：%1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>相同</translation>
     </message>
     <message>
         <source>Key tester</source>
-        <translation type="unfinished"></translation>
+        <translation>按键测试</translation>
     </message>
     <message>
         <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>将汽车或主机的每个按键按一次：此处显示其结果。</translation>
     </message>
     <message>
         <source>Copy as a key table</source>
-        <translation type="unfinished"></translation>
+        <translation>复制为按键表</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>按键</translation>
     </message>
     <message>
         <source>Pressed, s</source>
-        <translation type="unfinished"></translation>
+        <translation>按下，秒</translation>
     </message>
     <message>
         <source>Down</source>
@@ -554,7 +593,7 @@
     </message>
     <message>
         <source>Becomes</source>
-        <translation type="unfinished"></translation>
+        <translation>变为</translation>
     </message>
 </context>
 <context>
@@ -609,7 +648,7 @@
     </message>
     <message>
         <source>Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>检查器</translation>
     </message>
 </context>
 <context>
