@@ -61,6 +61,13 @@ QColor colour(const InspectionRow &row)
     return row.isTowardsUnit ? DeskColours::Text : DeskColours::Accent;
 }
 
+int alignment(int column)
+{
+    const bool isNumber =
+        column == InspectionModel::TimeColumn || column == InspectionModel::AnswerColumn;
+    return int(Qt::AlignVCenter) | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
+}
+
 } // namespace
 
 InspectionModel::InspectionModel(LineInspector *inspector, QObject *parent)
@@ -190,8 +197,7 @@ QVariant InspectionModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cell(row, index.column());
     case Qt::TextAlignmentRole:
-        return int(Qt::AlignVCenter) |
-               (index.column() == TimeColumn || index.column() == AnswerColumn ? Qt::AlignRight : Qt::AlignLeft);
+        return alignment(index.column());
     case Qt::ForegroundRole:
         return index.column() == SubjectColumn || index.column() == BytesColumn ||
                        index.column() == DirectionColumn
@@ -204,6 +210,9 @@ QVariant InspectionModel::data(const QModelIndex &index, int role) const
 
 QVariant InspectionModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+        return alignment(section == AnswerColumn ? int(SubjectColumn) : section); // parted from the next title
+    }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
     }

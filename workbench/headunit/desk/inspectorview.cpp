@@ -32,6 +32,8 @@ const int RowHeight = 22;
 const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
 const int SideWidth = 380;
+const int RatesInterval = 900; // ms
+const int ChangesColumn = 3; // of the table of commands
 const int CallsInSight = 6; // of the chosen package, in a narrow view
 
 QPushButton *chip()
@@ -164,7 +166,7 @@ QWidget *InspectorView::makeCalls()
     m_rates->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rates->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int i = 1; i < m_rates->columnCount(); ++i) {
-        m_rates->setColumnWidth(i, 58);
+        m_rates->setColumnWidth(i, i == ChangesColumn ? 82 : 54);
     }
     m_callsTitle = PanelCard::plainLabel("cardTitle");
     m_ratesTitle = PanelCard::plainLabel("cardTitle");
@@ -251,6 +253,10 @@ void InspectorView::showCallsOf(qint64 number)
 
 void InspectorView::showRates()
 {
+    if (m_ratesAge.isValid() && m_ratesAge.elapsed() < RatesInterval) {
+        return;
+    }
+    m_ratesAge.start();
     const Inspection &inspection = m_model->inspection();
     m_rates->setRowCount(int(inspection.rates().size()));
     int row = 0;
@@ -319,6 +325,9 @@ void InspectorView::setTexts()
         m_ratesTitle->setText(tr("Commands (a double click filters)"));
         m_rates->setHorizontalHeaderLabels(
             {tr("Command"), tr("Count"), tr("per s"), tr("Changes"), tr("Bad")});
+        for (int i = 1; i < m_rates->columnCount(); ++i) {
+            m_rates->horizontalHeaderItem(i)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
     }
     showChosen();
 }

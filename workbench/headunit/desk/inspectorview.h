@@ -1,6 +1,7 @@
 #ifndef INSPECTORVIEW_H
 #define INSPECTORVIEW_H
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class CallsModel;
@@ -66,6 +67,7 @@ private:
     QPushButton *m_pause;
     QPushButton *m_copy;
     QPushButton *m_window = nullptr; // of a narrow one
+    QElapsedTimer m_ratesAge;
     bool m_followsNewest = true;
 };
 

@@ -22,7 +22,7 @@ namespace {
 enum Column { KeyColumn, PressedColumn, DownColumn, BecomesColumn, ColumnCount };
 
 const int RowHeight = 24;
-const int TableHeight = 6 * RowHeight + 2;
+const int RowsInSight = 6;
 const int MostRows = 100;
 
 QString seconds(qint64 microseconds)
@@ -69,7 +69,6 @@ KeyTesterCard::KeyTesterCard(KeyWatch *watch, QWidget *parent)
     m_table->setColumnWidth(PressedColumn, 68);
     m_table->setColumnWidth(DownColumn, 78);
     m_table->setColumnWidth(BecomesColumn, 100);
-    m_table->setFixedHeight(TableHeight);
     m_copy->setObjectName(QStringLiteral("chip"));
     for (QWidget *widget : {static_cast<QWidget *>(m_alarm), static_cast<QWidget *>(m_hint),
                             static_cast<QWidget *>(m_table), static_cast<QWidget *>(m_chosen),
@@ -103,6 +102,7 @@ void KeyTesterCard::look()
                              .arg(code(*stuck), CarWords::text(stuck->name))
                              .arg(stuck->downFor(m_watch->now()) / 1000));
     }
+    m_table->setFixedHeight(RowHeight * (2 + qMin(count, RowsInSight)));
     m_hint->setVisible(strokes.empty());
     m_table->setVisible(!strokes.empty());
     m_copy->setVisible(!strokes.empty());

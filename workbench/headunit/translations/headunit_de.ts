@@ -392,7 +392,7 @@
     <name>InspectionModel</name>
     <message>
         <source>Time, s</source>
-        <translation type="unfinished">Zeit, s</translation>
+        <translation>Zeit, s</translation>
     </message>
     <message>
         <source>Package</source>
@@ -419,7 +419,7 @@
     </message>
     <message>
         <source>answered in %1</source>
-        <translation type="unfinished">quittiert in %1</translation>
+        <translation>beantwortet in %1</translation>
     </message>
     <message>
         <source>Further calls: %1</source>
@@ -447,11 +447,11 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished">Anhalten</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Window</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished">Gerät</translation>
+        <translation>Gerät</translation>
     </message>
     <message>
         <source>Pressed at %1 s, held %2 times</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished">Runter</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Becomes</source>

@@ -392,7 +392,7 @@
     <name>InspectionModel</name>
     <message>
         <source>Time, s</source>
-        <translation type="unfinished">时间，秒</translation>
+        <translation>时间，秒</translation>
     </message>
     <message>
         <source>Package</source>
@@ -419,7 +419,7 @@
     </message>
     <message>
         <source>answered in %1</source>
-        <translation type="unfinished">应答 %1</translation>
+        <translation>%1 内应答</translation>
     </message>
     <message>
         <source>Further calls: %1</source>
@@ -447,11 +447,11 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished">暂停</translation>
+        <translation>暂停</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Window</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished">主机</translation>
+        <translation>主机</translation>
     </message>
     <message>
         <source>Pressed at %1 s, held %2 times</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished">下</translation>
+        <translation>时长</translation>
     </message>
     <message>
         <source>Becomes</source>
