@@ -26,7 +26,7 @@ fi
 
 if [ "${1:-}" = --car ]; then
     car=${2:-}
-    [ -f "$root/tests/cars/sheets/$car.cpp" ] || fail "there is no tests/cars/sheets/$car.cpp"
+    [ -f "$root/tests/cars/sheets/$car.txt" ] || fail "there is no tests/cars/sheets/$car.txt"
     shift 2
     set -- -C car -L "^car_$car\$" "$@"
 fi

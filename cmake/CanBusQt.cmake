@@ -7,6 +7,10 @@ set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF) # no header that moc reads is generated, s
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 
+# What an installed target names in their place.
+set(canbus_installed_qtcore Qt${CANBUS_QT_VERSION}::Core)
+set(canbus_installed_qtwidgets Qt${CANBUS_QT_VERSION}::Widgets)
+
 add_library(canbus_qtcore INTERFACE)
 add_library(CanBus::QtCore ALIAS canbus_qtcore)
 add_library(canbus_qtwidgets INTERFACE)
@@ -15,6 +19,7 @@ add_library(CanBus::QtWidgets ALIAS canbus_qtwidgets)
 if(CANBUS_QT_VERSION EQUAL 4)
   set(CMAKE_CXX_STANDARD 11)
   find_package(Qt4 4.8 REQUIRED QtCore QtGui)
+  set(canbus_installed_qtwidgets Qt4::QtGui)
   target_link_libraries(canbus_qtcore INTERFACE Qt4::QtCore)
   target_link_libraries(canbus_qtwidgets INTERFACE Qt4::QtGui)
 elseif(CANBUS_QT_VERSION EQUAL 5 OR CANBUS_QT_VERSION EQUAL 6)

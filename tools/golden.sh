@@ -5,13 +5,13 @@
 #     tools/golden.sh --update [NAME...]  writes the traces anew; look at the difference before you commit it
 #     tools/golden.sh --list              each drive, the box that plays it, the rows of its trace
 #
-# CANBUS_BUILD names the build folder (default: build) with headunit and decoderbox in it. docs/golden-drives.md says more.
+# CANBUS_BUILD names the build folder (default: build) with headunit and decoderbox in it, CANBUS_EMULATOR what runs them. docs/golden-drives.md says more.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${CANBUS_BUILD:-$root/build}
 drives=${GOLDEN_DRIVES:-$root/scenarios}
-headunit=$build/workbench/headunit/headunit
-decoderbox=$build/workbench/decoderbox/decoderbox
+headunit="${CANBUS_EMULATOR:-} $build/workbench/headunit/headunit"
+decoderbox="${CANBUS_EMULATOR:-} $build/workbench/decoderbox/decoderbox"
 work=$(mktemp -d)
 # A drive writes the version file, as a unit does.
 left=$([ -e /tmp/can_version ] || echo /tmp/can_version)
@@ -24,7 +24,7 @@ complain() {
 
 # type NAME: the CAN-bus type of the box that plays the drive; nothing when there is none.
 type_of() {
-    "$decoderbox" --list | awk -v car="${1%%-*}" '$3 == car && $4 == "box" { print $1 }'
+    $decoderbox --list | awk -v car="${1%%-*}" '$3 == car && $4 == "box" { print $1 }'
 }
 
 # drive NAME TYPE: leaves the trace in $work/trace. The run sees relative paths only, and a disk with firmware.
@@ -42,7 +42,7 @@ drive() {
         # shellcheck disable=SC2046
         set -- --script drive.script $(sed -n 's/^# options: //p' "$script")
     fi
-    (cd "$work/run" && TZ=UTC "$headunit" --headless --virtual-clock --can-bus-type "$type" --decoder-box drive.scn \
+    (cd "$work/run" && TZ=UTC $headunit --headless --virtual-clock --can-bus-type "$type" --decoder-box drive.scn \
         --settings-dir settings --trace ../trace "$@" 2>../errors)
 }
 

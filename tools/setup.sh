@@ -44,7 +44,7 @@ need_packages() {
 # configure CMAKE_OPTIONS...
 configure() {
     need_packages g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools \
-        libcli11-dev fontconfig fonts-dejavu-core fonts-wqy-microhei
+        libcli11-dev pkg-config fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
     log=$(mktemp)
     if ! cmake -S "$root" -B "$build" -G Ninja "$@" >"$log" 2>&1; then

@@ -1,6 +1,7 @@
 #include "boxprogram.h"
 
 #include "boxcatalog.h"
+#include "boxlibrary.h"
 #include "boxscript.h"
 #include "decoderbox.h"
 #include "quitonsignals.h"
@@ -55,7 +56,8 @@ bool BoxProgram::begin(const QStringList &arguments, int *exitCode)
         return false;
     }
     QString error;
-    m_box.reset(BoxCatalog::createBox(type, nullptr, &error));
+    m_box.reset(parser.isSet("box") ? BoxLibrary::createBox(parser.value("box"), nullptr, &error)
+                                    : BoxCatalog::createBox(type, nullptr, &error));
     if (m_box) {
         prepareLine(parser);
     }
@@ -91,6 +93,7 @@ bool BoxProgram::readOptions(QCommandLineParser *parser, const QStringList &argu
                         {"list", "Lists all types: number, class, car, and box or none."},
                         {"type", "CAN-bus type by number or class name.", "N|CLASS"},
                         {"link", "Keeps a link of this name to the pseudo-terminal.", "PATH"},
+                        {"box", "Somebody else's box in its place: its shared library.", "LIB"},
                         {"scenario", "Plays a drive when the unit opens the port.", "FILE"},
                         {"log", "Writes one line per package each way; - is stderr.", "FILE"},
                         {"script", "Takes orders, one a line; - is stdin.", "FILE"},

@@ -21,6 +21,7 @@ struct Texts
     std::string port;
     std::string plugin;
     std::string scenario;
+    std::string box;
     std::string settingsDir;
     std::string clock;
     std::string trace;
@@ -133,6 +134,7 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->type_name("[SCENARIO]")
         ->expected(0, 1)
         ->excludes(port);
+    addPath(app, "--box", &texts->box, "LIB", "somebody else's virtual box: its shared library")->excludes(port);
     app->add_option("--seed", options->seed, "where the chances of the virtual box's line faults begin")
         ->type_name("N");
     app->add_flag("--unpaced", options->isUnpaced, "bytes take no time on the virtual box's line");
@@ -212,6 +214,7 @@ void readSettings(const Texts &texts, HeadUnitOptions *options)
     options->plugin = QString::fromStdString(texts.plugin);
     options->settingsDir = QString::fromStdString(texts.settingsDir);
     options->scenario = QString::fromStdString(texts.scenario);
+    options->boxLibrary = QString::fromStdString(texts.box);
     options->trace = QString::fromStdString(texts.trace);
     options->script = QString::fromStdString(texts.script);
     options->junit = QString::fromStdString(texts.junit);
@@ -258,7 +261,7 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
         return false;
     }
     readSettings(texts, this);
-    hasDecoderBox = app.count("--decoder-box") != 0;
+    hasDecoderBox = app.count("--decoder-box") != 0 || app.count("--box") != 0;
     hasSeed = app.count("--seed") != 0;
     if (app.count("--port") != 0) {
         productValues.insert("CANPortName", QString::fromStdString(texts.port));
@@ -271,7 +274,7 @@ bool HeadUnitOptions::parse(const QStringList &arguments, QString *error, const 
     if (!size.isEmpty() && !readSize(size, &screenSize)) {
         *error = QString("ScreenSize takes WxH, 320x240 to 4096x4096, not '%1'").arg(size);
     } else if (hasDecoderBox && canBusType() == 0) {
-        *error = "--decoder-box needs --can-bus-type: which box is it?";
+        *error = "--decoder-box and --box need --can-bus-type: which box is it?";
     }
     return error->isEmpty() && (!command || command->apply(this, error));
 }

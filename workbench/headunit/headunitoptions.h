@@ -45,6 +45,7 @@ struct HeadUnitOptions
     QDateTime virtualStart; ///< time of day at which the virtual clock starts; invalid for the real clock
     bool hasDecoderBox = false;
     QString scenario;          ///< of the decoder box; empty for none
+    QString boxLibrary;        ///< of somebody else's box; empty for the catalog's
     QString trace;             ///< file, "-" for standard output, empty for none
     bool tracesValues = false; ///< what no display takes, too
     QString script;            ///< file, "-" for standard input, empty for none

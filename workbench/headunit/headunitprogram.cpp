@@ -1,6 +1,7 @@
 #include "headunitprogram.h"
 
 #include "boxcatalog.h"
+#include "boxlibrary.h"
 #include "boxpage.h"
 #include "callwatch.h"
 #include "decoderbox.h"
@@ -236,7 +237,9 @@ bool HeadUnitProgram::openBox(QString *error)
     if (!m_options.hasDecoderBox) {
         return true;
     }
-    m_box.reset(BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error));
+    m_box.reset(m_options.boxLibrary.isEmpty()
+                    ? BoxCatalog::createBox(int(m_options.canBusType()), nullptr, error)
+                    : BoxLibrary::createBox(m_options.boxLibrary, nullptr, error));
     if (!m_box) {
         return false;
     }
