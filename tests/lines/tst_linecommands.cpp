@@ -215,10 +215,13 @@ void TestLineCommands::tells_data()
     QTest::newRow("rows of a filter")
         << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "call=setTemp* changed", "--json"} << 0
         << "inspect-toyota-json.txt";
-    QTest::newRow("no row") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "cmd=0x99"} << 1 << "";
+    QTest::newRow("no row") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "cmd=0x99"} << 1
+                            << "";
     QTest::newRow("bad packages") << QStringList{"inspect", path("honda.orblog")} << 1 << "";
-    QTest::newRow("no filter") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "good"} << 2 << "";
-    QTest::newRow("no type") << QStringList{"inspect", LOGS "/toyota.orblog", "--can-bus-type", "x"} << 2 << "";
+    QTest::newRow("no filter") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "good"} << 2
+                               << "";
+    QTest::newRow("no type") << QStringList{"inspect", LOGS "/toyota.orblog", "--can-bus-type", "x"} << 2
+                             << "";
     QTest::newRow("keys") << QStringList{"keys", LOGS "/gm.orblog"} << 1 << "keys-gm.txt";
 }
 

@@ -134,7 +134,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->type_name("[SCENARIO]")
         ->expected(0, 1)
         ->excludes(port);
-    addPath(app, "--box", &texts->box, "LIB", "somebody else's virtual box: its shared library")->excludes(port);
+    addPath(app, "--box", &texts->box, "LIB", "somebody else's virtual box: its shared library")
+        ->excludes(port);
     app->add_option("--seed", options->seed, "where the chances of the virtual box's line faults begin")
         ->type_name("N");
     app->add_flag("--unpaced", options->isUnpaced, "bytes take no time on the virtual box's line");

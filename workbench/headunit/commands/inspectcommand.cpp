@@ -37,7 +37,8 @@ void show(const InspectionRow &row, const InspectionFilter &filter, bool asJson,
 void sumUp(const Inspection &inspection, bool asJson, const Counts &counts)
 {
     if (asJson) {
-        std::printf("],\n\"commands\": %s,\n\"all\": %lld, \"shown\": %lld, \"bad\": %lld, \"not-explained\": %lld}\n",
+        std::printf("],\n\"commands\": %s,\n\"all\": %lld, \"shown\": %lld, \"bad\": %lld, "
+                    "\"not-explained\": %lld}\n",
                     InspectionText::jsonRates(inspection).constData(), counts.all, counts.shown, counts.bad,
                     counts.strange);
     } else {
@@ -51,19 +52,21 @@ void sumUp(const Inspection &inspection, bool asJson, const Counts &counts)
 
 int inspectCommand(const QStringList &words)
 {
-    CommandLine line("inspect",
-                     "What passed over a line, package by package: the bits that changed since the last one of the "
-                     "command ([xx] a byte with one, {xx} with one that nobody understands), how soon it was "
-                     "acknowledged, and below it the calls that the plug-in makes of it. Ends with 1 when there are "
-                     "bad packages, or no row is left to show.");
+    CommandLine line(
+        "inspect",
+        "What passed over a line, package by package: the bits that changed since the last one of the "
+        "command ([xx] a byte with one, {xx} with one that nobody understands), how soon it was "
+        "acknowledged, and below it the calls that the plug-in makes of it. Ends with 1 when there are "
+        "bad packages, or no row is left to show.");
     LogCommand log(&line);
     std::string text;
     bool asJson = false;
     line.app
-        .add_option("--filter", text,
-                    "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
-                    "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
-                    "! in front of a word turns it round")
+        .add_option(
+            "--filter", text,
+            "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
+            "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
+            "! in front of a word turns it round")
         ->type_name("WORDS");
     line.app.add_flag("--json", asJson, "answers in JSON");
     int exitCode = 0;

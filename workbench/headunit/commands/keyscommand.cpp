@@ -35,9 +35,10 @@ int tell(KeyTester *tester, qint64 end)
         return Command::FoundSomething;
     }
     std::printf("\n%s", qPrintable(KeyText::tables(tester->strokes())));
-    const bool isFine = std::all_of(
-        tester->strokes().begin(), tester->strokes().end(),
-        [](const KeyStroke &stroke) { return !stroke.isStuck && stroke.pressed >= 0 && !stroke.becomes.isEmpty(); });
+    const bool isFine =
+        std::all_of(tester->strokes().begin(), tester->strokes().end(), [](const KeyStroke &stroke) {
+            return !stroke.isStuck && stroke.pressed >= 0 && !stroke.becomes.isEmpty();
+        });
     return isFine ? Command::Fine : Command::FoundSomething;
 }
 
@@ -45,16 +46,18 @@ int tell(KeyTester *tester, qint64 end)
 
 int keysCommand(const QStringList &words)
 {
-    CommandLine line("keys",
-                     "The keys that were pressed in a log: when, for how long, and what the unit makes of them; then "
-                     "tables of them, as an adapter's file has them, with NoKey where the unit makes nothing of a key. "
-                     "For a log of somebody who presses each key once. Ends with 1 when a key became nothing, was down "
-                     "for more than 10 s or came up without a press, or when there was no key.");
+    CommandLine line(
+        "keys",
+        "The keys that were pressed in a log: when, for how long, and what the unit makes of them; then "
+        "tables of them, as an adapter's file has them, with NoKey where the unit makes nothing of a key. "
+        "For a log of somebody who presses each key once. Ends with 1 when a key became nothing, was down "
+        "for more than 10 s or came up without a press, or when there was no key.");
     LogCommand log(&line);
     std::vector<std::string> commands;
     line.app
         .add_option("--key-command", commands,
-                    "this command reports keys as well: the code in data byte 0, its state in byte 1; may be repeated")
+                    "this command reports keys as well: the code in data byte 0, its state in byte 1; may be "
+                    "repeated")
         ->type_name("0xNN")
         ->take_all()
         ->allow_extra_args(false);

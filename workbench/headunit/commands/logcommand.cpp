@@ -14,11 +14,14 @@ const std::time_t StartOfClock = 1767268800; // 2026-01-01 12:00, as drives star
 
 LogCommand::LogCommand(CommandLine *line) : m_line(line)
 {
-    line->app.add_option("LOG", m_log, "a log of a serial line, in any format that convert reads")->required();
+    line->app.add_option("LOG", m_log, "a log of a serial line, in any format that convert reads")
+        ->required();
     line->app
-        .add_option("--can-bus-type", m_type, "the decoder, when the log does not say it: number or class name")
+        .add_option("--can-bus-type", m_type,
+                    "the decoder, when the log does not say it: number or class name")
         ->type_name("N|CLASS");
-    line->app.add_option("--pattern", m_pattern, "how to read a line of the log, as for replay")->type_name("REGEX");
+    line->app.add_option("--pattern", m_pattern, "how to read a line of the log, as for replay")
+        ->type_name("REGEX");
     line->app.add_option("--plugin", m_plugin, "another build of the plug-in")->type_name("PATH");
 }
 
@@ -51,8 +54,7 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     LogInspection inspection(qMax(type, 0), log);
     prepare(&inspection);
     QString error;
-    const QString plugin =
-        m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
+    const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
     if (!inspection.run(plugin, &error)) {
         return m_line->complain(error);
     }

@@ -16,7 +16,8 @@ BytesDelegate::BytesDelegate(const InspectionModel *model, QObject *parent)
     : QStyledItemDelegate(parent), m_model(model)
 {}
 
-void BytesDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+void BytesDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
 {
     const qint64 number = m_model->numberOf(index.row());
     const Inspection &inspection = m_model->inspection();
@@ -36,7 +37,8 @@ void BytesDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const int most = qMax(1, (option.rect.width() - 2 * Margin) / step);
     const bool isCut = row.data.size() > most;
     for (int i = 0; i < qMin(int(row.data.size()), isCut ? most - 1 : most); ++i) {
-        const QRect place(option.rect.left() + Margin + i * step, option.rect.top(), width, option.rect.height());
+        const QRect place(option.rect.left() + Margin + i * step, option.rect.top(), width,
+                          option.rect.height());
         const bool hasChanged = i < row.changed.size() && row.changed.at(i) != '\0';
         const bool isKnown = !row.isTowardsUnit || (i < row.known.size() && row.known.at(i) != '\0') ||
                              (row.known.isEmpty() && row.isExplained);

@@ -15,7 +15,8 @@ public:
     /// \a model is the one whose cells it paints.
     explicit BytesDelegate(const InspectionModel *model, QObject *parent = nullptr);
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
 
 private:
     const InspectionModel *m_model;

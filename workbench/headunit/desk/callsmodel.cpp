@@ -6,7 +6,8 @@
 
 #include <algorithm>
 
-CallsModel::CallsModel(const InspectionModel *rows, QObject *parent) : QAbstractListModel(parent), m_rows(rows)
+CallsModel::CallsModel(const InspectionModel *rows, QObject *parent)
+    : QAbstractListModel(parent), m_rows(rows)
 {
     connect(rows, &InspectionModel::looked, this, &CallsModel::take);
     connect(rows, &InspectionModel::modelReset, this, &CallsModel::startOver);
@@ -75,7 +76,9 @@ QVariant CallsModel::data(const QModelIndex &index, int role) const
         return row.calls.value(call.index);
     }
     // The time stands at the first call of a row only.
-    const QString time = call.index == 0 ? QString::number(double(row.microseconds) / 1e6, 'f', 3) : QString();
-    return role == Qt::DisplayRole ? QVariant(QStringLiteral("%1  %2").arg(time, 9).arg(row.calls.value(call.index)))
-                                   : QVariant();
+    const QString time =
+        call.index == 0 ? QString::number(double(row.microseconds) / 1e6, 'f', 3) : QString();
+    return role == Qt::DisplayRole
+               ? QVariant(QStringLiteral("%1  %2").arg(time, 9).arg(row.calls.value(call.index)))
+               : QVariant();
 }

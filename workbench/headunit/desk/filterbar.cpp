@@ -14,7 +14,7 @@
 namespace {
 
 const int Gap = 8;
-const int LeastWidth = 116; // of a button beside the words
+const int LeastWidth = 116;                    // of a button beside the words
 const char *const KeptFilters = "lineFilters"; // a map of names to words
 
 QSettings settings()
@@ -104,7 +104,8 @@ void FilterBar::keep()
     bool isMeant = false;
     const QString words = m_words->currentText().trimmed();
     const QString name =
-        QInputDialog::getText(this, tr("Keep the filter"), tr("Name:"), QLineEdit::Normal, words, &isMeant).trimmed();
+        QInputDialog::getText(this, tr("Keep the filter"), tr("Name:"), QLineEdit::Normal, words, &isMeant)
+            .trimmed();
     if (isMeant && !name.isEmpty()) {
         QSettings kept = settings();
         QVariantMap filters = kept.value(KeptFilters).toMap();
@@ -139,8 +140,9 @@ void FilterBar::listKept()
 void FilterBar::setTexts()
 {
     m_words->lineEdit()->setPlaceholderText(tr("Filter: cmd=0x28 changed call=setTemp*"));
-    m_words->setToolTip(tr("All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, "
-                           "screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20, ack=none, t<9.5; ! turns a word round"));
+    m_words->setToolTip(
+        tr("All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, "
+           "screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20, ack=none, t<9.5; ! turns a word round"));
     m_keep->setText(tr("Keep"));
     m_keep->setToolTip(tr("Keeps this filter under a name"));
     m_forget->setText(tr("Forget"));

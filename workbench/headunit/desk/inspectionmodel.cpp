@@ -63,8 +63,7 @@ QColor colour(const InspectionRow &row)
 
 int alignment(int column)
 {
-    const bool isNumber =
-        column == InspectionModel::TimeColumn || column == InspectionModel::AnswerColumn;
+    const bool isNumber = column == InspectionModel::TimeColumn || column == InspectionModel::AnswerColumn;
     return int(Qt::AlignVCenter) | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
 }
 
@@ -165,7 +164,8 @@ int InspectionModel::find(const QString &text, int from, bool isBackwards) const
     for (int i = 0; i < count; ++i) {
         const int row = (from + (isBackwards ? count - i : i)) % count;
         const InspectionRow &one = inspection().row(numberOf(row));
-        const bool hasBytes = !bytes.isEmpty() && QString::fromLatin1(one.bytes.toHex()).contains(bytes, Qt::CaseInsensitive);
+        const bool hasBytes =
+            !bytes.isEmpty() && QString::fromLatin1(one.bytes.toHex()).contains(bytes, Qt::CaseInsensitive);
         if (hasBytes || InspectionText::plain(one).contains(text, Qt::CaseInsensitive)) {
             return row;
         }
@@ -211,11 +211,13 @@ QVariant InspectionModel::data(const QModelIndex &index, int role) const
 QVariant InspectionModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
-        return alignment(section == AnswerColumn ? int(SubjectColumn) : section); // parted from the next title
+        return alignment(section == AnswerColumn ? int(SubjectColumn)
+                                                 : section); // parted from the next title
     }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
     }
-    const QString titles[] = {tr("Time, s"), QString(), tr("Package"), tr("Data"), tr("Answer"), tr("Caused")};
+    const QString titles[] = {tr("Time, s"), QString(),    tr("Package"),
+                              tr("Data"),    tr("Answer"), tr("Caused")};
     return titles[section];
 }

@@ -18,7 +18,15 @@ class InspectionModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { TimeColumn, DirectionColumn, SubjectColumn, BytesColumn, AnswerColumn, CausedColumn, ColumnCount };
+    enum Column {
+        TimeColumn,
+        DirectionColumn,
+        SubjectColumn,
+        BytesColumn,
+        AnswerColumn,
+        CausedColumn,
+        ColumnCount
+    };
 
     /// \a inspector is not owned and must outlive the model.
     explicit InspectionModel(LineInspector *inspector, QObject *parent = nullptr);

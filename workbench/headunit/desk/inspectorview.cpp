@@ -33,8 +33,8 @@ const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
 const int SideWidth = 380;
 const int RatesInterval = 900; // ms
-const int ChangesColumn = 3; // of the table of commands
-const int CallsInSight = 6; // of the chosen package, in a narrow view
+const int ChangesColumn = 3;   // of the table of commands
+const int CallsInSight = 6;    // of the chosen package, in a narrow view
 
 QPushButton *chip()
 {
@@ -83,10 +83,10 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     connect(m_filterBar, &FilterBar::filterChanged, m_model, &InspectionModel::setFilter);
     connect(m_pause, &QPushButton::toggled, m_model, &InspectionModel::setPaused);
     connect(m_copy, &QPushButton::clicked, this, &InspectorView::copyRows);
-    connect(m_search, &QLineEdit::returnPressed, this, [this] {
-        search(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
-    });
-    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &InspectorView::showChosen);
+    connect(m_search, &QLineEdit::returnPressed, this,
+            [this] { search(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &InspectorView::showChosen);
     setTexts();
 }
 
@@ -174,9 +174,8 @@ QWidget *InspectorView::makeCalls()
             [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
     connect(m_calls, &QListView::activated, this,
             [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
-    connect(m_rates, &QTableWidget::cellDoubleClicked, this, [this](int row) {
-        m_filterBar->setWords(m_rates->item(row, 0)->data(Qt::UserRole).toString());
-    });
+    connect(m_rates, &QTableWidget::cellDoubleClicked, this,
+            [this](int row) { m_filterBar->setWords(m_rates->item(row, 0)->data(Qt::UserRole).toString()); });
     connect(m_model, &InspectionModel::looked, this, &InspectorView::showRates);
     QWidget *side = new QWidget;
     side->setFixedWidth(SideWidth);
@@ -216,7 +215,8 @@ void InspectorView::showChosen()
     const InspectionRow &row = m_model->inspection().row(number);
     QStringList lines;
     const QString answer = InspectionText::acknowledgement(row);
-    lines << InspectionText::subject(row) + (answer.isEmpty() ? QString() : QStringLiteral(" · ") + tr("answered in %1").arg(answer));
+    lines << InspectionText::subject(row) +
+                 (answer.isEmpty() ? QString() : QStringLiteral(" · ") + tr("answered in %1").arg(answer));
     if (!row.bytes.isEmpty()) {
         lines << QString::fromLatin1(row.bytes.toHex(' '));
     }
@@ -226,8 +226,9 @@ void InspectorView::showChosen()
             lines << tr("Further calls: %1").arg(row.calls.size() - CallsInSight);
         }
     } else if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
-        lines << (row.calls.isEmpty() ? row.isTaken ? tr("The unit made nothing of it") : tr("The unit did not take it")
-                                      : tr("Calls: %1").arg(row.calls.size()));
+        lines << (row.calls.isEmpty()
+                      ? row.isTaken ? tr("The unit made nothing of it") : tr("The unit did not take it")
+                      : tr("Calls: %1").arg(row.calls.size()));
     }
     m_chosen->setText(lines.join('\n'));
     showCallsOf(number);
@@ -263,14 +264,16 @@ void InspectorView::showRates()
     for (auto i = inspection.rates().cbegin(); i != inspection.rates().cend(); ++i, ++row) {
         const QString command = QStringLiteral("0x%1").arg(i.key().command, 2, 16, QLatin1Char('0'));
         const bool isIn = i.key().isTowardsUnit;
-        const QString texts[] = {(isIn ? QStringLiteral("‹ ") : QStringLiteral("› ")) + command + ' ' + i->name,
-                                 QString::number(i->count), QString::number(i->perSecond(inspection.now()), 'f', 1),
-                                 QString::number(i->changes), QString::number(i->bad)};
+        const QString texts[] = {
+            (isIn ? QStringLiteral("‹ ") : QStringLiteral("› ")) + command + ' ' + i->name,
+            QString::number(i->count), QString::number(i->perSecond(inspection.now()), 'f', 1),
+            QString::number(i->changes), QString::number(i->bad)};
         for (int column = 0; column < m_rates->columnCount(); ++column) {
             if (!m_rates->item(row, column)) {
                 m_rates->setItem(row, column, new QTableWidgetItem);
-                m_rates->item(row, column)->setTextAlignment(
-                    int(Qt::AlignVCenter) | (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
+                m_rates->item(row, column)
+                    ->setTextAlignment(int(Qt::AlignVCenter) |
+                                       (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
             }
             m_rates->item(row, column)->setText(texts[column]);
         }
@@ -282,9 +285,10 @@ void InspectorView::search(bool isBackwards)
 {
     const int from = m_table->currentIndex().isValid() ? m_table->currentIndex().row() : -1;
     const int count = m_model->rowCount();
-    const int row = count == 0 ? -1
-                               : m_model->find(m_search->text(), isBackwards ? qMax(0, from) + count - 1 : from + 1,
-                                               isBackwards);
+    const int row = count == 0
+                        ? -1
+                        : m_model->find(m_search->text(), isBackwards ? qMax(0, from) + count - 1 : from + 1,
+                                        isBackwards);
     if (row >= 0) {
         choosePackage(m_model->numberOf(row));
     }

@@ -58,8 +58,8 @@ private:
     CallsModel *m_callsModel = nullptr;
     FilterBar *m_filterBar;
     QTableView *m_table;
-    QListView *m_calls = nullptr;     // of a wide one
-    QTableWidget *m_rates = nullptr;  // of a wide one
+    QListView *m_calls = nullptr;    // of a wide one
+    QTableWidget *m_rates = nullptr; // of a wide one
     QLabel *m_callsTitle = nullptr;
     QLabel *m_ratesTitle = nullptr;
     QLabel *m_chosen;

@@ -32,7 +32,8 @@ QString seconds(qint64 microseconds)
 
 QString code(const KeyStroke &stroke)
 {
-    return QStringLiteral("0x%1").arg(stroke.code, stroke.group == KeyStroke::Unit ? 0 : 2, 16, QLatin1Char('0'));
+    return QStringLiteral("0x%1").arg(stroke.code, stroke.group == KeyStroke::Unit ? 0 : 2, 16,
+                                      QLatin1Char('0'));
 }
 
 QString names(const QVector<quint32> &keys)
@@ -70,9 +71,9 @@ KeyTesterCard::KeyTesterCard(KeyWatch *watch, QWidget *parent)
     m_table->setColumnWidth(DownColumn, 78);
     m_table->setColumnWidth(BecomesColumn, 100);
     m_copy->setObjectName(QStringLiteral("chip"));
-    for (QWidget *widget : {static_cast<QWidget *>(m_alarm), static_cast<QWidget *>(m_hint),
-                            static_cast<QWidget *>(m_table), static_cast<QWidget *>(m_chosen),
-                            static_cast<QWidget *>(m_copy)}) {
+    for (QWidget *widget :
+         {static_cast<QWidget *>(m_alarm), static_cast<QWidget *>(m_hint), static_cast<QWidget *>(m_table),
+          static_cast<QWidget *>(m_chosen), static_cast<QWidget *>(m_copy)}) {
         rows()->addWidget(widget);
     }
     connect(watch, &KeyWatch::looked, this, &KeyTesterCard::look);
@@ -121,14 +122,14 @@ void KeyTesterCard::showStroke(int row, const KeyStroke &stroke)
     }
     const QVector<quint32> keys =
         stroke.group == KeyStroke::Unit && !stroke.redefined.isEmpty() ? stroke.redefined : stroke.becomes;
-    const QString texts[ColumnCount] = {
-        code(stroke) + ' ' + (stroke.name.isEmpty() ? QString() : CarWords::text(stroke.name)),
-        seconds(stroke.pressed < 0 ? stroke.released : stroke.pressed), down,
-        keys.isEmpty() ? tr("nothing") : names(keys)};
-    const QColor colour = stroke.isStuck && stroke.isDown()          ? DeskColours::Error
-                          : keys.isEmpty() || stroke.pressed < 0     ? DeskColours::Warning
-                          : stroke.isDown()                          ? DeskColours::Accent
-                                                                     : DeskColours::Text;
+    const QString texts[ColumnCount] = {code(stroke) + ' ' +
+                                            (stroke.name.isEmpty() ? QString() : CarWords::text(stroke.name)),
+                                        seconds(stroke.pressed < 0 ? stroke.released : stroke.pressed), down,
+                                        keys.isEmpty() ? tr("nothing") : names(keys)};
+    const QColor colour = stroke.isStuck && stroke.isDown()      ? DeskColours::Error
+                          : keys.isEmpty() || stroke.pressed < 0 ? DeskColours::Warning
+                          : stroke.isDown()                      ? DeskColours::Accent
+                                                                 : DeskColours::Text;
     for (int column = 0; column < ColumnCount; ++column) {
         if (!m_table->item(row, column)) {
             m_table->setItem(row, column, new QTableWidgetItem);
@@ -156,7 +157,8 @@ void KeyTesterCard::showChosen()
     lines << (stroke.isDown() ? tr("Still down") : tr("Came up at %1 s").arg(seconds(stroke.released)));
     lines << tr("Becomes: %1").arg(KeyText::becomes(stroke.becomes));
     if (stroke.group == KeyStroke::Unit) {
-        lines << tr("After redefinition: %1").arg(stroke.redefined.isEmpty() ? tr("the same") : KeyText::becomes(stroke.redefined));
+        lines << tr("After redefinition: %1")
+                     .arg(stroke.redefined.isEmpty() ? tr("the same") : KeyText::becomes(stroke.redefined));
     }
     m_chosen->setText(lines.join('\n'));
 }

@@ -5,11 +5,11 @@
 
 namespace {
 
-const qint64 Second = 1000000;           // microseconds
-const qint64 AnswerPatience = Second;    // what is acknowledged later was not heard
-const size_t MostWaiting = 64;           // packages that wait to be answered, or to be taken
-const int MostCalls = 1000;              // of one package
-const int DroppedAtOnce = MostWaiting;   // rows: to drop each one by itself costs whoever shows them
+const qint64 Second = 1000000;         // microseconds
+const qint64 AnswerPatience = Second;  // what is acknowledged later was not heard
+const size_t MostWaiting = 64;         // packages that wait to be answered, or to be taken
+const int MostCalls = 1000;            // of one package
+const int DroppedAtOnce = MostWaiting; // rows: to drop each one by itself costs whoever shows them
 const QString Opened = QStringLiteral(".setVisible true");
 
 } // namespace
@@ -289,7 +289,8 @@ void Inspection::unitKey(quint32 code, int phase)
     row.kind = InspectionRow::UnitKey;
     row.microseconds = m_now;
     row.isExplained = true;
-    row.name = QString("0x%1 %2").arg(code, 0, 16).arg(QStringList{"release", "press", "repeat"}.value(phase));
+    row.name =
+        QString("0x%1 %2").arg(code, 0, 16).arg(QStringList{"release", "press", "repeat"}.value(phase));
     append(row);
     m_current = endNumber() - 1;
 }

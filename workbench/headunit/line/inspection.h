@@ -116,12 +116,12 @@ private:
     QMap<Command, History> m_histories;
     QMap<Command, Rate> m_rates;
     QMap<Command, QString> m_names;
-    QByteArray m_badBytes[2];             // of the last bad package: they come again as noise
-    std::deque<qint64> m_unanswered[2];   // numbers of packages
-    std::deque<qint64> m_untaken;         // of packages that the plug-in has not taken yet
-    std::deque<InspectionRow> m_early;    // taken by the plug-in before this framer was sure of them
-    qint64 m_current = -1;                // number of the row that calls belong to; -1 for none
-    bool m_isCurrentEarly = false;        // it is the last of m_early
+    QByteArray m_badBytes[2];           // of the last bad package: they come again as noise
+    std::deque<qint64> m_unanswered[2]; // numbers of packages
+    std::deque<qint64> m_untaken;       // of packages that the plug-in has not taken yet
+    std::deque<InspectionRow> m_early;  // taken by the plug-in before this framer was sure of them
+    qint64 m_current = -1;              // number of the row that calls belong to; -1 for none
+    bool m_isCurrentEarly = false;      // it is the last of m_early
 };
 
 #endif // INSPECTION_H

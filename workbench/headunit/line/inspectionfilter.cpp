@@ -54,13 +54,14 @@ Term commandTerm(const QString &value, QString *error)
         } else if (command <= 0xFF) {
             commands << command;
         } else {
-            *error = QCoreApplication::translate("InspectionFilter", "a command is at most 0xff, not %1").arg(part);
+            *error = QCoreApplication::translate("InspectionFilter", "a command is at most 0xff, not %1")
+                         .arg(part);
         }
     }
     return [=](const InspectionRow &row) {
         const auto isNamed = [&](const QString &name) { return fits(name, row.name); };
-        return row.isPackage() && (commands.contains(quint32(row.command)) ||
-                                   std::any_of(names.begin(), names.end(), isNamed));
+        return row.isPackage() &&
+               (commands.contains(quint32(row.command)) || std::any_of(names.begin(), names.end(), isNamed));
     };
 }
 
@@ -92,7 +93,9 @@ Term hexTerm(const QString &value, QString *error)
 {
     const QByteArray bytes = QByteArray::fromHex(value.toLatin1());
     if (bytes.isEmpty() || bytes.toHex() != value.toLower().toLatin1()) {
-        *error = QCoreApplication::translate("InspectionFilter", "hex= takes pairs of hexadecimal digits, not '%1'").arg(value);
+        *error = QCoreApplication::translate("InspectionFilter",
+                                             "hex= takes pairs of hexadecimal digits, not '%1'")
+                     .arg(value);
     }
     return [=](const InspectionRow &row) { return row.bytes.contains(bytes); };
 }
@@ -104,9 +107,10 @@ Term dataTerm(const QRegularExpressionMatch &match, QString *error)
     const int bit = match.captured(2).isEmpty() ? -1 : match.captured(2).toInt();
     quint32 value = 0;
     if (!NumberText::read(match.captured(3), &value) || value > (bit < 0 ? 0xFFU : 1U) || bit > 7) {
-        *error = (bit < 0 ? QCoreApplication::translate("InspectionFilter", "'%1' takes a byte")
-                           : QCoreApplication::translate("InspectionFilter", "'%1' takes a bit 0 to 7 and 0 or 1"))
-                     .arg(match.captured(0));
+        *error =
+            (bit < 0 ? QCoreApplication::translate("InspectionFilter", "'%1' takes a byte")
+                     : QCoreApplication::translate("InspectionFilter", "'%1' takes a bit 0 to 7 and 0 or 1"))
+                .arg(match.captured(0));
     }
     return [=](const InspectionRow &row) {
         if (!row.isPackage() || at >= row.data.size()) {
@@ -127,7 +131,8 @@ Term acknowledgementTerm(QChar sign, const QString &value, QString *error)
     bool isNumber = false;
     const double ms = value.toDouble(&isNumber);
     if (!isNumber || sign == '=') {
-        *error = QCoreApplication::translate("InspectionFilter", "ack takes < or > and milliseconds, or =none");
+        *error =
+            QCoreApplication::translate("InspectionFilter", "ack takes < or > and milliseconds, or =none");
     }
     return [=](const InspectionRow &row) {
         const double answer = double(row.acknowledgement) / 1000;
@@ -227,7 +232,8 @@ InspectionFilter::Term InspectionFilter::term(const QString &word, QString *erro
     }
     const Term plain = plainTerm(word.toLower());
     if (!plain) {
-        *error = QCoreApplication::translate("InspectionFilter", "'%1' is no word of a filter; there are %2").arg(word, QLatin1String(Words));
+        *error = QCoreApplication::translate("InspectionFilter", "'%1' is no word of a filter; there are %2")
+                     .arg(word, QLatin1String(Words));
     }
     return plain;
 }

@@ -25,19 +25,21 @@ struct InspectionRow
     bool isTaken = false;     ///< the plug-in took it from its framer
     bool isExplained = false; ///< nothing about it is left to be found out
     quint8 command = 0;
-    QString name;       ///< of the command, in the virtual box's words; empty when nobody knows it. A State's words
+    QString name; ///< of the command, in the virtual box's words; empty when nobody knows it. A State's words
     QByteArray bytes;   ///< the whole frame, or the noise
     QByteArray data;    ///< of a package
     QByteArray changed; ///< for each data byte the bits that differ from the package of the command before
-    QByteArray known;   ///< for each data byte the bits that are understood; empty when the command is not described
-    QStringList calls;  ///< that it caused: "AirConditionDlg.setAirVolume 3", "car.outside.temperature 23"
+    QByteArray
+        known; ///< for each data byte the bits that are understood; empty when the command is not described
+    QStringList calls; ///< that it caused: "AirConditionDlg.setAirVolume 3", "car.outside.temperature 23"
 
     bool isPackage() const { return kind == Package || kind == BadPackage; }
     bool hasChanged() const { return !changed.isEmpty() && changed.count('\0') != changed.size(); }
     /// The bits of data byte \a i that differ and that nobody understands.
     quint8 strangeBits(int i) const
     {
-        const bool isCaused = known.isEmpty() && isExplained; // not described, but the plug-in makes something of it
+        const bool isCaused =
+            known.isEmpty() && isExplained; // not described, but the plug-in makes something of it
         const int knownBits = i < known.size() ? known.at(i) : 0;
         return i < changed.size() && !isCaused ? quint8(changed.at(i) & ~knownBits) : quint8(0);
     }

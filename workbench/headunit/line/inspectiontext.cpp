@@ -83,9 +83,8 @@ QString InspectionText::bytes(const InspectionRow &row)
 
 QString InspectionText::acknowledgement(const InspectionRow &row)
 {
-    return row.acknowledgement < 0
-               ? QString()
-               : QString("%1 ms").arg(double(row.acknowledgement) / 1000, 0, 'f', 1);
+    return row.acknowledgement < 0 ? QString()
+                                   : QString("%1 ms").arg(double(row.acknowledgement) / 1000, 0, 'f', 1);
 }
 
 QString InspectionText::plain(const InspectionRow &row)

@@ -123,8 +123,7 @@ void KeyTester::takeUnitKey(const InspectionRow &row)
 // A key set announces the values of its keys on the unit's analogue line.
 void KeyTester::learn(const QString &registration)
 {
-    static const QRegularExpression record(
-        "\"keyCode\":\\s*(\\d+),\\s*\"ctrlValue\":\\s*(\\d+)");
+    static const QRegularExpression record("\"keyCode\":\\s*(\\d+),\\s*\"ctrlValue\":\\s*(\\d+)");
     if (registration.contains(" param=20497 param2=21 ")) {
         for (auto match = record.globalMatch(registration); match.hasNext();) {
             const QRegularExpressionMatch one = match.next();
@@ -136,7 +135,8 @@ void KeyTester::learn(const QString &registration)
 void KeyTester::look(qint64 now)
 {
     for (KeyStroke &stroke : m_strokes) {
-        if (stroke.isDown() && !stroke.isStuck && stroke.pressed >= 0 && now - stroke.pressed > LongestPress) {
+        if (stroke.isDown() && !stroke.isStuck && stroke.pressed >= 0 &&
+            now - stroke.pressed > LongestPress) {
             stroke.isStuck = true;
             Q_EMIT stuck(stroke);
         }

@@ -22,8 +22,9 @@ QString tableName(KeyStroke::Group group)
 QString tableRow(const KeyStroke &stroke)
 {
     const bool isKnown = !stroke.becomes.isEmpty();
-    const QString row = QString("    {%1, CarKeys::%2},")
-                            .arg(hex(stroke.code, 2), isKnown ? KeyText::key(stroke.becomes.first()) : "NoKey");
+    const QString row =
+        QString("    {%1, CarKeys::%2},")
+            .arg(hex(stroke.code, 2), isKnown ? KeyText::key(stroke.becomes.first()) : "NoKey");
     const QString remark = !isKnown ? "the adapter makes nothing of it" : stroke.name;
     return remark.isEmpty() ? row + '\n' : QString("%1 // %2\n").arg(row, -44).arg(remark);
 }
@@ -85,7 +86,8 @@ QString KeyText::plain(const KeyStroke &stroke, qint64 now)
     } else if (stroke.pressed < 0) {
         text += "came up without a press";
     } else {
-        text += QString(stroke.isDown() ? "still down after %1 ms" : "down for %1 ms").arg(stroke.downFor(now));
+        text +=
+            QString(stroke.isDown() ? "still down after %1 ms" : "down for %1 ms").arg(stroke.downFor(now));
         text += stroke.holds == 0 ? QString() : QString(", held %1 times").arg(stroke.holds);
     }
     text += ": " + becomes(stroke.becomes);

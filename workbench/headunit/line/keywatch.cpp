@@ -8,8 +8,8 @@
 
 namespace {
 
-const int LookInterval = 250;       // ms
-const qint64 TakingTime = 100000;   // microseconds in which the plug-in takes a package
+const int LookInterval = 250;     // ms
+const qint64 TakingTime = 100000; // microseconds in which the plug-in takes a package
 
 KeyReader readerOf(LineInspector *inspector)
 {

@@ -18,7 +18,11 @@ const int LastPackagesMs = 500; // what the end of the log has brought about is 
 } // namespace
 
 LogInspection::LogInspection(int type, const ReplayOptions &log, QObject *parent)
-    : QObject(parent), m_options(log), m_type(type), m_inspector(type), m_replayer(log, BoxCatalog::frameOf(type))
+    : QObject(parent)
+    , m_options(log)
+    , m_type(type)
+    , m_inspector(type)
+    , m_replayer(log, BoxCatalog::frameOf(type))
 {
     m_screen.setUpdatesEnabled(false);
     m_screen.show();
