@@ -52,7 +52,7 @@ void KeyWatch::look()
     m_inspector->catchUp();
     const Inspection &inspection = *m_inspector->inspection();
     m_next = qMax(m_next, inspection.firstNumber());
-    for (; m_next < inspection.endNumber(); ++m_next) {
+    for (; m_inspector->isSettled() && m_next < inspection.endNumber(); ++m_next) {
         const InspectionRow &row = inspection.row(m_next);
         const bool isDue = row.kind != InspectionRow::Package || !row.isTowardsUnit || row.isTaken ||
                            now() - row.microseconds > TakingTime;
@@ -72,7 +72,8 @@ void KeyWatch::trace(OrbTraceListener *trace)
         trace->called("keys", "pressed", head(stroke) + keys);
     });
     connect(&m_tester, &KeyTester::released, this, [trace](const KeyStroke &stroke) {
-        const QVariantList times{stroke.pressed < 0 ? -1 : stroke.downFor(0), stroke.holds};
+        const QVariantList times{stroke.pressed < 0 ? -1 : stroke.downFor(0), stroke.holds,
+                                 list(stroke.becomes), list(stroke.redefined)};
         trace->called("keys", "released", head(stroke) + times);
     });
     connect(&m_tester, &KeyTester::turned, this, [trace](const KeyStroke &stroke) {

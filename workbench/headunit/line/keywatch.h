@@ -25,7 +25,7 @@ public:
     ///
     ///     "pressed" [GROUP, COMMAND, CODE, NAME, [KEY...], [KEY...]]   the keys that it becomes, and those that a key
     ///                                                                  set makes of a unit's key; COMMAND -1 for such
-    ///     "released" [GROUP, COMMAND, CODE, NAME, DOWN, HOLDS]         DOWN in ms, -1 without a press
+    ///     "released" [GROUP, COMMAND, CODE, NAME, DOWN, HOLDS, [KEY...], [KEY...]]   DOWN in ms, -1 without a press
     ///     "turned" [GROUP, COMMAND, CODE, NAME, CLICKS, [KEY...]]
     ///     "stuck" [GROUP, COMMAND, CODE, NAME, SENTENCE]               once, after 10 s
     void trace(OrbTraceListener *trace);

@@ -30,6 +30,8 @@ public:
     void feed(const LineRecord &record);
 
     Inspection *inspection() { return &m_inspection; }
+    /// Whether no package or key is under way, so that each row has all that it causes.
+    bool isSettled() const { return m_turns == 0; }
     /// Lets the time pass up to now: what waited for the rest of a package does so no longer.
     void catchUp();
 
