@@ -30,6 +30,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTableView>
@@ -244,23 +245,34 @@ void TestDeskWindow::lineIsAlwaysInSight()
     QTRY_VERIFY(m_desk->lineStrip()->text().endsWith("box stopped"));
 }
 
+// What is hidden is not looked for: only who looks at the table costs the unit anything.
 void TestDeskWindow::lineLogIsATable()
 {
     hear("");
-    hear("2e2401805a2e1d0400000000de");
+    hear("2e2401805a2e1d0400000000de"); // doors, radar
     LinePage *page = m_desk->sidePanel()->linePage();
     QTableView *table = page->findChild<QTableView *>();
-    QTRY_COMPARE(table->model()->rowCount(), 2);
-    buttonOf<QPushButton>(page, "Pause")->click();
-    hear("2e2401805a");
-    QTest::qWait(400);
-    QCOMPARE(table->model()->rowCount(), 2);
-    buttonOf<QPushButton>(page, "Pause")->click();
+    m_desk->sidePanel()->showPage(3);
     QTRY_COMPARE(table->model()->rowCount(), 3);
-    page->findChild<QLineEdit *>()->setText("1D 04");
-    QCOMPARE(table->model()->rowCount(), 1);
+    buttonOf<QPushButton>(page, "Pause")->click();
+    hear("2e240100da");
+    QTest::qWait(600);
+    QCOMPARE(table->model()->rowCount(), 3);
+    buttonOf<QPushButton>(page, "Pause")->click();
+    QTRY_COMPARE(table->model()->rowCount(), 4);
+    QComboBox *filter = page->findChild<QComboBox *>();
+    filter->setEditText("cmd=0x24");
+    QCOMPARE(table->model()->rowCount(), 2);
+    filter->setEditText("cmd=0x24 and"); // told, and the last one that could be read stays
+    QCOMPARE(table->model()->rowCount(), 2);
+    filter->setEditText("");
+    buttonOf<QPushButton>(page, "Changes")->click();
+    QCOMPARE(table->model()->rowCount(), 3);
+    QSignalSpy chosen(page, &LinePage::packageChosen);
+    table->selectRow(2);
+    QCOMPARE(chosen.value(0), QVariantList({3, QByteArray::fromHex("2e240100da")}));
     buttonOf<QPushButton>(page, "Copy")->click();
-    QVERIFY(QGuiApplication::clipboard()->text().endsWith(" < 2e2401805a2e1d0400000000de\n"));
+    QVERIFY(QGuiApplication::clipboard()->text().contains("< 0x24 doors           [00]\n"));
     QTemporaryDir folder;
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());

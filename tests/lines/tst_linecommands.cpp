@@ -2,6 +2,7 @@
 
 #include "boxcatalog.h"
 #include "decoderbox.h"
+#include "golden.h"
 #include "headunitrun.h"
 #include "linelogformats.h"
 #include "ptybox.h"
@@ -42,7 +43,8 @@ public:
         return isOver && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
     }
     QByteArray complaints() { return m_process.readAllStandardError(); }
-    QJsonDocument json() { return QJsonDocument::fromJson(m_process.readAllStandardOutput()); }
+    QJsonDocument json() { return QJsonDocument::fromJson(output()); }
+    QByteArray output() { return m_process.readAllStandardOutput(); }
 
 private:
     QProcess m_process;
@@ -92,6 +94,8 @@ private Q_SLOTS:
     void gaps();
     void replays_data();
     void replays();
+    void tells_data();
+    void tells();
     void identifies_data();
     void identifies();
     void checksABox();
@@ -210,6 +214,39 @@ void TestLineCommands::replays()
         }
     }
     QCOMPARE(found.join(' '), counts);
+}
+
+void TestLineCommands::tells_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("text"); // file of all that is told; empty for nothing
+    QTest::newRow("rows") << QStringList{"inspect", LOGS "/toyota.orblog"} << 0 << "inspect-toyota.txt";
+    QTest::newRow("rows of a filter")
+        << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "call=setTemp* changed", "--json"} << 0
+        << "inspect-toyota-json.txt";
+    QTest::newRow("no row") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "cmd=0x99"} << 1
+                            << "";
+    QTest::newRow("bad packages") << QStringList{"inspect", path("honda.orblog")} << 1 << "";
+    QTest::newRow("no filter") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "good"} << 2
+                               << "";
+    QTest::newRow("no type") << QStringList{"inspect", LOGS "/toyota.orblog", "--can-bus-type", "x"} << 2
+                             << "";
+    QTest::newRow("keys") << QStringList{"keys", LOGS "/gm.orblog"} << 1 << "keys-gm.txt";
+}
+
+void TestLineCommands::tells()
+{
+    QFETCH(QStringList, words);
+    QFETCH(int, exitCode);
+    QFETCH(QString, text);
+    Run run(words);
+    QCOMPARE(run.exitCode(), exitCode);
+    if (!text.isEmpty()) {
+        const QStringList lines = QString::fromUtf8(run.output()).trimmed().split('\n');
+        const QString difference = TestSupport::goldenDifference(QString(GOLDEN_FOLDER "/") + text, lines);
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
 }
 
 void TestLineCommands::identifies_data()

@@ -181,6 +181,28 @@ QString PackageValues::commandName(quint8 command, bool isTowardsUnit)
     return names.join(", ");
 }
 
+QByteArray PackageValues::toldBits(const BoxPackage &package)
+{
+    const auto isOfCommand = [&package](const BoxKey &key) { return key.command == package.command; };
+    const auto &keys = m_speaker->keys();
+    if (std::any_of(keys.begin(), keys.end(), isOfCommand)) {
+        Meaning meaning;
+        return QByteArray(package.n(), readKey(package, &meaning) ? '\xFF' : '\0');
+    }
+    if (!m_bits.contains(package.command)) {
+        QByteArray bits;
+        for (const ReportFit &fit : m_fits) {
+            const QByteArray more = fit.report().command == package.command ? fit.bits() : QByteArray();
+            bits += QByteArray(qMax(0, int(more.size() - bits.size())), '\0');
+            for (int i = 0; i < more.size(); ++i) {
+                bits[i] = char(bits.at(i) | more.at(i));
+            }
+        }
+        m_bits.insert(package.command, bits);
+    }
+    return m_bits.value(package.command);
+}
+
 QVector<quint8> PackageValues::commands(bool isTowardsUnit) const
 {
     QVector<quint8> commands = isTowardsUnit ? QVector<quint8>() : m_speaker->commands().toVector();

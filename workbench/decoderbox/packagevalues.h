@@ -6,6 +6,7 @@
 #include "reportfit.h"
 
 #include <QCache>
+#include <QHash>
 
 #include <memory>
 
@@ -21,10 +22,14 @@ public:
 
     /// The name of a command without its values: "climate", "key", "setting"; empty when nobody knows it.
     QString commandName(quint8 command, bool isTowardsUnit);
+    /// For each data byte of \a package, which comes from the box, the bits of which the box's description says what
+    /// they mean; bytes past the end mean nothing. Empty for a command that the box does not report.
+    QByteArray toldBits(const BoxPackage &package);
     /// Every command that has a name.
     QVector<quint8> commands(bool isTowardsUnit) const;
 
     const FrameFormat &format() const { return m_speaker->format(); }
+    const BoxSpeaker &speaker() const { return *m_speaker; }
 
 private:
     explicit PackageValues(BoxSpeaker *(*makeSpeaker)(SimulatedCar *));
@@ -38,6 +43,7 @@ private:
     std::unique_ptr<BoxSpeaker> m_speaker;
     QVector<ReportFit> m_fits;           // of m_speaker->reports()
     QCache<QByteArray, Meaning> m_known; // by command and data
+    QHash<quint8, QByteArray> m_bits;    // toldBits() of reports, by command
     QVector<Value> m_told;               // by the unit, while its package is taken in
     bool m_isListening = false;
 };

@@ -10,6 +10,7 @@ namespace {
 const int MostTried = 1200;  // values of a property that are tried one by one; of more, numbers are read
 const int MostRounds = 4;    // through all properties: one may decide what another's values look like
 const int MostSearches = 32; // that are begun anew
+const int LongestText = 24;
 
 QVector<QVariant> valuesOf(const CarProperty &property)
 {
@@ -82,6 +83,38 @@ ReportFit::ReportFit(const BoxReport &report) : m_report(report)
             m_rows.append({&property, valuesOf(property)});
         }
     }
+}
+
+QByteArray ReportFit::bits() const
+{
+    const QByteArray usual = m_report.data(SimulatedCar());
+    QByteArray bits(usual.size(), '\0');
+    const auto add = [&](const QString &name, const QVariant &value) {
+        SimulatedCar car;
+        car.setValue(name, value);
+        const QByteArray other = m_report.data(car);
+        bits += QByteArray(qMax(0, int(other.size() - bits.size())), '\0');
+        for (int i = 0; i < other.size(); ++i) {
+            const int before = i < usual.size() ? usual.at(i) : 0;
+            bits[i] = char(bits.at(i) | (before ^ other.at(i)));
+        }
+    };
+    for (const Row &row : m_rows) {
+        const CarProperty &property = *row.property;
+        const double step = property.kind == CarProperty::Integer ? 1 : property.step;
+        for (const QVariant &value : row.values) {
+            add(property.name, value);
+        }
+        for (double steps = 1; step > 0 && property.minimum + steps * step <= property.maximum; steps *= 2) {
+            add(property.name, property.minimum + steps * step);
+            add(property.name, property.maximum - steps * step);
+        }
+        if (property.kind == CarProperty::Text) {
+            add(property.name, QString(LongestText, 'U')); // between them all bits of a character
+            add(property.name, QString(LongestText, '*'));
+        }
+    }
+    return bits;
 }
 
 int ReportFit::fit(const QByteArray &data, SimulatedCar *car) const

@@ -18,6 +18,9 @@ public:
     /// where all of those are as in \a data, and that could not be otherwise.
     QVector<const CarProperty *> told(const QByteArray &data, SimulatedCar *car) const;
 
+    /// The bits of the report that some property moves by itself, one byte for each of the longest report.
+    QByteArray bits() const;
+
     const BoxReport &report() const { return m_report; }
 
 private:

@@ -21,6 +21,28 @@ QString CallWatch::Call::text() const
     return (QStringList(object + '.' + name) + args).join(' ');
 }
 
+CallWatch::Call CallWatch::Call::of(const QString &object, const QString &call, const QVariantList &args)
+{
+    Call result = {object, call, {}};
+    for (const QVariant &arg : args) {
+        result.args << textOf(arg);
+    }
+    return result;
+}
+
+CallWatch::Call CallWatch::Call::of(const QString &call, const OrbEvent &event)
+{
+    Call result = {"OrbApplication", call, {}};
+    const QJsonObject members = QJsonDocument::fromJson(JsonText::fromEvent(event)).object();
+    for (const char *key : {"source", "id", "type", "param", "param2", "bytes", "string", "variant"}) {
+        if (members.contains(QLatin1String(key))) {
+            result.args << QString("%1=%2").arg(QLatin1String(key),
+                                                textOf(members.value(QLatin1String(key)).toVariant()));
+        }
+    }
+    return result;
+}
+
 CallWatch::CallWatch(OrbTraceListener *next, QObject *parent) : QObject(parent), m_next(next)
 {
     OrbTrace::setListener(this);
@@ -39,11 +61,7 @@ void CallWatch::called(const QString &object, const QString &call, const QVarian
     if (m_next) {
         m_next->called(object, call, args);
     }
-    Call kept = {object, call, {}};
-    for (const QVariant &arg : args) {
-        kept.args << textOf(arg);
-    }
-    keep(kept);
+    keep(Call::of(object, call, args));
 }
 
 void CallWatch::eventCalled(const QString &call, const OrbEvent &event)
@@ -51,15 +69,7 @@ void CallWatch::eventCalled(const QString &call, const OrbEvent &event)
     if (m_next) {
         m_next->eventCalled(call, event);
     }
-    Call kept = {"OrbApplication", call, {}};
-    const QJsonObject members = QJsonDocument::fromJson(JsonText::fromEvent(event)).object();
-    for (const char *key : {"source", "id", "type", "param", "param2", "bytes", "string", "variant"}) {
-        if (members.contains(QLatin1String(key))) {
-            kept.args << QString("%1=%2").arg(QLatin1String(key),
-                                              textOf(members.value(QLatin1String(key)).toVariant()));
-        }
-    }
-    keep(kept);
+    keep(Call::of(call, event));
 }
 
 void CallWatch::valueTold(const QString &name, const QVariant &value)

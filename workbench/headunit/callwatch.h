@@ -25,6 +25,10 @@ public:
         QStringList args;
 
         QString text() const;
+
+        /// A call, or an event, as the trace tells it.
+        static Call of(const QString &object, const QString &call, const QVariantList &args);
+        static Call of(const QString &call, const OrbEvent &event);
     };
 
     /// Begins to listen. \a next, null for nobody, must outlive the watch.

@@ -63,6 +63,7 @@ void HeadUnit::changeState(uint state, uint mask)
 
 bool HeadUnit::key(uint code, KeyPhase phase)
 {
+    Q_EMIT keyUsed(code, phase);
     if (OrbHost::instance()->filterKey(code, phase != KeyReleased, phase == KeyRepeated)) {
         return true;
     }

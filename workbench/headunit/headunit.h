@@ -63,6 +63,8 @@ public:
 
 Q_SIGNALS:
     void modeChanged(uint mode);
+    /// key() was called; told before anything comes of it. \a phase is a KeyPhase.
+    void keyUsed(uint code, int phase);
 
 private:
     void postNumbers(int type, uint param, uint param2);

@@ -134,7 +134,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
         ->type_name("[SCENARIO]")
         ->expected(0, 1)
         ->excludes(port);
-    addPath(app, "--box", &texts->box, "LIB", "somebody else's virtual box: its shared library")->excludes(port);
+    addPath(app, "--box", &texts->box, "LIB", "somebody else's virtual box: its shared library")
+        ->excludes(port);
     app->add_option("--seed", options->seed, "where the chances of the virtual box's line faults begin")
         ->type_name("N");
     app->add_flag("--unpaced", options->isUnpaced, "bytes take no time on the virtual box's line");
@@ -161,6 +162,8 @@ void addOptions(CLI::App *app, HeadUnitOptions *options, Texts *texts)
                   "the trace has the values besides that the car tells and no display takes");
     app->add_flag("--trace-line", options->tracesLine,
                   "the line's health in the trace, as rows of the object \"line\"");
+    app->add_flag("--trace-keys", options->tracesKeys,
+                  "what becomes of each key of car and unit in the trace, as rows of the object \"keys\"");
     CLI::Option *const script = addPath(app, "--script", &texts->script, "FILE|-",
                                         "carries out commands, one a line; - is standard input");
     app->add_flag("--strict", options->isStrict,

@@ -57,6 +57,7 @@ struct HeadUnitOptions
     QString record;          ///< file for the line's log, "-" for standard output, empty for none
     QString saveBad;         ///< file for the line's last minute at the first bad package, empty for none
     bool tracesLine = false; ///< the line's health in the trace
+    bool tracesKeys = false; ///< what becomes of keys in the trace
     std::optional<ReplayOptions> replay; ///< a log in place of a box
     bool listsPorts = false;             ///< and nothing else
     bool wantsHelp = false;

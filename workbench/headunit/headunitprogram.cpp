@@ -8,6 +8,8 @@
 #include "deskmemory.h"
 #include "deskwindow.h"
 #include "headunit.h"
+#include "keywatch.h"
+#include "lineinspector.h"
 #include "lineoutput.h"
 #include "linereporter.h"
 #include "linetrace.h"
@@ -204,6 +206,11 @@ void HeadUnitProgram::watchLine()
     if (m_options.tracesLine) {
         LineReporter *reporter = new LineReporter(health, m_box.get(), m_unit.get());
         new LineTrace(reporter, m_writer.get(), reporter);
+    }
+    if (m_options.tracesKeys) {
+        LineInspector *inspector = new LineInspector(int(m_options.canBusType()), m_unit.get());
+        inspector->follow(m_unit.get());
+        (new KeyWatch(inspector, inspector))->trace(m_writer.get());
     }
 }
 

@@ -1,6 +1,5 @@
 #include "replaycommand.h"
 
-#include "boxcatalog.h"
 #include "headunitoptions.h"
 #include "numbertext.h"
 #include "unitrun.h"
@@ -73,20 +72,6 @@ bool readUntil(const Texts &texts, ReplayOptions *options, QString *error)
     return error->isEmpty();
 }
 
-// The log itself says which box it came from; 0 when it does not, -1 for one that cannot be read, which is told later.
-int typeOfLog(const ReplayOptions &replay)
-{
-    QString error;
-    LineLogFormats::ReadOptions options;
-    options.pattern = replay.pattern;
-    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(replay.log, options, &error);
-    if (!reader) {
-        return -1;
-    }
-    reader->prepare();
-    return BoxCatalog::typeFromText(reader->header().type.section(' ', 0, 0));
-}
-
 bool apply(const Texts &texts, ReplayOptions replay, HeadUnitOptions *options, QString *error)
 {
     replay.log = QString::fromStdString(texts.log);
@@ -96,7 +81,7 @@ bool apply(const Texts &texts, ReplayOptions replay, HeadUnitOptions *options, Q
     if (!readSpeed(texts, &replay, error) || !readUntil(texts, &replay, error)) {
         return false;
     }
-    const int type = options->canBusType() == 0 ? typeOfLog(replay) : int(options->canBusType());
+    const int type = options->canBusType() == 0 ? ReplayLog::typeOf(replay) : int(options->canBusType());
     if (type > 0) {
         options->tags.insert(HeadUnitOptions::CanBusTypeTag, type);
     }

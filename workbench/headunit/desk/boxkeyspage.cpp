@@ -2,6 +2,7 @@
 
 #include "carwords.h"
 #include "decoderbox.h"
+#include "keytestercard.h"
 #include "panelcard.h"
 #include "panelsearch.h"
 
@@ -22,18 +23,22 @@ QString title(const BoxKey &key)
 
 } // namespace
 
-BoxKeysPage::BoxKeysPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
+BoxKeysPage::BoxKeysPage(DecoderBox *box, KeyWatch *watch, QWidget *parent) : QWidget(parent), m_box(box)
 {
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->setSpacing(Gap);
-    addKeys(tr("Keys on the steering wheel"), BoxKey::Wheel);
-    addKeys(tr("Keys on the car's panel"), BoxKey::Panel);
-    addKnobs();
-    if (page->isEmpty()) {
-        PanelCard *card = new PanelCard(tr("This car has no keys"));
-        page->addWidget(card);
+    if (watch) {
+        page->addWidget(new KeyTesterCard(watch));
+    }
+    if (box) {
+        addKeys(tr("Keys on the steering wheel"), BoxKey::Wheel);
+        addKeys(tr("Keys on the car's panel"), BoxKey::Panel);
+        addKnobs();
+        if (box->speaker()->keys().isEmpty()) {
+            page->addWidget(new PanelCard(tr("This car has no keys")));
+        }
     }
     page->addStretch();
 }

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class DecoderBox;
+class KeyWatch;
 
 /// The keys and knobs of the car: keys stay pressed as long as their button is held, knobs turn by one click
 /// or five.
@@ -15,7 +16,7 @@ class BoxKeysPage : public QWidget
 
 public:
     /// \a box is not owned and must outlive the page.
-    explicit BoxKeysPage(DecoderBox *box, QWidget *parent = nullptr);
+    explicit BoxKeysPage(DecoderBox *box, KeyWatch *watch = nullptr, QWidget *parent = nullptr);
 
 private:
     void addKeys(const QString &heading, BoxKey::Source source);

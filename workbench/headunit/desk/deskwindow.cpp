@@ -5,6 +5,8 @@
 #include "deskstyle.h"
 #include "headunit.h"
 #include "keystrip.h"
+#include "keywatch.h"
+#include "lineinspector.h"
 #include "linepage.h"
 #include "linereporter.h"
 #include "linestrip.h"
@@ -55,10 +57,13 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     m_shell = new UnitShell(unit, m_screen, this);
     m_view = new UnitView(m_screen); // what the screen holds is shown with it
     m_keyStrip = new KeyStrip(OrbApplication::instance()->getTag(KeySetTag, QVariant(0)).toInt());
-    m_sidePanel = new SidePanel(box, unit->lineRecorder());
-    m_car = carOf(OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt());
-    m_lineStrip = new LineStrip(m_car);
+    const int type = OrbApplication::instance()->getTag(TypeTag, QVariant(0)).toInt();
     new ClimateWatch(ClimatePatience, this);
+    m_inspector = new LineInspector(type, this);
+    m_inspector->follow(unit);
+    m_sidePanel = new SidePanel(box, m_inspector, new KeyWatch(m_inspector, this));
+    m_car = carOf(type);
+    m_lineStrip = new LineStrip(m_car);
     m_fold = new QToolButton;
     m_fold->setObjectName(QStringLiteral("foldBar"));
     m_fold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
@@ -96,6 +101,7 @@ DeskWindow::~DeskWindow()
 {
     // The shell works on the screen's pages, which go with the window's other children.
     delete m_shell;
+    delete m_inspector; // who began to listen last stops first
 }
 
 void DeskWindow::chooseLanguage(const QString &language)
@@ -112,6 +118,7 @@ void DeskWindow::addShortcuts()
     };
     add(Qt::CTRL | Qt::Key_Q, [this] { close(); });
     add(Qt::Key_F12, [this] { saveLine(); });
+    add(Qt::Key_F8, [this] { m_sidePanel->linePage()->openInspector(); });
     add(Qt::Key_F9, [this] { foldPanel(!isPanelFolded()); });
 }
 

@@ -8,6 +8,7 @@
 class DecoderBox;
 class HeadUnit;
 class KeyStrip;
+class LineInspector;
 class LineReplayer;
 class LineReporter;
 class LineStrip;
@@ -71,6 +72,7 @@ private:
     SidePanel *m_sidePanel;
     QString m_car;
     LineStrip *m_lineStrip;
+    LineInspector *m_inspector;
     LineReporter *m_lineReporter;
 };
 

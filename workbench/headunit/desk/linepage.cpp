@@ -1,30 +1,19 @@
 #include "linepage.h"
 
-#include "fingerscroll.h"
-#include "linelogmodel.h"
+#include "inspectorview.h"
 #include "linewords.h"
 #include "panelcard.h"
 
-#include <QClipboard>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QShortcut>
-#include <QSortFilterProxyModel>
-#include <QTableView>
-
-#include <algorithm>
 
 namespace {
 
 const int Gap = 8;
-const int RowHeight = 22;
-const int LeastTableHeight = 220;
+const int Margin = 12;
+const QSize WindowSize(1250, 600);
 
 QPushButton *chip()
 {
@@ -35,10 +24,9 @@ QPushButton *chip()
 
 } // namespace
 
-LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
+LinePage::LinePage(LineInspector *inspector, QWidget *parent)
     : QWidget(parent)
-    , m_model(new LineLogModel(recorder, this))
-    , m_filtered(new QSortFilterProxyModel(this))
+    , m_inspector(inspector)
     , m_stateCard(new PanelCard(QString()))
     , m_state(PanelCard::plainLabel("controlValue"))
     , m_counts(PanelCard::plainLabel("controlName"))
@@ -46,6 +34,7 @@ LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
     , m_hello(chip())
     , m_save(chip())
     , m_logCard(new PanelCard(QString()))
+    , m_view(new InspectorView(inspector, InspectorView::Narrow))
 {
     setObjectName(QStringLiteral("sidePage"));
     QVBoxLayout *page = new QVBoxLayout(this);
@@ -58,76 +47,29 @@ LinePage::LinePage(LineRecorder *recorder, QWidget *parent)
     m_stateCard->rows()->addLayout(PanelCard::pair(m_hello, m_save));
     m_stateCard->rows()->addWidget(m_answer);
     m_answer->hide();
-    addLogCard();
+    m_logCard->rows()->addWidget(m_view, 1);
+    connect(m_view, &InspectorView::windowWanted, this, &LinePage::openInspector);
+    connect(m_view, &InspectorView::packageChosen, this, &LinePage::packageChosen);
     connect(m_hello, &QPushButton::clicked, this, &LinePage::helloWanted);
     connect(m_save, &QPushButton::clicked, this, &LinePage::saveWanted);
     setTexts();
 }
 
-void LinePage::addLogCard()
+void LinePage::openInspector()
 {
-    m_filtered->setSourceModel(m_model);
-    m_filtered->setFilterKeyColumn(LineLogModel::BytesColumn);
-    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_filter = new QLineEdit;
-    m_filter->setClearButtonEnabled(true);
-    connect(m_filter, &QLineEdit::textChanged, m_filtered, &QSortFilterProxyModel::setFilterFixedString);
-
-    m_table = new QTableView;
-    m_table->setObjectName(QStringLiteral("lineTable"));
-    m_table->setModel(m_filtered);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setMinimumSectionSize(RowHeight);
-    m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->setColumnWidth(LineLogModel::TimeColumn, 78);
-    m_table->setColumnWidth(LineLogModel::DirectionColumn, 24);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->setMinimumHeight(LeastTableHeight);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    // It shows the newest, unless somebody has scrolled away from there.
-    QScrollBar *bar = m_table->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this, bar] { m_followsNewest = bar->value() >= bar->maximum() - RowHeight; });
-    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
-        if (m_followsNewest) {
-            bar->setValue(bar->maximum());
-        }
-    });
-
-    m_pause = chip();
-    m_pause->setCheckable(true);
-    m_copy = chip();
-    connect(m_pause, &QPushButton::toggled, m_model, &LineLogModel::setPaused);
-    connect(m_copy, &QPushButton::clicked, this, &LinePage::copyRows);
-    QShortcut *copy = new QShortcut(QKeySequence::Copy, m_table);
-    copy->setContext(Qt::WidgetShortcut);
-    connect(copy, &QShortcut::activated, this, &LinePage::copyRows);
-    m_logCard->rows()->addWidget(m_filter);
-    m_logCard->rows()->addLayout(PanelCard::pair(m_pause, m_copy));
-    m_logCard->rows()->addWidget(m_table, 1);
-}
-
-// The chosen rows, or all that are in sight of the filter.
-void LinePage::copyRows()
-{
-    QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    if (rows.isEmpty()) {
-        for (int row = 0; row < m_filtered->rowCount(); ++row) {
-            rows << m_filtered->index(row, 0);
-        }
+    if (!m_window) {
+        m_window = new InspectorView(m_inspector, InspectorView::Wide, this);
+        m_window->setWindowFlag(Qt::Window);
+        m_window->setObjectName(QStringLiteral("inspectorWindow"));
+        m_window->setAttribute(Qt::WA_StyledBackground);
+        m_window->setContentsMargins(Margin, Margin, Margin, Margin);
+        m_window->resize(WindowSize);
+        connect(m_window, &InspectorView::packageChosen, this, &LinePage::packageChosen);
+        setTexts();
     }
-    std::sort(rows.begin(), rows.end());
-    QString text;
-    for (const QModelIndex &row : rows) {
-        text += m_model->line(m_filtered->mapToSource(row).row()) + QLatin1Char('\n');
-    }
-    QGuiApplication::clipboard()->setText(text);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
 }
 
 void LinePage::setStatus(const LineStatus &status)
@@ -166,9 +108,9 @@ void LinePage::setTexts()
     m_hello->setToolTip(tr("Sends the box the ready command again"));
     m_save->setText(tr("Save 60 s"));
     m_logCard->setTitle(tr("Line log"));
-    m_filter->setPlaceholderText(tr("Bytes to look for: 2e 21"));
-    m_pause->setText(tr("Pause"));
-    m_copy->setText(tr("Copy"));
+    if (m_window) {
+        m_window->setWindowTitle(tr("Inspector"));
+    }
     showStatus();
 }
 

@@ -5,14 +5,11 @@
 
 #include <QWidget>
 
-class LineLogModel;
-class LineRecorder;
+class InspectorView;
+class LineInspector;
 class PanelCard;
 class QLabel;
-class QLineEdit;
 class QPushButton;
-class QSortFilterProxyModel;
-class QTableView;
 
 /// The line to the box, real or virtual: how it is, a word to the box, and what passes over it.
 class LinePage : public QWidget
@@ -20,31 +17,32 @@ class LinePage : public QWidget
     Q_OBJECT
 
 public:
-    /// \a recorder is not owned and must outlive the page.
-    explicit LinePage(LineRecorder *recorder, QWidget *parent = nullptr);
+    /// \a inspector is not owned and must outlive the page.
+    explicit LinePage(LineInspector *inspector, QWidget *parent = nullptr);
 
     void setStatus(const LineStatus &status);
     /// Shows \a card above the others, and owns it.
     void addCard(QWidget *card);
     /// What became of the last wish, in one sentence.
     void setAnswer(const QString &sentence);
+    /// Shows the inspector in a window of its own.
+    void openInspector();
 
 Q_SIGNALS:
     void helloWanted();
     void saveWanted();
+    /// A package of the box was chosen, here or in the inspector's window: \a frame is whole, of CAN-bus type \a type.
+    void packageChosen(int type, const QByteArray &frame);
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void addLogCard();
-    void copyRows();
     void setTexts();
     void showStatus();
 
     LineStatus m_status;
-    LineLogModel *m_model;
-    QSortFilterProxyModel *m_filtered;
+    LineInspector *m_inspector;
 
     PanelCard *m_stateCard;
     QLabel *m_state;
@@ -53,11 +51,8 @@ private:
     QPushButton *m_hello;
     QPushButton *m_save;
     PanelCard *m_logCard;
-    QLineEdit *m_filter;
-    QTableView *m_table;
-    bool m_followsNewest = true;
-    QPushButton *m_pause;
-    QPushButton *m_copy;
+    InspectorView *m_view;
+    InspectorView *m_window = nullptr; // made when it is first wanted
 };
 
 #endif // LINEPAGE_H

@@ -20,12 +20,13 @@ namespace {
 const int Gap = 8;
 } // namespace
 
-SidePanel::SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent)
+SidePanel::SidePanel(DecoderBox *box, LineInspector *inspector, KeyWatch *keys, QWidget *parent)
     : QWidget(parent)
     , m_box(box)
+    , m_keys(keys)
     , m_search(new QLineEdit)
     , m_pages(new QStackedWidget)
-    , m_linePage(new LinePage(recorder))
+    , m_linePage(new LinePage(inspector))
     , m_unitPage(new UnitPage)
 {
     setObjectName(QStringLiteral("sidePanel"));
@@ -45,7 +46,9 @@ SidePanel::SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent)
     if (box) {
         m_boxPage = new BoxPage(box);
         m_carArea = addPage(QT_TR_NOOP("Car"), new CarPage(box->car(), box->speaker()->properties()));
-        m_keysArea = addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box));
+    }
+    m_keysArea = addPage(QT_TR_NOOP("Keys"), new BoxKeysPage(box, keys));
+    if (box) {
         addPage(QT_TR_NOOP("Box"), m_boxPage);
     }
     addPage(QT_TR_NOOP("Line"), m_linePage);
@@ -57,7 +60,7 @@ SidePanel::SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent)
         connect(m_tabs.at(i).button, &QPushButton::clicked, this, [this, i] { showPage(i); });
     }
     setTexts();
-    showPage(0);
+    showPage(box ? 0 : 1); // without one the line is what counts
 }
 
 QScrollArea *SidePanel::addPage(const char *title, QWidget *page)
@@ -109,9 +112,9 @@ void SidePanel::changeEvent(QEvent *event)
         setTexts();
         if (m_box) { // their texts are part of how they are built
             m_carArea->setWidget(new CarPage(m_box->car(), m_box->speaker()->properties()));
-            m_keysArea->setWidget(new BoxKeysPage(m_box));
-            search();
         }
+        m_keysArea->setWidget(new BoxKeysPage(m_box, m_keys));
+        search();
     }
     QWidget::changeEvent(event);
 }

@@ -6,8 +6,9 @@
 
 class BoxPage;
 class DecoderBox;
+class KeyWatch;
+class LineInspector;
 class LinePage;
-class LineRecorder;
 class QLineEdit;
 class QPushButton;
 class QScrollArea;
@@ -23,9 +24,9 @@ class SidePanel : public QWidget
 public:
     static constexpr int PanelWidth = 380;
 
-    /// \a box may be null, when the unit talks to a real one; the panel then has the pages of line and unit
-    /// only. Neither is owned; both must outlive the panel.
-    SidePanel(DecoderBox *box, LineRecorder *recorder, QWidget *parent = nullptr);
+    /// \a box may be null, when the unit talks to a real one; the panel then has the pages of keys, line and unit only,
+    /// and on that of the keys the tester alone. None is owned; all must outlive the panel.
+    SidePanel(DecoderBox *box, LineInspector *inspector, KeyWatch *keys, QWidget *parent = nullptr);
 
     UnitPage *unitPage() const { return m_unitPage; }
     LinePage *linePage() const { return m_linePage; }
@@ -50,6 +51,7 @@ private:
     };
 
     DecoderBox *m_box;
+    KeyWatch *m_keys;
     QVector<Tab> m_tabs;
     QLineEdit *m_search;
     QStackedWidget *m_pages;

@@ -1,5 +1,7 @@
 #include "replaylog.h"
 
+#include "boxcatalog.h"
+
 namespace {
 
 const int MostPassedOver = 4096; // records, before others have their turn
@@ -18,6 +20,19 @@ ReplayLog::ReplayLog(const ReplayOptions &options, const FrameFormat *format) : 
     if (format) {
         m_readOptions.frame = format;
     }
+}
+
+int ReplayLog::typeOf(const ReplayOptions &options)
+{
+    QString error;
+    LineLogFormats::ReadOptions readOptions;
+    readOptions.pattern = options.pattern;
+    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(options.log, readOptions, &error);
+    if (!reader) {
+        return -1;
+    }
+    reader->prepare();
+    return BoxCatalog::typeFromText(reader->header().type.section(' ', 0, 0));
 }
 
 bool ReplayLog::open(QString *error)

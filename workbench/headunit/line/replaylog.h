@@ -35,6 +35,10 @@ public:
     /// \a format: how packages look, for logs that hold packages only; null for the usual one.
     ReplayLog(const ReplayOptions &options, const FrameFormat *format);
 
+    /// The CAN-bus type that the log of \a options says it came from: 0 when it does not say, -1 when it cannot be
+    /// read, which open() tells of.
+    static int typeOf(const ReplayOptions &options);
+
     /// False, with one sentence in \a error, when it cannot be read.
     bool open(QString *error);
 

@@ -333,6 +333,198 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation>Filter behalten</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation>Filter: cmd=0x28 changed call=setTemp*</translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation>Alle Wörter müssen passen: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! kehrt ein Wort um</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation>Behält diesen Filter unter einem Namen</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation>Vergisst den behaltenen Filter</translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation>Ungeklärtes</translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation>Blendet aus, was erklärt ist</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation>Blendet Pakete aus, die wie das vorige ihres Befehls sind</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>ein Befehl ist höchstens 0xff, nicht %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= nimmt in oder out, nicht &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= nimmt Paare hexadezimaler Ziffern, nicht &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>&apos;%1&apos; nimmt ein Byte</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>&apos;%1&apos; nimmt ein Bit 0 bis 7 und 0 oder 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack nimmt &lt; oder &gt; und Millisekunden, oder =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t nimmt &lt; oder &gt; und Sekunden</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>&apos;%1&apos; fehlt der Wert</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>&apos;%1&apos; ist kein Wort eines Filters; es gibt %2</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Zeit, s</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paket</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation>Bewirkt</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation>Ein Paket wählen, um alles davon zu sehen.</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>beantwortet in %1</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation>Weitere Aufrufe: %1</translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation>Das Gerät hat nichts daraus gemacht</translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation>Das Gerät hat es nicht genommen</translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation>Aufrufe: %1</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation>Suche: 2e 21, setTemperature, climate</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation>Auch Aufrufe und Häufigkeiten (F8)</translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation>Aufrufe (Klick führt zum Paket)</translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation>Befehle (Doppelklick filtert)</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>pro s</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Falsch</translation>
+    </message>
+</context>
+<context>
     <name>KeyCard</name>
     <message>
         <source>Last key</source>
@@ -352,14 +544,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>Zeit, s</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation>%1 %2 ist seit %3 s gedrückt und kommt nicht hoch</translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>Bytes</translation>
+        <source>no press</source>
+        <translation>ungedrückt</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Lenkrad</translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation>Bedienfeld des Autos</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>Drehknopf</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation>Gedrückt bei %1 s, %2-mal gehalten</translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation>Noch gedrückt</translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation>Losgelassen bei %1 s</translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation>Wird zu: %1</translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation>Nach der Umbelegung: %1</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>dasselbe</translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation>Tastentester</translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation>Jede Taste des Autos oder des Geräts einmal drücken: hier steht, was daraus wird.</translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation>Als Tastentabelle kopieren</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation>Um, s</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Wird zu</translation>
     </message>
 </context>
 <context>
@@ -413,16 +681,8 @@
         <translation>Leitungsprotokoll</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>Gesuchte Bytes: 2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
     </message>
 </context>
 <context>

@@ -333,6 +333,198 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation>保留筛选</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation>筛选：cmd=0x28 changed call=setTemp*</translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation>所有词都须符合：cmd=0x28、cmd=climate、dir=in、bad、changed、explained、call=set*、screen=Air*、hex=2e28、d2=0x1f、d0.6=1、ack&gt;20、ack=none、t&lt;9.5；! 表示取反</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation>以名称保留此筛选</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation>删除已保留的筛选</translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation>未解释</translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation>隐藏已解释的内容</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>变化</translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation>隐藏与同命令上一包相同的包</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>命令最大为 0xff，而不是 %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= 只能是 in 或 out，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= 需要成对的十六进制数字，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>“%1”需要一个字节</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>“%1”需要 0 到 7 的位以及 0 或 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack 需要 &lt; 或 &gt; 加毫秒数，或 =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t 需要 &lt; 或 &gt; 加秒数</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>“%1”缺少值</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>“%1”不是筛选词；可用的有 %2</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>时间，秒</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>数据包</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>应答</translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation>引起</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation>选择一个数据包以查看详情。</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>%1 内应答</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation>其余调用：%1</translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation>主机未作处理</translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation>主机未接收</translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation>调用：%1</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation>搜索：2e 21、setTemperature、climate</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation>还有调用和频率（F8）</translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation>调用（点击转到数据包）</translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation>命令（双击筛选）</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>每秒</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>变化</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>错误</translation>
+    </message>
+</context>
+<context>
     <name>KeyCard</name>
     <message>
         <source>Last key</source>
@@ -352,14 +544,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>时间，秒</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation>%1 %2 已按下 %3 秒且未松开</translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>字节</translation>
+        <source>no press</source>
+        <translation>无按下</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>方向盘</translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation>汽车面板</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>旋钮</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>主机</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation>%1 秒按下，保持 %2 次</translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation>仍按下</translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation>%1 秒松开</translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation>变为：%1</translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation>重定义后：%1</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation>按键测试</translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation>将汽车或主机的每个按键按一次：此处显示其结果。</translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation>复制为按键表</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation>按下，秒</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>变为</translation>
     </message>
 </context>
 <context>
@@ -413,16 +681,8 @@
         <translation>线路日志</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>要查找的字节：2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>暂停</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
+        <source>Inspector</source>
+        <translation>检查器</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,67 @@
+#include "logcommand.h"
+
+#include "boxcatalog.h"
+#include "command.h"
+#include "headunitprogram.h"
+#include "loginspection.h"
+
+#include "orbapplication.h"
+#include "virtualclock.h"
+
+namespace {
+const std::time_t StartOfClock = 1767268800; // 2026-01-01 12:00, as drives start
+} // namespace
+
+LogCommand::LogCommand(CommandLine *line) : m_line(line)
+{
+    line->app.add_option("LOG", m_log, "a log of a serial line, in any format that convert reads")
+        ->required();
+    line->app
+        .add_option("--can-bus-type", m_type,
+                    "the decoder, when the log does not say it: number or class name")
+        ->type_name("N|CLASS");
+    line->app.add_option("--pattern", m_pattern, "how to read a line of the log, as for replay")
+        ->type_name("REGEX");
+    line->app.add_option("--plugin", m_plugin, "another build of the plug-in")->type_name("PATH");
+}
+
+int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
+                    const std::function<int(LogInspection *)> &answer) const
+{
+    ReplayOptions log;
+    log.log = QString::fromStdString(m_log);
+    log.pattern = QString::fromStdString(m_pattern);
+    const QString name = QString::fromStdString(m_type);
+    const int type = name.isEmpty() ? ReplayLog::typeOf(log) : BoxCatalog::typeFromText(name);
+    if (!name.isEmpty() && type == 0) {
+        m_line->complain(QString("there is no CAN-bus type '%1'").arg(name));
+        return Command::WrongUsage;
+    }
+    if (type == 0) {
+        m_line->complain("the log does not say which type it came from: --can-bus-type is needed");
+        return Command::WrongUsage;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!VirtualClock::start(StartOfClock)) {
+        return m_line->complain("the virtual clock does not reach the libraries of this program");
+    }
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // of the plug-in
+    char program[] = "headunit";
+    char *words[] = {program, nullptr};
+    int count = 1;
+    OrbApplication application(count, words);
+    QApplication::setQuitOnLastWindowClosed(false);
+    LogInspection inspection(qMax(type, 0), log);
+    prepare(&inspection);
+    QString error;
+    const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
+    if (!inspection.run(plugin, &error)) {
+        return m_line->complain(error);
+    }
+    const int exitCode = answer(&inspection);
+    const QStringList problems = inspection.problems();
+    for (const QString &problem : problems) {
+        m_line->complain("in the log: " + problem);
+    }
+    return problems.isEmpty() ? exitCode : Command::FoundSomething;
+}

@@ -1,0 +1,31 @@
+#ifndef LOGCOMMAND_H
+#define LOGCOMMAND_H
+
+#include "commandline.h"
+
+#include <functional>
+#include <string>
+
+class LogInspection;
+
+/// What sub-commands have in common that run the plug-in on a log and tell what came of it, without a window and on the
+/// virtual clock.
+class LogCommand
+{
+public:
+    /// Adds LOG and the options that say how it is run to \a line, which must outlive it.
+    explicit LogCommand(CommandLine *line);
+
+    /// Runs the plug-in on the log: \a prepare is called before, \a answer, which gives the exit code, when it is over.
+    int run(const std::function<void(LogInspection *)> &prepare,
+            const std::function<int(LogInspection *)> &answer) const;
+
+private:
+    CommandLine *m_line;
+    std::string m_log;
+    std::string m_pattern;
+    std::string m_type;
+    std::string m_plugin;
+};
+
+#endif // LOGCOMMAND_H

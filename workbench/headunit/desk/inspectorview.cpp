@@ -1,0 +1,357 @@
+#include "inspectorview.h"
+
+#include "bytesdelegate.h"
+#include "callsmodel.h"
+#include "filterbar.h"
+#include "inspection.h"
+#include "inspectionmodel.h"
+#include "inspectiontext.h"
+#include "lineinspector.h"
+#include "panelcard.h"
+
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTableView>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace {
+
+const int Gap = 8;
+const int RowHeight = 22;
+const int LeastTableHeight = 220;
+const int ChosenHeight = 60;
+const int SideWidth = 380;
+const int RatesInterval = 900; // ms
+const int ChangesColumn = 3;   // of the table of commands
+const int CallsInSight = 6;    // of the chosen package, in a narrow view
+
+QPushButton *chip()
+{
+    QPushButton *button = new QPushButton;
+    button->setObjectName(QStringLiteral("chip"));
+    return button;
+}
+
+void makeDense(QTableView *table)
+{
+    table->setObjectName(QStringLiteral("lineTable"));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setMinimumSectionSize(RowHeight);
+    table->verticalHeader()->setDefaultSectionSize(RowHeight);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setMinimumSectionSize(16);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+} // namespace
+
+InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *parent)
+    : QWidget(parent)
+    , m_model(new InspectionModel(inspector, this))
+    , m_filterBar(new FilterBar(width == Wide))
+    , m_table(new QTableView)
+    , m_chosen(PanelCard::plainLabel("chosenPackage"))
+    , m_search(new QLineEdit)
+    , m_pause(chip())
+    , m_copy(chip())
+{
+    makeTable();
+    m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
+    m_chosen->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_search->setClearButtonEnabled(true);
+    m_pause->setCheckable(true);
+    layOut(width == Wide);
+    for (const int column : {int(InspectionModel::AnswerColumn), int(InspectionModel::CausedColumn)}) {
+        m_table->setColumnHidden(column, width == Narrow);
+    }
+    connect(m_filterBar, &FilterBar::filterChanged, m_model, &InspectionModel::setFilter);
+    connect(m_pause, &QPushButton::toggled, m_model, &InspectionModel::setPaused);
+    connect(m_copy, &QPushButton::clicked, this, &InspectorView::copyRows);
+    connect(m_search, &QLineEdit::returnPressed, this,
+            [this] { search(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &InspectorView::showChosen);
+    setTexts();
+}
+
+void InspectorView::makeTable()
+{
+    makeDense(m_table);
+    m_table->setModel(m_model);
+    m_table->setItemDelegateForColumn(InspectionModel::BytesColumn, new BytesDelegate(m_model, this));
+    m_table->setMinimumHeight(LeastTableHeight);
+    // It shows the newest, unless somebody has scrolled away from there.
+    QScrollBar *bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar] { m_followsNewest = bar->value() >= bar->maximum() - RowHeight; });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (m_followsNewest) {
+            bar->setValue(bar->maximum());
+        }
+    });
+    QShortcut *copy = new QShortcut(QKeySequence::Copy, m_table);
+    copy->setContext(Qt::WidgetShortcut);
+    connect(copy, &QShortcut::activated, this, &InspectorView::copyRows);
+}
+
+void InspectorView::layOut(bool isWide)
+{
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap);
+    column->addWidget(m_filterBar);
+    if (!isWide) {
+        m_window = chip();
+        connect(m_window, &QPushButton::clicked, this, &InspectorView::windowWanted);
+        QHBoxLayout *buttons = PanelCard::pair(m_pause, m_copy);
+        buttons->addWidget(m_window, 1);
+        m_search->setParent(this);
+        m_search->hide();
+        column->addWidget(m_table, 1);
+        column->addWidget(m_chosen);
+        column->addLayout(buttons);
+        m_table->setColumnWidth(InspectionModel::TimeColumn, 62);
+        m_table->setColumnWidth(InspectionModel::DirectionColumn, 18);
+        m_table->setColumnWidth(InspectionModel::SubjectColumn, 96);
+        m_table->horizontalHeader()->setSectionResizeMode(InspectionModel::BytesColumn, QHeaderView::Stretch);
+        return;
+    }
+    QHBoxLayout *row = PanelCard::pair(m_search, m_pause);
+    row->addWidget(m_copy, 1);
+    row->setStretch(0, 4);
+    column->addLayout(row);
+    QHBoxLayout *halves = new QHBoxLayout;
+    halves->setSpacing(Gap);
+    QVBoxLayout *left = new QVBoxLayout;
+    left->addWidget(m_table, 1);
+    left->addWidget(m_chosen);
+    halves->addLayout(left, 1);
+    halves->addWidget(makeCalls());
+    column->addLayout(halves, 1);
+    m_table->setColumnWidth(InspectionModel::TimeColumn, 78);
+    m_table->setColumnWidth(InspectionModel::DirectionColumn, 20);
+    m_table->setColumnWidth(InspectionModel::SubjectColumn, 150);
+    m_table->setColumnWidth(InspectionModel::BytesColumn, 270);
+    m_table->setColumnWidth(InspectionModel::AnswerColumn, 64);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+}
+
+QWidget *InspectorView::makeCalls()
+{
+    m_callsModel = new CallsModel(m_model, this);
+    m_calls = new QListView;
+    m_calls->setObjectName(QStringLiteral("callList"));
+    m_calls->setUniformItemSizes(true);
+    m_calls->setModel(m_callsModel);
+    m_calls->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_calls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_rates = new QTableWidget(0, 5);
+    makeDense(m_rates);
+    m_rates->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_rates->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    for (int i = 1; i < m_rates->columnCount(); ++i) {
+        m_rates->setColumnWidth(i, i == ChangesColumn ? 82 : 54);
+    }
+    m_callsTitle = PanelCard::plainLabel("cardTitle");
+    m_ratesTitle = PanelCard::plainLabel("cardTitle");
+    connect(m_calls, &QListView::clicked, this,
+            [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
+    connect(m_calls, &QListView::activated, this,
+            [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
+    connect(m_rates, &QTableWidget::cellDoubleClicked, this,
+            [this](int row) { m_filterBar->setWords(m_rates->item(row, 0)->data(Qt::UserRole).toString()); });
+    connect(m_model, &InspectionModel::looked, this, &InspectorView::showRates);
+    QWidget *side = new QWidget;
+    side->setFixedWidth(SideWidth);
+    QVBoxLayout *column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap);
+    column->addWidget(m_callsTitle);
+    column->addWidget(m_calls, 3);
+    column->addWidget(m_ratesTitle);
+    column->addWidget(m_rates, 2);
+    return side;
+}
+
+// ------------------------------------------------------------------------------------------- the way to and fro
+
+void InspectorView::choosePackage(qint64 number)
+{
+    const int row = m_model->rowOf(number);
+    if (row < m_model->rowCount() && m_model->numberOf(row) == number) {
+        m_followsNewest = false;
+        m_table->setCurrentIndex(m_model->index(row, 0));
+        m_table->scrollTo(m_model->index(row, 0), QAbstractItemView::PositionAtCenter);
+    }
+}
+
+void InspectorView::showChosen()
+{
+    const QModelIndex index = m_table->currentIndex();
+    if (!index.isValid()) {
+        m_chosen->setText(tr("Choose a package to see all of it."));
+        return;
+    }
+    const qint64 number = m_model->numberOf(index.row());
+    if (number < m_model->inspection().firstNumber()) {
+        return;
+    }
+    const InspectionRow &row = m_model->inspection().row(number);
+    QStringList lines;
+    const QString answer = InspectionText::acknowledgement(row);
+    lines << InspectionText::subject(row) +
+                 (answer.isEmpty() ? QString() : QStringLiteral(" · ") + tr("answered in %1").arg(answer));
+    if (!row.bytes.isEmpty()) {
+        lines << QString::fromLatin1(row.bytes.toHex(' '));
+    }
+    if (!m_calls) {
+        lines << row.calls.mid(0, CallsInSight);
+        if (row.calls.size() > CallsInSight) {
+            lines << tr("Further calls: %1").arg(row.calls.size() - CallsInSight);
+        }
+    } else if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
+        lines << (row.calls.isEmpty()
+                      ? row.isTaken ? tr("The unit made nothing of it") : tr("The unit did not take it")
+                      : tr("Calls: %1").arg(row.calls.size()));
+    }
+    m_chosen->setText(lines.join('\n'));
+    showCallsOf(number);
+    if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
+        Q_EMIT packageChosen(m_model->inspection().type(), row.bytes);
+    }
+}
+
+void InspectorView::showCallsOf(qint64 number)
+{
+    if (!m_calls) {
+        return;
+    }
+    m_calls->clearSelection();
+    const int first = m_callsModel->rowOf(number);
+    for (int i = first; i >= 0 && i < m_callsModel->rowCount() && m_callsModel->numberOf(i) == number; ++i) {
+        m_calls->selectionModel()->select(m_callsModel->index(i), QItemSelectionModel::Select);
+    }
+    if (first >= 0) {
+        m_calls->scrollTo(m_callsModel->index(first), QAbstractItemView::PositionAtTop);
+    }
+}
+
+void InspectorView::showRates()
+{
+    if (m_ratesAge.isValid() && m_ratesAge.elapsed() < RatesInterval) {
+        return;
+    }
+    m_ratesAge.start();
+    const Inspection &inspection = m_model->inspection();
+    m_rates->setRowCount(int(inspection.rates().size()));
+    int row = 0;
+    for (auto i = inspection.rates().cbegin(); i != inspection.rates().cend(); ++i, ++row) {
+        const QString command = QStringLiteral("0x%1").arg(i.key().command, 2, 16, QLatin1Char('0'));
+        const bool isIn = i.key().isTowardsUnit;
+        const QString texts[] = {
+            (isIn ? QStringLiteral("‹ ") : QStringLiteral("› ")) + command + ' ' + i->name,
+            QString::number(i->count), QString::number(i->perSecond(inspection.now()), 'f', 1),
+            QString::number(i->changes), QString::number(i->bad)};
+        for (int column = 0; column < m_rates->columnCount(); ++column) {
+            if (!m_rates->item(row, column)) {
+                m_rates->setItem(row, column, new QTableWidgetItem);
+                m_rates->item(row, column)
+                    ->setTextAlignment(int(Qt::AlignVCenter) |
+                                       (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
+            }
+            m_rates->item(row, column)->setText(texts[column]);
+        }
+        m_rates->item(row, 0)->setData(Qt::UserRole, "cmd=" + command + (isIn ? " dir=in" : " dir=out"));
+    }
+}
+
+void InspectorView::search(bool isBackwards)
+{
+    const int from = m_table->currentIndex().isValid() ? m_table->currentIndex().row() : -1;
+    const int count = m_model->rowCount();
+    const int row = count == 0
+                        ? -1
+                        : m_model->find(m_search->text(), isBackwards ? qMax(0, from) + count - 1 : from + 1,
+                                        isBackwards);
+    if (row >= 0) {
+        choosePackage(m_model->numberOf(row));
+    }
+    m_search->setProperty("found", row >= 0);
+    m_search->setToolTip(row >= 0 ? QString() : tr("Nothing found"));
+}
+
+// The chosen rows, or all that are in sight of the filter.
+void InspectorView::copyRows()
+{
+    QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    if (rows.isEmpty()) {
+        for (int row = 0; row < m_model->rowCount(); ++row) {
+            rows << m_model->index(row, 0);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    QString text;
+    for (const QModelIndex &row : rows) {
+        text += InspectionText::plain(m_model->inspection().row(m_model->numberOf(row.row())));
+    }
+    QGuiApplication::clipboard()->setText(text);
+}
+
+// ------------------------------------------------------------------------------------------- texts
+
+void InspectorView::setTexts()
+{
+    m_search->setPlaceholderText(tr("Search: 2e 21, setTemperature, climate"));
+    m_pause->setText(tr("Pause"));
+    m_copy->setText(tr("Copy"));
+    if (m_window) {
+        m_window->setText(tr("Window"));
+        m_window->setToolTip(tr("Calls and rates as well (F8)"));
+    }
+    if (m_rates) {
+        m_callsTitle->setText(tr("Calls (a click goes to the package)"));
+        m_ratesTitle->setText(tr("Commands (a double click filters)"));
+        m_rates->setHorizontalHeaderLabels(
+            {tr("Command"), tr("Count"), tr("per s"), tr("Changes"), tr("Bad")});
+        for (int i = 1; i < m_rates->columnCount(); ++i) {
+            m_rates->horizontalHeaderItem(i)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+    }
+    showChosen();
+}
+
+void InspectorView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTexts();
+    }
+    QWidget::changeEvent(event);
+}
+
+void InspectorView::showEvent(QShowEvent *event)
+{
+    m_model->setAwake(true);
+    QWidget::showEvent(event);
+}
+
+void InspectorView::hideEvent(QHideEvent *event)
+{
+    m_model->setAwake(false);
+    QWidget::hideEvent(event);
+}
