@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Are you sure </source>
-        <translation>Confirmer : </translation>
+        <translation>Confirmer&#xa0;: </translation>
     </message>
     <message>
         <source>The car has not told its value</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>%1 %2 %3 ?</source>
-        <translation>%1 « %2 » %3</translation>
+        <translation>%1 «&#xa0;%2&#xa0;» %3</translation>
     </message>
     <message>
         <source>?</source>
@@ -277,11 +277,11 @@
     </message>
     <message>
         <source>Vehice status Start-stop</source>
-        <translation>État du véhicule : start-stop</translation>
+        <translation>État du véhicule&#xa0;: start-stop</translation>
     </message>
     <message>
         <source>Vehice status reports</source>
-        <translation>État du véhicule : messages</translation>
+        <translation>État du véhicule&#xa0;: messages</translation>
     </message>
     <message>
         <source>Convenience consumer</source>
@@ -665,11 +665,11 @@
     </message>
     <message>
         <source>Reset &quot;Since start&quot;</source>
-        <translation>Remettre à zéro « Depuis le départ »</translation>
+        <translation>Remettre à zéro «&#xa0;Depuis le départ&#xa0;»</translation>
     </message>
     <message>
         <source>Reset &quot;Long-term&quot;</source>
-        <translation>Remettre à zéro « Longue durée »</translation>
+        <translation>Remettre à zéro «&#xa0;Longue durée&#xa0;»</translation>
     </message>
     <message>
         <source>Reset maintenance cycle</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>System protection intervention Buttonlever activated too often</source>
-        <translation>Protection du système : touche/levier actionnés trop souvent</translation>
+        <translation>Protection du système&#xa0;: touche/levier actionnés trop souvent</translation>
     </message>
     <message>
         <source>Gear is engaged</source>

@@ -106,11 +106,11 @@
     </message>
     <message>
         <source>New firmware for the CAN decoder was found on the disk. Update now?</source>
-        <translation>Un nouveau micrologiciel pour le décodeur CAN a été trouvé sur le disque. Mettre à jour maintenant ?</translation>
+        <translation>Un nouveau micrologiciel pour le décodeur CAN a été trouvé sur le disque. Mettre à jour maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>New firmware was found on the disk. Update now?</source>
-        <translation>Un nouveau micrologiciel a été trouvé sur le disque. Mettre à jour maintenant ?</translation>
+        <translation>Un nouveau micrologiciel a été trouvé sur le disque. Mettre à jour maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>The new firmware is being transferred.</source>
@@ -118,7 +118,7 @@
     </message>
     <message>
         <source>No more data is being asked for. Wait a minute; if it does not go on, try again.</source>
-        <translation>Le décodeur ne demande plus de données. Attendez une minute ; si rien ne se passe, réessayez.</translation>
+        <translation>Le décodeur ne demande plus de données. Attendez une minute&#xa0;; si rien ne se passe, réessayez.</translation>
     </message>
     <message>
         <source>All data was transferred. The disk can be removed.</source>

@@ -1,5 +1,6 @@
 #include "deskwindow.h"
 
+#include "bitgrid.h"
 #include "boxcatalog.h"
 #include "climatewatch.h"
 #include "deskstyle.h"
@@ -18,6 +19,7 @@
 #include "unitshell.h"
 #include "unitview.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QEvent>
@@ -131,6 +133,8 @@ void DeskWindow::watchLine(DecoderBox *box)
     connect(m_lineStrip, &LineStrip::saveWanted, this, &DeskWindow::saveLine);
     connect(page, &LinePage::saveWanted, this, &DeskWindow::saveLine);
     connect(page, &LinePage::helloWanted, this, &DeskWindow::sayHello);
+    BitGrid *grid = new BitGrid(QCoreApplication::applicationFilePath(), this);
+    connect(page, &LinePage::packageChosen, grid, &BitGrid::showPackage);
 }
 
 void DeskWindow::showReplay(LineReplayer *replayer)

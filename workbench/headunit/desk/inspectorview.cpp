@@ -59,6 +59,11 @@ void makeDense(QTableView *table)
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
+bool isFromBox(const InspectionRow &row)
+{
+    return row.kind == InspectionRow::Package && row.isTowardsUnit;
+}
+
 } // namespace
 
 InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *parent)
@@ -70,6 +75,7 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     , m_search(new QLineEdit)
     , m_pause(chip())
     , m_copy(chip())
+    , m_bits(chip())
 {
     makeTable();
     m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
@@ -83,6 +89,8 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     connect(m_filterBar, &FilterBar::filterChanged, m_model, &InspectionModel::setFilter);
     connect(m_pause, &QPushButton::toggled, m_model, &InspectionModel::setPaused);
     connect(m_copy, &QPushButton::clicked, this, &InspectorView::copyRows);
+    connect(m_bits, &QPushButton::clicked, this, &InspectorView::openChosen);
+    connect(m_table, &QTableView::doubleClicked, this, &InspectorView::openChosen);
     connect(m_search, &QLineEdit::returnPressed, this,
             [this] { search(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -121,8 +129,10 @@ void InspectorView::layOut(bool isWide)
         connect(m_window, &QPushButton::clicked, this, &InspectorView::windowWanted);
         QHBoxLayout *buttons = PanelCard::pair(m_pause, m_copy);
         buttons->addWidget(m_window, 1);
-        m_search->setParent(this);
-        m_search->hide();
+        for (QWidget *wide : {static_cast<QWidget *>(m_search), static_cast<QWidget *>(m_bits)}) {
+            wide->setParent(this);
+            wide->hide();
+        }
         column->addWidget(m_table, 1);
         column->addWidget(m_chosen);
         column->addLayout(buttons);
@@ -134,6 +144,7 @@ void InspectorView::layOut(bool isWide)
     }
     QHBoxLayout *row = PanelCard::pair(m_search, m_pause);
     row->addWidget(m_copy, 1);
+    row->addWidget(m_bits, 1);
     row->setStretch(0, 4);
     column->addLayout(row);
     QHBoxLayout *halves = new QHBoxLayout;
@@ -225,14 +236,25 @@ void InspectorView::showChosen()
         if (row.calls.size() > CallsInSight) {
             lines << tr("Further calls: %1").arg(row.calls.size() - CallsInSight);
         }
-    } else if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
+    } else if (isFromBox(row)) {
         lines << (row.calls.isEmpty()
                       ? row.isTaken ? tr("The unit made nothing of it") : tr("The unit did not take it")
                       : tr("Calls: %1").arg(row.calls.size()));
     }
     m_chosen->setText(lines.join('\n'));
     showCallsOf(number);
-    if (row.kind == InspectionRow::Package && row.isTowardsUnit) {
+    m_bits->setEnabled(isFromBox(row));
+}
+
+void InspectorView::openChosen()
+{
+    const QModelIndex index = m_table->currentIndex();
+    const qint64 number = index.isValid() ? m_model->numberOf(index.row()) : -1;
+    if (number < m_model->inspection().firstNumber()) {
+        return; // nothing is chosen, or it was forgotten since
+    }
+    const InspectionRow &row = m_model->inspection().row(number);
+    if (isFromBox(row)) {
         Q_EMIT packageChosen(m_model->inspection().type(), row.bytes);
     }
 }
@@ -320,6 +342,8 @@ void InspectorView::setTexts()
     m_search->setPlaceholderText(tr("Search: 2e 21, setTemperature, climate"));
     m_pause->setText(tr("Pause"));
     m_copy->setText(tr("Copy"));
+    m_bits->setText(tr("Bits"));
+    m_bits->setToolTip(tr("What each bit of the chosen package does"));
     if (m_window) {
         m_window->setText(tr("Window"));
         m_window->setToolTip(tr("Calls and rates as well (F8)"));

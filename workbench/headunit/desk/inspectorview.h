@@ -33,7 +33,7 @@ public:
     void choosePackage(qint64 number);
 
 Q_SIGNALS:
-    /// A package of the box was chosen: \a frame is whole, of CAN-bus type \a type.
+    /// Somebody wants to know what the bits of a package of the box do: \a frame is whole, of CAN-bus type \a type.
     void packageChosen(int type, const QByteArray &frame);
     /// A narrow one has a button for more room.
     void windowWanted();
@@ -49,6 +49,7 @@ private:
     void layOut(bool isWide);
     void setTexts();
     void showChosen();
+    void openChosen();
     void showCallsOf(qint64 number);
     void showRates();
     void search(bool isBackwards);
@@ -66,6 +67,7 @@ private:
     QLineEdit *m_search;
     QPushButton *m_pause;
     QPushButton *m_copy;
+    QPushButton *m_bits;             // of a wide one
     QPushButton *m_window = nullptr; // of a narrow one
     QElapsedTimer m_ratesAge;
     bool m_followsNewest = true;

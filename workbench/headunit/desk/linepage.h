@@ -31,7 +31,7 @@ public:
 Q_SIGNALS:
     void helloWanted();
     void saveWanted();
-    /// A package of the box was chosen, here or in the inspector's window: \a frame is whole, of CAN-bus type \a type.
+    /// Somebody wants to know, here or in the inspector's window, what the bits of a package of the box do: \a frame is whole, of CAN-bus type \a type.
     void packageChosen(int type, const QByteArray &frame);
 
 protected:

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AppPage</name>
+    <message>
+        <source>This picture comes from the car.</source>
+        <translation>Dieses Bild kommt vom Fahrzeug.</translation>
+    </message>
+</context>
+<context>
     <name>BitGrid</name>
     <message>
         <source>The bits are being tried out ...</source>
@@ -33,13 +40,6 @@
     <message>
         <source>depends on what the car said before</source>
         <translation>hängt davon ab, was das Auto vorher sagte</translation>
-    </message>
-</context>
-<context>
-    <name>AppPage</name>
-    <message>
-        <source>This picture comes from the car.</source>
-        <translation>Dieses Bild kommt vom Fahrzeug.</translation>
     </message>
 </context>
 <context>
@@ -522,6 +522,14 @@
     <message>
         <source>Bad</source>
         <translation>Falsch</translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation>Bits</translation>
+    </message>
+    <message>
+        <source>What each bit of the chosen package does</source>
+        <translation>Was jedes Bit des gewählten Pakets bewirkt</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,40 @@
     </message>
 </context>
 <context>
+    <name>BitGrid</name>
+    <message>
+        <source>The bits are being tried out ...</source>
+        <translation>Se están probando los bits...</translation>
+    </message>
+    <message>
+        <source>The bits could not be tried out.</source>
+        <translation>No se han podido probar los bits.</translation>
+    </message>
+    <message>
+        <source>Bits of a package</source>
+        <translation>Bits de un paquete</translation>
+    </message>
+    <message>
+        <source>Package 0x%1 of %2</source>
+        <translation>Paquete 0x%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>BitGridPicture</name>
+    <message>
+        <source>no effect</source>
+        <translation>sin efecto</translation>
+    </message>
+    <message>
+        <source>only together with %1</source>
+        <translation>solo junto con %1</translation>
+    </message>
+    <message>
+        <source>depends on what the car said before</source>
+        <translation>depende de lo que dijo antes el coche</translation>
+    </message>
+</context>
+<context>
     <name>BoxKeysPage</name>
     <message>
         <source>Keys on the steering wheel</source>
@@ -299,6 +333,206 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation>Guardar el filtro</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation>Filtro: cmd=0x28 changed call=setTemp*</translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation>Deben cumplirse todas las palabras: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! invierte una palabra</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation>Guarda este filtro con un nombre</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation>Olvida el filtro guardado</translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation>Sin explicar</translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation>Oculta lo que tiene explicación</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation>Oculta los paquetes iguales al anterior de su comando</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>un comando llega hasta 0xff, no %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= admite in u out, no &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= admite pares de cifras hexadecimales, no &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>&apos;%1&apos; admite un byte</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>&apos;%1&apos; admite un bit de 0 a 7 y 0 o 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack admite &lt; o &gt; y milisegundos, o =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t admite &lt; o &gt; y segundos</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>a &apos;%1&apos; le falta su valor</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>&apos;%1&apos; no es palabra de un filtro; hay %2</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Tiempo, s</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquete</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Datos</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Respuesta</translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation>Efecto</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation>Elija un paquete para verlo entero.</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>respondido en %1</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation>Más llamadas: %1</translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation>La unidad no hizo nada con él</translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation>La unidad no lo aceptó</translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation>Llamadas: %1</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>No se encontró nada</translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation>Buscar: 2e 21, setTemperature, climate</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation>Bits</translation>
+    </message>
+    <message>
+        <source>What each bit of the chosen package does</source>
+        <translation>Qué hace cada bit del paquete elegido</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation>Con llamadas y frecuencias (F8)</translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation>Llamadas (un clic lleva al paquete)</translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation>Comandos (un doble clic filtra)</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>por s</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Malos</translation>
+    </message>
+</context>
+<context>
     <name>KeyCard</name>
     <message>
         <source>Last key</source>
@@ -318,14 +552,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>Tiempo, s</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation>%1 %2 lleva pulsada %3 s y no se suelta</translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>Bytes</translation>
+        <source>no press</source>
+        <translation>sin pulsación</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Volante</translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation>Panel del coche</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>Mando giratorio</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation>Pulsada a los %1 s, mantenida %2 veces</translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation>Sigue pulsada</translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation>Soltada a los %1 s</translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation>Pasa a ser: %1</translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation>Tras redefinir: %1</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>la misma</translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation>Prueba de teclas</translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation>Pulse una vez cada tecla del coche o de la unidad: aquí aparece en qué se convierte.</translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation>Copiar como tabla de teclas</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation>Pulsada, s</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Pasa a</translation>
     </message>
 </context>
 <context>
@@ -379,16 +689,8 @@
         <translation>Registro de línea</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>Bytes que buscar: 2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pausa</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
     </message>
 </context>
 <context>
@@ -430,10 +732,6 @@
         <translation>no se puede abrir: %1</translation>
     </message>
     <message>
-        <source>line lost</source>
-        <translation>línea perdida</translation>
-    </message>
-    <message>
         <source>bytes but no packages: other baud rate?</source>
         <translation>bytes pero ningún paquete: ¿otra velocidad?</translation>
     </message>
@@ -460,6 +758,10 @@
     <message>
         <source>box silent by order</source>
         <translation>caja callada por orden</translation>
+    </message>
+    <message>
+        <source>line lost: was the adapter pulled out?</source>
+        <translation>línea perdida: ¿se ha desconectado el adaptador?</translation>
     </message>
 </context>
 <context>
@@ -565,6 +867,45 @@
     <message>
         <source>none</source>
         <translation>ninguna</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayCard</name>
+    <message>
+        <source>%1 s of the log, %2 packages</source>
+        <translation>%1 s del registro, %2 paquetes</translation>
+    </message>
+    <message>
+        <source>Replay: at its end</source>
+        <translation>Reproducción: al final</translation>
+    </message>
+    <message>
+        <source>Replay: paused</source>
+        <translation>Reproducción: en pausa</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barra espaciadora</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Paso</translation>
+    </message>
+    <message>
+        <source>Plays the next bytes and pauses (full stop)</source>
+        <translation>Reproduce los bytes siguientes y se detiene (punto)</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,40 @@
     </message>
 </context>
 <context>
+    <name>BitGrid</name>
+    <message>
+        <source>The bits are being tried out ...</source>
+        <translation>Essai des bits en cours...</translation>
+    </message>
+    <message>
+        <source>The bits could not be tried out.</source>
+        <translation>Les bits n&apos;ont pas pu être essayés.</translation>
+    </message>
+    <message>
+        <source>Bits of a package</source>
+        <translation>Bits d&apos;un paquet</translation>
+    </message>
+    <message>
+        <source>Package 0x%1 of %2</source>
+        <translation>Paquet 0x%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>BitGridPicture</name>
+    <message>
+        <source>no effect</source>
+        <translation>sans effet</translation>
+    </message>
+    <message>
+        <source>only together with %1</source>
+        <translation>seulement avec %1</translation>
+    </message>
+    <message>
+        <source>depends on what the car said before</source>
+        <translation>dépend de ce que la voiture a dit avant</translation>
+    </message>
+</context>
+<context>
     <name>BoxKeysPage</name>
     <message>
         <source>Keys on the steering wheel</source>
@@ -47,7 +81,7 @@
     </message>
     <message>
         <source>Silent: the unit did not acknowledge</source>
-        <translation>Muet : l’unité n’a pas acquitté</translation>
+        <translation>Muet&#xa0;: l’unité n’a pas acquitté</translation>
     </message>
     <message>
         <source>The unit has not opened the port</source>
@@ -193,7 +227,7 @@
     <name>CarPicker</name>
     <message>
         <source>Which car?</source>
-        <translation>Quel véhicule ?</translation>
+        <translation>Quel véhicule&#xa0;?</translation>
     </message>
     <message>
         <source>Search</source>
@@ -217,7 +251,7 @@
     </message>
     <message>
         <source>Its line: a virtual box, or a serial device of this computer</source>
-        <translation>Sa ligne : un boîtier virtuel ou un port série de cet ordinateur</translation>
+        <translation>Sa ligne&#xa0;: un boîtier virtuel ou un port série de cet ordinateur</translation>
     </message>
     <message>
         <source>%1 (no virtual box)</source>
@@ -275,11 +309,11 @@
     </message>
     <message>
         <source>Not sure: %1</source>
-        <translation>Incertain : %1</translation>
+        <translation>Incertain&#xa0;: %1</translation>
     </message>
     <message>
         <source>Hello said: the box was sent the ready command</source>
-        <translation>Salut envoyé : le boîtier a reçu la commande « prêt »</translation>
+        <translation>Salut envoyé&#xa0;: le boîtier a reçu la commande «&#xa0;prêt&#xa0;»</translation>
     </message>
     <message>
         <source>There is no open line to say hello on</source>
@@ -287,7 +321,7 @@
     </message>
     <message>
         <source>Saved the last 60 s: %1</source>
-        <translation>60 dernières secondes enregistrées : %1</translation>
+        <translation>60 dernières secondes enregistrées&#xa0;: %1</translation>
     </message>
     <message>
         <source>Show the panel (F9)</source>
@@ -296,6 +330,206 @@
     <message>
         <source>Fold the panel away (F9)</source>
         <translation>Replier le panneau (F9)</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation>Garder le filtre</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation>Filtre : cmd=0x28 changed call=setTemp*</translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation>Tous les mots doivent convenir : cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5 ; ! inverse un mot</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation>Garde ce filtre sous un nom</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation>Oublie le filtre gardé</translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation>Inexpliqué</translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation>Cache ce qui est expliqué</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation>Cache les paquets identiques au précédent de leur commande</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>une commande va jusqu&apos;à 0xff, pas %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= prend in ou out, pas &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= prend des paires de chiffres hexadécimaux, pas &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>&apos;%1&apos; prend un octet</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>&apos;%1&apos; prend un bit de 0 à 7 et 0 ou 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack prend &lt; ou &gt; et des millisecondes, ou =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t prend &lt; ou &gt; et des secondes</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>il manque la valeur de &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>&apos;%1&apos; n&apos;est pas un mot de filtre ; il y a %2</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Temps, s</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation>Effet</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation>Choisissez un paquet pour le voir en entier.</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>réponse en %1</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation>Autres appels : %1</translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation>L&apos;appareil n&apos;en a rien fait</translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation>L&apos;appareil ne l&apos;a pas pris</translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation>Appels : %1</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation>Chercher : 2e 21, setTemperature, climate</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation>Bits</translation>
+    </message>
+    <message>
+        <source>What each bit of the chosen package does</source>
+        <translation>Ce que fait chaque bit du paquet choisi</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation>Avec les appels et les fréquences (F8)</translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation>Appels (un clic mène au paquet)</translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation>Commandes (un double clic filtre)</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>par s</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Mauvais</translation>
     </message>
 </context>
 <context>
@@ -318,14 +552,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>Temps, s</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation>%1 %2 est enfoncée depuis %3 s et ne remonte pas</translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>Octets</translation>
+        <source>no press</source>
+        <translation>sans appui</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Volant</translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation>Panneau de la voiture</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>Bouton rotatif</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation>Enfoncée à %1 s, maintenue %2 fois</translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation>Encore enfoncée</translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation>Relâchée à %1 s</translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation>Devient : %1</translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation>Après redéfinition : %1</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>la même</translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation>Test des touches</translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation>Appuyez une fois sur chaque touche de la voiture ou de l&apos;appareil : ici s&apos;affiche ce qu&apos;elle devient.</translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation>Copier comme table de touches</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation>Appui, s</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Devient</translation>
     </message>
 </context>
 <context>
@@ -340,27 +650,27 @@
     </message>
     <message>
         <source>Packages: %1, %2 a second</source>
-        <translation>Paquets : %1, %2 par seconde</translation>
+        <translation>Paquets&#xa0;: %1, %2 par seconde</translation>
     </message>
     <message>
         <source>Last package: %1</source>
-        <translation>Dernier paquet : %1</translation>
+        <translation>Dernier paquet&#xa0;: %1</translation>
     </message>
     <message>
         <source>Acknowledged in: %1</source>
-        <translation>Acquitté en : %1</translation>
+        <translation>Acquitté en&#xa0;: %1</translation>
     </message>
     <message>
         <source>Bad checksums: %1</source>
-        <translation>Sommes de contrôle fausses : %1</translation>
+        <translation>Sommes de contrôle fausses&#xa0;: %1</translation>
     </message>
     <message>
         <source>Skipped bytes: %1</source>
-        <translation>Octets ignorés : %1</translation>
+        <translation>Octets ignorés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Repetitions: %1</source>
-        <translation>Répétitions : %1</translation>
+        <translation>Répétitions&#xa0;: %1</translation>
     </message>
     <message>
         <source>Say hello</source>
@@ -368,7 +678,7 @@
     </message>
     <message>
         <source>Sends the box the ready command again</source>
-        <translation>Renvoie la commande « prêt » au boîtier</translation>
+        <translation>Renvoie la commande «&#xa0;prêt&#xa0;» au boîtier</translation>
     </message>
     <message>
         <source>Save 60 s</source>
@@ -379,16 +689,8 @@
         <translation>Journal de ligne</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>Octets à chercher : 2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
     </message>
 </context>
 <context>
@@ -411,7 +713,7 @@
     </message>
     <message>
         <source>no permission: join the group %1</source>
-        <translation>pas d’autorisation : rejoignez le groupe %1</translation>
+        <translation>pas d’autorisation&#xa0;: rejoignez le groupe %1</translation>
     </message>
     <message>
         <source>in use by another process</source>
@@ -427,15 +729,11 @@
     </message>
     <message>
         <source>cannot be opened: %1</source>
-        <translation>ouverture impossible : %1</translation>
-    </message>
-    <message>
-        <source>line lost</source>
-        <translation>ligne perdue</translation>
+        <translation>ouverture impossible&#xa0;: %1</translation>
     </message>
     <message>
         <source>bytes but no packages: other baud rate?</source>
-        <translation>des octets mais aucun paquet : autre débit ?</translation>
+        <translation>des octets mais aucun paquet&#xa0;: autre débit&#xa0;?</translation>
     </message>
     <message>
         <source>waiting for the box&apos;s first word</source>
@@ -451,7 +749,7 @@
     </message>
     <message>
         <source>unit too slow: box repeats</source>
-        <translation>unité trop lente : le boîtier répète</translation>
+        <translation>unité trop lente&#xa0;: le boîtier répète</translation>
     </message>
     <message>
         <source>box stopped</source>
@@ -460,6 +758,10 @@
     <message>
         <source>box silent by order</source>
         <translation>boîtier muet sur ordre</translation>
+    </message>
+    <message>
+        <source>line lost: was the adapter pulled out?</source>
+        <translation>ligne perdue : l&apos;adaptateur a-t-il été débranché ?</translation>
     </message>
 </context>
 <context>
@@ -477,15 +779,15 @@
     </message>
     <message>
         <source>%1 bad</source>
-        <translation>faux : %1</translation>
+        <translation>faux&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 bytes skipped</source>
-        <translation>octets ignorés : %1</translation>
+        <translation>octets ignorés&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 repeated</source>
-        <translation>répétés : %1</translation>
+        <translation>répétés&#xa0;: %1</translation>
     </message>
     <message>
         <source>answered in %1</source>
@@ -565,6 +867,45 @@
     <message>
         <source>none</source>
         <translation>aucune</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayCard</name>
+    <message>
+        <source>%1 s of the log, %2 packages</source>
+        <translation>%1 s du journal, %2 paquets</translation>
+    </message>
+    <message>
+        <source>Replay: at its end</source>
+        <translation>Relecture : terminée</translation>
+    </message>
+    <message>
+        <source>Replay: paused</source>
+        <translation>Relecture : en pause</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Relecture</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barre d&apos;espace</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Plays the next bytes and pauses (full stop)</source>
+        <translation>Rejoue les octets suivants et fait une pause (point)</translation>
     </message>
 </context>
 <context>
@@ -760,11 +1101,11 @@
     </message>
     <message>
         <source>Plugged in: %1</source>
-        <translation>Branché : %1</translation>
+        <translation>Branché&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pulled out: %1</source>
-        <translation>Retiré : %1</translation>
+        <translation>Retiré&#xa0;: %1</translation>
     </message>
     <message>
         <source>Folder ...</source>

@@ -9,6 +9,40 @@
     </message>
 </context>
 <context>
+    <name>BitGrid</name>
+    <message>
+        <source>The bits are being tried out ...</source>
+        <translation>Биты проверяются...</translation>
+    </message>
+    <message>
+        <source>The bits could not be tried out.</source>
+        <translation>Не удалось проверить биты.</translation>
+    </message>
+    <message>
+        <source>Bits of a package</source>
+        <translation>Биты пакета</translation>
+    </message>
+    <message>
+        <source>Package 0x%1 of %2</source>
+        <translation>Пакет 0x%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>BitGridPicture</name>
+    <message>
+        <source>no effect</source>
+        <translation>без действия</translation>
+    </message>
+    <message>
+        <source>only together with %1</source>
+        <translation>только вместе с %1</translation>
+    </message>
+    <message>
+        <source>depends on what the car said before</source>
+        <translation>зависит от сказанного раньше</translation>
+    </message>
+</context>
+<context>
     <name>BoxKeysPage</name>
     <message>
         <source>Keys on the steering wheel</source>
@@ -299,6 +333,206 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Keep the filter</source>
+        <translation>Сохранить фильтр</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>Filter: cmd=0x28 changed call=setTemp*</source>
+        <translation>Фильтр: cmd=0x28 changed call=setTemp*</translation>
+    </message>
+    <message>
+        <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
+        <translation>Должны подходить все слова: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! обращает слово</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Keeps this filter under a name</source>
+        <translation>Сохраняет этот фильтр под названием</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Забыть</translation>
+    </message>
+    <message>
+        <source>Forgets the kept filter</source>
+        <translation>Забывает сохранённый фильтр</translation>
+    </message>
+    <message>
+        <source>Unexplained</source>
+        <translation>Неясные</translation>
+    </message>
+    <message>
+        <source>Hides what is explained</source>
+        <translation>Скрывает то, что объяснено</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Изменения</translation>
+    </message>
+    <message>
+        <source>Hides packages that are as the one of their command before</source>
+        <translation>Скрывает пакеты, равные предыдущему той же команды</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionFilter</name>
+    <message>
+        <source>a command is at most 0xff, not %1</source>
+        <translation>команда не больше 0xff, а не %1</translation>
+    </message>
+    <message>
+        <source>dir= takes in or out, not &apos;%1&apos;</source>
+        <translation>dir= принимает in или out, а не &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>hex= takes pairs of hexadecimal digits, not &apos;%1&apos;</source>
+        <translation>hex= принимает пары шестнадцатеричных цифр, а не &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a byte</source>
+        <translation>&apos;%1&apos; принимает один байт</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes a bit 0 to 7 and 0 or 1</source>
+        <translation>&apos;%1&apos; принимает бит от 0 до 7 и 0 или 1</translation>
+    </message>
+    <message>
+        <source>ack takes &lt; or &gt; and milliseconds, or =none</source>
+        <translation>ack принимает &lt; или &gt; и миллисекунды, либо =none</translation>
+    </message>
+    <message>
+        <source>t takes &lt; or &gt; and seconds</source>
+        <translation>t принимает &lt; или &gt; и секунды</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks its value</source>
+        <translation>у &apos;%1&apos; нет значения</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no word of a filter; there are %2</source>
+        <translation>&apos;%1&apos; не слово фильтра; есть %2</translation>
+    </message>
+</context>
+<context>
+    <name>InspectionModel</name>
+    <message>
+        <source>Time, s</source>
+        <translation>Время, с</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Пакет</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Данные</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Ответ</translation>
+    </message>
+    <message>
+        <source>Caused</source>
+        <translation>Вызвано</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorView</name>
+    <message>
+        <source>Choose a package to see all of it.</source>
+        <translation>Выберите пакет, чтобы увидеть его целиком.</translation>
+    </message>
+    <message>
+        <source>answered in %1</source>
+        <translation>ответ за %1</translation>
+    </message>
+    <message>
+        <source>Further calls: %1</source>
+        <translation>Ещё вызовов: %1</translation>
+    </message>
+    <message>
+        <source>The unit made nothing of it</source>
+        <translation>Устройство ничего с ним не сделало</translation>
+    </message>
+    <message>
+        <source>The unit did not take it</source>
+        <translation>Устройство его не приняло</translation>
+    </message>
+    <message>
+        <source>Calls: %1</source>
+        <translation>Вызовов: %1</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Ничего не найдено</translation>
+    </message>
+    <message>
+        <source>Search: 2e 21, setTemperature, climate</source>
+        <translation>Поиск: 2e 21, setTemperature, climate</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копия</translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation>Биты</translation>
+    </message>
+    <message>
+        <source>What each bit of the chosen package does</source>
+        <translation>Что делает каждый бит выбранного пакета</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Окно</translation>
+    </message>
+    <message>
+        <source>Calls and rates as well (F8)</source>
+        <translation>Также вызовы и частоты (F8)</translation>
+    </message>
+    <message>
+        <source>Calls (a click goes to the package)</source>
+        <translation>Вызовы (щелчок ведёт к пакету)</translation>
+    </message>
+    <message>
+        <source>Commands (a double click filters)</source>
+        <translation>Команды (двойной щелчок фильтрует)</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Число</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>в с</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Изменения</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Плохие</translation>
+    </message>
+</context>
+<context>
     <name>KeyCard</name>
     <message>
         <source>Last key</source>
@@ -318,14 +552,90 @@
     </message>
 </context>
 <context>
-    <name>LineLogModel</name>
+    <name>KeyTesterCard</name>
     <message>
-        <source>Time, s</source>
-        <translation>Время, с</translation>
+        <source>%1 %2 has been down for %3 s and does not come up</source>
+        <translation>%1 %2 нажата уже %3 с и не отпускается</translation>
     </message>
     <message>
-        <source>Bytes</source>
-        <translation>Байты</translation>
+        <source>no press</source>
+        <translation>без нажатия</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ничего</translation>
+    </message>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Руль</translation>
+    </message>
+    <message>
+        <source>Car&apos;s panel</source>
+        <translation>Панель машины</translation>
+    </message>
+    <message>
+        <source>Knob</source>
+        <translation>Ручка</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>ГУ</translation>
+    </message>
+    <message>
+        <source>Pressed at %1 s, held %2 times</source>
+        <translation>Нажата на %1 с, повторов: %2</translation>
+    </message>
+    <message>
+        <source>Still down</source>
+        <translation>Ещё нажата</translation>
+    </message>
+    <message>
+        <source>Came up at %1 s</source>
+        <translation>Отпущена на %1 с</translation>
+    </message>
+    <message>
+        <source>Becomes: %1</source>
+        <translation>Становится: %1</translation>
+    </message>
+    <message>
+        <source>After redefinition: %1</source>
+        <translation>После переназначения: %1</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>та же</translation>
+    </message>
+    <message>
+        <source>Key tester</source>
+        <translation>Проверка клавиш</translation>
+    </message>
+    <message>
+        <source>Press each key of the car, or of the unit, once: here stands what becomes of it.</source>
+        <translation>Нажмите по разу каждую клавишу машины или устройства: здесь видно, чем она становится.</translation>
+    </message>
+    <message>
+        <source>Copy as a key table</source>
+        <translation>Копировать как таблицу клавиш</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Клавиша</translation>
+    </message>
+    <message>
+        <source>Pressed, s</source>
+        <translation>Нажата, с</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Длилось</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Итог</translation>
     </message>
 </context>
 <context>
@@ -379,16 +689,8 @@
         <translation>Журнал линии</translation>
     </message>
     <message>
-        <source>Bytes to look for: 2e 21</source>
-        <translation>Искать байты: 2e 21</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Пауза</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Копировать</translation>
+        <source>Inspector</source>
+        <translation>Инспектор</translation>
     </message>
 </context>
 <context>
@@ -430,10 +732,6 @@
         <translation>не открывается: %1</translation>
     </message>
     <message>
-        <source>line lost</source>
-        <translation>линия потеряна</translation>
-    </message>
-    <message>
         <source>bytes but no packages: other baud rate?</source>
         <translation>байты есть, пакетов нет: другая скорость?</translation>
     </message>
@@ -460,6 +758,10 @@
     <message>
         <source>box silent by order</source>
         <translation>блок молчит по команде</translation>
+    </message>
+    <message>
+        <source>line lost: was the adapter pulled out?</source>
+        <translation>линия потеряна: адаптер вынут?</translation>
     </message>
 </context>
 <context>
@@ -565,6 +867,45 @@
     <message>
         <source>none</source>
         <translation>нет</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayCard</name>
+    <message>
+        <source>%1 s of the log, %2 packages</source>
+        <translation>%1 с журнала, пакетов: %2</translation>
+    </message>
+    <message>
+        <source>Replay: at its end</source>
+        <translation>Воспроизведение: конец</translation>
+    </message>
+    <message>
+        <source>Replay: paused</source>
+        <translation>Воспроизведение: пауза</translation>
+    </message>
+    <message>
+        <source>Replay</source>
+        <translation>Воспроизведение</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Дальше</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Шаг</translation>
+    </message>
+    <message>
+        <source>Plays the next bytes and pauses (full stop)</source>
+        <translation>Воспроизводит следующие байты и останавливается (точка)</translation>
     </message>
 </context>
 <context>

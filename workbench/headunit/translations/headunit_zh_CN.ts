@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AppPage</name>
+    <message>
+        <source>This picture comes from the car.</source>
+        <translation>此画面来自车辆。</translation>
+    </message>
+</context>
+<context>
     <name>BitGrid</name>
     <message>
         <source>The bits are being tried out ...</source>
@@ -33,13 +40,6 @@
     <message>
         <source>depends on what the car said before</source>
         <translation>取决于车辆之前的报告</translation>
-    </message>
-</context>
-<context>
-    <name>AppPage</name>
-    <message>
-        <source>This picture comes from the car.</source>
-        <translation>此画面来自车辆。</translation>
     </message>
 </context>
 <context>
@@ -522,6 +522,14 @@
     <message>
         <source>Bad</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation>位</translation>
+    </message>
+    <message>
+        <source>What each bit of the chosen package does</source>
+        <translation>所选数据包中每一位的作用</translation>
     </message>
 </context>
 <context>
