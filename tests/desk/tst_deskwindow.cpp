@@ -270,6 +270,8 @@ void TestDeskWindow::lineLogIsATable()
     QCOMPARE(table->model()->rowCount(), 3);
     QSignalSpy chosen(page, &LinePage::packageChosen);
     table->selectRow(2);
+    QVERIFY(chosen.isEmpty());
+    Q_EMIT table->doubleClicked(table->model()->index(2, 0));
     QCOMPARE(chosen.value(0), QVariantList({3, QByteArray::fromHex("2e240100da")}));
     buttonOf<QPushButton>(page, "Copy")->click();
     QVERIFY(QGuiApplication::clipboard()->text().contains("< 0x24 doors           [00]\n"));
