@@ -62,6 +62,7 @@ CarPicker::CarPicker(int type, const QStringList &ports, QWidget *parent)
     rows->addLayout(buttons);
     resize(StandardSize);
 
+    DeskStyle::dimHint(m_search);
     connect(m_search, &QLineEdit::textChanged, this, &CarPicker::showMatching);
     connect(m_cars, &QListWidget::currentRowChanged, this, &CarPicker::showChoice);
     connect(m_cars, &QListWidget::itemActivated, m_start, &QPushButton::click);

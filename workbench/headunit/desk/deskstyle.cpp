@@ -3,6 +3,8 @@
 #include "orbhost.h"
 
 #include <QFile>
+#include <QLineEdit>
+#include <QStyle>
 
 // Resources of a static library are there only once someone asks for them, outside any namespace.
 static void loadResources()
@@ -25,4 +27,16 @@ QString DeskStyle::sheet()
 {
     QFile style(QStringLiteral(":/desk/desk.qss"));
     return style.open(QIODevice::ReadOnly) ? QString::fromUtf8(style.readAll()) : QString();
+}
+
+// A style sheet knows no colour for the hint, and looks at the text only when it is told to.
+void DeskStyle::dimHint(QLineEdit *field)
+{
+    QObject::connect(field, &QLineEdit::textChanged, field, [field, wasEmpty = true]() mutable {
+        if (wasEmpty != field->text().isEmpty()) {
+            wasEmpty = !wasEmpty;
+            field->style()->unpolish(field);
+            field->style()->polish(field);
+        }
+    });
 }

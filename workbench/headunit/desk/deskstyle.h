@@ -3,6 +3,8 @@
 
 #include <QString>
 
+class QLineEdit;
+
 /// What every window of the desk needs before it is built.
 namespace DeskStyle {
 
@@ -11,6 +13,9 @@ void load();
 
 /// The desk's style sheet.
 QString sheet();
+
+/// Shows what \a field says while it is empty as a hint, not as something that was typed.
+void dimHint(QLineEdit *field);
 
 } // namespace DeskStyle
 

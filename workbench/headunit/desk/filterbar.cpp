@@ -1,5 +1,6 @@
 #include "filterbar.h"
 
+#include "deskstyle.h"
 #include "panelcard.h"
 
 #include <QBoxLayout>
@@ -53,6 +54,7 @@ FilterBar::FilterBar(bool isWide, QWidget *parent)
     m_words->setInsertPolicy(QComboBox::NoInsert);
     m_words->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_words->lineEdit()->setClearButtonEnabled(true);
+    DeskStyle::dimHint(m_words->lineEdit());
     row->addWidget(m_words, 1);
     row->addLayout(PanelCard::pair(m_keep, m_forget));
     m_keep->setVisible(isWide);

@@ -2,6 +2,7 @@
 
 #include "bytesdelegate.h"
 #include "callsmodel.h"
+#include "deskstyle.h"
 #include "filterbar.h"
 #include "inspection.h"
 #include "inspectionmodel.h"
@@ -81,6 +82,7 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
     m_chosen->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_search->setClearButtonEnabled(true);
+    DeskStyle::dimHint(m_search);
     m_pause->setCheckable(true);
     layOut(width == Wide);
     for (const int column : {int(InspectionModel::AnswerColumn), int(InspectionModel::CausedColumn)}) {

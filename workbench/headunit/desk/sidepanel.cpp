@@ -3,6 +3,7 @@
 #include "boxkeyspage.h"
 #include "boxpage.h"
 #include "carpage.h"
+#include "deskstyle.h"
 #include "fingerscroll.h"
 #include "linepage.h"
 #include "panelsearch.h"
@@ -42,6 +43,7 @@ SidePanel::SidePanel(DecoderBox *box, LineInspector *inspector, KeyWatch *keys, 
     m_search->setClearButtonEnabled(true);
     column->addWidget(m_search);
     column->addWidget(m_pages);
+    DeskStyle::dimHint(m_search);
     connect(m_search, &QLineEdit::textChanged, this, &SidePanel::search);
     if (box) {
         m_boxPage = new BoxPage(box);
