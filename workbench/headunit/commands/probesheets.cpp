@@ -88,7 +88,9 @@ bool ProbeSheets::write(const Order &order, QString *error)
         if (child == 0) {
             QString problem;
             const bool isFine = writeSheet(order, row.type, &problem);
-            std::fprintf(stderr, isFine ? "" : "%s: %s\n", row.className, qPrintable(problem));
+            if (!isFine) {
+                std::fprintf(stderr, "%s: %s\n", row.className, qPrintable(problem));
+            }
             std::fflush(nullptr);
             ::_exit(isFine ? 0 : 1);
         }
