@@ -9,7 +9,7 @@
 class LineLogRing
 {
 public:
-    static constexpr qint64 Span = 60000000;              ///< microseconds that are kept
+    static constexpr qint64 Span = 60000000;                      ///< microseconds that are kept
     static constexpr qint64 MostMemory = qint64(4) * 1024 * 1024; ///< bytes that are used, all told
 
     void setHeader(const LineLogHeader &header) { m_header = header; }
