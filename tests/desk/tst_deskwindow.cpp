@@ -18,6 +18,7 @@
 #include "unitpage.h"
 #include "unitshell.h"
 #include "unitview.h"
+#include "virtualmain.h"
 
 #include "orbapplication.h"
 #include "orbhost.h"
@@ -300,10 +301,5 @@ void TestDeskWindow::pickerOffersWhatCanRun()
     QCOMPARE(picker.result(), int(QDialog::Accepted));
 }
 
-int main(int argc, char *argv[])
-{
-    OrbApplication application(argc, argv);
-    TestDeskWindow test;
-    return QTest::qExec(&test, argc, argv);
-}
+CANBUS_VIRTUAL_MAIN(OrbApplication, TestDeskWindow)
 #include "tst_deskwindow.moc"
