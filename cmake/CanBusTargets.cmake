@@ -1,7 +1,7 @@
 # What every target of the project has in common.
 
 # Warnings for one target; Qt's own headers are system headers and stay silent.
-function(canbus_target_defaults target)
+function(canbus_target_options target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wnon-virtual-dtor)
   # Q_SIGNALS, Q_SLOTS and Q_EMIT, everywhere: a maker's headers may use the short words for something else.
   target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS)
@@ -10,9 +10,20 @@ function(canbus_target_defaults target)
   endif()
 endfunction()
 
-# Programs and tests of the desk may use what C++17 offers; they never run on a Qt 4 target.
+# Plug-in and framework, which run on a Qt 4 target as well.
+function(canbus_target_defaults target)
+  canbus_target_options(${target})
+  canbus_use_precompiled(${target} target)
+endfunction()
+
+# Programs and tests of the desk may use what C++17 offers; they never run on a Qt 4 target. Those that are CORE do
+# without a screen: they link with nothing of Qt but its core.
 function(canbus_desk_defaults target)
-  canbus_target_defaults(${target})
+  canbus_target_options(${target})
   target_compile_features(${target} PRIVATE cxx_std_17)
-  canbus_use_precompiled(${target})
+  if("CORE" IN_LIST ARGN)
+    canbus_use_precompiled(${target} core)
+  else()
+    canbus_use_precompiled(${target} desk)
+  endif()
 endfunction()
