@@ -54,15 +54,17 @@ public:
     /// The group must not be used any more once \a label is gone.
     void add(FigureLabel *label);
 
-    /// To be called when a text has changed.
-    void fit();
+    /// To be called when a text has changed: the labels are measured before the next one is painted.
+    void textChanged();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fit();
     int fittingSize(FigureLabel::UnitPlace place) const;
 
     QList<FigureLabel *> m_labels;
+    bool m_isStale;
 };
 
 #endif // FIGURELABEL_H

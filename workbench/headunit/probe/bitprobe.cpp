@@ -1,5 +1,8 @@
 #include "bitprobe.h"
 
+#include "boxspeaker.h"
+#include "probestart.h"
+
 #include "orbeventtypes.h"
 
 #include <QRegularExpression>
@@ -125,14 +128,14 @@ QString textOf(const QVector<BitProbe::Effect> &effects)
 
 } // namespace
 
-BitProbe::BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package)
-    : m_unit(unit), m_format(format), m_package(package)
+BitProbe::BitProbe(ProbeUnit *unit, const BoxSpeaker &speaker, const BoxPackage &package)
+    : m_unit(unit), m_speaker(speaker), m_format(speaker.format()), m_package(package)
 {}
 
 BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
 {
     const QString frame = QString::fromLatin1(m_format.frame(m_package).toHex());
-    const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(m_package)}}).first();
+    const ProbeUnit::Trial trial = tryFirst();
     if (!trial.end.isEmpty()) {
         *error = QString("the plug-in does not survive %1 (%2)").arg(frame, trial.end);
         return Killed;
@@ -144,7 +147,7 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     m_hasDialogs = trial.hasDialog;
     m_base[Fresh] = effectsOf(trial);
     chooseOtherState();
-    probeBits(only);
+    probeBits();
     for (int byte = 0; byte < m_package.n(); ++byte) {
         if (only < 0 || byte == only) {
             addRows(byte, walksValues);
@@ -154,13 +157,34 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     return Done;
 }
 
+// The package as it is. When it does nothing, it may be one for what a screen shows behind a button.
+ProbeUnit::Trial BitProbe::tryFirst()
+{
+    const QVector<ProbeUnit::Packages> trials = {{m_format.frame(m_package)}};
+    m_unit->turnTo(-1);
+    const ProbeUnit::Trial trial = m_unit->tryFresh(trials).first();
+    const QVector<ScreenTap::Target> &turns = m_unit->screens().turns();
+    for (int i = 0; trial.isFramed && effectsOf(trial).isEmpty() && i < turns.size(); ++i) {
+        m_unit->turnTo(i);
+        const ProbeUnit::Trial turned = m_unit->tryFresh(trials).first();
+        if (!effectsOf(turned).isEmpty()) {
+            m_turn = turns.at(i).name;
+            return turned;
+        }
+    }
+    m_unit->turnTo(-1);
+    return trial;
+}
+
 // The second state comes from the opposite in every bit; where that kills the plug-in or leaves a dialog open, there is
 // none but the fresh one.
 void BitProbe::chooseOtherState()
 {
     BoxPackage opposite = m_package;
-    for (char &byte : opposite.data) {
-        byte = char(~byte);
+    // Where the first byte says what the others mean it stays: the opposite of another thing is no other state.
+    const int from = ProbeStart::reportsOf(m_speaker, m_package.command) > 1 ? 1 : 0;
+    for (int i = from; i < opposite.n(); ++i) {
+        opposite.data[i] = char(~opposite.data.at(i));
     }
     const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(opposite)}}).first();
     if (trial.end.isEmpty() && !trial.hasDialog) {
@@ -196,23 +220,31 @@ QByteArray BitProbe::flipped(const QVector<int> &bits) const
     return data;
 }
 
-void BitProbe::probeBits(int only)
+void BitProbe::probeBits()
 {
     QVector<QByteArray> datas;
-    const int first = qMax(only, 0) * Bits;
-    const int count = only < 0 ? m_package.n() * Bits : Bits;
-    for (int bit = first; bit < first + count; ++bit) {
+    const int count = m_package.n() * Bits;
+    for (int bit = 0; bit < count; ++bit) {
         datas << flipped({bit});
     }
-    // A package that does nothing whatever its bits are needs no fork for each of them.
+    // A package that does nothing whatever its bits are needs no fork for each of them; nor does one that only
+    // shows something, since it would be seen if that were left behind.
     const QVector<Effects> quick = tryOut(Opposite, datas, Quickly);
     const bool isIdle = quick.count(m_base[Opposite]) == quick.size();
+    bool isShown = true;
+    for (const Effects &effects : quick) {
+        for (auto at = effects.cbegin(); at != effects.cend(); ++at) {
+            isShown = isShown && (at.key().startsWith(ScreenText) || at.key().startsWith(CarValue));
+        }
+    }
     for (const State state : {Fresh, Opposite}) {
-        const QVector<Effects> all =
-            isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
+        const bool isQuick = state == Opposite && isShown;
+        const QVector<Effects> all = isIdle    ? QVector<Effects>(count, m_base[state])
+                                     : isQuick ? quick
+                                               : tryOut(state, datas, Exactly);
         for (int i = 0; i < count; ++i) {
-            m_flipped[state].insert(first + i, all.at(i));
-            for (const Effect &effect : changesBy(state, first + i)) {
+            m_flipped[state].insert(i, all.at(i));
+            for (const Effect &effect : changesBy(state, i)) {
                 m_moved << effect.call;
             }
         }
@@ -273,9 +305,41 @@ bool BitProbe::isAlike(int byte, int bit, int other) const
     return true;
 }
 
+// Whether each bit of the byte, flipped, changes one text, and there one character, into the one that the byte now
+// stands for: a walk over 256 values would tell no more.
+bool BitProbe::isCharacter(int byte) const
+{
+    bool isSeen = false;
+    for (int bit = 0; bit < Bits; ++bit) {
+        const QVector<Effect> changes = changesBy(Opposite, byte * Bits + bit);
+        const uchar value = uchar(m_package.data.at(byte)) ^ uchar(1 << bit);
+        if (changes.size() != 1 || !changes.first().call.startsWith(ScreenText)) {
+            return false;
+        }
+        const QString before = m_base[Opposite].value(changes.first().call);
+        const QString after = m_flipped[Opposite].value(byte * Bits + bit).value(changes.first().call);
+        int other = 0;
+        while (other < before.size() && other < after.size() && before.at(other) == after.at(other)) {
+            ++other;
+        }
+        const bool isOne = before.size() == after.size() && before.mid(other + 1) == after.mid(other + 1) &&
+                           after.mid(other, 1) == QString(QLatin1Char(char(value)));
+        const bool isPrintable = value > ' ' && value < 0x7f;
+        if (isPrintable && !isOne) {
+            return false;
+        }
+        isSeen = isSeen || isPrintable;
+    }
+    return isSeen;
+}
+
 // The values of a run's calls for each of its own.
 void BitProbe::probeRun(Row *row)
 {
+    if (row->high - row->low == Bits - 1 && isCharacter(row->byte)) {
+        row->effects = {{changesBy(Opposite, row->byte * Bits).first().call, "a character of it"}};
+        return;
+    }
     QVector<QByteArray> datas;
     const int count = 1 << (row->high - row->low + 1);
     const int mask = (count - 1) << row->low;
@@ -316,11 +380,11 @@ void BitProbe::findPartners()
     for (int bit = 0; !idle.isEmpty() && bit < m_package.n() * Bits; ++bit) {
         QVector<int> others = idle;
         others.removeAll(bit);
-        datas << flipped({bit}) << flipped(others << bit);
+        datas << flipped(others << bit);
     }
     const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
-    for (int bit = 0; 2 * bit < all.size(); ++bit) {
-        if (all.at(2 * bit) != all.at(2 * bit + 1)) {
+    for (int bit = 0; bit < all.size(); ++bit) {
+        if (all.at(bit) != m_flipped[Opposite].value(bit)) {
             idle = findPartnersOf(bit, idle);
         }
     }
@@ -379,12 +443,13 @@ QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
 // A value of \a call, or what holds without one.
 QString BitProbe::absentOr(const Effects &effects, const QString &call) const
 {
-    return effects.contains(call)        ? readable(effects.value(call))
-           : call.startsWith(CarValue)   ? QString("not told")
-           : call.startsWith(ScreenText) ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size())))
-           : call == Dialog              ? QString("none")
-           : call == PlugIn              ? QString("lives")
-                                         : QString("no call");
+    return effects.contains(call)      ? readable(effects.value(call))
+           : call.startsWith(CarValue) ? QString("not told")
+           : call.startsWith(ScreenText)
+               ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size()), "not there"))
+           : call == Dialog ? QString("none")
+           : call == PlugIn ? QString("lives")
+                            : QString("no call");
 }
 
 QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after) const
