@@ -56,11 +56,12 @@ public:
 
     /// To be called when a text has changed: the labels are measured before the next one is painted.
     void textChanged();
+    /// Measures them now.
+    void fit();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void fit();
     int fittingSize(FigureLabel::UnitPlace place) const;
 
     QList<FigureLabel *> m_labels;
