@@ -76,8 +76,8 @@ int inspectCommand(const QStringList &words)
     }
     InspectionFilter filter;
     QString error;
-    const QString words = QString::fromStdString(text);
-    if (!filter.parse(KeptFilters::all().value(words, words).toString(), &error)) {
+    const QString wanted = QString::fromStdString(text);
+    if (!filter.parse(KeptFilters::all().value(wanted, wanted).toString(), &error)) {
         line.complain("--filter: " + error);
         return Command::WrongUsage;
     }

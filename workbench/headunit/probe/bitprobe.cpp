@@ -5,11 +5,8 @@
 
 #include "orbeventtypes.h"
 
-#include <QRegularExpression>
-
 namespace {
 
-const int Bits = 8;
 const QString CarValue = "car ";
 const QString ScreenText = "screen ";
 const QString Dialog = "dialog";
@@ -70,51 +67,6 @@ BitProbe::Effects effectsOf(const ProbeUnit::Trial &trial)
 QString readable(const QString &value)
 {
     return value.isEmpty() ? QString("empty") : value;
-}
-
-// "21.5°C" in parts; false for what is no number with a unit.
-bool readNumber(const QString &text, double *number, QString *unit)
-{
-    static const QRegularExpression form("^(-?[0-9]+(?:\\.[0-9]+)?)([^0-9]*)$");
-    const QRegularExpressionMatch match = form.match(text);
-    *number = match.captured(1).toDouble();
-    *unit = match.captured(2);
-    return match.hasMatch();
-}
-
-QString numberText(int number)
-{
-    return number < 10 ? QString::number(number) : "0x" + QString::number(number, 16);
-}
-
-// How many values from \a from on rise or fall steadily, in the same unit; roundings to whole numbers count.
-int steadyCount(const QStringList &values, int from)
-{
-    QVector<double> numbers;
-    QString unit;
-    QString other;
-    double number = 0;
-    int steady = 1;
-    for (int i = from; i < values.size() && readNumber(values.at(i), &number, &other); ++i) {
-        unit = i == from ? other : unit;
-        if (unit != other) {
-            break;
-        }
-        numbers << number;
-        const int last = int(numbers.size()) - 1;
-        const double step = last > 0 ? (numbers.last() - numbers.first()) / last : 0;
-        double off = 0;
-        bool isRising = step != 0;
-        for (int k = 1; k <= last; ++k) {
-            off = qMax(off, qAbs(numbers.at(k) - numbers.first() - k * step));
-            isRising = isRising && (numbers.at(k) - numbers.at(k - 1)) * step > 0;
-        }
-        if (last > 0 && (!isRising || off > (qAbs(step) > 1 ? 1.0 : 0.001))) {
-            break;
-        }
-        steady = last + 1;
-    }
-    return steady;
 }
 
 QString textOf(const QVector<BitProbe::Effect> &effects)
@@ -365,81 +317,6 @@ void BitProbe::probeRun(Row *row)
     }
 }
 
-// Bits that do nothing by themselves may do something while another is flipped. With each other bit all of them are
-// flipped at once, and looked at one by one only where that makes a difference: a pair each would be thousands of
-// trials.
-void BitProbe::findPartners()
-{
-    QVector<int> idle;
-    for (const Row &row : std::as_const(m_rows)) {
-        for (int bit = row.low; row.effects.isEmpty() && bit <= row.high; ++bit) {
-            idle << row.byte * Bits + bit;
-        }
-    }
-    QVector<QByteArray> datas;
-    for (int bit = 0; !idle.isEmpty() && bit < m_package.n() * Bits; ++bit) {
-        QVector<int> others = idle;
-        others.removeAll(bit);
-        datas << flipped(others << bit);
-    }
-    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
-    for (int bit = 0; bit < all.size(); ++bit) {
-        if (all.at(bit) != m_flipped[Opposite].value(bit)) {
-            idle = findPartnersOf(bit, idle);
-        }
-    }
-    splitByPartner();
-}
-
-// Bits of a run without effect that have another partner, or none, are a row of their own.
-void BitProbe::splitByPartner()
-{
-    QVector<Row> rows;
-    for (const Row &row : std::as_const(m_rows)) {
-        Row part = row;
-        for (int bit = row.high; row.effects.isEmpty() && bit >= row.low; --bit) {
-            const QString partner = m_partners.value(row.byte * Bits + bit);
-            if (bit < row.high && partner != part.partner) {
-                part.low = bit + 1;
-                rows << part;
-                part.high = bit;
-            }
-            part.partner = partner;
-        }
-        part.low = row.low;
-        rows << part;
-    }
-    m_rows = rows;
-}
-
-// Those of \a idle that do nothing beside \a bit either.
-QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
-{
-    QVector<int> others = idle;
-    others.removeAll(bit);
-    const QVector<Effects> alone =
-        tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
-    if (alone.at(0) == alone.at(1)) {
-        return idle;
-    }
-    QVector<QByteArray> datas;
-    for (const int other : std::as_const(others)) {
-        datas << flipped({other, bit});
-    }
-    const QVector<Effects> all = tryOut(Opposite, datas, Exactly);
-    QVector<int> left = idle;
-    for (int i = 0; i < others.size(); ++i) {
-        if (all.at(i) != alone.at(0)) {
-            left.removeAll(others.at(i));
-            m_partners.insert(others.at(i), QString("d[%1].%2").arg(bit / Bits).arg(bit % Bits));
-            for (const Effect &effect : difference(alone.at(0), all.at(i))) {
-                m_moved << effect.call;
-            }
-        }
-    }
-    return left;
-}
-
 // A value of \a call, or what holds without one.
 QString BitProbe::absentOr(const Effects &effects, const QString &call) const
 {
@@ -468,38 +345,4 @@ QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effe
         }
     }
     return result;
-}
-
-QString BitProbe::mapping(const QStringList &values)
-{
-    QMap<QString, int> counts;
-    for (const QString &value : values) {
-        ++counts[value];
-    }
-    // What many values share is told last, as "else".
-    QString rest;
-    for (auto at = counts.cbegin(); at != counts.cend(); ++at) {
-        if (at.value() > 2 && (rest.isEmpty() || at.value() > counts.value(rest))) {
-            rest = at.key();
-        }
-    }
-    QStringList parts;
-    for (int i = 0; i < values.size();) {
-        const int steady = steadyCount(values, i);
-        int count = steady > 2 ? steady : 1;
-        while (steady <= 2 && i + count < values.size() && values.at(i + count) == values.at(i)) {
-            ++count;
-        }
-        if (values.at(i) != rest || (steady > 2 && values.at(i + 1) != values.at(i))) {
-            const bool isOne = values.at(i) == values.at(i + count - 1);
-            parts << QString("%1 = %2").arg(
-                count == 1 ? numberText(i) : numberText(i) + ".." + numberText(i + count - 1),
-                isOne ? values.at(i) : values.at(i) + ".." + values.at(i + count - 1));
-        }
-        i += count;
-    }
-    if (!rest.isEmpty()) {
-        parts << (parts.isEmpty() ? "always " : "else ") + rest;
-    }
-    return parts.join(", ");
 }

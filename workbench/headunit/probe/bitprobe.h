@@ -70,6 +70,7 @@ public:
     static QString mapping(const QStringList &values);
 
 private:
+    static constexpr int Bits = 8; // of a byte
     enum State { Fresh, Opposite };
 
     enum Care {
