@@ -110,6 +110,10 @@ void TableListView::setModel(QAbstractItemModel *next)
 
 void TableListView::fitColumns()
 {
+    // Measuring every value costs more than setting one, so it waits until the list is to be seen.
+    if (!isVisible()) {
+        return;
+    }
     if (!model() || model()->columnCount() <= ValueColumn) {
         return;
     }
@@ -131,6 +135,12 @@ void TableListView::fitColumns()
 void TableListView::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
+    fitColumns();
+}
+
+void TableListView::showEvent(QShowEvent *event)
+{
+    QTableView::showEvent(event);
     fitColumns();
 }
 

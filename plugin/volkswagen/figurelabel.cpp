@@ -115,7 +115,7 @@ void FigureLabel::paintEvent(QPaintEvent *)
     painter.drawText(unitLeft, unitLine, unit);
 }
 
-FigureGroup::FigureGroup(QObject *parent) : QObject(parent) {}
+FigureGroup::FigureGroup(QObject *parent) : QObject(parent), m_isStale(false) {}
 
 void FigureGroup::add(FigureLabel *label)
 {
@@ -132,8 +132,14 @@ int FigureGroup::fittingSize(FigureLabel::UnitPlace place) const
     return size;
 }
 
+void FigureGroup::textChanged()
+{
+    m_isStale = true;
+}
+
 void FigureGroup::fit()
 {
+    m_isStale = false;
     const int beside = fittingSize(FigureLabel::Beside);
     const int below = fittingSize(FigureLabel::Below);
     const bool isBelow = below > beside + WorthALine;
@@ -145,7 +151,8 @@ void FigureGroup::fit()
 
 bool FigureGroup::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize) {
+    // Measuring costs more than all else that a package brings, so it waits until somebody looks.
+    if (event->type() == QEvent::Resize || (event->type() == QEvent::Paint && m_isStale)) {
         fit();
     }
     return QObject::eventFilter(watched, event);

@@ -54,7 +54,9 @@ public:
     /// The group must not be used any more once \a label is gone.
     void add(FigureLabel *label);
 
-    /// To be called when a text has changed.
+    /// To be called when a text has changed: the labels are measured before the next one is painted.
+    void textChanged();
+    /// Measures them now.
     void fit();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -63,6 +65,7 @@ private:
     int fittingSize(FigureLabel::UnitPlace place) const;
 
     QList<FigureLabel *> m_labels;
+    bool m_isStale;
 };
 
 #endif // FIGURELABEL_H

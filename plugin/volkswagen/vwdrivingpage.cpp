@@ -188,7 +188,7 @@ void VwDrivingPage::showFigure(int kind)
         }
     }
     m_figures[kind]->setText(text);
-    m_group->fit();
+    m_group->textChanged();
 }
 
 void VwDrivingPage::showNote()

@@ -118,9 +118,9 @@ bool PageState::take(const PackageView &d)
     if (!m_page || m_page->requestCount == 0 || d.command() != m_page->requestCommand || d.n() == 0) {
         return false;
     }
-    m_unanswered.removeAll(d.d(0));
-    takeSettings(d);
-    return true;
+    // Most replies share one command: what another page asked for is no news here.
+    const bool isAnswer = m_unanswered.removeAll(d.d(0)) > 0;
+    return takeSettings(d) || isAnswer;
 }
 
 bool PageState::takeReport(const PackageView &d)
@@ -152,44 +152,49 @@ bool PageState::isSilent() const
     return m_page && m_page->requestCount > 0 && m_unanswered.size() == m_page->requestCount;
 }
 
-void PageState::takeSettings(const PackageView &d)
+bool PageState::takeSettings(const PackageView &d)
 {
+    bool isTaken = false;
     if (d.command() == ServiceReply) {
         const ServiceReading reading = serviceReading(d);
         if (reading.form != ServiceReading::Absent) {
             m_readings.insert(reading.item, reading);
+            isTaken = true;
         }
     }
     if (m_id == TyresPage && WarningSpeedUnitField.isIn(d)) {
         m_speedInMph = WarningSpeedUnitField.valueIn(d) != 0;
+        isTaken = true;
     }
 
     for (int i = 0; i < m_rows.size(); ++i) {
         // A new driving mode changes the rows behind it, which this reply then fills as well.
         const SettingRow row = m_rows.at(i);
-        takeField(row, row.field, d);
+        isTaken = takeField(row, row.field, d) || isTaken;
         if (row.item == DrivingModeItem) {
-            takeField(row, SecondDrivingModeField, d);
+            isTaken = takeField(row, SecondDrivingModeField, d) || isTaken;
         }
     }
+    return isTaken;
 }
 
-void PageState::takeField(const SettingRow &row, const ReplyField &field, const PackageView &d)
+bool PageState::takeField(const SettingRow &row, const ReplyField &field, const PackageView &d)
 {
     if (!field.isIn(d)) {
-        return;
+        return false;
     }
     int value = field.valueIn(d);
     if (row.kind == SettingRow::Options) {
         value = row.optionOf(value);
     }
     if (value < 0) {
-        return;
+        return false;
     }
     m_values.insert(row.item, value);
     if (row.item == DrivingModeItem) {
         showProfileRows();
     }
+    return true;
 }
 
 // ---------------------------------------------------------------------------------------------- profile

@@ -32,8 +32,8 @@ public:
     /// An unknown \a page has no rows.
     explicit PageState(unsigned int page);
 
-    /// Takes a package of the box; false when it is none of this page's. What a short package lacks stays as
-    /// it was; values that a row has no text for are left out.
+    /// Takes a package of the box; false when it says nothing that this page shows. What a short package lacks
+    /// stays as it was; values that a row has no text for are left out.
     bool take(const PackageView &package);
 
     /// The command of the report that the page shows, which nobody can ask for; 0 for a page of settings.
@@ -68,8 +68,8 @@ public:
 
 private:
     bool takeReport(const PackageView &d);
-    void takeSettings(const PackageView &d);
-    void takeField(const SettingRow &row, const ReplyField &field, const PackageView &d);
+    bool takeSettings(const PackageView &d);
+    bool takeField(const SettingRow &row, const ReplyField &field, const PackageView &d);
     void showProfileRows();
 
     TableViewItemDatas itemOf(const SettingRow &row) const;

@@ -30,6 +30,7 @@ public:
 
 AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent), d(new Private)
 {
+    setAttribute(Qt::WA_OpaquePaintEvent); // what lies below need not be painted for each change
     setObjectName(QLatin1String("airConditionDlg"));
 }
 

@@ -3,6 +3,7 @@
 #include "command.h"
 #include "inspectionfilter.h"
 #include "inspectiontext.h"
+#include "keptfilters.h"
 #include "logcommand.h"
 #include "loginspection.h"
 
@@ -66,8 +67,8 @@ int inspectCommand(const QStringList &words)
             "--filter", text,
             "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
             "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
-            "! in front of a word turns it round")
-        ->type_name("WORDS");
+            "! in front of a word turns it round; or the name of a filter that was kept in the window")
+        ->type_name("WORDS|NAME");
     line.app.add_flag("--json", asJson, "answers in JSON");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
@@ -75,7 +76,8 @@ int inspectCommand(const QStringList &words)
     }
     InspectionFilter filter;
     QString error;
-    if (!filter.parse(QString::fromStdString(text), &error)) {
+    const QString wanted = QString::fromStdString(text);
+    if (!filter.parse(KeptFilters::all().value(wanted, wanted).toString(), &error)) {
         line.complain("--filter: " + error);
         return Command::WrongUsage;
     }

@@ -126,7 +126,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
     if (!unit.start(plugin, type, ProbeStart::greeting(speaker, package.command), &error)) {
         return line.complain(error);
     }
-    BitProbe one(&unit, speaker.format(), package);
+    BitProbe one(&unit, speaker, package);
     switch (one.run(order.byte, order.walksValues, &error)) {
     case BitProbe::NotFramed:
         return line.refuse(error);

@@ -2,6 +2,7 @@
 
 #include "bitsheet.h"
 #include "boxcatalog.h"
+#include "carproperty.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
 #include "probestart.h"
@@ -32,6 +33,17 @@ bool writeFile(const QString &path, const QString &text, QString *error)
     return true;
 }
 
+// A list in which nothing stands shows nothing, whatever its bits.
+void fillLists(DecoderBox *box)
+{
+    for (const QString &name : box->speaker()->properties()) {
+        const CarProperty *property = CarProperty::find(name);
+        if (property->kind == CarProperty::NumberList) {
+            box->car()->setValue(name, QString::number(property->minimum + 1));
+        }
+    }
+}
+
 bool writeSheet(const ProbeSheets::Order &order, int type, QString *error)
 {
     DriveTraces drives;
@@ -49,6 +61,7 @@ bool writeSheet(const ProbeSheets::Order &order, int type, QString *error)
     if (!unit.start(plugin, type, ProbeStart::greeting(*box->speaker()), error)) {
         return false;
     }
+    fillLists(box.get());
     BitSheet sheet(&unit, type, box->speaker(), drives);
     if (!sheet.run(error) ||
         !writeFile(QDir(order.folder).filePath(QString("%1.md").arg(type)), sheet.text(), error)) {

@@ -1,6 +1,7 @@
 #include "filterbar.h"
 
 #include "deskstyle.h"
+#include "keptfilters.h"
 #include "panelcard.h"
 
 #include <QBoxLayout>
@@ -10,19 +11,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 
 namespace {
 
 const int Gap = 8;
-const int LeastWidth = 116;                    // of a button beside the words
-const char *const KeptFilters = "lineFilters"; // a map of names to words
-
-QSettings settings()
-{
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("orb-canbus"),
-                     QStringLiteral("headunit"));
-}
+const int LeastWidth = 116; // of a button beside the words
 
 } // namespace
 
@@ -103,27 +96,21 @@ void FilterBar::keep()
         QInputDialog::getText(this, tr("Keep the filter"), tr("Name:"), QLineEdit::Normal, words, &isMeant)
             .trimmed();
     if (isMeant && !name.isEmpty()) {
-        QSettings kept = settings();
-        QVariantMap filters = kept.value(KeptFilters).toMap();
-        filters.insert(name, words);
-        kept.setValue(KeptFilters, filters);
+        KeptFilters::keep(name, words);
         listKept();
     }
 }
 
 void FilterBar::forget()
 {
-    QSettings kept = settings();
-    QVariantMap filters = kept.value(KeptFilters).toMap();
-    filters.remove(filters.key(m_words->currentText().trimmed()));
-    kept.setValue(KeptFilters, filters);
+    KeptFilters::forget(m_words->currentText().trimmed());
     listKept();
 }
 
 void FilterBar::listKept()
 {
     const QString words = m_words->currentText();
-    const QVariantMap filters = settings().value(KeptFilters).toMap();
+    const QVariantMap filters = KeptFilters::all();
     m_words->clear();
     for (auto filter = filters.cbegin(); filter != filters.cend(); ++filter) {
         m_words->addItem(filter.key(), filter.value());

@@ -2,6 +2,7 @@
 
 #include "steeringwheel.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSlider>
 #include <QScrollPrepareEvent>
@@ -24,8 +25,10 @@ public:
         }
         const QPointF place = static_cast<QScrollPrepareEvent *>(event)->startPos();
         const QWidget *control = static_cast<QWidget *>(viewport)->childAt(place.toPoint());
-        const bool isRefused =
-            qobject_cast<const QAbstractSlider *>(control) || qobject_cast<const SteeringWheel *>(control);
+        // A list scrolls by itself, and its rows are clicked, once or twice.
+        const bool isList = control && qobject_cast<const QAbstractItemView *>(control->parentWidget());
+        const bool isRefused = isList || qobject_cast<const QAbstractSlider *>(control) ||
+                               qobject_cast<const SteeringWheel *>(control);
         event->setAccepted(!isRefused);
         return isRefused;
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-const int LookInterval = 200; // ms; a busy line has hundreds of packages a second
+const int LookInterval = 300; // ms; a busy line has hundreds of packages a second
 const int CallsInCell = 2;
 
 QString caused(const InspectionRow &row)

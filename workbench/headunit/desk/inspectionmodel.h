@@ -37,7 +37,7 @@ public:
     void setPaused(bool isPaused);
     /// Whether somebody looks.
     void setAwake(bool isAwake);
-    /// Takes what came since it was last asked; by itself it does so five times a second.
+    /// Takes what came since it was last asked; by itself it does so three times a second.
     void look();
 
     /// The row with the inspection's number \a number is the first row from the top that is not older; rowCount() when

@@ -4,9 +4,12 @@
 #include "unitscreen.h"
 
 #include <QGraphicsProxyWidget>
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 namespace {
+
+const int PictureInterval = 100; // ms
 
 /// The unit's key that a key of the keyboard is; 0 for none.
 int unitKeyOf(int key)
@@ -43,6 +46,30 @@ UnitView::UnitView(UnitScreen *screen, QWidget *parent)
     scene()->addWidget(screen);
     screen->setAttribute(Qt::WA_QuitOnClose, false); // closing the desk ends the program
     scene()->setSceneRect(QRectF(QPointF(0, 0), m_unitSize));
+    setViewportUpdateMode(NoViewportUpdate); // but when change() says so
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(PictureInterval);
+    connect(scene(), &QGraphicsScene::changed, this, &UnitView::change);
+    connect(&m_rest, &QTimer::timeout, this, &UnitView::showChanges);
+}
+
+void UnitView::change(const QList<QRectF> &places)
+{
+    for (const QRectF &place : places) {
+        m_changed += mapFromScene(place).boundingRect().adjusted(-1, -1, 1, 1);
+    }
+    if (!m_rest.isActive() || QGuiApplication::mouseButtons() != Qt::NoButton) {
+        showChanges();
+    }
+}
+
+void UnitView::showChanges()
+{
+    if (!m_changed.isEmpty()) {
+        viewport()->update(m_changed);
+        m_changed = QRegion();
+        m_rest.start();
+    }
 }
 
 QSize UnitView::sizeHint() const

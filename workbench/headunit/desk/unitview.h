@@ -2,12 +2,17 @@
 #define UNITVIEW_H
 
 #include <QGraphicsView>
+#include <QRegion>
+#include <QTimer>
 
 class UnitScreen;
 
 /// The unit's screen as large as there is room for, between three quarters of its size and twice; it keeps its
 /// proportions, and a touch on it is a touch on the screen. With the keyboard on it, Escape is the unit's back
 /// key, the arrows and Return are its arrows and Enter; every other key is the widget's in front.
+///
+/// A box may say hundreds of packages a second, each with something to show: pictures follow one another no faster than
+/// eyes take them in, but while a finger is on the screen.
 class UnitView : public QGraphicsView
 {
     Q_OBJECT
@@ -35,7 +40,12 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
+    void change(const QList<QRectF> &places);
+    void showChanges();
+
     QSize m_unitSize;
+    QRegion m_changed; ///< of the viewport, since the last picture
+    QTimer m_rest;     ///< until the next picture may be painted
 };
 
 #endif // UNITVIEW_H

@@ -41,39 +41,6 @@ void addRows(const QAbstractItemModel *model, QDataStream *stream)
     }
 }
 
-// What a widget says: its text, number or switch, and whether it says it.
-QString stateOf(const QWidget *widget)
-{
-    QStringList parts;
-    for (const char *name : {"text", "value", "checked"}) {
-        const QVariant value = widget->property(name);
-        if (value.isValid() &&
-            (value.userType() != QMetaType::Bool || widget->property("checkable").toBool())) {
-            parts << value.toString().simplified();
-        }
-    }
-    parts << (widget->isHidden() ? "hidden" : "") << (widget->isEnabled() ? "" : "disabled");
-    parts.removeAll(QString());
-    return parts.join(", ");
-}
-
-void addRowTexts(const QString &list, const QAbstractItemModel *model, QMap<QString, QString> *texts)
-{
-    for (int row = 0; model && row < qMin(model->rowCount(), MostRows); ++row) {
-        QStringList parts;
-        for (int column = 0; column < model->columnCount(); ++column) {
-            const QModelIndex index = model->index(row, column);
-            for (const int role : {int(Qt::DisplayRole), int(Qt::CheckStateRole), int(Qt::UserRole)}) {
-                parts << index.data(role).toString();
-            }
-        }
-        const QString name = parts.takeFirst();
-        parts.removeAll(QString());
-        texts->insert(QString("%1 %2").arg(list, name.isEmpty() ? QString("#%1").arg(row) : name),
-                      parts.join(", "));
-    }
-}
-
 } // namespace
 
 void ScreenWatch::openWindows(HeadUnit *unit)
@@ -97,24 +64,4 @@ QByteArray ScreenWatch::fingerprint()
         }
     }
     return QCryptographicHash::hash(text, QCryptographicHash::Md5);
-}
-
-QMap<QString, QString> ScreenWatch::texts()
-{
-    QMap<QString, QString> texts;
-    for (QWidget *window : OrbHost::instance()->windows()) {
-        const QString name = window->objectName().isEmpty() ? QString(window->metaObject()->className())
-                                                            : window->objectName();
-        for (const QWidget *widget : window->findChildren<QWidget *>()) {
-            const QString full = name + '.' + widget->objectName();
-            if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_")) {
-                continue;
-            }
-            texts.insert(full, stateOf(widget));
-            if (const QAbstractItemView *view = qobject_cast<const QAbstractItemView *>(widget)) {
-                addRowTexts(full, view->model(), &texts);
-            }
-        }
-    }
-    return texts;
 }

@@ -2,8 +2,6 @@
 #define SCREENWATCH_H
 
 #include <QByteArray>
-#include <QMap>
-#include <QString>
 
 class HeadUnit;
 
@@ -16,10 +14,6 @@ void openWindows(HeadUnit *unit);
 
 /// A digest of all texts, states, styles, pictures and list rows in the plug-in's windows.
 QByteArray fingerprint();
-
-/// What can be read there by name: "Window.widget" to its text or state, "Window.list ROW" to what stands behind the
-/// row's first text. Widgets without a name are left out.
-QMap<QString, QString> texts();
 
 } // namespace ScreenWatch
 

@@ -1,12 +1,12 @@
 #include "bitprobe.h"
 
-#include "orbeventtypes.h"
+#include "boxspeaker.h"
+#include "probestart.h"
 
-#include <QRegularExpression>
+#include "orbeventtypes.h"
 
 namespace {
 
-const int Bits = 8;
 const QString CarValue = "car ";
 const QString ScreenText = "screen ";
 const QString Dialog = "dialog";
@@ -69,51 +69,6 @@ QString readable(const QString &value)
     return value.isEmpty() ? QString("empty") : value;
 }
 
-// "21.5°C" in parts; false for what is no number with a unit.
-bool readNumber(const QString &text, double *number, QString *unit)
-{
-    static const QRegularExpression form("^(-?[0-9]+(?:\\.[0-9]+)?)([^0-9]*)$");
-    const QRegularExpressionMatch match = form.match(text);
-    *number = match.captured(1).toDouble();
-    *unit = match.captured(2);
-    return match.hasMatch();
-}
-
-QString numberText(int number)
-{
-    return number < 10 ? QString::number(number) : "0x" + QString::number(number, 16);
-}
-
-// How many values from \a from on rise or fall steadily, in the same unit; roundings to whole numbers count.
-int steadyCount(const QStringList &values, int from)
-{
-    QVector<double> numbers;
-    QString unit;
-    QString other;
-    double number = 0;
-    int steady = 1;
-    for (int i = from; i < values.size() && readNumber(values.at(i), &number, &other); ++i) {
-        unit = i == from ? other : unit;
-        if (unit != other) {
-            break;
-        }
-        numbers << number;
-        const int last = int(numbers.size()) - 1;
-        const double step = last > 0 ? (numbers.last() - numbers.first()) / last : 0;
-        double off = 0;
-        bool isRising = step != 0;
-        for (int k = 1; k <= last; ++k) {
-            off = qMax(off, qAbs(numbers.at(k) - numbers.first() - k * step));
-            isRising = isRising && (numbers.at(k) - numbers.at(k - 1)) * step > 0;
-        }
-        if (last > 0 && (!isRising || off > (qAbs(step) > 1 ? 1.0 : 0.001))) {
-            break;
-        }
-        steady = last + 1;
-    }
-    return steady;
-}
-
 QString textOf(const QVector<BitProbe::Effect> &effects)
 {
     QStringList lines;
@@ -125,14 +80,14 @@ QString textOf(const QVector<BitProbe::Effect> &effects)
 
 } // namespace
 
-BitProbe::BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package)
-    : m_unit(unit), m_format(format), m_package(package)
+BitProbe::BitProbe(ProbeUnit *unit, const BoxSpeaker &speaker, const BoxPackage &package)
+    : m_unit(unit), m_speaker(speaker), m_format(speaker.format()), m_package(package)
 {}
 
 BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
 {
     const QString frame = QString::fromLatin1(m_format.frame(m_package).toHex());
-    const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(m_package)}}).first();
+    const ProbeUnit::Trial trial = tryFirst();
     if (!trial.end.isEmpty()) {
         *error = QString("the plug-in does not survive %1 (%2)").arg(frame, trial.end);
         return Killed;
@@ -144,7 +99,7 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     m_hasDialogs = trial.hasDialog;
     m_base[Fresh] = effectsOf(trial);
     chooseOtherState();
-    probeBits(only);
+    probeBits();
     for (int byte = 0; byte < m_package.n(); ++byte) {
         if (only < 0 || byte == only) {
             addRows(byte, walksValues);
@@ -154,13 +109,34 @@ BitProbe::Outcome BitProbe::run(int only, bool walksValues, QString *error)
     return Done;
 }
 
+// The package as it is. When it does nothing, it may be one for what a screen shows behind a button.
+ProbeUnit::Trial BitProbe::tryFirst()
+{
+    const QVector<ProbeUnit::Packages> trials = {{m_format.frame(m_package)}};
+    m_unit->turnTo(-1);
+    const ProbeUnit::Trial trial = m_unit->tryFresh(trials).first();
+    const QVector<ScreenTap::Target> &turns = m_unit->screens().turns();
+    for (int i = 0; trial.isFramed && effectsOf(trial).isEmpty() && i < turns.size(); ++i) {
+        m_unit->turnTo(i);
+        const ProbeUnit::Trial turned = m_unit->tryFresh(trials).first();
+        if (!effectsOf(turned).isEmpty()) {
+            m_turn = turns.at(i).name;
+            return turned;
+        }
+    }
+    m_unit->turnTo(-1);
+    return trial;
+}
+
 // The second state comes from the opposite in every bit; where that kills the plug-in or leaves a dialog open, there is
 // none but the fresh one.
 void BitProbe::chooseOtherState()
 {
     BoxPackage opposite = m_package;
-    for (char &byte : opposite.data) {
-        byte = char(~byte);
+    // Where the first byte says what the others mean it stays: the opposite of another thing is no other state.
+    const int from = ProbeStart::reportsOf(m_speaker, m_package.command) > 1 ? 1 : 0;
+    for (int i = from; i < opposite.n(); ++i) {
+        opposite.data[i] = char(~opposite.data.at(i));
     }
     const ProbeUnit::Trial trial = m_unit->tryFresh({{m_format.frame(opposite)}}).first();
     if (trial.end.isEmpty() && !trial.hasDialog) {
@@ -196,23 +172,31 @@ QByteArray BitProbe::flipped(const QVector<int> &bits) const
     return data;
 }
 
-void BitProbe::probeBits(int only)
+void BitProbe::probeBits()
 {
     QVector<QByteArray> datas;
-    const int first = qMax(only, 0) * Bits;
-    const int count = only < 0 ? m_package.n() * Bits : Bits;
-    for (int bit = first; bit < first + count; ++bit) {
+    const int count = m_package.n() * Bits;
+    for (int bit = 0; bit < count; ++bit) {
         datas << flipped({bit});
     }
-    // A package that does nothing whatever its bits are needs no fork for each of them.
+    // A package that does nothing whatever its bits are needs no fork for each of them; nor does one that only
+    // shows something, since it would be seen if that were left behind.
     const QVector<Effects> quick = tryOut(Opposite, datas, Quickly);
     const bool isIdle = quick.count(m_base[Opposite]) == quick.size();
+    bool isShown = true;
+    for (const Effects &effects : quick) {
+        for (auto at = effects.cbegin(); at != effects.cend(); ++at) {
+            isShown = isShown && (at.key().startsWith(ScreenText) || at.key().startsWith(CarValue));
+        }
+    }
     for (const State state : {Fresh, Opposite}) {
-        const QVector<Effects> all =
-            isIdle ? QVector<Effects>(count, m_base[state]) : tryOut(state, datas, Exactly);
+        const bool isQuick = state == Opposite && isShown;
+        const QVector<Effects> all = isIdle    ? QVector<Effects>(count, m_base[state])
+                                     : isQuick ? quick
+                                               : tryOut(state, datas, Exactly);
         for (int i = 0; i < count; ++i) {
-            m_flipped[state].insert(first + i, all.at(i));
-            for (const Effect &effect : changesBy(state, first + i)) {
+            m_flipped[state].insert(i, all.at(i));
+            for (const Effect &effect : changesBy(state, i)) {
                 m_moved << effect.call;
             }
         }
@@ -273,9 +257,41 @@ bool BitProbe::isAlike(int byte, int bit, int other) const
     return true;
 }
 
+// Whether each bit of the byte, flipped, changes one text, and there one character, into the one that the byte now
+// stands for: a walk over 256 values would tell no more.
+bool BitProbe::isCharacter(int byte) const
+{
+    bool isSeen = false;
+    for (int bit = 0; bit < Bits; ++bit) {
+        const QVector<Effect> changes = changesBy(Opposite, byte * Bits + bit);
+        const uchar value = uchar(m_package.data.at(byte)) ^ uchar(1 << bit);
+        if (changes.size() != 1 || !changes.first().call.startsWith(ScreenText)) {
+            return false;
+        }
+        const QString before = m_base[Opposite].value(changes.first().call);
+        const QString after = m_flipped[Opposite].value(byte * Bits + bit).value(changes.first().call);
+        int other = 0;
+        while (other < before.size() && other < after.size() && before.at(other) == after.at(other)) {
+            ++other;
+        }
+        const bool isOne = before.size() == after.size() && before.mid(other + 1) == after.mid(other + 1) &&
+                           after.mid(other, 1) == QString(QLatin1Char(char(value)));
+        const bool isPrintable = value > ' ' && value < 0x7f;
+        if (isPrintable && !isOne) {
+            return false;
+        }
+        isSeen = isSeen || isPrintable;
+    }
+    return isSeen;
+}
+
 // The values of a run's calls for each of its own.
 void BitProbe::probeRun(Row *row)
 {
+    if (row->high - row->low == Bits - 1 && isCharacter(row->byte)) {
+        row->effects = {{changesBy(Opposite, row->byte * Bits).first().call, "a character of it"}};
+        return;
+    }
     QVector<QByteArray> datas;
     const int count = 1 << (row->high - row->low + 1);
     const int mask = (count - 1) << row->low;
@@ -301,90 +317,16 @@ void BitProbe::probeRun(Row *row)
     }
 }
 
-// Bits that do nothing by themselves may do something while another is flipped. With each other bit all of them are
-// flipped at once, and looked at one by one only where that makes a difference: a pair each would be thousands of
-// trials.
-void BitProbe::findPartners()
-{
-    QVector<int> idle;
-    for (const Row &row : std::as_const(m_rows)) {
-        for (int bit = row.low; row.effects.isEmpty() && bit <= row.high; ++bit) {
-            idle << row.byte * Bits + bit;
-        }
-    }
-    QVector<QByteArray> datas;
-    for (int bit = 0; !idle.isEmpty() && bit < m_package.n() * Bits; ++bit) {
-        QVector<int> others = idle;
-        others.removeAll(bit);
-        datas << flipped({bit}) << flipped(others << bit);
-    }
-    const QVector<Effects> all = tryOut(Opposite, datas, Quickly);
-    for (int bit = 0; 2 * bit < all.size(); ++bit) {
-        if (all.at(2 * bit) != all.at(2 * bit + 1)) {
-            idle = findPartnersOf(bit, idle);
-        }
-    }
-    splitByPartner();
-}
-
-// Bits of a run without effect that have another partner, or none, are a row of their own.
-void BitProbe::splitByPartner()
-{
-    QVector<Row> rows;
-    for (const Row &row : std::as_const(m_rows)) {
-        Row part = row;
-        for (int bit = row.high; row.effects.isEmpty() && bit >= row.low; --bit) {
-            const QString partner = m_partners.value(row.byte * Bits + bit);
-            if (bit < row.high && partner != part.partner) {
-                part.low = bit + 1;
-                rows << part;
-                part.high = bit;
-            }
-            part.partner = partner;
-        }
-        part.low = row.low;
-        rows << part;
-    }
-    m_rows = rows;
-}
-
-// Those of \a idle that do nothing beside \a bit either.
-QVector<int> BitProbe::findPartnersOf(int bit, const QVector<int> &idle)
-{
-    QVector<int> others = idle;
-    others.removeAll(bit);
-    const QVector<Effects> alone =
-        tryOut(Opposite, {flipped({bit}), flipped(others + QVector<int>{bit})}, Exactly);
-    if (alone.at(0) == alone.at(1)) {
-        return idle;
-    }
-    QVector<QByteArray> datas;
-    for (const int other : std::as_const(others)) {
-        datas << flipped({other, bit});
-    }
-    const QVector<Effects> all = tryOut(Opposite, datas, Exactly);
-    QVector<int> left = idle;
-    for (int i = 0; i < others.size(); ++i) {
-        if (all.at(i) != alone.at(0)) {
-            left.removeAll(others.at(i));
-            m_partners.insert(others.at(i), QString("d[%1].%2").arg(bit / Bits).arg(bit % Bits));
-            for (const Effect &effect : difference(alone.at(0), all.at(i))) {
-                m_moved << effect.call;
-            }
-        }
-    }
-    return left;
-}
-
 // A value of \a call, or what holds without one.
 QString BitProbe::absentOr(const Effects &effects, const QString &call) const
 {
-    return effects.contains(call)        ? readable(effects.value(call))
-           : call.startsWith(CarValue)   ? QString("not told")
-           : call.startsWith(ScreenText) ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size())))
-           : call == Dialog              ? QString("none")
-           : call == PlugIn              ? QString("lives")
-                                         : QString("no call");
+    return effects.contains(call)      ? readable(effects.value(call))
+           : call.startsWith(CarValue) ? QString("not told")
+           : call.startsWith(ScreenText)
+               ? readable(m_unit->textsAtStart().value(call.mid(ScreenText.size()), "not there"))
+           : call == Dialog ? QString("none")
+           : call == PlugIn ? QString("lives")
+                            : QString("no call");
 }
 
 QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effects &after) const
@@ -403,38 +345,4 @@ QVector<BitProbe::Effect> BitProbe::difference(const Effects &before, const Effe
         }
     }
     return result;
-}
-
-QString BitProbe::mapping(const QStringList &values)
-{
-    QMap<QString, int> counts;
-    for (const QString &value : values) {
-        ++counts[value];
-    }
-    // What many values share is told last, as "else".
-    QString rest;
-    for (auto at = counts.cbegin(); at != counts.cend(); ++at) {
-        if (at.value() > 2 && (rest.isEmpty() || at.value() > counts.value(rest))) {
-            rest = at.key();
-        }
-    }
-    QStringList parts;
-    for (int i = 0; i < values.size();) {
-        const int steady = steadyCount(values, i);
-        int count = steady > 2 ? steady : 1;
-        while (steady <= 2 && i + count < values.size() && values.at(i + count) == values.at(i)) {
-            ++count;
-        }
-        if (values.at(i) != rest || (steady > 2 && values.at(i + 1) != values.at(i))) {
-            const bool isOne = values.at(i) == values.at(i + count - 1);
-            parts << QString("%1 = %2").arg(
-                count == 1 ? numberText(i) : numberText(i) + ".." + numberText(i + count - 1),
-                isOne ? values.at(i) : values.at(i) + ".." + values.at(i + count - 1));
-        }
-        i += count;
-    }
-    if (!rest.isEmpty()) {
-        parts << (parts.isEmpty() ? "always " : "else ") + rest;
-    }
-    return parts.join(", ");
 }

@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QSet>
 
+class BoxSpeaker;
+
 /// What each bit of a package's data moves: the package is fed as it is, with each bit flipped, and runs of
 /// bits that move the same with each of their values. Twice: to a fresh unit, and to one that has just been told
 /// the opposite in every bit (unless the unit does not bear that).
@@ -43,8 +45,8 @@ public:
         Killed     ///< the plug-in does not survive the package as it is
     };
 
-    /// \a unit runs already and outlives the probe, as \a format does.
-    BitProbe(ProbeUnit *unit, const FrameFormat &format, const BoxPackage &package);
+    /// \a unit runs already and outlives the probe, as \a speaker does, of whose box the package is.
+    BitProbe(ProbeUnit *unit, const BoxSpeaker &speaker, const BoxPackage &package);
 
     /// Probes the data byte \a only, or all for -1. With \a walksValues each byte's 256 values are walked, as one
     /// run. Anything but Done comes with one sentence in \a error.
@@ -57,6 +59,8 @@ public:
     const Effects &base() const { return m_base[Fresh]; }
     /// Names of all that any trial moved.
     const QSet<QString> &moved() const { return m_moved; }
+    /// The button behind which a screen shows what the package tells; empty when they show it as they open.
+    const QString &turn() const { return m_turn; }
     /// Whether a dialog waits after some of the packages.
     bool hasDialogs() const { return m_hasDialogs; }
     /// Whether neither the package nor any of its bits causes anything.
@@ -66,6 +70,7 @@ public:
     static QString mapping(const QStringList &values);
 
 private:
+    static constexpr int Bits = 8; // of a byte
     enum State { Fresh, Opposite };
 
     enum Care {
@@ -73,13 +78,15 @@ private:
         Quickly  ///< one behind the other, where what the ones before left behind may show
     };
     QVector<Effects> tryOut(State state, const QVector<QByteArray> &datas, Care care);
+    ProbeUnit::Trial tryFirst();
     void chooseOtherState();
     QByteArray flipped(const QVector<int> &bits) const;
-    void probeBits(int only);
+    void probeBits();
     void addRows(int byte, bool walksValues);
     bool isAlike(int byte, int bit, int other) const;
     bool isIdle(int bit) const;
     QVector<Effect> changesBy(State state, int bit) const;
+    bool isCharacter(int byte) const;
     void probeRun(Row *row);
     void findPartners();
     void splitByPartner();
@@ -88,6 +95,7 @@ private:
     QVector<Effect> difference(const Effects &before, const Effects &after) const;
 
     ProbeUnit *m_unit;
+    const BoxSpeaker &m_speaker;
     const FrameFormat &m_format;
     BoxPackage m_package;
     ProbeUnit::Packages m_before; // bring about the second state
@@ -96,6 +104,7 @@ private:
     QVector<Row> m_rows;
     QSet<QString> m_moved;
     QMap<int, QString> m_partners;
+    QString m_turn;
     bool m_hasDialogs = false;
 };
 

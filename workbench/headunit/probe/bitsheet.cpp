@@ -1,6 +1,7 @@
 #include "bitsheet.h"
 
 #include "boxcatalog.h"
+#include "probestart.h"
 #include "probetext.h"
 
 namespace {
@@ -68,6 +69,7 @@ bool BitSheet::run(QString *error)
             }
         }
     }
+    m_unit->tapAll();
     findSent();
     return true;
 }
@@ -79,9 +81,12 @@ bool BitSheet::probe(const BoxPackage &package, const QString &name, const QStri
     bool isDecoded = false;
     bool isDrawn = false;
     if (!package.data.isEmpty()) {
-        BitProbe probe(m_unit, m_speaker->format(), package);
+        BitProbe probe(m_unit, *m_speaker, package);
         if (probe.run(-1, isKeys, error) != BitProbe::Done) {
             return false;
+        }
+        if (!probe.turn().isEmpty()) {
+            m_fromBox += QString("On the page to which `%1` turns:\n\n").arg(probe.turn());
         }
         m_fromBox += ProbeText::markdown(probe) + '\n';
         for (const QString &call :
@@ -99,16 +104,12 @@ bool BitSheet::probe(const BoxPackage &package, const QString &name, const QStri
     return true;
 }
 
-// Some commands carry many things, told apart by the first data byte.
 bool BitSheet::isDriven(const BoxPackage &package) const
 {
-    int sameCommand = 0;
-    for (const BoxReport &report : m_speaker->reports()) {
-        sameCommand += report.command == package.command ? 1 : 0;
-    }
+    const bool isOneOfMany = ProbeStart::reportsOf(*m_speaker, package.command) > 1;
     for (const QByteArray &frame : m_drives.received()) {
         const BoxPackage driven = m_speaker->format().package(frame);
-        if (driven.command == package.command && (sameCommand < 2 || driven.d(0) == package.d(0))) {
+        if (driven.command == package.command && (!isOneOfMany || driven.d(0) == package.d(0))) {
             return true;
         }
     }
@@ -128,6 +129,18 @@ void BitSheet::findSent()
     }
     for (const QByteArray &frame : m_unit->sentAfter([](HeadUnit *) {}, SilenceMs)) {
         addSent(frame, "by itself");
+    }
+    for (const ScreenTour::Screen &screen : m_unit->screens().screens()) {
+        for (const QByteArray &frame : screen.asked) {
+            addSent(frame, "page " + screen.name);
+        }
+        for (const ScreenTour::Control &control : screen.controls) {
+            for (const ScreenTour::Answer &answer : control.answers) {
+                for (const QByteArray &frame : answer.sent) {
+                    addSent(frame, screen.name + ": " + control.name);
+                }
+            }
+        }
     }
     for (const QByteArray &frame : m_drives.sent()) {
         for (const QString &drive : m_drives.drivesOf(frame)) {
@@ -171,11 +184,11 @@ QString BitSheet::text() const
 {
     const QString className = BoxCatalog::className(m_type);
     QString text =
-        QString("# %1\n\n"
-                "The box of type %2. This sheet is made by `headunit probe --all docs/boxes` from the "
-                "plug-in's calls and the virtual box's names; a change by hand is overwritten. A bit that "
-                "only a page shows that a menu's row opens stands among those without effect.\n\n"
-                "## From the box\n\n")
+        QString(
+            "# %1\n\n"
+            "The box of type %2. This sheet is made by `headunit probe --all docs/boxes` from the "
+            "plug-in's calls, its screens and the virtual box's names; a change by hand is overwritten.\n\n"
+            "## From the box\n\n")
             .arg(className)
             .arg(m_type);
     text += m_fromBox;
@@ -186,7 +199,39 @@ QString BitSheet::text() const
                     .arg(hex(package.command), hex(package.data), sent.others > 0 ? " and others" : "",
                          cell(sent.meaning), sent.causes.join(", "));
     }
-    return text + "\n## Functions\n\n" + functionTable();
+    return text + screenTables() + "\n## Functions\n\n" + functionTable();
+}
+
+// What each tap says to the box.
+QString BitSheet::screenTables() const
+{
+    QString text;
+    for (const ScreenTour::Screen &screen : m_unit->screens().screens()) {
+        text += QString("\n### %1\n\n").arg(screen.name);
+        text += screen.openedBy.isEmpty() ? QString() : QString("Opened by %1. ").arg(screen.openedBy);
+        text += screen.asked.isEmpty() ? QString("Asks for nothing.\n")
+                                       : QString("Asks `%1`.\n").arg(framesText(screen.asked));
+        text += screen.controls.isEmpty() ? "" : "\n| what is tapped | what it sends |\n|---|---|\n";
+        for (const ScreenTour::Control &control : screen.controls) {
+            QStringList answers;
+            for (const ScreenTour::Answer &answer : control.answers) {
+                const QString choice = answer.choice.isEmpty() ? QString() : answer.choice.trimmed() + ": ";
+                answers << choice + '`' + framesText(answer.sent) + '`';
+            }
+            text += QString("| %1 | %2 |\n").arg(cell(control.name), cell(answers.join("<br>")));
+        }
+    }
+    return text.isEmpty() ? text : "\n## Screens\n" + text;
+}
+
+QString BitSheet::framesText(const QVector<QByteArray> &frames) const
+{
+    QStringList texts;
+    for (const QByteArray &frame : frames) {
+        const BoxPackage package = m_speaker->format().package(frame);
+        texts << hex(package.command) + ' ' + hex(package.data);
+    }
+    return texts.join("`, `");
 }
 
 QString BitSheet::functionTable() const

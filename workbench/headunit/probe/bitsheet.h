@@ -46,6 +46,8 @@ private:
     bool isDriven(const BoxPackage &package) const;
     void findSent();
     void addSent(const QByteArray &frame, const QString &cause);
+    QString screenTables() const;
+    QString framesText(const QVector<QByteArray> &frames) const;
     QString functionTable() const;
 
     ProbeUnit *m_unit;

@@ -33,3 +33,12 @@ ProbeUnit::Packages ProbeStart::greeting(const BoxSpeaker &speaker, int command)
     }
     return frames;
 }
+
+int ProbeStart::reportsOf(const BoxSpeaker &speaker, quint8 command)
+{
+    int count = 0;
+    for (const BoxReport &report : speaker.reports()) {
+        count += report.command == command ? 1 : 0;
+    }
+    return count;
+}

@@ -33,7 +33,8 @@ QString ProbeText::bits(const BitProbe::Row &row)
 
 QString ProbeText::plain(const BitProbe &probe)
 {
-    QString text;
+    QString text =
+        probe.turn().isEmpty() ? QString() : QString("On the page to which %1 turns:\n").arg(probe.turn());
     for (const BitProbe::Row &row : probe.rows()) {
         QString head = bits(row).leftJustified(10);
         const QStringList lines = effects(row);

@@ -1,7 +1,6 @@
 #include "probeunit.h"
 
 #include "headunitoptions.h"
-#include "screenwatch.h"
 #include "virtualline.h"
 
 #include "jsontext.h"
@@ -19,9 +18,12 @@
 
 namespace {
 
+const QString Withdrawn = QStringLiteral("unknown");
+
 // Time of the virtual clock.
 const int StartMs = 3000;     // until the unit has greeted its box, and missed its answers
-const int SettleMs = 20;      // until what a package brings about is over; the unit reads every 4 ms
+const int SettleMs = 12;      // until what a package brings about is over; the unit reads every 4 ms
+const int TakenMs = 8;        // until a package is decoded that only brings about a state
 const int TurnMs = 1000;      // of trials in turn: what the first one brings about later comes no sooner
 const int MostWaits = 8;      // for a time in which the plug-in says nothing by itself
 const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
@@ -86,7 +88,7 @@ public:
     void eventCalled(const QString &, const OrbEvent &) override {}
     void valueTold(const QString &name, const QVariant &value) override
     {
-        values.insert(name, value.isValid() ? value.toString() : QString("unknown"));
+        values.insert(name, value.isValid() ? value.toString() : Withdrawn);
     }
 
     QMap<QString, QString> values;
@@ -124,15 +126,55 @@ bool ProbeUnit::start(const QString &plugin, int type, const Packages &greeting,
         letPass(SettleMs);
     }
     m_sentAtStart = sent();
-    ScreenWatch::openWindows(m_unit.get());
+    m_tour.reset(new ScreenTour(this));
+    m_tour->open(m_unit.get());
     letPass(StartMs);
     // A clock that is told every ten seconds is no answer to a package.
     for (int i = 0; i < MostWaits && !sentAfter([](HeadUnit *) {}, 2 * TurnMs).isEmpty(); ++i) {
         letPass(TurnMs);
     }
-    m_texts = ScreenWatch::texts();
-    drainLine();
+    settle(0);
+    m_screen->hide(); // nobody looks, so nothing has to be laid out
     return true;
+}
+
+void ProbeUnit::settle(int ms)
+{
+    letPass(ms);
+    drainLine();
+    m_watch->forget(); // else each child does so, on pages of its own
+    m_reader.remember();
+}
+
+void ProbeUnit::tapAll()
+{
+    m_turn = -1;
+    m_screen->show(); // a dialog has to be where its buttons are tapped
+    settle(SettleMs);
+    m_tour->tapAll();
+}
+
+void ProbeUnit::turnTo(int number)
+{
+    m_turn = number;
+    if (number < 0) {
+        return;
+    }
+    const QByteArray told = observe([this] { turn(); }, SettleMs,
+                                    [this](QDataStream *stream) { *stream << m_reader.remembered(); });
+    m_turnedTexts.clear();
+    QDataStream stream(told);
+    stream >> m_turnedTexts;
+}
+
+// In a child.
+void ProbeUnit::turn()
+{
+    if (m_turn >= 0) {
+        m_tour->turns().at(m_turn).tap();
+        letPass(TakenMs);
+        m_reader.remember();
+    }
 }
 
 QVector<ProbeUnit::Trial> ProbeUnit::tryFresh(const QVector<Packages> &trials)
@@ -164,6 +206,8 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
         [&](int result) {
             QElapsedTimer clock;
             clock.start();
+            ::alarm(LongestTrial);
+            turn();
             for (int i = from; i < trials.size() && clock.elapsed() < TurnMs; ++i) {
                 ::alarm(LongestTrial);
                 play(trials.at(i), 0, result);
@@ -207,6 +251,11 @@ void ProbeUnit::play(const Packages &packages, int from, int result)
     for (int i = from; i < packages.size(); ++i) {
         drainLine();
         m_watch->forget();
+        if (i + 1 == packages.size()) {
+            m_before = shown();
+            m_clean = m_isFirst ? m_before : m_clean;
+            m_isFirst = false;
+        }
         const QByteArray &package = packages.at(i);
         if (::write(m_line.farEnd(), package.constData(), size_t(package.size())) != package.size()) {
             ::_exit(1);
@@ -214,7 +263,8 @@ void ProbeUnit::play(const Packages &packages, int from, int result)
         VirtualLine::waitUntilThere(m_line, int(package.size()));
         QEventLoop loop;
         const int level = QThread::currentThread()->loopLevel() + 1;
-        QTimer::singleShot(SettleMs, Qt::PreciseTimer, &loop, [&] {
+        const int ms = i + 1 < packages.size() ? TakenMs : SettleMs;
+        QTimer::singleShot(ms, Qt::PreciseTimer, &loop, [&] {
             if (QThread::currentThread()->loopLevel() > level) {
                 m_isInDialog = true;
                 play(packages, i + 1, result);
@@ -229,8 +279,41 @@ void ProbeUnit::play(const Packages &packages, int from, int result)
     }
 }
 
+ProbeUnit::Shown ProbeUnit::shown()
+{
+    return {m_reader.changes(), m_values->values};
+}
+
+// Whether something stands there that stood there before the package already, and in the first trial did not.
+bool ProbeUnit::isLeftBehind(const Shown &now) const
+{
+    // A value is withdrawn only when it was told before.
+    for (auto at = now.values.cbegin(); m_before.values != m_clean.values && at != now.values.cend(); ++at) {
+        if (at.value() == Withdrawn && !m_clean.values.contains(at.key())) {
+            return true;
+        }
+    }
+    const auto isAny = [](const ScreenReader::Texts &clean, const ScreenReader::Texts &before,
+                          const ScreenReader::Texts &after) {
+        bool isLeft = false;
+        for (auto at = after.cbegin(); before != clean && at != after.cend(); ++at) {
+            isLeft = isLeft || (before.value(at.key()) == at.value() && clean.value(at.key()) != at.value());
+        }
+        for (auto at = clean.cbegin(); before != clean && at != clean.cend(); ++at) {
+            isLeft = isLeft || (!before.contains(at.key()) && !after.contains(at.key()));
+        }
+        return isLeft;
+    };
+    return isAny(m_clean.texts, m_before.texts, now.texts) ||
+           isAny(m_clean.values, m_before.values, now.values);
+}
+
 void ProbeUnit::tell(const QByteArray &package, int result)
 {
+    const Shown now = shown();
+    if (isLeftBehind(now)) {
+        ::_exit(0); // untold: it is tried again in a child of its own
+    }
     QVector<CallWatch::Call> calls;
     bool isFramed = false;
     for (const CallWatch::Call &call : m_watch->calls()) {
@@ -240,20 +323,17 @@ void ProbeUnit::tell(const QByteArray &package, int result)
             calls << call;
         }
     }
-    QMap<QString, QString> texts = m_texts.isEmpty() ? m_texts : ScreenWatch::texts();
-    for (auto at = texts.begin(); at != texts.end();) {
-        at = m_texts.value(at.key()) == at.value() ? texts.erase(at) : std::next(at);
-    }
     QByteArray told;
     QDataStream stream(&told, QIODevice::WriteOnly);
-    stream << isFramed << m_isInDialog << m_values->values << texts << qint32(calls.size());
+    stream << isFramed << m_isInDialog << now.values << now.texts << qint32(calls.size());
     for (const CallWatch::Call &call : std::as_const(calls)) {
         stream << call.object << call.name << call.args;
     }
     writeAll(result, told);
 }
 
-ProbeUnit::Packages ProbeUnit::sentAfter(const std::function<void(HeadUnit *)> &act, int ms)
+QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
+                              const std::function<void(QDataStream *)> &report)
 {
     QByteArray told;
     int status = 0;
@@ -261,18 +341,25 @@ ProbeUnit::Packages ProbeUnit::sentAfter(const std::function<void(HeadUnit *)> &
         [&](int result) {
             ::alarm(LongestTrial);
             m_watch->forget();
-            QTimer::singleShot(ms, m_screen.get(), [&] {
+            QTimer::singleShot(ms, Qt::PreciseTimer, m_screen.get(), [&] {
                 QByteArray bytes;
                 QDataStream stream(&bytes, QIODevice::WriteOnly);
-                stream << sent();
+                report(&stream);
                 writeAll(result, bytes);
                 ::_exit(0);
             });
-            act(m_unit.get());
+            act();
             QEventLoop().exec();
         },
         &told, &status);
     drainLine();
+    return told;
+}
+
+ProbeUnit::Packages ProbeUnit::sentAfter(const std::function<void(HeadUnit *)> &act, int ms)
+{
+    const QByteArray told =
+        observe([&] { act(m_unit.get()); }, ms, [this](QDataStream *stream) { *stream << sent(); });
     Packages packages;
     QDataStream stream(told);
     stream >> packages;

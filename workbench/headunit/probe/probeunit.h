@@ -3,6 +3,8 @@
 
 #include "callwatch.h"
 #include "headunit.h"
+#include "screenreader.h"
+#include "screentour.h"
 #include "terminalpair.h"
 #include "unitscreen.h"
 
@@ -19,7 +21,7 @@ class ProbeUnit
 {
 public:
     /// Whole frames, fed one after the other; the last one is what is asked about.
-    using Packages = QVector<QByteArray>;
+    using Packages = ScreenTour::Packages;
 
     /// What came of a trial.
     struct Trial
@@ -37,21 +39,44 @@ public:
 
     /// Starts the plug-in \a plugin with the decoder of \a type, feeds it \a greeting, the packages with which
     /// a box begins, and lets it settle. False, with one sentence in \a error, when it does not run.
+    /// Opens all of the plug-in's screens, so that they show what packages bring.
     bool start(const QString &plugin, int type, const Packages &greeting, QString *error);
+
+    /// From now on trials begin with the screens turned to where the button  number of screens()->turns() turns
+    /// them; -1: as they were opened.
+    void turnTo(int number);
 
     /// Each of \a trials in the state in which the unit started: a fork each.
     QVector<Trial> tryFresh(const QVector<Packages> &trials);
-    /// \a trials one behind the other: each has to begin with packages that bring about its state. A fork for
-    /// all that go well.
+    /// \a trials one behind the other: each has to begin with packages that bring about its state. A fork for all
+    /// that go well, and one more where a text or value may be what an earlier trial left behind.
     QVector<Trial> tryInTurn(const QVector<Packages> &trials);
 
     /// What the unit wants to say to its box from \a act on, for \a ms, in a child: packages as they are queued.
     Packages sentAfter(const std::function<void(HeadUnit *)> &act, int ms);
+    /// What \a report writes in a child, \a ms after \a act began there, also when that waits in a dialog. Empty when
+    /// the plug-in did not survive it.
+    QByteArray observe(const std::function<void()> &act, int ms,
+                       const std::function<void(QDataStream *)> &report);
+    /// Lets \a ms pass for good, and takes what the screens then show for the state in which trials begin.
+    void settle(int ms);
+
+    /// What was queued for the box since a child's act began.
+    Packages sent() const;
+    /// What the screens show other than at start.
+    ScreenReader::Texts changedTexts() { return m_reader.changes(); }
+    /// The screens that were opened.
+    const ScreenTour &screens() const { return *m_tour; }
+    /// Finds out what each tap on them says; after all trials.
+    void tapAll();
     /// What it wanted to say by the end of start().
     const Packages &sentAtStart() const { return m_sentAtStart; }
 
-    /// What the plug-in's windows show at start: "MenuWindow.title" to its text.
-    const QMap<QString, QString> &textsAtStart() const { return m_texts; }
+    /// What the plug-in's windows show when a trial begins: "MenuWindow.title" to its text.
+    const QMap<QString, QString> &textsAtStart() const
+    {
+        return m_turn < 0 ? m_reader.remembered() : m_turnedTexts;
+    }
 
     /// Trials so far.
     int trialCount() const { return m_trialCount; }
@@ -59,10 +84,19 @@ public:
 private:
     class ValueWatch;
 
+    /// What screens show and values say, other than when the unit started.
+    struct Shown
+    {
+        ScreenReader::Texts texts;
+        ScreenReader::Texts values;
+    };
+
     int runChild(const QVector<Packages> &trials, int from, QVector<Trial> *results);
     void play(const Packages &packages, int from, int result);
     void tell(const QByteArray &package, int result);
-    Packages sent() const;
+    Shown shown();
+    bool isLeftBehind(const Shown &now) const;
+    void turn();
     void drainLine();
 
     QTemporaryDir m_settings;
@@ -72,8 +106,15 @@ private:
     std::unique_ptr<CallWatch> m_watch;
     std::unique_ptr<HeadUnit> m_unit;
     Packages m_sentAtStart;
-    QMap<QString, QString> m_texts;
-    bool m_isInDialog = false; // of a child
+    std::unique_ptr<ScreenTour> m_tour;
+    ScreenReader m_reader;
+    int m_turn = -1;
+    ScreenReader::Texts m_turnedTexts;
+    // Of a child.
+    bool m_isInDialog = false;
+    bool m_isFirst = true; // trial in this child
+    Shown m_clean;         // before the last package of the first trial,
+    Shown m_before;        // and of this one
     int m_trialCount = 0;
 };
 
