@@ -1,6 +1,8 @@
 #ifndef TABLELISTVIEW_H
 #define TABLELISTVIEW_H
 
+#include "orbqtcompat.h"
+
 #include <QPoint>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -60,6 +62,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void dataChanged(const QModelIndex &first, const QModelIndex &last ORB_CHANGED_ROLES) override;
 
 private Q_SLOTS:
     void fitColumns();
