@@ -344,12 +344,13 @@ void ProtocolUtils::framePackages()
 
 inline void ProtocolUtils::emitPackage(const char *bytes, int size)
 {
-    if (m_d->emitting || m_d->debug || OrbTrace::listener) {
+    Private *const p = m_d;
+    if (p->emitting || p->debug || OrbTrace::listener) {
         emitPackageWatched(bytes, size);
         return;
     }
     // One array carries every package while no receiver keeps it; it has room for the longest.
-    QByteArray &emission = m_d->emission;
+    QByteArray &emission = p->emission;
     if (!emission.isDetached()) {
         emission = QByteArray();
         emission.reserve(LongestPackage);
@@ -358,9 +359,9 @@ inline void ProtocolUtils::emitPackage(const char *bytes, int size)
         emission.resize(size);
     }
     memcpy(const_cast<char *>(emission.constData()), bytes, size_t(size));
-    m_d->emitting = true;
+    p->emitting = true;
     Q_EMIT recvProtocolData(emission);
-    m_d->emitting = false;
+    p->emitting = false;
 }
 
 // Somebody watches, or a slot further up still reads the emission array: this package gets an array of its
