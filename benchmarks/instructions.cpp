@@ -3,19 +3,25 @@
 //     instructions WORK READ_SIZE COUNT
 //
 // WORK: emit (the signal alone, COUNT times); device (the device's own share of reading COUNT packages);
-// clean, corrupted (COUNT packages); startbytes, longlengths (COUNT bytes). allocations prints the heap
-// allocations for each of COUNT clean packages instead.
+// clean, corrupted (COUNT packages); startbytes, longlengths (COUNT bytes); polls (COUNT polls of a silent
+// terminal). allocations and pollallocations print the heap allocations for each of COUNT clean packages or polls
+// instead.
 
 #include "memorydevice.h"
+#include "ptybox.h"
 #include "streams.h"
 
 #include "raise/raiseadapter.h"
 
 #include "orbapplication.h"
 
+#include <QMetaMethod>
+
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+
+#include <qextserialport.h>
 
 namespace {
 
@@ -58,9 +64,25 @@ QByteArray streamOf(const QByteArray &work, int count)
     return Streams::clean(count);
 }
 
+// The framer's timer is left out: what it costs to be woken is the event loop's.
+void pollSilentLine(Receiver *receiver, int count)
+{
+    PtyBox box;
+    QextSerialPort port(box.path(), {BAUD38400, DATA_8, PAR_NONE, STOP_1, FLOW_OFF, -1},
+                        QextSerialPort::Polling);
+    port.open(QIODevice::ReadWrite);
+    receiver->attachIODevice(&port);
+    const QMetaObject *const type = receiver->metaObject();
+    const QMetaMethod poll = type->method(type->indexOfMethod("onPollTimer()"));
+    allocations = 0;
+    for (int i = 0; i < count; ++i) {
+        poll.invoke(receiver, Qt::DirectConnection);
+    }
+}
+
 } // namespace
 
-// callgrind counts inside these functions only.
+// callgrind counts inside these functions only, and of the polls inside the framer's slot.
 
 extern "C" __attribute__((noinline)) void measuredReceive(Receiver *receiver, MemoryDevice *device)
 {
@@ -127,6 +149,12 @@ int main(int argc, char **argv)
         QByteArray buffer(4096, '\0');
         MemoryDevice device(Streams::clean(count), readSize);
         receiver.received = measuredDevice(&device, buffer.data(), buffer.size());
+    } else if (work == "polls" || work == "pollallocations") {
+        pollSilentLine(&receiver, count);
+        if (work == "pollallocations") {
+            printf("%.4f\n", double(allocations) / count);
+            return 0;
+        }
     } else {
         MemoryDevice device(streamOf(work, count), readSize);
         allocations = 0;

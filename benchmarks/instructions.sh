@@ -15,6 +15,7 @@ trap 'rm -rf "$out"' EXIT
 # Instructions of one piece of work, divided by its count.
 count() { # WORK READ_SIZE COUNT
     valgrind --tool=callgrind --callgrind-out-file="$out/callgrind" --toggle-collect='measured*' \
+        --toggle-collect='ProtocolUtils::onPollTimer*' \
         "$program" "$1" "$2" "$3" 2>&1 >/dev/null |
         awk -v n="$3" '/Collected/ { printf "%.2f", $NF / n }'
 }
@@ -47,5 +48,9 @@ printf 'The same, 4 MiB to 1 MiB in one call, per byte: '
 ratio "$(count longlengths 4194304 4194303)" "$(count longlengths 4194304 1048575)" 1.02
 printf 'Heap allocations a package in the steady state: '
 "$program" allocations 16 20000
+printf 'A poll of a silent terminal, instructions: '
+count polls 1 20000
+printf ', heap allocations '
+"$program" pollallocations 1 20000
 printf 'Good packages lost for each corrupted byte (at most 0.004): '
 "$program" loss 4096 4000000

@@ -12,7 +12,15 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 #include <QWidget>
+
+/// The parameter that QAbstractItemView::dataChanged() has had since Qt 5.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#define ORB_CHANGED_ROLES , const QVector<int> &
+#else
+#define ORB_CHANGED_ROLES
+#endif
 
 namespace OrbQt {
 

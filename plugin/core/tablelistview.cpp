@@ -1,7 +1,6 @@
 #include "tablelistview.h"
 
 #include "dragscroller.h"
-#include "orbqtcompat.h"
 #include "tableviewmodel.h"
 
 #include <QHeaderView>
@@ -142,6 +141,16 @@ void TableListView::showEvent(QShowEvent *event)
 {
     QTableView::showEvent(event);
     fitColumns();
+}
+
+// Cell by cell: for more than one the base class paints all rows again.
+void TableListView::dataChanged(const QModelIndex &first, const QModelIndex &last ORB_CHANGED_ROLES)
+{
+    for (int row = first.row(); row <= last.row(); ++row) {
+        for (int column = first.column(); column <= last.column(); ++column) {
+            update(first.sibling(row, column));
+        }
+    }
 }
 
 void TableListView::mousePressEvent(QMouseEvent *event)

@@ -1,6 +1,8 @@
 #ifndef TABLELISTVIEW_H
 #define TABLELISTVIEW_H
 
+#include "orbqtcompat.h"
+
 #include <QPoint>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -61,6 +63,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void dataChanged(const QModelIndex &first, const QModelIndex &last ORB_CHANGED_ROLES) override;
 
 private Q_SLOTS:
     void fitColumns();

@@ -74,7 +74,8 @@ void RaiseAdapter::onReadDeviceDatas()
 void RaiseAdapter::onRecvMcuProtocol(const QByteArray &byteArray)
 {
     // The box waits 10 ms for this byte: it goes first, and past the queue.
-    writeDatas_direct(QByteArray(1, Acknowledgement));
+    static const QByteArray acknowledgement(1, Acknowledgement);
+    writeDatas_direct(acknowledgement);
     noteRepetition(byteArray);
     const PackageView package = viewOf(byteArray);
     if (dispatch(package)) {

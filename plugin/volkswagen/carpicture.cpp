@@ -29,8 +29,10 @@ TyreMark::TyreMark(QWidget *parent) : QFrame(parent), m_marked(false)
 
 void TyreMark::setMarked(bool marked)
 {
-    m_marked = marked;
-    update();
+    if (marked != m_marked) {
+        m_marked = marked;
+        update();
+    }
 }
 
 void TyreMark::paintEvent(QPaintEvent *)

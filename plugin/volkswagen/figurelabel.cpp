@@ -89,9 +89,11 @@ int FigureLabel::fittingSize(UnitPlace place) const
 
 void FigureLabel::setFigureSize(int pixels, UnitPlace place)
 {
-    m_size = pixels;
-    m_unitPlace = place;
-    update();
+    if (pixels != m_size || place != m_unitPlace) {
+        m_size = pixels;
+        m_unitPlace = place;
+        update();
+    }
 }
 
 void FigureLabel::paintEvent(QPaintEvent *)

@@ -15,8 +15,10 @@ TyreSlot::TyreSlot(QWidget *parent) : QWidget(parent), m_known(false) {}
 
 void TyreSlot::setKnown(bool known)
 {
-    m_known = known;
-    update();
+    if (known != m_known) {
+        m_known = known;
+        update();
+    }
 }
 
 void TyreSlot::paintEvent(QPaintEvent *)

@@ -187,8 +187,10 @@ void VwDrivingPage::showFigure(int kind)
             text += QLatin1Char(' ') + VolkswagenWindow::tr(value.unit);
         }
     }
-    m_figures[kind]->setText(text);
-    m_group->textChanged();
+    if (text != m_figures[kind]->text()) {
+        m_figures[kind]->setText(text);
+        m_group->textChanged();
+    }
 }
 
 void VwDrivingPage::showNote()

@@ -43,6 +43,15 @@ bool hasText(int message)
     return message >= 0 && message < MessageCount && Messages[message] != nullptr;
 }
 
+// To be given a sheet costs a widget its looks for a moment, also when it is the one that it has.
+void setStyle(QWidget *widget, const char *style)
+{
+    const QString sheet = QLatin1String(style);
+    if (widget->styleSheet() != sheet) {
+        widget->setStyleSheet(sheet);
+    }
+}
+
 } // namespace
 
 VwTyrePage::VwTyrePage(Ui_VolkswagenWindow *ui, const CanBus_Raise_Volkswagen *adapter, QObject *window)
@@ -98,7 +107,7 @@ void VwTyrePage::takeStates(const Vw::TyreStates &states)
     m_states = states;
     for (int i = 0; i < Vw::TyreCount; ++i) {
         m_labels[i]->setFixedWidth(TyreLabelWidth);
-        m_labels[i]->setStyleSheet(QLatin1String(states.state[i] == 0 ? NormalTyreStyle : FaultyTyreStyle));
+        setStyle(m_labels[i], states.state[i] == 0 ? NormalTyreStyle : FaultyTyreStyle);
     }
     retranslate();
 }
@@ -115,7 +124,7 @@ void VwTyrePage::takeWarning(const Vw::TyreWarning &warning)
                                 QSizePolicy::Minimum);
     m_ui->layoutCar->invalidate();
     for (int i = 0; i < Vw::TyreCount; ++i) {
-        m_marks[i]->setStyleSheet(QLatin1String(warning.marked[i] ? MarkedTyreStyle : UnmarkedTyreStyle));
+        setStyle(m_marks[i], warning.marked[i] ? MarkedTyreStyle : UnmarkedTyreStyle);
         m_marks[i]->setMarked(warning.marked[i]);
     }
     retranslate();
@@ -156,7 +165,7 @@ void VwTyrePage::showLooks()
         m_marks[i]->setVisible(m_newest == Vw::TyreWarningReply);
     }
     const bool isNormal = warning().isEmpty();
-    m_ui->labelTpmsState->setStyleSheet(QLatin1String(isNormal ? MessageStyle : AlarmStyle));
+    setStyle(m_ui->labelTpmsState, isNormal ? MessageStyle : AlarmStyle);
     m_ui->labelTpmsState->setVisible(isMessageTrue());
     m_ui->labelTyreAlert->setText(warning());
     m_ui->labelTyreAlert->setVisible(!isNormal && !isMessageTrue());

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void keptPackagesStayAsTheyWere();
     void attachingDropsTheOldLine();
     void silentDeviceIsPolled();
+    void announcingDeviceIsNotPolled();
 };
 
 void TestFraming::garbledStreams_data()
@@ -371,6 +372,60 @@ void TestFraming::silentDeviceIsPolled()
         QCOMPARE(waiting, qint64(0));
     }
     QCOMPARE(receiver.packages, Streams::packages(5));
+}
+
+// It is asked when it announces data, and by the clock only while a package is unfinished or a slot has not returned.
+void TestFraming::announcingDeviceIsNotPolled()
+{
+    class Device : public MemoryDevice
+    {
+    public:
+        using MemoryDevice::MemoryDevice;
+        qint64 bytesAvailable() const override
+        {
+            ++questions;
+            return MemoryDevice::bytesAvailable();
+        }
+        mutable int questions = 0;
+    };
+    const QByteArray package = Streams::packages(1).first();
+    const int size = int(package.size());
+    const QByteArray falseStart = "\x2E\x20\x80" + QByteArray(size - 3, '\0');
+    Receiver receiver;
+    Device device(package + falseStart + package.repeated(2), size);
+    receiver.attachIODevice(&device);
+    const auto announce = [&] {
+        device.arm();
+        Q_EMIT device.readyRead();
+        return int(receiver.packages.size());
+    };
+    const auto questionsIn = [&](int milliseconds) {
+        const int before = device.questions;
+        QTest::qWait(milliseconds);
+        return device.questions - before;
+    };
+
+    QVERIFY(questionsIn(1000) > 0); // nobody knows yet
+    QCOMPARE(announce(), 1);
+    QCOMPARE(questionsIn(1000), 0);
+    QCOMPARE(announce(), 1);
+    QVERIFY(questionsIn(600) > 0);
+    QCOMPARE(questionsIn(1000), 0);
+    receiver.onPackage = [&](const QByteArray &) {
+        receiver.onPackage = nullptr;
+        QTest::qWait(100);
+        device.arm();
+        QTest::qWait(100);
+        QCOMPARE(int(receiver.packages.size()), 3);
+    };
+    QCOMPARE(announce(), 3);
+    QCOMPARE(questionsIn(1000), 0);
+
+    device.close();
+    QTest::qWait(10);
+    QVERIFY(device.isOpen() == false);
+    QTest::qWait(100);
+    QVERIFY(device.isOpen()); // the loss was seen
 }
 
 CANBUS_TEST_MAIN(TestFraming)

@@ -57,6 +57,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
+private Q_SLOTS:
+    void showNews();
+
 private:
     Q_DISABLE_COPY(AirConditionDlg)
     class Private;

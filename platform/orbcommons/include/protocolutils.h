@@ -12,11 +12,12 @@ class QIODevice;
 /// The framework's package framer: reads a device, finds the packages of a framed protocol in the byte stream
 /// with the help of five hooks, and paces what is written.
 ///
-/// The device is asked every 4 ms how much has arrived (bytesAvailable), and at once when it announces data;
-/// never is more asked for than is there. It stays the caller's, and may be closed, or not be there yet: the
-/// framer then tries to open it after 50, 100, 250 and 500 ms and from then on once a second. It does the
-/// same after a hang-up (bytesAvailable below 0, or readChannelFinished), a read that brings nothing of what
-/// is there, and a failed write, which close the device. Each change of state is logged once.
+/// The device is asked every 4 ms how much has arrived (bytesAvailable), every 8 ms once it has been silent for a
+/// minute. One that announces data (readyRead) is asked at once, and from its first announcement on is polled no more.
+/// Never is more asked for than is there. It stays the caller's, and may be closed, or not be there yet: the framer then
+/// tries to open it after 50, 100, 250 and 500 ms and from then on once a second. It does the same after a hang-up
+/// (bytesAvailable below 0, or readChannelFinished), a read that brings nothing of what is there, and a failed write,
+/// which close the device. Each change of state is logged once.
 ///
 /// A candidate package (a start byte and what follows) that turns out bad costs its start byte only: the
 /// search goes on one byte later, so that a good package inside or behind it is found. One that is not whole
@@ -79,6 +80,7 @@ protected:
 private Q_SLOTS:
     void onDeviceLost();
     void onDeviceDestroyed();
+    void onDataAnnounced();
     void onPollTimer();
     void onPackageSent(const QByteArray &package);
     void onReopenTimer();

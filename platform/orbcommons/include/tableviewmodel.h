@@ -51,6 +51,9 @@ public:
     void setBindData(int role, const QVariant &value) { m_bindData.insert(role, value); }
     QVariant bindData(int role) const { return m_bindData.value(role); }
 
+    /// Whether all of two rows is the same.
+    bool operator==(const TableViewItemDatas &other) const;
+
 private:
     int m_itemId;
     bool m_heading;

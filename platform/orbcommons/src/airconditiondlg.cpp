@@ -4,6 +4,7 @@
 #include "orbqtcompat.h"
 #include "orbtrace.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace {
@@ -25,13 +26,30 @@ void trace(const char *call, const QVariantList &args)
 class AirConditionDlg::Private
 {
 public:
+    explicit Private(AirConditionDlg *display) : dialog(display), isNewsPosted(false) {}
+
+    // The state has changed. A package sets all that it tells one after the other, and some of it twice: what became
+    // of it is looked at when it is through.
+    void change()
+    {
+        if (!dialog->isVisible()) {
+            shown = state;
+        } else if (!isNewsPosted) {
+            isNewsPosted = true;
+            QMetaObject::invokeMethod(dialog, "showNews", Qt::QueuedConnection);
+        }
+    }
+
+    AirConditionDlg *const dialog;
     ClimateState state;
+    ClimateState shown; // what the screen shows, or will at the next paint
+    bool isNewsPosted;
 };
 
-AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent), d(new Private)
+AirConditionDlg::AirConditionDlg(QWidget *parent) : OrbDialog(parent), d(new Private(this))
 {
-    setAttribute(Qt::WA_OpaquePaintEvent); // what lies below need not be painted for each change
     setObjectName(QLatin1String("airConditionDlg"));
+    setAttribute(Qt::WA_OpaquePaintEvent); // what lies below need not be painted
 }
 
 AirConditionDlg::~AirConditionDlg()
@@ -43,7 +61,7 @@ void AirConditionDlg::setPTCModeVisible(bool visible)
 {
     trace("setPTCModeVisible", QVariantList() << visible);
     d->state.heaterMark = visible;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setTemperatureRange(double minimum, double maximum)
@@ -54,35 +72,35 @@ void AirConditionDlg::setTemperatureRange(double minimum, double maximum)
     }
     d->state.minimum = minimum;
     d->state.maximum = maximum;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setAirConditionEnable(bool on)
 {
     trace("setAirConditionEnable", QVariantList() << on);
     d->state.on = on;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setACEnable(bool on)
 {
     trace("setACEnable", QVariantList() << on);
     d->state.compressor = on;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setAutoModeEnable(bool on)
 {
     trace("setAutoModeEnable", QVariantList() << on);
     d->state.automatic = on;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setWindDirectEx(int direction)
 {
     trace("setWindDirectEx", QVariantList() << direction);
     d->state.setDirection(direction & AllDirections);
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setWindDirect(int direction)
@@ -90,7 +108,7 @@ void AirConditionDlg::setWindDirect(int direction)
     trace("setWindDirect", QVariantList() << direction);
     const bool byTheCar = direction == ByTheCar;
     d->state.setDirection(byTheCar ? int(ClimateState::ChosenByCar) : direction & AllDirections);
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setAirVolume(int level)
@@ -101,21 +119,21 @@ void AirConditionDlg::setAirVolume(int level)
     }
     const bool inRange = level >= 0 && level <= d->state.fanLevels;
     d->state.fan = level == ByTheCar ? int(ClimateState::ChosenByCar) : inRange ? level : d->state.fanLevels;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setCirculationMode(int mode)
 {
     trace("setCirculationMode", QVariantList() << mode);
     d->state.circulation = mode == ByTheCar ? int(ClimateState::ChosenByCar) : int(mode != 0);
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setDefrostingMode()
 {
     trace("setDefrostingMode", QVariantList());
     d->state.defrosting = true;
-    update();
+    d->change();
 }
 
 void AirConditionDlg::setTemperature(const QString &left, const QString &right)
@@ -123,7 +141,14 @@ void AirConditionDlg::setTemperature(const QString &left, const QString &right)
     trace("setTemperature", QVariantList() << left << right);
     d->state.left = left;
     d->state.right = right;
-    update();
+    d->change();
+}
+
+void AirConditionDlg::showNews()
+{
+    d->isNewsPosted = false;
+    update(ClimatePainter::difference(d->shown, d->state, rect()));
+    d->shown = d->state;
 }
 
 QSize AirConditionDlg::sizeHint() const
@@ -131,10 +156,10 @@ QSize AirConditionDlg::sizeHint() const
     return QSize(1024, DisplayHeight);
 }
 
-void AirConditionDlg::paintEvent(QPaintEvent *)
+void AirConditionDlg::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    ClimatePainter(&painter, rect(), font()).paint(d->state);
+    ClimatePainter(&painter, rect(), font()).paint(d->state, event->region());
 }
 
 // A press that is accepted is followed by its release, wherever that is.

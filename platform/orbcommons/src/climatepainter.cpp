@@ -34,6 +34,57 @@ QPixmap picture(const char *path)
     return QPixmap(QLatin1String(path));
 }
 
+/// Where what is shown stands: nothing of it lies outside of its place.
+class Layout
+{
+public:
+    enum Mark { Compressor, Automatic, Circulation, Defrosting, Heater, MarkCount };
+
+    Layout(const QRect &room, bool hasHeater) : m_marks(hasHeater ? MarkCount : int(Heater))
+    {
+        const QRect inner = room.adjusted(Padding, 16, -Padding, -16);
+        const int middle = qBound(SmallestCentre, room.width() / 2, LargestCentre);
+        const int side = (inner.width() - middle) / 2 - Padding;
+        left = QRect(inner.left(), inner.top(), side, inner.height());
+        right = left;
+        right.moveRight(inner.right());
+        m_centre = centred(inner, QSize(middle, inner.height()));
+        fan = QRect(m_centre.left(), m_centre.top(), middle / 2, inner.height() - MarkHeight - MarkGap);
+        direction = fan.translated(middle / 2, 0);
+    }
+
+    int marks() const { return m_marks; }
+    QRect mark(int number) const
+    {
+        const int width = (m_centre.width() - (m_marks - 1) * MarkGap) / m_marks;
+        return QRect(m_centre.left() + number * (width + MarkGap), m_centre.bottom() + 1 - MarkHeight, width,
+                     MarkHeight);
+    }
+    /// The seat's picture is a little higher than the room for it.
+    QRect seat() const { return direction.adjusted(0, -MarkGap, 0, MarkGap); }
+
+    QRect left;
+    QRect right;
+    QRect fan;
+    QRect direction;
+
+private:
+    const int m_marks;
+    QRect m_centre;
+};
+
+const char *circulationIcon(int circulation)
+{
+    switch (circulation) {
+    case 0:
+        return ":/orb/climate/air-outside.png";
+    case ClimateState::ChosenByCar:
+        return ":/orb/climate/air-automatic.png";
+    default:
+        return ":/orb/climate/air-recirculation.png";
+    }
+}
+
 /// The shape of a picture in one colour.
 QPixmap tinted(const QPixmap &shape, const QColor &colour)
 {
@@ -93,27 +144,61 @@ ClimatePainter::ClimatePainter(QPainter *painter, const QRect &room, const QFont
     : m_painter(painter), m_room(room), m_base(base), m_opacity(1)
 {}
 
-void ClimatePainter::paint(const ClimateState &state)
+void ClimatePainter::paint(const ClimateState &state, const QRegion &region)
 {
     m_painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     paintGround();
     m_opacity = state.on ? 1 : OffOpacity;
     m_painter->setOpacity(m_opacity);
 
-    const QRect inner = m_room.adjusted(Padding, 16, -Padding, -16);
-    const int middle = qBound(SmallestCentre, m_room.width() / 2, LargestCentre);
-    const int side = (inner.width() - middle) / 2 - Padding;
-    QRect temperature(inner.left(), inner.top(), side, inner.height());
-    paintTemperature(temperature, state.left, scalePosition(state.left, state.minimum, state.maximum));
-    temperature.moveRight(inner.right());
-    paintTemperature(temperature, state.right, scalePosition(state.right, state.minimum, state.maximum));
+    const Layout layout(m_room, state.heaterMark);
+    if (region.intersects(layout.left)) {
+        paintTemperature(layout.left, state.left, scalePosition(state.left, state.minimum, state.maximum));
+    }
+    if (region.intersects(layout.right)) {
+        paintTemperature(layout.right, state.right, scalePosition(state.right, state.minimum, state.maximum));
+    }
+    if (region.intersects(layout.fan)) {
+        paintFan(layout.fan, state);
+    }
+    if (region.intersects(layout.seat())) {
+        paintDirection(layout.direction, state);
+    }
+    for (int i = 0; i < layout.marks(); ++i) {
+        if (region.intersects(layout.mark(i))) {
+            paintMark(i, layout.mark(i), state);
+        }
+    }
+}
 
-    const QRect centre = centred(inner, QSize(middle, inner.height()));
-    const int half = middle / 2;
-    const int upper = inner.height() - MarkHeight - 8;
-    paintFan(QRect(centre.left(), centre.top(), half, upper), state);
-    paintDirection(QRect(centre.left() + half, centre.top(), half, upper), state);
-    paintMarks(QRect(centre.left(), centre.bottom() + 1 - MarkHeight, middle, MarkHeight), state);
+QRegion ClimatePainter::difference(const ClimateState &before, const ClimateState &after, const QRect &room)
+{
+    if (before.on != after.on || before.heaterMark != after.heaterMark) {
+        return room;
+    }
+    const Layout layout(room, after.heaterMark);
+    const bool isOtherScale = before.minimum != after.minimum || before.maximum != after.maximum;
+    const struct
+    {
+        bool differs;
+        QRect place;
+    } parts[] = {
+        {isOtherScale || before.left != after.left, layout.left},
+        {isOtherScale || before.right != after.right, layout.right},
+        {before.fan != after.fan || before.fanLevels != after.fanLevels, layout.fan},
+        {before.direction != after.direction, layout.seat()},
+        {before.compressor != after.compressor, layout.mark(Layout::Compressor)},
+        {before.automatic != after.automatic, layout.mark(Layout::Automatic)},
+        {before.circulation != after.circulation, layout.mark(Layout::Circulation)},
+        {before.defrosting != after.defrosting, layout.mark(Layout::Defrosting)},
+    };
+    QRegion changed;
+    for (const auto &part : parts) {
+        if (part.differs) {
+            changed += part.place;
+        }
+    }
+    return changed;
 }
 
 void ClimatePainter::paintGround()
@@ -191,22 +276,23 @@ void ClimatePainter::paintDirection(const QRect &room, const ClimateState &state
     paintIcon(figure, picture(":/orb/climate/air-feet.png"), bits & Feet ? 1 : AbsentOpacity);
 }
 
-void ClimatePainter::paintMarks(const QRect &room, const ClimateState &state)
+void ClimatePainter::paintMark(int mark, const QRect &room, const ClimateState &state)
 {
-    const int count = state.heaterMark ? 5 : 4;
-    const int width = (room.width() - (count - 1) * MarkGap) / count;
-    QRect chip(room.left(), room.top(), width, room.height());
-    const int pitch = width + MarkGap;
-    paintChip(chip, state.compressor, tr("A/C"));
-    paintChip(chip.translated(pitch, 0), state.automatic, tr("AUTO"));
-    const char *circulation = state.circulation == 0 ? ":/orb/climate/air-outside.png"
-                              : state.circulation == ClimateState::ChosenByCar
-                                  ? ":/orb/climate/air-automatic.png"
-                                  : ":/orb/climate/air-recirculation.png";
-    paintIconChip(chip.translated(2 * pitch, 0), state.circulation != 0, circulation);
-    paintIconChip(chip.translated(3 * pitch, 0), state.defrosting, ":/orb/climate/defrost.png");
-    if (state.heaterMark) {
-        paintChip(chip.translated(4 * pitch, 0), false, tr("PTC"));
+    switch (mark) {
+    case Layout::Compressor:
+        paintChip(room, state.compressor, tr("A/C"));
+        break;
+    case Layout::Automatic:
+        paintChip(room, state.automatic, tr("AUTO"));
+        break;
+    case Layout::Circulation:
+        paintIconChip(room, state.circulation != 0, circulationIcon(state.circulation));
+        break;
+    case Layout::Defrosting:
+        paintIconChip(room, state.defrosting, ":/orb/climate/defrost.png");
+        break;
+    default:
+        paintChip(room, false, tr("PTC"));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QFont>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 
 class QPainter;
@@ -46,7 +47,11 @@ class ClimatePainter
 public:
     ClimatePainter(QPainter *painter, const QRect &room, const QFont &base);
 
-    void paint(const ClimateState &state);
+    /// Paints what of \a state lies in \a region.
+    void paint(const ClimateState &state, const QRegion &region);
+
+    /// Where in \a room the two states look different.
+    static QRegion difference(const ClimateState &before, const ClimateState &after, const QRect &room);
 
 private:
     void paintGround();
@@ -55,7 +60,7 @@ private:
     void paintFan(const QRect &room, const ClimateState &state);
     void paintFanBars(const QRect &room, int level, int levels);
     void paintDirection(const QRect &room, const ClimateState &state);
-    void paintMarks(const QRect &room, const ClimateState &state);
+    void paintMark(int mark, const QRect &room, const ClimateState &state);
     void paintChip(const QRect &room, bool lit, const QString &text);
     void paintIconChip(const QRect &room, bool lit, const char *icon);
     void paintFitted(const QRect &room, const QString &text, int largest, int weight, int alignment);

@@ -19,8 +19,11 @@ namespace {
 const int ReadSize = 4096;
 const int LongestPackage = PackageChain::LongestCandidate;
 
-// Boxes want their acknowledgement within 10 ms, and a device need not announce what arrives.
+// Boxes want their acknowledgement within 10 ms, and a device need not announce what arrives. A poll costs little more
+// than waking up for it, so a line that is silent for a minute is asked half as often.
 const int PollInterval = 4;
+const int SilentPollInterval = 8;
+const int SilentPolls = 60000 / PollInterval;
 
 // No package pauses for so long in its middle.
 const int PauseTime = 40;
@@ -57,16 +60,20 @@ public:
 class ProtocolUtils::Private
 {
 public:
-    explicit Private(ProtocolUtils *parent)
-        : poll(new QTimer(parent))
-        , reopen(new QTimer(parent))
-        , writer(new PacedWriter(parent))
+    explicit Private(ProtocolUtils *utils)
+        : parent(utils)
+        , poll(new QTimer(utils))
+        , reopen(new QTimer(utils))
+        , writer(new PacedWriter(utils))
         , device(nullptr)
         , isOpen(false)
         , openMode(QIODevice::ReadWrite)
         , tries(0)
-        , heard(false)
-        , received(false)
+        , announces(false)
+        , answered(0)
+        , openedAt(0)
+        , polledAt(0)
+        , idlePolls(0)
         , minimum(1)
         , cursor(0)
         , candidateSize(0)
@@ -78,7 +85,6 @@ public:
         , emitting(false)
         , debug(false)
     {
-        poll->setInterval(PollInterval);
         reopen->setSingleShot(true);
         // Qt 4.8 leaves them as the memory was.
         sinceOpened.invalidate();
@@ -92,8 +98,21 @@ public:
         tries = qMin(tries + 1, LastReopenPause);
     }
 
-    static bool isShortCandidate(ProtocolUtils *hooks, int start);
-    int lookInto(ProtocolUtils *hooks, int start, int size);
+    qint64 streamEnd() const { return streamBase + parent->recvBuffer.size(); }
+    bool isWaiting() const { return parent->recvBuffer.size() > cursor; }
+
+    // Nothing has come since the last poll, and nothing is unfinished.
+    void rest()
+    {
+        if (announces && answered == 0) {
+            poll->stop();
+        } else if (idlePolls < SilentPolls && ++idlePolls == SilentPolls) {
+            poll->setInterval(SilentPollInterval);
+        }
+    }
+
+    bool isShortCandidate(int start) const;
+    int lookInto(int start, int size);
 
     void log(const char *direction, const QByteArray &package) const
     {
@@ -124,6 +143,7 @@ public:
         return held - passed;
     }
 
+    ProtocolUtils *const parent;
     QTimer *const poll;
     QTimer *const reopen;
     PacedWriter *const writer;
@@ -131,9 +151,12 @@ public:
     QIODevice *device;
     bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
     QIODevice::OpenMode openMode;
-    int tries;     // to open the device again
-    bool heard;    // something was read since it was opened
-    bool received; // something was read since the last poll
+    int tries;       // to open the device again
+    bool announces;  // the device has announced data, and does so whenever there is some
+    int answered;    // announcements whose data is being read: until then there need be no further one
+    qint64 openedAt; // streamEnd() when it was opened
+    qint64 polledAt; // streamEnd() at the last poll
+    int idlePolls;   // in a row
     QElapsedTimer sinceOpened;
 
     int minimum;        // bytes from which the size of a package can be read
@@ -176,6 +199,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     }
     m_d->device = device;
     m_d->isOpen = device && device->isOpen();
+    m_d->announces = false;
     m_d->writer->setDevice(nullptr);
     recvBuffer.reserve(LongestPackage + 1 + ReadSize);
     m_d->poll->stop();
@@ -184,7 +208,8 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
         return;
     }
     m_d->minimum = qMax(1, getPackageMinSize());
-    connect(device, SIGNAL(readyRead()), this, SLOT(onReadDeviceDatas()));
+    connect(device, SIGNAL(readyRead()), this, SLOT(onDataAnnounced()));
+    connect(device, SIGNAL(aboutToClose()), this, SLOT(onPollTimer()), Qt::QueuedConnection);
     connect(device, SIGNAL(readChannelFinished()), this, SLOT(onDeviceLost()));
     connect(device, SIGNAL(destroyed()), this, SLOT(onDeviceDestroyed()));
     if (m_d->isOpen) {
@@ -206,10 +231,12 @@ void ProtocolUtils::startPolling()
     m_d->behindPackage = false;
     m_d->age.clear();
     m_d->quietTime = 0;
-    m_d->heard = false;
+    m_d->openedAt = m_d->streamEnd();
+    m_d->polledAt = m_d->openedAt;
     m_d->sinceOpened.start();
     m_d->sincePoll.start();
-    m_d->poll->start();
+    m_d->idlePolls = 0;
+    m_d->poll->start(PollInterval);
     m_d->writer->setDevice(m_d->device);
 }
 
@@ -238,7 +265,6 @@ void ProtocolUtils::onReadDeviceDatas()
             return;
         }
         recvBuffer.resize(held + count);
-        p->received = true;
         if (held + count - p->cursor >= p->needed) {
             framePackages();
         }
@@ -247,20 +273,20 @@ void ProtocolUtils::onReadDeviceDatas()
 
 // A package that lost a byte ends with the next one's start byte for its checksum, once in 256 times. What follows
 // such an end is then no start, and the end is one.
-bool ProtocolUtils::Private::isShortCandidate(ProtocolUtils *hooks, int start)
+bool ProtocolUtils::Private::isShortCandidate(int start) const
 {
-    return hooks->findPackageStartSig(start) == start &&
-           hooks->getPackageSize(start) < PackageChain::LongCandidate;
+    return parent->findPackageStartSig(start) == start &&
+           parent->getPackageSize(start) < PackageChain::LongCandidate;
 }
 
 // First of the good packages inside the candidate at \a start, when it is none; else -1. What lies in one that was
 // none is not looked into again, so that each byte is a bounded number of times.
-int ProtocolUtils::Private::lookInto(ProtocolUtils *hooks, int start, int size)
+int ProtocolUtils::Private::lookInto(int start, int size)
 {
     if (streamBase + start < lookedInto) {
         return -1;
     }
-    const int first = PackageChain::firstOfPackagesInside(hooks, minimum, start + 1, start + size);
+    const int first = PackageChain::firstOfPackagesInside(parent, minimum, start + 1, start + size);
     if (first >= 0) {
         lookedInto = streamBase + start + size;
     }
@@ -285,7 +311,7 @@ void ProtocolUtils::framePackages()
             }
             const int start = findPackageStartSig(cursor);
             if (start != cursor) {
-                const bool endedInStart = p->behindPackage && p->isShortCandidate(this, cursor - 1);
+                const bool endedInStart = p->behindPackage && p->isShortCandidate(cursor - 1);
                 p->behindPackage = false;
                 const int next = start < cursor ? int(recvBuffer.size()) : start;
                 cursor = endedInStart ? cursor - 1 : next;
@@ -300,7 +326,7 @@ void ProtocolUtils::framePackages()
             break;
         }
         const bool fits = possible && isAvaliablePackage(cursor, cursor + size - 1, size);
-        const int inside = fits && size >= PackageChain::LongCandidate ? p->lookInto(this, cursor, size) : -1;
+        const int inside = fits && size >= PackageChain::LongCandidate ? p->lookInto(cursor, size) : -1;
         if (fits && inside < 0) {
             p->cursor = cursor + size;
             p->behindPackage = true;
@@ -318,12 +344,13 @@ void ProtocolUtils::framePackages()
 
 inline void ProtocolUtils::emitPackage(const char *bytes, int size)
 {
-    if (m_d->emitting || m_d->debug || OrbTrace::listener) {
+    Private *const p = m_d;
+    if (p->emitting || p->debug || OrbTrace::listener) {
         emitPackageWatched(bytes, size);
         return;
     }
     // One array carries every package while no receiver keeps it; it has room for the longest.
-    QByteArray &emission = m_d->emission;
+    QByteArray &emission = p->emission;
     if (!emission.isDetached()) {
         emission = QByteArray();
         emission.reserve(LongestPackage);
@@ -332,9 +359,9 @@ inline void ProtocolUtils::emitPackage(const char *bytes, int size)
         emission.resize(size);
     }
     memcpy(const_cast<char *>(emission.constData()), bytes, size_t(size));
-    m_d->emitting = true;
+    p->emitting = true;
     Q_EMIT recvProtocolData(emission);
-    m_d->emitting = false;
+    p->emitting = false;
 }
 
 // Somebody watches, or a slot further up still reads the emission array: this package gets an array of its
@@ -370,6 +397,21 @@ bool ProtocolUtils::holdsPackageBehind()
     return false;
 }
 
+// The timer runs meanwhile: a slot further down may run an event loop, in which many a device announces nothing.
+void ProtocolUtils::onDataAnnounced()
+{
+    m_d->announces = true;
+    if (m_d->isOpen && !m_d->poll->isActive()) {
+        m_d->poll->start(PollInterval);
+    }
+    ++m_d->answered;
+    onReadDeviceDatas();
+    --m_d->answered;
+    if (!m_d->isWaiting()) {
+        m_d->rest();
+    }
+}
+
 void ProtocolUtils::onPollTimer()
 {
     // Read first: what has already arrived is not late, however long the thread was busy.
@@ -377,16 +419,24 @@ void ProtocolUtils::onPollTimer()
     if (m_d->isOpen && !m_d->device->isOpen()) {
         onDeviceLost(); // somebody else has closed it
     }
-    const bool isWaiting = recvBuffer.size() > m_d->cursor;
-    if (!m_d->isOpen || (!isWaiting && !m_d->received)) {
+    if (!m_d->isOpen) {
+        return;
+    }
+    const qint64 streamEnd = m_d->streamEnd();
+    const bool received = streamEnd != m_d->polledAt;
+    if (!received && !m_d->isWaiting()) {
+        m_d->rest();
         return;
     }
 
+    if (m_d->idlePolls >= SilentPolls) {
+        m_d->poll->setInterval(PollInterval);
+    }
+    m_d->idlePolls = 0;
+    m_d->polledAt = streamEnd;
     const int elapsed = int(qMin<qint64>(m_d->sincePoll.restart(), LongestPollGap));
-    m_d->quietTime = m_d->received ? 0 : m_d->quietTime + elapsed;
-    m_d->received = false;
-    m_d->heard = true;
-    m_d->age.advance(elapsed, m_d->streamBase + recvBuffer.size());
+    m_d->quietTime = received ? 0 : m_d->quietTime + elapsed;
+    m_d->age.advance(elapsed, streamEnd);
     // A box says what is not acknowledged again after 100 ms, and only three times: it must not wait for a
     // candidate that its own repetitions fill up.
     const bool pause = m_d->quietTime >= PauseTime && m_d->quietTime - elapsed < PauseTime;
@@ -438,7 +488,7 @@ void ProtocolUtils::onDeviceLost()
     qWarning("ProtocolUtils: lost the device, trying to open it again");
     m_d->poll->stop();
     m_d->writer->setDevice(nullptr);
-    if (m_d->heard || m_d->sinceOpened.elapsed() >= SteadyTime) {
+    if (m_d->streamEnd() != m_d->openedAt || m_d->sinceOpened.elapsed() >= SteadyTime) {
         m_d->tries = 0;
     }
     m_d->tryAgainLater();

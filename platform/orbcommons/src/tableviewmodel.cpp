@@ -1,5 +1,7 @@
 #include "tableviewmodel.h"
 
+#include <algorithm>
+
 namespace {
 
 // Roles below are Qt's and the model's own.
@@ -38,6 +40,13 @@ QVariant TableViewItemDatas::value(int column) const
 bool TableViewItemDatas::isSwitch() const
 {
     return holdsBool(m_values[ValueColumn]);
+}
+
+bool TableViewItemDatas::operator==(const TableViewItemDatas &other) const
+{
+    return m_itemId == other.m_itemId && m_heading == other.m_heading &&
+           std::equal(m_values, m_values + ColumnCount, other.m_values) && m_icon == other.m_icon &&
+           m_mark == other.m_mark && m_bindData == other.m_bindData;
 }
 
 TableViewModel::TableViewModel(QObject *parent) : QAbstractTableModel(parent) {}
@@ -88,7 +97,7 @@ TableViewItemDatas TableViewModel::itemDatas(int row) const
 
 void TableViewModel::setItemDatas(int row, const TableViewItemDatas &datas)
 {
-    if (row < 0 || row >= m_rows.size()) {
+    if (row < 0 || row >= m_rows.size() || m_rows.at(row) == datas) {
         return;
     }
     m_rows[row] = datas;

@@ -272,11 +272,20 @@ void WindowStack::restack()
     }
     const int choice = topmost(ModalDialog);
     const Kind kinds[] = {MainWindow, OverlayDialog, ModalDialog};
+    QObjectList wanted;
     for (int k = 0; k < 3; ++k) {
         for (int i = 0; i < m_order.size(); ++i) {
             if (m_order.at(i).kind == kinds[k] && m_order.at(i).window->parentWidget() == m_area) {
-                m_order.at(i).window->raise();
+                wanted.append(m_order.at(i).window);
             }
+        }
+    }
+    // A window that is raised is painted again, also where it lies already.
+    QObjectList present = m_area->children();
+    present.removeAll(m_scrim);
+    if (present.mid(present.size() - wanted.size()) != wanted) {
+        for (int i = 0; i < wanted.size(); ++i) {
+            static_cast<QWidget *>(wanted.at(i))->raise();
         }
     }
     if (choice < 0 || m_order.at(choice).window->parentWidget() != m_area) {

@@ -4,8 +4,12 @@
 #include "radararcs.h"
 #include "steeringtrack.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
+
+#include <algorithm>
 
 namespace {
 
@@ -56,10 +60,43 @@ CarView::CarView(QWidget *parent) : QWidget(parent), m_body(QStringLiteral(":/de
 
 void CarView::setState(const CarState &state)
 {
-    if (state != m_state) {
-        m_state = state;
-        update();
+    const CarState before = m_state;
+    const QString told = message();
+    m_state = state;
+    update(differences(before) + (message() == told ? QRect() : headingRect()));
+}
+
+QRect CarView::headingRect() const
+{
+    return QRect(0, 0, width(), HeadingHeight);
+}
+
+// The fans of the radar end in the middle of a circle in the car's end.
+QRect CarView::frontRect() const
+{
+    const QRectF car = carRect();
+    return QRect(0, HeadingHeight, width(), qCeil(car.top() + car.width() / 2) - HeadingHeight);
+}
+
+QRect CarView::rearRect() const
+{
+    const QRectF car = carRect();
+    const int top = qFloor(car.bottom() - car.width() / 2);
+    return QRect(0, top, width(), height() - top);
+}
+
+// Where another state was shown than now. Radars tell ten times a second, all else seldom.
+QRegion CarView::differences(const CarState &before) const
+{
+    CarState sameRadar = m_state;
+    std::copy_n(before.front, CarState::Sensors, sameRadar.front);
+    std::copy_n(before.rear, CarState::Sensors, sameRadar.rear);
+    if (sameRadar != before) {
+        return rect();
     }
+    const bool isFrontSame = std::equal(m_state.front, m_state.front + CarState::Sensors, before.front);
+    const bool isRearSame = std::equal(m_state.rear, m_state.rear + CarState::Sensors, before.rear);
+    return QRegion(isFrontSame ? QRect() : frontRect()) + (isRearSame ? QRect() : rearRect());
 }
 
 void CarView::setDoubt(const QString &doubt)
@@ -237,16 +274,16 @@ void CarView::paintDoors(QPainter *painter, const QRectF &car) const
     }
 }
 
-void CarView::paintCar(QPainter *painter) const
+void CarView::paintCar(QPainter *painter, const QRegion &region) const
 {
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     const QRectF car = carRect();
     const qreal scale = car.height() / PaintWork.height();
-    if (m_state.isRadarOn && m_state.hasFront) {
+    if (m_state.isRadarOn && m_state.hasFront && region.intersects(frontRect())) {
         RadarArcs(RadarArcs::Front, car, radarReach()).paint(painter, m_state.front);
     }
-    if (m_state.isRadarOn && m_state.hasRear) {
+    if (m_state.isRadarOn && m_state.hasRear && region.intersects(rearRect())) {
         RadarArcs(RadarArcs::Rear, car, radarReach()).paint(painter, m_state.rear);
     }
     if (m_state.isTrackOn && m_state.steering) {
@@ -265,7 +302,7 @@ void CarView::paintCar(QPainter *painter) const
     }
 }
 
-void CarView::paintEvent(QPaintEvent *)
+void CarView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -274,14 +311,14 @@ void CarView::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(rect(), 10, 10);
     paintHeading(&painter);
     if (m_doubt.isEmpty()) {
-        paintCar(&painter);
+        paintCar(&painter, event->region());
         return;
     }
     QImage picture(size(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(DeskColours::Panel);
     QPainter carPainter(&picture);
     carPainter.setFont(painter.font());
-    paintCar(&carPainter);
+    paintCar(&carPainter, rect());
     carPainter.end();
     painter.setOpacity(GreyOpacity);
     painter.setClipRect(rect().adjusted(0, HeadingHeight, 0, -Margin / 2));

@@ -39,9 +39,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect headingRect() const;
+    QRect frontRect() const;
+    QRect rearRect() const;
     QString doorMessage() const;
     QColor messageColour() const;
-    void paintCar(QPainter *painter) const;
+    QRegion differences(const CarState &before) const;
+    void paintCar(QPainter *painter, const QRegion &region) const;
     int drawnSteering() const;
     void paintHeading(QPainter *painter) const;
     void paintLights(QPainter *painter, const QRectF &car) const;
