@@ -63,10 +63,13 @@ inline QPoint mouseGlobalPos(const QMouseEvent *event)
 #endif
 }
 
-/// The largest size with the proportions of \a size that fits into \a room; \a size is not empty. Qt 4.8 has no
-/// QSize::scaled, and Qt 5's scale() calls it.
+/// The largest size with the proportions of \a size that fits into \a room; empty for an empty one, as that of
+/// a picture that could not be loaded is. Qt 4.8 has no QSize::scaled, and Qt 5's scale() calls it.
 inline QSize fitted(const QSize &size, const QSize &room)
 {
+    if (size.isEmpty()) {
+        return QSize(0, 0);
+    }
     const int width = int(qint64(room.height()) * size.width() / size.height());
     return width <= room.width()
                ? QSize(width, room.height())

@@ -37,6 +37,14 @@ CanBusAdapter::CanBusAdapter(QObject *parent)
     connect(this, SIGNAL(recvProtocolData(QByteArray)), this, SLOT(onRecvMcuProtocol(QByteArray)));
 }
 
+CanBusAdapter::~CanBusAdapter()
+{
+    closePort();
+    if (s_instance == this) {
+        s_instance = nullptr;
+    }
+}
+
 CanBusAdapter *CanBusAdapter::getAdapterInstance(CanBusType type)
 {
     if (!s_instance) {
@@ -77,9 +85,8 @@ void CanBusAdapter::setLine(PortSettings &settings, int baudRate, long timeout)
     settings.Timeout_Millisec = timeout;
 }
 
-void CanBusAdapter::initAdapter()
+void CanBusAdapter::closePort()
 {
-    const QString name = getPortName();
     if (serialPort) {
         attachIODevice(nullptr); // the framer would take the closing for a loss
         disconnect(serialPort, nullptr, this, nullptr);
@@ -87,6 +94,12 @@ void CanBusAdapter::initAdapter()
         serialPort->deleteLater();
         serialPort = nullptr;
     }
+}
+
+void CanBusAdapter::initAdapter()
+{
+    const QString name = getPortName();
+    closePort();
     PortSettings settings;
     if (!getPortSettings(settings) || name.isEmpty()) {
         return;

@@ -21,6 +21,8 @@ class CanBusAdapter : public ProtocolUtils
 
 public:
     explicit CanBusAdapter(QObject *parent = nullptr);
+    /// Where the process's adapter is gone (a unit's never is), the next call of getAdapterInstance builds one.
+    ~CanBusAdapter() override;
 
     /// The process's adapter: built and started at the first call with a known \a type. Null for an unknown
     /// type, and for any type but the one that was built.
@@ -97,6 +99,7 @@ private:
         int kindSize;
     };
 
+    void closePort();
     void setLineLost();
     void watchLine();
     void dropKept(const QByteArray &kind);

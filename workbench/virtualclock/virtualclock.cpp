@@ -257,6 +257,18 @@ bool VirtualClock::isOn()
     return ::isOn();
 }
 
+void VirtualClock::pause()
+{
+    theClock.isOn = false;
+}
+
+void VirtualClock::resume(std::time_t timeOfDay)
+{
+    theClock.now += Second - theClock.now % Second;
+    theClock.dayOffset = int64_t(timeOfDay) * Second - theClock.now;
+    theClock.isOn = true;
+}
+
 VirtualClock::Hold::Hold()
 {
     ++theClock.holds;

@@ -28,8 +28,14 @@ const std::time_t UsualStart = 1767225600;
 /// it is and gives true. It is the clock of the calling thread.
 bool start(std::time_t timeOfDay = UsualStart);
 
-/// True from start() on.
+/// True from start() on, but between pause() and resume().
 bool isOn();
+
+/// The machine's clock again, for code that lies between two stretches of virtual time and waits for neither: a program
+/// that measures itself. Objects that live by the clock (timers, the event loop) must rest meanwhile. resume() goes on
+/// at the next full second (timers take a fraction of one as they find it), with the time of day \a timeOfDay.
+void pause();
+void resume(std::time_t timeOfDay);
 
 /// While one exists time stands still: a wait with a timeout really waits, for no longer than that, and the
 /// clock does not move. For waits on what is outside of the process. Without a started clock it does nothing.
