@@ -51,7 +51,7 @@ void VersionFile::publish(const QByteArray &command)
     m_command = command;
     if (!m_timer.isActive()) {
         const qint64 passed = m_sinceWrite.isValid() ? m_sinceWrite.elapsed() : qint64(WriteInterval);
-        m_timer.start(int(qBound<qint64>(0, WriteInterval - passed, WriteInterval)));
+        m_timer.start(int(qBound(qint64(0), WriteInterval - passed, qint64(WriteInterval))));
     }
 }
 

@@ -86,6 +86,7 @@ struct Clock
     std::atomic<bool> isOn;
     int64_t now;       // monotonic, ns
     int64_t dayOffset; // from monotonic time to the time of day, ns
+    int64_t lateness;  // of a jump, ns: see latenessOfEventLoop()
     pthread_t thread;  // whose clock it is
     int holds;
     int idleDescriptor;
@@ -215,7 +216,7 @@ int wait(pollfd *entries, nfds_t count, int64_t timeout, const sigset_t *signals
         touch();
         return real().ppoll(entries, count, timeout == NoTimeout ? nullptr : &time, signals);
     }
-    jump(timeout);
+    jump(timeout + theClock.lateness);
     return 0;
 }
 
@@ -228,6 +229,16 @@ int rest(int64_t duration)
     }
     jump(duration);
     return 0;
+}
+
+// Qt 5's event loop rounds what is left until a timer up to the next millisecond, a whole one too, and so wakes up a
+// millisecond late; Qt 6's rounds fractions only. Times have no fractions here, and a trace is the same with both.
+int64_t latenessOfEventLoop()
+{
+    void *const found = ::dlsym(RTLD_DEFAULT, "qVersion");
+    const char *(*version)() = nullptr;
+    std::memcpy(&version, &found, sizeof version);
+    return version && std::atoi(version()) >= 6 ? Millisecond : 0;
 }
 
 } // namespace
@@ -247,6 +258,7 @@ bool VirtualClock::start(std::time_t timeOfDay)
     theClock.thread = ::pthread_self();
     theClock.isTouched = true;
     theClock.now = FirstSecond * Second;
+    theClock.lateness = latenessOfEventLoop();
     theClock.dayOffset = (int64_t(timeOfDay) - FirstSecond) * Second;
     theClock.isOn = true;
     return true;

@@ -296,8 +296,7 @@ void InspectorView::showRates()
             if (!m_rates->item(row, column)) {
                 m_rates->setItem(row, column, new QTableWidgetItem);
                 m_rates->item(row, column)
-                    ->setTextAlignment(int(Qt::AlignVCenter) |
-                                       (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
+                    ->setTextAlignment(Qt::AlignVCenter | (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
             }
             m_rates->item(row, column)->setText(texts[column]);
         }
