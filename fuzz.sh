@@ -40,7 +40,7 @@ done
 need_packages clang llvm
 build=${CANBUS_BUILD:-$root/build}-fuzz
 configure -DCANBUS_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ -DCANBUS_PRECOMPILE=OFF
-# shellcheck disable=SC2046
+# shellcheck disable=SC2046,SC2086
 build_targets $(printf 'fuzz_%s ' $targets)
 
 # Everything that a drive writes lies in a folder that goes with this script, in memory where that is possible.

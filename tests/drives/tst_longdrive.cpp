@@ -26,7 +26,7 @@ const int Hour = 3600 * 1000;   // ms
 const int Stretches = 8;        // of a drive; behind each the unit is looked at
 const int Quiet = 3000;         // ms without news, after which nothing is on its way
 const int OutFor = 2000;        // ms that the line is pulled out in the middle of a stretch
-const qint64 FreeLists = 16384; // bytes that the C library keeps for the next allocation, and counts as used
+const qint64 FreeLists = 32768; // bytes that the C library keeps for the next allocation, and counts as used
 const uint CarApp = 769;
 const uint CanBusTypeTag = 0x10008;
 
