@@ -2,6 +2,7 @@
 
 #include "carwords.h"
 #include "exactfield.h"
+#include "panelcard.h"
 #include "quietslider.h"
 #include "simulatedcar.h"
 #include "steeringwheel.h"
@@ -63,8 +64,7 @@ QWidget *titled(const CarProperty &property, QWidget *value, QWidget *control)
 
 QWidget *createSwitch(const CarProperty &property, SimulatedCar *car)
 {
-    QPushButton *button = new QPushButton(CarWords::propertyText(property.name));
-    button->setObjectName(QStringLiteral("chip"));
+    QPushButton *button = PanelCard::chip(CarWords::propertyText(property.name));
     button->setCheckable(true);
     const QString name = property.name;
     QObject::connect(button, &QPushButton::clicked, car, [car, name](bool on) { car->setValue(name, on); });
@@ -136,8 +136,7 @@ QWidget *createButtons(const CarProperty &property, SimulatedCar *car)
     QButtonGroup *group = new QButtonGroup(row);
     const QString name = property.name;
     for (int i = 0; i < property.choices.size(); ++i) {
-        QPushButton *button = new QPushButton(CarWords::text(property.choices.at(i)));
-        button->setObjectName(QStringLiteral("chip"));
+        QPushButton *button = PanelCard::chip(CarWords::text(property.choices.at(i)));
         button->setCheckable(true);
         group->addButton(button, i);
         layout->addWidget(button);
