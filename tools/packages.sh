@@ -43,7 +43,8 @@ mount --bind /dev "$fresh/dev"
 mount --bind /dev/pts "$fresh/dev/pts"
 
 step "Installing"
-inside 'apt-get install -qq -y --no-install-recommends /tmp/*.deb >/dev/null'
+inside 'apt-get update -qq
+    apt-get install -qq -y --no-install-recommends /tmp/*.deb >/dev/null'
 step "Running"
 inside 'headunit --version && decoderbox --list | head -n 3 && test -e /usr/share/man/man1/headunit.1.gz'
 inside 'headunit --headless --virtual-clock --can-bus-type CanBus_Raise_Toyota --trace - \
