@@ -1,6 +1,6 @@
 #include "testmain.h"
 #include "tracerecorder.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "airconditiondlg.h"
 

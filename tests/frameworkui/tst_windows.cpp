@@ -2,7 +2,7 @@
 #include "testmain.h"
 #include "tracerecorder.h"
 #include "transcript.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "airconditiondlg.h"
 #include "orbhost.h"

@@ -3,7 +3,7 @@
 
 #include "raisewire.h"
 #include "tracerecorder.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "volkswagen/canbus_raise_volkswagen.h"
 #include "volkswagen/selectdialog.h"

@@ -138,7 +138,7 @@ void InspectorView::layOut(bool isWide)
         column->addWidget(m_table, 1);
         column->addWidget(m_chosen);
         column->addLayout(buttons);
-        m_table->setColumnWidth(InspectionModel::TimeColumn, 62);
+        m_table->setColumnWidth(InspectionModel::TimeColumn, 70);
         m_table->setColumnWidth(InspectionModel::DirectionColumn, 18);
         m_table->setColumnWidth(InspectionModel::SubjectColumn, 96);
         m_table->horizontalHeader()->setSectionResizeMode(InspectionModel::BytesColumn, QHeaderView::Stretch);
@@ -161,7 +161,7 @@ void InspectorView::layOut(bool isWide)
     m_table->setColumnWidth(InspectionModel::DirectionColumn, 20);
     m_table->setColumnWidth(InspectionModel::SubjectColumn, 150);
     m_table->setColumnWidth(InspectionModel::BytesColumn, 270);
-    m_table->setColumnWidth(InspectionModel::AnswerColumn, 64);
+    m_table->setColumnWidth(InspectionModel::AnswerColumn, 84);
     m_table->horizontalHeader()->setStretchLastSection(true);
 }
 
@@ -179,7 +179,7 @@ QWidget *InspectorView::makeCalls()
     m_rates->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rates->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int i = 1; i < m_rates->columnCount(); ++i) {
-        m_rates->setColumnWidth(i, i == ChangesColumn ? 82 : 54);
+        m_rates->setColumnWidth(i, i == ChangesColumn ? 92 : 54);
     }
     m_callsTitle = PanelCard::plainLabel("cardTitle");
     m_ratesTitle = PanelCard::plainLabel("cardTitle");
@@ -219,6 +219,7 @@ void InspectorView::showChosen()
     const QModelIndex index = m_table->currentIndex();
     if (!index.isValid()) {
         m_chosen->setText(tr("Choose a package to see all of it."));
+        m_bits->setEnabled(false);
         return;
     }
     const qint64 number = m_model->numberOf(index.row());

@@ -1,5 +1,4 @@
-#include "looks.h"
-#include "testmain.h"
+#include "scenes.h"
 
 #include "airconditiondlg.h"
 #include "orbchoicedialog.h"
@@ -8,17 +7,8 @@
 #include "tableviewmodel.h"
 #include "updatedialog.h"
 
+#include <QCoreApplication>
 #include <QTimer>
-
-/// Draws every screen of the framework in its states.
-class TestLooks : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void textsFit_data();
-    void textsFit();
-};
 
 namespace {
 
@@ -126,35 +116,31 @@ std::unique_ptr<QWidget> list()
     return window;
 }
 
-const QList<Looks::Scene> Scenes = {
-    {"climate-on", [] { return climate(true, 4, 3, "21.5°C", "18.0°C"); }},
-    {"climate-auto", [] { return climate(true, 0xFF, 0xFF, "LO", "HI"); }},
-    {"climate-off", [] { return climate(false, 0, 0, "21.5°C", ""); }},
-    {"climate-defrost", climateDefrost},
-    {"update-question", [] { return update(-1); }},
-    {"update-running", [] { return update(42); }},
-    {"update-failed", updateFailed},
-    {"update-done", [] { return updateAfterSilence(true); }},
-    {"update-stalled", [] { return updateAfterSilence(false); }},
-    {"choice-short",
-     [] {
-         return choiceOf({vw("OFF"), vw("Driver window"), vw("All window")});
-     }},
-    {"choice-long", longChoice},
-    {"list", list},
-};
-
 } // namespace
 
-void TestLooks::textsFit_data()
+QList<Scene> frameworkScenes()
 {
-    Looks::addRows(Scenes);
+    return {
+        sceneOf("climate-on", "Both sides, four of eight steps of the fan, to body and feet.",
+                [] { return climate(true, 4, 3, "21.5°C", "18.0°C"); }),
+        sceneOf("climate-auto", "Automatic, coldest on the left, warmest on the right.",
+                [] { return climate(true, 0xFF, 0xFF, "LO", "HI"); }),
+        sceneOf("climate-off", "Switched off, in a car with one side.",
+                [] { return climate(false, 0, 0, "21.5°C", ""); }),
+        sceneOf("climate-defrost", "The windscreen is cleared; degrees as an American car tells them.",
+                climateDefrost),
+        sceneOf("update-question", "New firmware was found on a disk.", [] { return update(-1); }),
+        sceneOf("update-running", "The box takes it.", [] { return update(42); }),
+        sceneOf("update-stalled", "The box asks for nothing more, and has not got all.",
+                [] { return updateAfterSilence(false); }),
+        sceneOf("update-failed", "The box says that it failed.", updateFailed),
+        sceneOf("update-done", "The box has got all.", [] { return updateAfterSilence(true); }),
+        sceneOf("choice-short", "A choice.",
+                [] {
+                    return choiceOf({vw("OFF"), vw("Driver window"), vw("All window")});
+                }),
+        sceneOf("choice-long", "A choice of more than the screen is high.", longChoice),
+        sceneOf("list", "A list: switches, a heading, values that lead to a choice, a value only shown.",
+                list),
+    };
 }
-
-void TestLooks::textsFit()
-{
-    Looks::check(Scenes);
-}
-
-CANBUS_TEST_MAIN(TestLooks)
-#include "tst_looks.moc"

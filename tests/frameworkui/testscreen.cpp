@@ -1,4 +1,4 @@
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "orbhost.h"
 

@@ -1,5 +1,5 @@
-#ifndef UNITSCREEN_H
-#define UNITSCREEN_H
+#ifndef TESTSCREEN_H
+#define TESTSCREEN_H
 
 #include <QWidget>
 
@@ -25,4 +25,4 @@ private:
     QWidget *m_area;
 };
 
-#endif // UNITSCREEN_H
+#endif // TESTSCREEN_H
