@@ -1,4 +1,5 @@
 #include "apppage.h"
+#include "apptile.h"
 #include "climatewatch.h"
 #include "deskwindow.h"
 #include "headunit.h"

@@ -1,6 +1,6 @@
 #include "testmain.h"
-#include "tracerecorder.h"
 #include "testscreen.h"
+#include "tracerecorder.h"
 
 #include "airconditiondlg.h"
 

@@ -10,6 +10,10 @@
 
 namespace {
 
+const int NarrowStep = 4;
+const int Step = 16;
+const int WideStep = 28;
+const int DarkLevels = 64;
 const int Noise = 4;        // levels: antialiasing differs a little from processor to processor
 const int Margin = 40;      // pixels around a difference that its sheet shows
 const int MostTiles = 3;    // of one sheet
@@ -19,11 +23,13 @@ const QRgb Marked = 0xFFFF00FF;
 
 using Levels = std::array<quint8, 256>;
 
+// Of many steps dark ones, the grounds of all screens, lie closer.
 Levels levelsOf(GoldenPictures::Steps steps)
 {
     Levels levels;
     for (int i = 0; i < 256; ++i) {
-        levels[size_t(i)] = quint8((i * (steps - 1) + 127) / 255 * 255 / (steps - 1));
+        const int step = steps == GoldenPictures::FewSteps ? WideStep : i < DarkLevels ? NarrowStep : Step;
+        levels[size_t(i)] = quint8(qMin(255, (i + step / 2) / step * step));
     }
     return levels;
 }
@@ -191,7 +197,7 @@ QImage GoldenPictures::reduced(const QImage &picture, Steps steps)
 
 int GoldenPictures::tolerance(Steps steps)
 {
-    return 255 / (steps - 1) / 2 + 1 + Noise;
+    return (steps == FewSteps ? WideStep : Step) / 2 + Noise;
 }
 
 QRect GoldenPictures::difference(const QImage &expected, const QImage &got, Steps steps)

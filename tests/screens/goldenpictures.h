@@ -10,7 +10,7 @@
 namespace GoldenPictures {
 
 /// The steps of red, green and blue that a file keeps.
-enum Steps { FewSteps = 10, ManySteps = 20 };
+enum Steps { FewSteps, ManySteps };
 
 struct Tile
 {

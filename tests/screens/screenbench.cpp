@@ -87,7 +87,11 @@ Scene sceneOf(const QString &name, const QString &caption,
 
 QStringList ScreenBench::languages()
 {
+#ifdef COMPARES_PICTURES
     return {"en", "de", "fr", "es", "ru", "zh_CN", "pseudo"};
+#else // the longest language, the one of the widest letters, the one of the highest
+    return {"pseudo", "ru", "zh_CN"};
+#endif
 }
 
 ScreenBench::ScreenBench(const QSize &size, const QString &language) : d(new Private(size))

@@ -74,7 +74,15 @@ QString otherPicture(const Scene &scene, const QSize &size)
 QString compared(const QString &folder, const QString &file, const QVector<GoldenPictures::Tile> &tiles,
                  GoldenPictures::Steps steps)
 {
+#ifdef COMPARES_PICTURES
     return GoldenPictures::compare(QDir(folder).filePath(file), tiles, steps, DIFFERENCE_FOLDER);
+#else
+    Q_UNUSED(folder);
+    Q_UNUSED(file);
+    Q_UNUSED(tiles);
+    Q_UNUSED(steps);
+    return QString();
+#endif
 }
 
 } // namespace

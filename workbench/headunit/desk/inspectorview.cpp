@@ -32,7 +32,7 @@ const int Gap = 8;
 const int RowHeight = 22;
 const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
-const int SideWidth = 380;
+const int SideWidth = 410;
 const int RatesInterval = 900; // ms
 const int ChangesColumn = 3;   // of the table of commands
 const int CallsInSight = 6;    // of the chosen package, in a narrow view
@@ -159,9 +159,9 @@ void InspectorView::layOut(bool isWide)
     column->addLayout(halves, 1);
     m_table->setColumnWidth(InspectionModel::TimeColumn, 78);
     m_table->setColumnWidth(InspectionModel::DirectionColumn, 20);
-    m_table->setColumnWidth(InspectionModel::SubjectColumn, 150);
-    m_table->setColumnWidth(InspectionModel::BytesColumn, 270);
-    m_table->setColumnWidth(InspectionModel::AnswerColumn, 84);
+    m_table->setColumnWidth(InspectionModel::SubjectColumn, 136);
+    m_table->setColumnWidth(InspectionModel::BytesColumn, 250);
+    m_table->setColumnWidth(InspectionModel::AnswerColumn, 76);
     m_table->horizontalHeader()->setStretchLastSection(true);
 }
 
