@@ -5,6 +5,7 @@
 #include "canbusadapter.h"
 #include "orbapplication.h"
 #include "orbhost.h"
+#include "screenbench.h"
 #include "sidepanel.h"
 
 #include <QDir>
@@ -53,7 +54,7 @@ DeskBench::DeskBench(int type, Box box, const QSize &screen, const QString &port
     QVERIFY(m_window->minimumSizeHint().boundedTo(Room) == m_window->minimumSizeHint());
     m_adapter.reset(AdapterFactory::create(CanBusType(type)));
     m_adapter->initAdapter();
-    QTest::qWait(StartTime);
+    passTime(StartTime);
 }
 
 DeskBench::~DeskBench()
@@ -75,14 +76,14 @@ void DeskBench::drive(const QStringList &changes)
     for (const QString &change : changes) {
         QVERIFY2(m_box->car()->setValue(change.section(' ', 0, 0), change.section(' ', 1)),
                  qPrintable(change));
-        QTest::qWait(SayTime);
+        passTime(SayTime);
     }
 }
 
 QWidget *DeskBench::page(int index) const
 {
     m_window->sidePanel()->showPage(index);
-    QTest::qWait(SayTime);
+    passTime(SayTime);
     // The system gives a terminal another number each time.
     for (QLabel *label : m_window->sidePanel()->findChildren<QLabel *>()) {
         label->setText(label->text().replace(QRegularExpression("/dev/pts/[0-9]+"), "/dev/pts/0"));

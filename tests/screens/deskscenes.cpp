@@ -27,7 +27,7 @@ void drawDesk(const Scene::Shot &shot)
 {
     DeskBench desk(Toyota);
     desk.drive({"doors.rear_left on", "radar.rear.2 3", "radar.rear.3 2", "steering.angle -200"});
-    QTest::qWait(8000); // the climate goes away
+    passTime(8000); // the climate goes away
     shot(desk.window());
 }
 
@@ -48,12 +48,12 @@ void drawKeyTester(const Scene::Shot &shot)
     DeskBench desk(Gm);
     QWidget *const page = desk.page(1);
     desk.box()->pressKey("volume_up");
-    QTest::qWait(700);
+    passTime(700);
     desk.box()->releaseKey("volume_up");
     desk.box()->turnKnob("volume_knob_up", 3);
-    QTest::qWait(500);
+    passTime(500);
     desk.box()->pressKey("mute");
-    QTest::qWait(12000);
+    passTime(12000);
     shot(page);
 }
 
@@ -62,7 +62,7 @@ void drawBoxInTrouble(const Scene::Shot &shot)
     DeskBench desk(Toyota);
     desk.window()->sidePanel()->boxPage()->play("no/such.scn");
     desk.box()->unplug();
-    QTest::qWait(6000);
+    passTime(6000);
     shot(desk.page(2));
     shot(desk.page(3));
 }
@@ -79,7 +79,7 @@ void drawInspector(const Scene::Shot &shot)
     shot(inspector);
     for (const char *words : {"dir=in changed", "cmd=0x28 and"}) {
         inspector->filterBar()->setWords(words);
-        QTest::qWait(500);
+        passTime(500);
         shot(inspector);
     }
 }
@@ -109,7 +109,7 @@ void drawReplay(const Scene::Shot &shot)
     DeskBench desk(Toyota, DeskBench::NoBox, UnitScreen::standardSize(), replayer.portPath());
     desk.window()->showReplay(&replayer);
     replayer.start();
-    QTest::qWait(2500);
+    passTime(2500);
     shot(desk.page(1));
     replayer.pause();
     shot(desk.page(1));

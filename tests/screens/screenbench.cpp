@@ -10,9 +10,11 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QEventLoop>
 #include <QLabel>
 #include <QPainter>
 #include <QThread>
+#include <QTimer>
 #include <QTranslator>
 #include <QtTest>
 
@@ -83,6 +85,13 @@ Scene sceneOf(const QString &name, const QString &caption,
                 const std::unique_ptr<QWidget> shown = make();
                 shot(shown.get());
             }};
+}
+
+void passTime(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 QStringList ScreenBench::languages()

@@ -27,6 +27,9 @@ struct Scene
 Scene sceneOf(const QString &name, const QString &caption,
               const std::function<std::unique_ptr<QWidget>()> &make);
 
+/// Lets \a ms of virtual time pass in an event loop. QTest::qWait() would sleep in between, past what is on the line.
+void passTime(int ms);
+
 /// A unit with a screen of \a size and a language, while it lives, and what is drawn on it.
 class ScreenBench
 {

@@ -25,7 +25,7 @@ void drawHome(const Scene::Shot &shot)
     desk.window()->shell()->useKey(Qt::Key_VolumeUp, 0);
     shot(desk.window()->screen());
     desk.box()->unplug();
-    QTest::qWait(2000);
+    passTime(2000);
     shot(desk.window()->screen());
 }
 

@@ -35,9 +35,9 @@ Scene driving(const QString &name, const QString &caption, const char *button, c
                 VolkswagenWindow window(&car.adapter);
                 window.show();
                 VwBench::click(window, button);
-                QTest::qWait(Vw::AnswerPatience + 1000);
+                passTime(Vw::AnswerPatience + 1000);
                 VwBench::feed(car.adapter, packages);
-                QTest::qWait(age);
+                passTime(age);
                 shot(&window);
             }};
 }
@@ -60,7 +60,7 @@ Scene silent(const QString &name, const QString &caption, unsigned int page)
                 Car car;
                 VWFunctionSetting window(page, &car.adapter);
                 window.show();
-                QTest::qWait(2200); // virtual
+                passTime(2200); // virtual
                 if (page == Vw::ServicePage) {
                     const int row = VwBench::modelOf(window)->rowOfItem(138);
                     VwBench::tap(window, row, 0,
@@ -77,7 +77,7 @@ void drawDialogs(unsigned int page, const char *reports, const Scene::Shot &shot
     VWFunctionSetting window(page, &car.adapter);
     window.show();
     VwBench::feed(car.adapter, reports);
-    QTest::qWait(Vw::AnswerPatience);
+    passTime(Vw::AnswerPatience);
     for (int row = 0; row < VwBench::modelOf(window)->rowCount(); ++row) {
         VwBench::tap(window, row, 0, [&](SelectDialog &dialog) {
             shot(&dialog);
