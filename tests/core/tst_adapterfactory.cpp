@@ -180,7 +180,7 @@ void AdapterFactoryTest::secondInit()
 
 int main(int argc, char **argv)
 {
-    if (!TestSupport::startClock()) {
+    if (!VirtualClock::start()) {
         return 1;
     }
     OrbApplication application(argc, argv);

@@ -61,7 +61,7 @@ void TestBoxManners::nothingIsSaidBeforeTheUnitIsReady()
         QTRY_VERIFY(box->isUnitThere());
         QCOMPARE(box->state(), DecoderBox::WaitsForReady);
         box->car()->setValue("doors.front_left", visit == 0);
-        box->pressKey("volume_up");
+        box->keys()->press("volume_up");
         QTest::qWait(20);
         QCOMPARE(int(unit.packages().size()), 0);
         unit.writeReady();
@@ -168,12 +168,12 @@ void TestBoxManners::waitingReportTellsTheNewestState()
 void TestBoxManners::heldKeyRepeats()
 {
     Conversation talk(Toyota);
-    QVERIFY(!talk.box->pressKey("ejector_seat") && !talk.box->releaseKey("ejector_seat"));
-    QVERIFY(!talk.box->turnKnob("next", 1) && !talk.box->touch(BoxSpeaker::TouchPressed, 1, 1));
-    QVERIFY(talk.box->pressKey("next"));
-    QVERIFY(talk.box->pressKey("next"));
+    QVERIFY(!talk.box->keys()->press("ejector_seat") && !talk.box->keys()->release("ejector_seat"));
+    QVERIFY(!talk.box->keys()->turn("next", 1) && !talk.box->keys()->touch(BoxSpeaker::TouchPressed, 1, 1));
+    QVERIFY(talk.box->keys()->press("next"));
+    QVERIFY(talk.box->keys()->press("next"));
     QTest::qWait(500);
-    QVERIFY(talk.box->releaseKey("next"));
+    QVERIFY(talk.box->keys()->release("next"));
     QTest::qWait(250);
     QCOMPARE(talk.unit.frames(), frames({"20 03 01", "20 03 02", "20 03 02", "20 03 00"}));
     const qint64 gap = talk.unit.packages().at(2).ms - talk.unit.packages().at(1).ms;
@@ -203,8 +203,8 @@ void TestBoxManners::queueIsBounded()
     connect(box.get(), &DecoderBox::logLine, this,
             [&dropped](const QString &line) { dropped += line.contains("too much to send"); });
     for (int i = 0; i < 400; ++i) {
-        box->pressKey("next");
-        box->releaseKey("next");
+        box->keys()->press("next");
+        box->keys()->release("next");
     }
     QVERIFY(dropped > 400 && dropped < 800);
 }

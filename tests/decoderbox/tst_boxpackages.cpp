@@ -181,9 +181,9 @@ void TestBoxPackages::boxes()
 void TestBoxPackages::knobTurns()
 {
     Conversation talk(5);
-    QVERIFY(talk.box->turnKnob("volume_knob_up", 255));
-    QVERIFY(!talk.box->turnKnob("volume_knob_up", 256));
-    QVERIFY(!talk.box->pressKey("volume_knob_up"));
+    QVERIFY(talk.box->keys()->turn("volume_knob_up", 255));
+    QVERIFY(!talk.box->keys()->turn("volume_knob_up", 256));
+    QVERIFY(!talk.box->keys()->press("volume_knob_up"));
     QTRY_COMPARE(talk.unit.frames(), QVector<QByteArray>(1, RaiseWire::frame("01 f0 ff")));
 }
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 /// The grid of bits asks the program's own probe, and reads its answer.
 class TestBitGrid : public QObject

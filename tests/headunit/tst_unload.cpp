@@ -48,7 +48,7 @@ void TestUnload::goesOnWithoutThePlugin()
 int main(int argc, char **argv)
 {
     canBusType = argc > 1 ? QByteArray(argv[1]).toInt() : canBusType;
-    return TestSupport::startClock() ? TestSupport::runTest<TestUnload>(1, argv) : 1;
+    return VirtualClock::start() ? TestSupport::runTest<TestUnload>(1, argv) : 1;
 }
 
 #include "tst_unload.moc"

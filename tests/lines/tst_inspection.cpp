@@ -7,7 +7,7 @@
 #include "keytext.h"
 #include "packagevalues.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

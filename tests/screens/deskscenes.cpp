@@ -129,19 +129,20 @@ QList<Scene> deskScenes()
     return {
         {"desk", "The desk: the unit, its keys, the panel of the virtual box, and the line in one line.",
          drawDesk},
-        panel("panel-toyota", "The panel's pages: car, keys, box, line, unit.", Toyota, 5),
+        panel("panel-toyota", "The panel's pages of car and keys.", Toyota, 2),
         panel("panel-volkswagen", "Car and keys of a Volkswagen.", Volkswagen, 2),
         panel("panel-xinhang", "Of a car with a touch screen.", XinHang, 2),
         panel("panel-gm", "Of a car with knobs.", Gm, 2),
         panel("panel-jeep", "Of a car that has keys alone.", Jeep, 2),
         {"panel-keys", "The key tester: one key came up, one never did.", drawKeyTester},
-        {"panel-trouble", "A scenario that is not there, and a line that was pulled out.", drawBoxInTrouble},
-        {"panel-replay", "A log that is replayed, and paused.", drawReplay},
+        {"panel-trouble", "A scenario that is not there, and a line that was pulled out.", drawBoxInTrouble,
+         false},
+        {"panel-replay", "A log that is replayed, and paused.", drawReplay, false},
         {"inspector",
          "The inspector (F8): what passes over the line, and what came of it; only what changed; a filter "
          "that cannot "
          "be read.",
-         drawInspector},
+         drawInspector, false},
         {"bits", "What each bit of a package does, and a package that cannot be tried.", drawBits},
         {"picker", "Which car? Asked where nobody has said it.", drawPicker},
     };

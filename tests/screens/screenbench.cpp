@@ -81,10 +81,12 @@ struct ScreenBench::Private
 Scene sceneOf(const QString &name, const QString &caption,
               const std::function<std::unique_ptr<QWidget>()> &make)
 {
-    return {name, caption, [make](const Scene::Shot &shot) {
+    return {name, caption,
+            [make](const Scene::Shot &shot) {
                 const std::unique_ptr<QWidget> shown = make();
                 shot(shown.get());
-            }};
+            },
+            true};
 }
 
 void passTime(int ms)

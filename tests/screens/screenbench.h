@@ -21,6 +21,9 @@ struct Scene
     /// Builds it in the unit's language and calls \a shot while it is to be seen. Several shots are cut out and stand
     /// side by side.
     std::function<void(const Shot &shot)> draw;
+    /// False where it shows the line's times to the millisecond, which a busy machine moves: only its texts are
+    /// looked at, and the manual's picture is as it was last written.
+    bool isCompared = true;
 };
 
 /// A scene of one widget that \a make builds and shows.

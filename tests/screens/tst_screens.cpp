@@ -112,11 +112,15 @@ void TestScreens::check(const QList<Scene> &scenes)
         }
         tiles << GoldenPictures::Tile{language, bench.picture()};
     }
-    if (size != Small) { // in English the manual's
+    const bool isCompared = scenes.at(scene).isCompared || qEnvironmentVariableIsSet("ORB_REWRITE_GOLDEN");
+    if (isCompared && size != Small) { // in English the manual's
         faults << compared(MANUAL_FOLDER, manualPicture(scenes.at(scene)), {tiles.takeFirst()},
                            GoldenPictures::ManySteps);
     }
-    faults << compared(PICTURE_FOLDER, otherPicture(scenes.at(scene), size), tiles, GoldenPictures::FewSteps);
+    if (isCompared) {
+        faults << compared(PICTURE_FOLDER, otherPicture(scenes.at(scene), size), tiles,
+                           GoldenPictures::FewSteps);
+    }
     faults.removeAll(QString());
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 }

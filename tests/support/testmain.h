@@ -12,12 +12,6 @@ namespace TestSupport {
 void watchConnects();
 int brokenConnects();
 
-/// Starts the virtual clock at midnight of 2026-01-01, UTC.
-inline bool startClock()
-{
-    return VirtualClock::start(1767225600);
-}
-
 template <class TestClass>
 int runTest(int argc, char **argv)
 {
@@ -35,7 +29,7 @@ int runTest(int argc, char **argv)
 #define CANBUS_TEST_MAIN(TestClass)                                                                          \
     int main(int argc, char **argv)                                                                          \
     {                                                                                                        \
-        return TestSupport::startClock() ? TestSupport::runTest<TestClass>(argc, argv) : 1;                  \
+        return VirtualClock::start() ? TestSupport::runTest<TestClass>(argc, argv) : 1;                      \
     }
 
 /// The same on the machine's clock, for what is about real time or about another process.

@@ -5,13 +5,13 @@
 
 #include <QTest>
 
-/// main() of a test program that runs on the virtual clock, from 2026-01-01 00:00 UTC on: its waits cost no
+/// main() of a test program that runs on the virtual clock, its waits cost no
 /// time and cannot be too short. Link CanBus::VirtualClock. What another process or thread does needs a
 /// VirtualClock::Hold.
 #define CANBUS_VIRTUAL_MAIN(Application, TestClass)                                                          \
     int main(int argc, char **argv)                                                                          \
     {                                                                                                        \
-        if (!VirtualClock::start(1767225600)) {                                                              \
+        if (!VirtualClock::start()) {                                                                        \
             return 1;                                                                                        \
         }                                                                                                    \
         Application application(argc, argv);                                                                 \

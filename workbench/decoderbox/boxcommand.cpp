@@ -248,19 +248,19 @@ void BoxCommand::carryOut(DecoderBox *box) const
         box->car()->setValue(m_name, m_value);
         break;
     case Press:
-        box->pressKey(m_name);
+        box->keys()->press(m_name);
         break;
     case Release:
-        box->releaseKey(m_name);
+        box->keys()->release(m_name);
         break;
     case Tap:
         tap(box);
         break;
     case Turn:
-        box->turnKnob(m_name, m_number);
+        box->keys()->turn(m_name, m_number);
         break;
     case TouchScreen:
-        box->touch(BoxSpeaker::Touch(m_number), m_x, m_y);
+        box->keys()->touch(BoxSpeaker::Touch(m_number), m_x, m_y);
         break;
     case Raw:
         box->sendRaw(m_bytes);
@@ -314,9 +314,9 @@ void BoxCommand::tap(DecoderBox *box) const
     QTimer *release = new QTimer(box);
     release->setSingleShot(true);
     QObject::connect(release, &QTimer::timeout, box, [box, release, name = m_name] {
-        box->releaseKey(name);
+        box->keys()->release(name);
         release->deleteLater();
     });
-    box->pressKey(m_name);
+    box->keys()->press(m_name);
     release->start(m_number);
 }

@@ -6,7 +6,6 @@ namespace {
 
 const int AcknowledgementMs = 100;
 const int MostResends = 3;
-const int HeldKeyMs = 200;
 const int MostQueued = 256;
 const int MostNoise = 65536;
 
@@ -17,14 +16,12 @@ const quint8 UnknownCommandAnswer = 0xF3;
 } // namespace
 
 DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
-    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format())
+    : QObject(parent), m_car(car), m_speaker(speaker), m_receiver(speaker->format()), m_keys(speaker)
 {
     m_car->setParent(this);
     m_speaker->setParent(this);
     m_acknowledgementTimer.setSingleShot(true);
     m_acknowledgementTimer.setTimerType(Qt::PreciseTimer);
-    m_heldKeyTimer.setInterval(HeldKeyMs);
-    m_heldKeyTimer.setTimerType(Qt::PreciseTimer);
     m_tongueTimer.setSingleShot(true);
     m_replugTimer.setSingleShot(true);
     m_terminal.setBaud(speaker->baudRate());
@@ -43,7 +40,7 @@ DecoderBox::DecoderBox(SimulatedCar *car, BoxSpeaker *speaker, QObject *parent)
     connect(m_speaker, &BoxSpeaker::observed, this, &DecoderBox::onObserved);
     connect(m_car, &SimulatedCar::changed, this, &DecoderBox::onCarChanged);
     connect(&m_acknowledgementTimer, &QTimer::timeout, this, &DecoderBox::onAcknowledgementMissing);
-    connect(&m_heldKeyTimer, &QTimer::timeout, this, &DecoderBox::repeatHeldKeys);
+    connect(&m_keys, &BoxKeyboard::packageDue, this, &DecoderBox::enqueue);
     connect(&m_tongueTimer, &QTimer::timeout, this, &DecoderBox::sendNext);
     connect(&m_replugTimer, &QTimer::timeout, this, &DecoderBox::replug);
     addRepetitions();
@@ -76,54 +73,6 @@ void DecoderBox::start()
     for (QTimer *timer : std::as_const(m_repetitions)) {
         timer->start();
     }
-}
-
-bool DecoderBox::pressKey(const QString &name)
-{
-    const BoxKey *key = m_speaker->findKey(name);
-    if (!key || key->source == BoxKey::Knob) {
-        return false;
-    }
-    if (!m_heldKeys.contains(name)) {
-        m_heldKeys << name;
-        m_heldKeyTimer.start();
-        sendKey(*key, BoxSpeaker::Pressed);
-    }
-    return true;
-}
-
-bool DecoderBox::releaseKey(const QString &name)
-{
-    const BoxKey *key = m_speaker->findKey(name);
-    if (!key || key->source == BoxKey::Knob) {
-        return false;
-    }
-    m_heldKeys.removeAll(name);
-    if (m_heldKeys.isEmpty()) {
-        m_heldKeyTimer.stop();
-    }
-    sendKey(*key, BoxSpeaker::Released);
-    return true;
-}
-
-bool DecoderBox::turnKnob(const QString &name, int count)
-{
-    const BoxKey *key = m_speaker->findKey(name);
-    if (!key || key->source != BoxKey::Knob || count < 0 || count > 255) {
-        return false;
-    }
-    enqueue(m_speaker->knobPackage(*key, count), QString("knob %1 %2").arg(name).arg(count));
-    return true;
-}
-
-bool DecoderBox::touch(BoxSpeaker::Touch touch, int x, int y)
-{
-    if (!m_speaker->hasTouch()) {
-        return false;
-    }
-    enqueue(m_speaker->touchPackage(touch, x, y),
-            QString("touch %1 at %2, %3").arg(int(touch)).arg(x).arg(y));
-    return true;
 }
 
 void DecoderBox::sendRaw(const QByteArray &bytes)
@@ -250,13 +199,6 @@ void DecoderBox::onObserved(const QString &topic, const QString &value)
     Q_EMIT observed(topic, value);
 }
 
-void DecoderBox::repeatHeldKeys()
-{
-    for (const QString &name : std::as_const(m_heldKeys)) {
-        sendKey(*m_speaker->findKey(name), BoxSpeaker::Held);
-    }
-}
-
 void DecoderBox::setState(State state)
 {
     if (m_state != state) {
@@ -270,8 +212,7 @@ void DecoderBox::stopTalking()
     m_queue.clear();
     m_frame.clear();
     m_acknowledgementTimer.stop();
-    m_heldKeys.clear();
-    m_heldKeyTimer.stop();
+    m_keys.letGo();
     for (QTimer *timer : std::as_const(m_repetitions)) {
         timer->stop();
     }
@@ -312,15 +253,6 @@ void DecoderBox::enqueue(const BoxPackage &package, const QString &meaning)
     }
     m_queue.enqueue({-1, package, meaning});
     sendNext();
-}
-
-void DecoderBox::sendKey(const BoxKey &key, BoxSpeaker::KeyState state)
-{
-    static const char *const names[] = {"released", "pressed", "held"};
-    const QVector<BoxPackage> packages = m_speaker->keyPackages(key, state);
-    for (const BoxPackage &package : packages) {
-        enqueue(package, QString("key %1 %2").arg(key.name, QString::fromLatin1(names[state])));
-    }
 }
 
 void DecoderBox::sendNext()

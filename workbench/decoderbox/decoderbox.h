@@ -1,6 +1,7 @@
 #ifndef DECODERBOX_H
 #define DECODERBOX_H
 
+#include "boxkeyboard.h"
 #include "boxspeaker.h"
 #include "framereceiver.h"
 #include "linefaults.h"
@@ -8,6 +9,7 @@
 
 #include <QElapsedTimer>
 #include <QQueue>
+#include <QTimer>
 
 /// A virtual decoder box: a simulated car, a speaker for the box's protocol, a pseudo-terminal that the unit
 /// opens as its serial port, and the manners of real boxes:
@@ -56,15 +58,8 @@ public:
     /// Starts the box as the unit's ready does, also when none came: it sends its state and talks.
     void start();
 
-    /// Keys and knobs by their names in speaker()->keys(). False when there is no such key, or when a knob is
-    /// pressed or a key turned. Before ready and in silence nothing is sent. A key that is pressed already is
-    /// not pressed again; one that is not pressed is released all the same, as a bouncing contact does.
-    bool pressKey(const QString &name);
-    bool releaseKey(const QString &name);
-    /// \a count: clicks, 0 to 255.
-    bool turnKnob(const QString &name, int count);
-    /// Reports a touch on the car's screen; false when the box has none.
-    bool touch(BoxSpeaker::Touch touch, int x, int y);
+    /// The car's keys, knobs and touch screen. Before ready and in silence nothing of them is sent.
+    BoxKeyboard *keys() { return &m_keys; }
 
     /// Sends \a bytes at once, whatever the state.
     void sendRaw(const QByteArray &bytes);
@@ -114,7 +109,6 @@ private:
     void onAcknowledged();
     void onAcknowledgementMissing();
     void onObserved(const QString &topic, const QString &value);
-    void repeatHeldKeys();
     void addRepetitions();
 
     void setState(State state);
@@ -122,7 +116,6 @@ private:
     void sendState();
     void enqueueReport(int index);
     void enqueue(const BoxPackage &package, const QString &meaning);
-    void sendKey(const BoxKey &key, BoxSpeaker::KeyState state);
     void sendNext();
     void transmit();
     void answer(quint8 byte);
@@ -144,8 +137,7 @@ private:
     QTimer m_acknowledgementTimer;
 
     QVector<QTimer *> m_repetitions; // of reports
-    QStringList m_heldKeys;
-    QTimer m_heldKeyTimer;
+    BoxKeyboard m_keys;
 
     LineFaults m_faults;
     QTimer m_tongueTimer;

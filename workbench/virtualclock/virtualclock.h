@@ -20,10 +20,13 @@
 /// then, and Qt is told to use its own dispatcher.
 namespace VirtualClock {
 
+/// Midnight of 2026-01-01, UTC.
+const std::time_t UsualStart = 1767225600;
+
 /// Starts the clock for good, with the time of day \a timeOfDay (seconds since 1970, UTC). False when another
 /// library's functions stand before these ones, and nothing happens then; an already started clock stays as
 /// it is and gives true. It is the clock of the calling thread.
-bool start(std::time_t timeOfDay);
+bool start(std::time_t timeOfDay = UsualStart);
 
 /// True from start() on.
 bool isOn();

@@ -22,7 +22,6 @@
 
 namespace {
 
-const std::time_t ProbeDay = 1767225600; // 2026-01-01
 const int BaudRates[] = {19200, 38400, 115200};
 
 struct Options
@@ -65,7 +64,7 @@ int percent(double part)
 int probe(const Options &options)
 {
     const FrameFormat *format = BoxCatalog::frameOf(options.probedType);
-    if (!format || !VirtualClock::start(ProbeDay)) {
+    if (!format || !VirtualClock::start()) {
         return Command::FoundSomething;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -4,13 +4,9 @@
 #include "command.h"
 #include "headunitprogram.h"
 #include "loginspection.h"
+#include "probestart.h"
 
 #include "orbapplication.h"
-#include "virtualclock.h"
-
-namespace {
-const std::time_t StartOfClock = 1767268800; // 2026-01-01 12:00, as drives start
-} // namespace
 
 LogCommand::LogCommand(CommandLine *line) : m_line(line)
 {
@@ -41,11 +37,10 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
         m_line->complain("the log does not say which type it came from: --can-bus-type is needed");
         return Command::WrongUsage;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!VirtualClock::start(StartOfClock)) {
-        return m_line->complain("the virtual clock does not reach the libraries of this program");
+    QString error;
+    if (!ProbeStart::prepare(&error)) {
+        return m_line->complain(error);
     }
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // of the plug-in
     char program[] = "headunit";
     char *words[] = {program, nullptr};
     int count = 1;
@@ -53,7 +48,6 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     QApplication::setQuitOnLastWindowClosed(false);
     LogInspection inspection(qMax(type, 0), log);
     prepare(&inspection);
-    QString error;
     const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
     if (!inspection.run(plugin, &error)) {
         return m_line->complain(error);

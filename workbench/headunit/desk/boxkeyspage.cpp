@@ -58,12 +58,11 @@ void BoxKeysPage::addKeys(const QString &heading, BoxKey::Source source)
             grid->setSpacing(Gap);
             card->rows()->addLayout(grid);
         }
-        QPushButton *button = new QPushButton(title(key));
-        button->setObjectName(QStringLiteral("chip"));
+        QPushButton *button = PanelCard::chip(title(key));
         button->setToolTip(QStringLiteral("0x%1").arg(key.code, 2, 16, QLatin1Char('0')));
         const QString name = key.name;
-        connect(button, &QPushButton::pressed, m_box, [this, name] { m_box->pressKey(name); });
-        connect(button, &QPushButton::released, m_box, [this, name] { m_box->releaseKey(name); });
+        connect(button, &QPushButton::pressed, m_box, [this, name] { m_box->keys()->press(name); });
+        connect(button, &QPushButton::released, m_box, [this, name] { m_box->keys()->release(name); });
         PanelSearch::name(button, button->text());
         grid->addWidget(button, place / Columns, place % Columns);
         ++place;
@@ -91,12 +90,11 @@ void BoxKeysPage::addKnobs()
         PanelSearch::name(label, label->text());
         grid->addWidget(label, row, 0);
         for (const int clicks : {1, 5}) {
-            QPushButton *button = new QPushButton(QStringLiteral("%1×").arg(clicks));
-            button->setObjectName(QStringLiteral("chip"));
+            QPushButton *button = PanelCard::chip(QStringLiteral("%1×").arg(clicks));
             PanelSearch::name(button, label->text());
             const QString name = key.name;
             connect(button, &QPushButton::clicked, m_box,
-                    [this, name, clicks] { m_box->turnKnob(name, clicks); });
+                    [this, name, clicks] { m_box->keys()->turn(name, clicks); });
             grid->addWidget(button, row, clicks == 1 ? 1 : 2);
         }
     }

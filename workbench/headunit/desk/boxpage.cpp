@@ -50,13 +50,6 @@ const FaultButton FaultButtons[] = {
     {QT_TRANSLATE_NOOP("BoxPage", "Good line"), "fault none"},
 };
 
-QPushButton *chip()
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QStringLiteral("chip"));
-    return button;
-}
-
 } // namespace
 
 BoxPage::BoxPage(DecoderBox *box, QWidget *parent) : QWidget(parent), m_box(box)
@@ -101,8 +94,8 @@ BoxPage::~BoxPage() = default;
 void BoxPage::addStateCard()
 {
     m_state = PanelCard::plainLabel("controlValue");
-    m_start = chip();
-    m_stop = chip();
+    m_start = PanelCard::chip();
+    m_stop = PanelCard::chip();
     m_stateCard->rows()->addWidget(m_state);
     m_stateCard->rows()->addLayout(PanelCard::pair(m_start, m_stop));
     connect(m_start, &QPushButton::clicked, m_box, [this] {
@@ -116,8 +109,8 @@ void BoxPage::addStateCard()
 void BoxPage::addScenarioCard()
 {
     m_scenarioState = PanelCard::plainLabel("controlName");
-    m_choose = chip();
-    m_playButton = chip();
+    m_choose = PanelCard::chip();
+    m_playButton = PanelCard::chip();
     m_scenarioCard->rows()->addWidget(m_scenarioState);
     m_scenarioCard->rows()->addLayout(PanelCard::pair(m_choose, m_playButton));
     connect(m_choose, &QPushButton::clicked, this, &BoxPage::choose);
@@ -138,7 +131,7 @@ void BoxPage::addFaultCard()
     for (const FaultButton &fault : FaultButtons) {
         BoxCommand command;
         QString error;
-        QPushButton *button = chip();
+        QPushButton *button = PanelCard::chip();
         const int place = int(m_faults.size());
         const QString text = QString::fromLatin1(fault.order);
         // A box without firmware or acknowledgements has no such fault.

@@ -3,6 +3,7 @@
 #include "boxcatalog.h"
 #include "deskstyle.h"
 #include "fingerscroll.h"
+#include "panelcard.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -42,11 +43,9 @@ CarPicker::CarPicker(int type, const QStringList &ports, QWidget *parent)
     m_line->setEditable(true);
     m_line->addItem(tr("Virtual box"));
     m_line->addItems(ports);
-    m_start = new QPushButton(tr("Start"));
-    m_start->setObjectName(QStringLiteral("chip"));
+    m_start = PanelCard::chip(tr("Start"));
     m_start->setDefault(true);
-    QPushButton *cancel = new QPushButton(tr("Cancel"));
-    cancel->setObjectName(QStringLiteral("chip"));
+    QPushButton *cancel = PanelCard::chip(tr("Cancel"));
     cancel->setAutoDefault(false);
 
     QVBoxLayout *rows = new QVBoxLayout(this);

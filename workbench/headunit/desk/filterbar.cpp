@@ -24,23 +24,15 @@ QSettings settings()
                      QStringLiteral("headunit"));
 }
 
-QPushButton *chip(bool isCheckable)
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QStringLiteral("chip"));
-    button->setCheckable(isCheckable);
-    return button;
-}
-
 } // namespace
 
 FilterBar::FilterBar(bool isWide, QWidget *parent)
     : QWidget(parent)
     , m_words(new QComboBox)
-    , m_keep(chip(false))
-    , m_forget(chip(false))
-    , m_unexplained(chip(true))
-    , m_changing(chip(true))
+    , m_keep(PanelCard::chip())
+    , m_forget(PanelCard::chip())
+    , m_unexplained(PanelCard::chip())
+    , m_changing(PanelCard::chip())
     , m_problem(PanelCard::plainLabel("problem"))
 {
     QVBoxLayout *column = new QVBoxLayout(this);
@@ -63,6 +55,8 @@ FilterBar::FilterBar(bool isWide, QWidget *parent)
     for (QPushButton *button : {m_keep, m_forget, m_unexplained, m_changing}) {
         button->setMinimumWidth(isWide ? LeastWidth : 0);
     }
+    m_unexplained->setCheckable(true);
+    m_changing->setCheckable(true);
     m_problem->hide();
     connect(m_words->lineEdit(), &QLineEdit::textChanged, this, &FilterBar::apply);
     connect(m_words, QOverload<int>::of(&QComboBox::activated), this, &FilterBar::choose);

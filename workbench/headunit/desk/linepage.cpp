@@ -15,13 +15,6 @@ const int Gap = 8;
 const int Margin = 12;
 const QSize WindowSize(1250, 600);
 
-QPushButton *chip()
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QStringLiteral("chip"));
-    return button;
-}
-
 } // namespace
 
 LinePage::LinePage(LineInspector *inspector, QWidget *parent)
@@ -31,8 +24,8 @@ LinePage::LinePage(LineInspector *inspector, QWidget *parent)
     , m_state(PanelCard::plainLabel("controlValue"))
     , m_counts(PanelCard::plainLabel("controlName"))
     , m_answer(PanelCard::plainLabel("controlName"))
-    , m_hello(chip())
-    , m_save(chip())
+    , m_hello(PanelCard::chip())
+    , m_save(PanelCard::chip())
     , m_logCard(new PanelCard(QString()))
     , m_view(new InspectorView(inspector, InspectorView::Narrow))
 {

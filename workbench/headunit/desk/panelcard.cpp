@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,4 +40,11 @@ QLabel *PanelCard::plainLabel(const char *objectName)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
+}
+
+QPushButton *PanelCard::chip(const QString &text)
+{
+    QPushButton *button = new QPushButton(text);
+    button->setObjectName(QStringLiteral("chip"));
+    return button;
 }

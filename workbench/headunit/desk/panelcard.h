@@ -5,6 +5,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QVBoxLayout;
 
 /// A card of the side panel: a heading and what is put below it.
@@ -22,6 +23,8 @@ public:
     static QHBoxLayout *pair(QWidget *left, QWidget *right);
     /// A label for what came over the line: plain text, wrapped.
     static QLabel *plainLabel(const char *objectName);
+    /// A button of the panel's size and looks.
+    static QPushButton *chip(const QString &text = QString());
 
 private:
     QLabel *m_title;

@@ -2,6 +2,7 @@
 
 #include "carwords.h"
 #include "exactfield.h"
+#include "panelcard.h"
 #include "quietslider.h"
 #include "simulatedcar.h"
 #include "steeringwheel.h"
@@ -60,8 +61,7 @@ int chipWidth(const QString &text)
 /// A button that stays down, as wide at least as its text when it is down, which is bold then.
 QPushButton *chip(const QString &text)
 {
-    QPushButton *button = new QPushButton(text);
-    button->setObjectName(QStringLiteral("chip"));
+    QPushButton *button = PanelCard::chip(text);
     button->setCheckable(true);
     button->setMinimumWidth(chipWidth(text));
     return button;

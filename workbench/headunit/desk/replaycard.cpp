@@ -13,14 +13,6 @@ namespace {
 const int LookInterval = 100; // ms; a log may bring thousands of chunks a second
 const int Whole = 1000;       // of the bar
 
-QPushButton *chip()
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QStringLiteral("chip"));
-    button->setFocusPolicy(Qt::NoFocus);
-    return button;
-}
-
 } // namespace
 
 ReplayCard::ReplayCard(LineReplayer *replayer, QWidget *parent)
@@ -34,6 +26,8 @@ ReplayCard::ReplayCard(LineReplayer *replayer, QWidget *parent)
     m_progress->setObjectName(QStringLiteral("replayBar"));
     m_progress->setRange(0, Whole);
     m_progress->setTextVisible(false);
+    m_pause->setFocusPolicy(Qt::NoFocus); // the space bar pauses, whatever was clicked last
+    m_step->setFocusPolicy(Qt::NoFocus);
     rows()->addWidget(m_place);
     rows()->addWidget(m_progress);
     rows()->addLayout(pair(m_pause, m_step));

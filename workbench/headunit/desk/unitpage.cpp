@@ -22,21 +22,14 @@ struct Language
 const Language LanguageRows[] = {{"en", "English"},  {"de", "Deutsch"}, {"zh_CN", "简体中文"},
                                  {"fr", "Français"}, {"es", "Español"}, {"ru", "Русский"}};
 
-QPushButton *chip(const QString &text)
-{
-    QPushButton *button = new QPushButton(text);
-    button->setObjectName(QStringLiteral("chip"));
-    return button;
-}
-
 } // namespace
 
 UnitPage::UnitPage(QWidget *parent)
     : QWidget(parent)
     , m_diskCard(new PanelCard(QString()))
     , m_diskState(new QLabel)
-    , m_choose(chip(QString()))
-    , m_toggle(chip(QString()))
+    , m_choose(PanelCard::chip())
+    , m_toggle(PanelCard::chip())
     , m_languageCard(new PanelCard(QString()))
     , m_languages(new QButtonGroup(this))
 {
@@ -61,7 +54,7 @@ UnitPage::UnitPage(QWidget *parent)
     connect(m_toggle, &QPushButton::clicked, this, &UnitPage::toggleDisk);
 
     for (const Language &language : LanguageRows) {
-        QPushButton *button = chip(QString::fromUtf8(language.name));
+        QPushButton *button = PanelCard::chip(QString::fromUtf8(language.name));
         button->setCheckable(true);
         m_languages->addButton(button);
         m_languageCard->rows()->addWidget(button);
