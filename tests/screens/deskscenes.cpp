@@ -47,12 +47,12 @@ void drawKeyTester(const Scene::Shot &shot)
 {
     DeskBench desk(Gm);
     QWidget *const page = desk.page(1);
-    desk.box()->pressKey("volume_up");
+    desk.box()->keys()->press("volume_up");
     passTime(700);
-    desk.box()->releaseKey("volume_up");
-    desk.box()->turnKnob("volume_knob_up", 3);
+    desk.box()->keys()->release("volume_up");
+    desk.box()->keys()->turn("volume_knob_up", 3);
     passTime(500);
-    desk.box()->pressKey("mute");
+    desk.box()->keys()->press("mute");
     passTime(12000);
     shot(page);
 }

@@ -201,6 +201,6 @@ void TestScreens::manual()
 int main(int argc, char **argv)
 {
     qputenv("FONTCONFIG_FILE", FONTS);
-    return TestSupport::startClock() ? TestSupport::runTest<TestScreens>(argc, argv) : 1;
+    return VirtualClock::start() ? TestSupport::runTest<TestScreens>(argc, argv) : 1;
 }
 #include "tst_screens.moc"
