@@ -1,14 +1,10 @@
 #include "apppage.h"
 #include "apptile.h"
-#include "boxcatalog.h"
-#include "buttonof.h"
 #include "climatewatch.h"
-#include "decoderbox.h"
 #include "deskwindow.h"
 #include "headunit.h"
 #include "homepage.h"
 #include "keystrip.h"
-#include "paintedtexts.h"
 #include "sidepanel.h"
 #include "unitkey.h"
 #include "unitpage.h"
@@ -39,7 +35,7 @@ class TestUnitShell : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { build(nullptr, UnitScreen::standardSize()); }
+    void init();
     void cleanup();
     void reportsShowOnTheCar();
     void tilesFollowTheFramework();
@@ -49,14 +45,11 @@ private Q_SLOTS:
     void keysPassTheFilters();
     void whatIsDoneIsToldToThePlugin();
     void climateGoesAwayWhenNothingChanges();
-    void nothingIsClipped();
 
 private:
-    void build(DecoderBox *box, const QSize &size);
     Launcher *launcher() const { return m_desk->shell()->homePage()->launcher(); }
     int tileOf(const QString &title) const;
     bool isPageShown() const { return m_desk->screen()->findChild<AppPage *>()->isVisible(); }
-    QStringList clippedTexts() const;
     void tap(int code);
 
     std::unique_ptr<HeadUnit> m_unit;
@@ -81,11 +74,10 @@ void send(int type, uint param, uint param2)
 
 } // namespace
 
-void TestUnitShell::build(DecoderBox *box, const QSize &size)
+void TestUnitShell::init()
 {
-    cleanup();
     m_unit.reset(new HeadUnit);
-    m_desk.reset(new DeskWindow(m_unit.get(), box, size));
+    m_desk.reset(new DeskWindow(m_unit.get(), nullptr));
     m_desk->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_desk.get()));
 }
@@ -104,28 +96,6 @@ int TestUnitShell::tileOf(const QString &title) const
         }
     }
     return -1;
-}
-
-/// Of the buttons in sight: those that are too narrow for their text, or cut off at a side. And what is cut on the
-/// unit's screen.
-QStringList TestUnitShell::clippedTexts() const
-{
-    QStringList result;
-    for (const QAbstractButton *button :
-         m_desk->findChildren<QAbstractButton *>() + m_desk->screen()->findChildren<QAbstractButton *>()) {
-        const bool isTile = qobject_cast<const AppTile *>(button); // shortens its title itself
-        const int needed = isTile ? 0 : button->fontMetrics().size(0, button->text()).width();
-        const int seen = button->visibleRegion().boundingRect().width();
-        if (seen > 0 && (seen < button->width() || seen < needed)) {
-            result << button->text();
-        }
-    }
-    for (const QString &text : PaintedTexts::cut(m_desk->screen())) {
-        if (!text.startsWith("AppTile")) { // shortens titles of other people's applications
-            result << text;
-        }
-    }
-    return result;
 }
 
 void TestUnitShell::tap(int code)
@@ -287,31 +257,6 @@ void TestUnitShell::climateGoesAwayWhenNothingChanges()
     QVERIFY(sinceChange.elapsed() >= patience - patience / 20); // as exact as timers are
     climate.setVisible(true);
     QTRY_VERIFY2(!climate.isVisible(), "shown again, it goes again");
-}
-
-void TestUnitShell::nothingIsClipped()
-{
-    AppendAppTitle(603, "Zentralverriegelungseinstellungen hinten rechts und links");
-    const QStringList languages = UnitPage::languages() << "en"; // the other tests expect the last one
-    for (const int type : {3, 4, 10, 15}) {
-        QString error;
-        const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
-        build(box.get(), type == 3 ? UnitScreen::standardSize() : QSize(800, 480));
-        SidePanel *panel = m_desk->sidePanel();
-        for (const QString &language : languages) {
-            Q_EMIT panel->unitPage()->languageChosen(language);
-            QCOMPARE(OrbHost::instance()->language(), language);
-            for (int page = 0; page < panel->pageCount(); ++page) {
-                panel->showPage(page);
-                QCoreApplication::processEvents();
-                QTRY_COMPARE(clippedTexts().join(", "), QString()); // a wider text widens the window first
-            }
-            QCOMPARE(tileOf("Radio") >= 0, language != "zh_CN" && language != "ru");
-            QCOMPARE(buttonOf<QToolButton>(m_desk->keyStrip(), "Hang up") != nullptr, language == "en");
-        }
-        QVERIFY(m_desk->minimumSizeHint().width() <= 1358 && m_desk->minimumSizeHint().height() <= 724);
-        cleanup(); // before its box goes
-    }
 }
 
 int main(int argc, char *argv[])

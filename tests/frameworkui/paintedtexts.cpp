@@ -5,6 +5,7 @@
 #include <QAbstractItemModel>
 #include <QAbstractScrollArea>
 #include <QGraphicsView>
+#include <QHeaderView>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -146,8 +147,11 @@ QVector<Canvas> canvases(const QWidget *shown)
     QList<QWidget *> widgets = shown->findChildren<QWidget *>();
     widgets.prepend(const_cast<QWidget *>(shown));
     for (QWidget *widget : qAsConst(widgets)) {
-        // What lies in a graphics view is asked by itself.
-        if (!widget->isVisible() || qobject_cast<const QGraphicsView *>(widget->parentWidget())) {
+        // What lies in a graphics view is asked by itself; a table of log lines may be narrower than its lines.
+        const QWidget *const parent = widget->parentWidget();
+        if (!widget->isVisible() || qobject_cast<const QGraphicsView *>(parent) ||
+            (qobject_cast<const QAbstractItemView *>(parent) &&
+             !qobject_cast<const TableListView *>(parent) && !qobject_cast<const QHeaderView *>(parent))) {
             continue;
         }
         if (const auto *list = qobject_cast<const TableListView *>(widget->parentWidget())) {

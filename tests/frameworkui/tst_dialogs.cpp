@@ -1,6 +1,6 @@
 #include "testmain.h"
+#include "testscreen.h"
 #include "tracerecorder.h"
-#include "unitscreen.h"
 
 #include "airconditiondlg.h"
 

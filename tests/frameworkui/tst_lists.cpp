@@ -1,5 +1,5 @@
 #include "testmain.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "tablelistview.h"
 #include "tableviewmodel.h"

@@ -1,6 +1,6 @@
 #include "samplewindows.h"
 #include "testmain.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "orbchoicedialog.h"
 #include "orbhost.h"

@@ -1,8 +1,8 @@
 #include "samplewindows.h"
 #include "testmain.h"
+#include "testscreen.h"
 #include "tracerecorder.h"
 #include "transcript.h"
-#include "unitscreen.h"
 
 #include "airconditiondlg.h"
 #include "orbhost.h"

@@ -1,5 +1,5 @@
 #include "adapterfixture.h"
-#include "unitscreen.h"
+#include "testscreen.h"
 #include "vwbench.h"
 
 #include "orbhost.h"

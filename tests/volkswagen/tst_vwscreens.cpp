@@ -3,6 +3,7 @@
 #include "vwbench.h"
 
 #include "volkswagen/carpicture.h"
+#include "volkswagen/figurelabel.h"
 #include "volkswagen/railbutton.h"
 #include "volkswagen/tyreslot.h"
 #include "volkswagen/volkswagenwindow.h"
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void marksLieOnTheTyres();
     void carKeepsItsPlace();
     void isDrawnClearly();
+    void figuresHaveOneSize();
 };
 
 namespace {
@@ -258,6 +260,44 @@ void TestVwScreens::isDrawnClearly()
         for (int x = 6; x < 16; ++x) {
             QVERIFY(button.pixelColor(x, y) != bar);
         }
+    }
+}
+
+// Figures of one page have one size, which fits them all: no ink on first and last line or column, and all stand on one
+// base line.
+void TestVwScreens::figuresHaveOneSize()
+{
+    for (const QSize &size : {QSize(400, 40), QSize(140, 90), QSize(400, 30)}) {
+        QWidget page;
+        FigureGroup group;
+        const QStringList texts{"11 km", "111 L/100km", "1111.1 mph(UK)", "1:11"};
+        QList<FigureLabel *> figures;
+        for (const QString &text : texts) {
+            figures << new FigureLabel(&page);
+            figures.last()->setText(text);
+            figures.last()->resize(size);
+            group.add(figures.last());
+        }
+        group.fit();
+        QSet<int> tops;
+        for (FigureLabel *figure : figures) {
+            const QImage picture = figure->grab().toImage();
+            const auto hasInk = [&picture](const QRect &area) {
+                const QImage part = picture.copy(area);
+                QImage blank(part.size(), part.format());
+                blank.fill(picture.pixelColor(0, 0));
+                return part != blank;
+            };
+            QVERIFY(!hasInk(QRect(0, 0, size.width(), 1)));
+            QVERIFY(!hasInk(QRect(size.width() - 1, 0, 1, size.height())));
+            int first = 0;
+            while (!hasInk(QRect(0, first, 20, 1))) {
+                ++first;
+                QVERIFY(first < size.height());
+            }
+            tops.insert(first);
+        }
+        QCOMPARE(tops.size(), 1);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "vwbench.h"
 
-#include "unitscreen.h"
+#include "testscreen.h"
 
 #include "orbhost.h"
 

@@ -2,8 +2,8 @@
 #define VWBENCH_H
 
 #include "raisewire.h"
+#include "testscreen.h"
 #include "tracerecorder.h"
-#include "unitscreen.h"
 
 #include "volkswagen/canbus_raise_volkswagen.h"
 #include "volkswagen/selectdialog.h"

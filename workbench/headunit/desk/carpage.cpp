@@ -12,6 +12,7 @@
 namespace {
 
 const int Gap = 8;
+const int WidestOfTwo = 170; // pixels that each of two buttons side by side has
 
 /// "radar.front" of "radar.front.2"; empty for a name that does not end in a number.
 QString family(const CarProperty &property)
@@ -107,10 +108,14 @@ int CarPage::addSwitches(QVBoxLayout *rows, const QVector<const CarProperty *> &
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(Gap);
     int i = from;
+    int place = 0;
     for (; i < properties.size() && properties.at(i)->kind == CarProperty::Switch; ++i) {
-        const int place = i - from;
         const CarProperty &property = *properties.at(i);
-        grid->addWidget(named(PropertyEditors::create(property, m_car), property), place / 2, place % 2);
+        QWidget *const button = named(PropertyEditors::create(property, m_car), property);
+        const int cells = button->minimumWidth() > WidestOfTwo ? 2 : 1;
+        place += cells == 2 ? place % 2 : 0;
+        grid->addWidget(button, place / 2, place % 2, 1, cells);
+        place += cells;
     }
     rows->addLayout(grid);
     return i;

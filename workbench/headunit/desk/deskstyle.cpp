@@ -2,6 +2,7 @@
 
 #include "orbhost.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QStyle>
@@ -35,8 +36,11 @@ void DeskStyle::dimHint(QLineEdit *field)
     QObject::connect(field, &QLineEdit::textChanged, field, [field, wasEmpty = true]() mutable {
         if (wasEmpty != field->text().isEmpty()) {
             wasEmpty = !wasEmpty;
-            field->style()->unpolish(field);
-            field->style()->polish(field);
+            // The field of a combo box has the colours of that.
+            QWidget *const box = qobject_cast<QComboBox *>(field->parentWidget());
+            QWidget *const styled = box ? box : field;
+            styled->style()->unpolish(styled);
+            styled->style()->polish(styled);
         }
     });
 }

@@ -15,7 +15,7 @@
 namespace {
 
 const int Gap = 8;
-const int LeastWidth = 116; // of a button beside the words
+const int LeastWidth = 156; // of a button beside the words
 
 } // namespace
 
@@ -122,7 +122,10 @@ void FilterBar::listKept()
 
 void FilterBar::setTexts()
 {
-    m_words->lineEdit()->setPlaceholderText(tr("Filter: cmd=0x28 changed call=setTemp*"));
+    m_words->lineEdit()->setPlaceholderText(tr("Filter: %1")
+                                                .arg(m_keep->isHidden()
+                                                         ? QStringLiteral("cmd=0x28 changed")
+                                                         : QStringLiteral("cmd=0x28 changed call=setTemp*")));
     m_words->setToolTip(
         tr("All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, "
            "screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20, ack=none, t<9.5; ! turns a word round"));

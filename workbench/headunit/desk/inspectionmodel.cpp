@@ -211,8 +211,7 @@ QVariant InspectionModel::data(const QModelIndex &index, int role) const
 QVariant InspectionModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
-        return alignment(section == AnswerColumn ? int(SubjectColumn)
-                                                 : section); // parted from the next title
+        return alignment(section);
     }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();

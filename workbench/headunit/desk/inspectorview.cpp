@@ -32,7 +32,7 @@ const int Gap = 8;
 const int RowHeight = 22;
 const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
-const int SideWidth = 380;
+const int SideWidth = 410;
 const int RatesInterval = 900; // ms
 const int ChangesColumn = 3;   // of the table of commands
 const int CallsInSight = 6;    // of the chosen package, in a narrow view
@@ -138,7 +138,7 @@ void InspectorView::layOut(bool isWide)
         column->addWidget(m_table, 1);
         column->addWidget(m_chosen);
         column->addLayout(buttons);
-        m_table->setColumnWidth(InspectionModel::TimeColumn, 62);
+        m_table->setColumnWidth(InspectionModel::TimeColumn, 70);
         m_table->setColumnWidth(InspectionModel::DirectionColumn, 18);
         m_table->setColumnWidth(InspectionModel::SubjectColumn, 96);
         m_table->horizontalHeader()->setSectionResizeMode(InspectionModel::BytesColumn, QHeaderView::Stretch);
@@ -159,9 +159,9 @@ void InspectorView::layOut(bool isWide)
     column->addLayout(halves, 1);
     m_table->setColumnWidth(InspectionModel::TimeColumn, 78);
     m_table->setColumnWidth(InspectionModel::DirectionColumn, 20);
-    m_table->setColumnWidth(InspectionModel::SubjectColumn, 150);
-    m_table->setColumnWidth(InspectionModel::BytesColumn, 270);
-    m_table->setColumnWidth(InspectionModel::AnswerColumn, 64);
+    m_table->setColumnWidth(InspectionModel::SubjectColumn, 136);
+    m_table->setColumnWidth(InspectionModel::BytesColumn, 250);
+    m_table->setColumnWidth(InspectionModel::AnswerColumn, 76);
     m_table->horizontalHeader()->setStretchLastSection(true);
 }
 
@@ -179,7 +179,7 @@ QWidget *InspectorView::makeCalls()
     m_rates->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_rates->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int i = 1; i < m_rates->columnCount(); ++i) {
-        m_rates->setColumnWidth(i, i == ChangesColumn ? 82 : 54);
+        m_rates->setColumnWidth(i, i == ChangesColumn ? 92 : 54);
     }
     m_callsTitle = PanelCard::plainLabel("cardTitle");
     m_ratesTitle = PanelCard::plainLabel("cardTitle");
@@ -219,6 +219,7 @@ void InspectorView::showChosen()
     const QModelIndex index = m_table->currentIndex();
     if (!index.isValid()) {
         m_chosen->setText(tr("Choose a package to see all of it."));
+        m_bits->setEnabled(false);
         return;
     }
     const qint64 number = m_model->numberOf(index.row());

@@ -67,9 +67,10 @@ KeyTesterCard::KeyTesterCard(KeyWatch *watch, QWidget *parent)
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setSectionResizeMode(KeyColumn, QHeaderView::Stretch);
-    m_table->setColumnWidth(PressedColumn, 68);
-    m_table->setColumnWidth(DownColumn, 78);
-    m_table->setColumnWidth(BecomesColumn, 100);
+    for (const int column : {int(PressedColumn), int(DownColumn)}) {
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+    m_table->setColumnWidth(BecomesColumn, 80);
     for (QWidget *widget :
          {static_cast<QWidget *>(m_alarm), static_cast<QWidget *>(m_hint), static_cast<QWidget *>(m_table),
           static_cast<QWidget *>(m_chosen), static_cast<QWidget *>(m_copy)}) {

@@ -85,7 +85,8 @@ void LinePage::setAnswer(const QString &sentence)
 void LinePage::showStatus()
 {
     m_stateCard->setTitle(m_status.port.isEmpty() ? tr("Line") : tr("Line %1").arg(m_status.port));
-    m_state->setText(m_status.text());
+    const QString state = m_status.text();
+    m_state->setText(state.left(1).toUpper() + state.mid(1)); // the strip has it in the middle of a line
     m_counts->setText(QStringList{
         tr("Packages: %1, %2 a second").arg(m_status.packages).arg(m_status.packagesPerSecond),
         tr("Last package: %1").arg(LineWords::age(m_status)),

@@ -7,6 +7,7 @@
 #include "simulatedcar.h"
 #include "steeringwheel.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -16,7 +17,11 @@
 namespace {
 
 // The most choices that stand side by side; more fold into a list.
+const int ChipFont = 14; // pixels, both as in desk.qss
+const int ChipPadding = 6;
 const int MostButtons = 4;
+const int RowWidth = 348; // pixels of a row of the panel
+const int Gap = 8;
 
 /// Calls \a show now and whenever \a name changes, as long as \a control lives.
 template <typename Show>
@@ -45,6 +50,23 @@ QWidget *exactField(const CarProperty &property, SimulatedCar *car)
     return field;
 }
 
+int chipWidth(const QString &text)
+{
+    QFont down(QApplication::font());
+    down.setPixelSize(ChipFont);
+    down.setBold(true);
+    return QFontMetrics(down).horizontalAdvance(text) + 2 * ChipPadding;
+}
+
+/// A button that stays down, as wide at least as its text when it is down, which is bold then.
+QPushButton *chip(const QString &text)
+{
+    QPushButton *button = PanelCard::chip(text);
+    button->setCheckable(true);
+    button->setMinimumWidth(chipWidth(text));
+    return button;
+}
+
 QWidget *titled(const CarProperty &property, QWidget *value, QWidget *control)
 {
     QWidget *result = new QWidget;
@@ -64,8 +86,7 @@ QWidget *titled(const CarProperty &property, QWidget *value, QWidget *control)
 
 QWidget *createSwitch(const CarProperty &property, SimulatedCar *car)
 {
-    QPushButton *button = PanelCard::chip(CarWords::propertyText(property.name));
-    button->setCheckable(true);
+    QPushButton *button = chip(CarWords::propertyText(property.name));
     const QString name = property.name;
     QObject::connect(button, &QPushButton::clicked, car, [car, name](bool on) { car->setValue(name, on); });
     follow(car, name, button, [=] { button->setChecked(car->flag(name)); });
@@ -127,17 +148,26 @@ QWidget *createTemperature(const CarProperty &property, SimulatedCar *car)
         });
 }
 
+/// Whether its choices fit side by side.
+bool fitsButtons(const CarProperty &property)
+{
+    int width = 0;
+    for (const QString &choice : property.choices) {
+        width += chipWidth(CarWords::text(choice)) + Gap;
+    }
+    return property.choices.size() <= MostButtons && width - Gap <= RowWidth;
+}
+
 QWidget *createButtons(const CarProperty &property, SimulatedCar *car)
 {
     QWidget *row = new QWidget;
     QHBoxLayout *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    layout->setSpacing(Gap);
     QButtonGroup *group = new QButtonGroup(row);
     const QString name = property.name;
     for (int i = 0; i < property.choices.size(); ++i) {
-        QPushButton *button = PanelCard::chip(CarWords::text(property.choices.at(i)));
-        button->setCheckable(true);
+        QPushButton *button = chip(CarWords::text(property.choices.at(i)));
         group->addButton(button, i);
         layout->addWidget(button);
         const QString choice = property.choices.at(i);
@@ -190,8 +220,7 @@ QWidget *PropertyEditors::create(const CarProperty &property, SimulatedCar *car)
     case CarProperty::Temperature:
         return createTemperature(property, car);
     case CarProperty::Choice:
-        return property.choices.size() <= MostButtons ? createButtons(property, car)
-                                                      : createList(property, car);
+        return fitsButtons(property) ? createButtons(property, car) : createList(property, car);
     case CarProperty::Text:
     case CarProperty::NumberList:
         break;

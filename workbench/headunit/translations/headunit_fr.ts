@@ -343,8 +343,8 @@
         <translation>Nom :</translation>
     </message>
     <message>
-        <source>Filter: cmd=0x28 changed call=setTemp*</source>
-        <translation>Filtre : cmd=0x28 changed call=setTemp*</translation>
+        <source>Filter: %1</source>
+        <translation>Filtre : %1</translation>
     </message>
     <message>
         <source>All words must fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, call=set*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack&gt;20, ack=none, t&lt;9.5; ! turns a word round</source>
