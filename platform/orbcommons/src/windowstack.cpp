@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QLayout>
 
+#include <algorithm>
+
 namespace {
 
 const int OverlayHeight = 190;
@@ -283,7 +285,7 @@ void WindowStack::restack()
     // A window that is raised is painted again, also where it lies already.
     QObjectList present = m_area->children();
     present.removeAll(m_scrim);
-    if (present.mid(present.size() - wanted.size()) != wanted) {
+    if (!std::equal(wanted.constBegin(), wanted.constEnd(), present.constEnd() - wanted.size())) {
         for (int i = 0; i < wanted.size(); ++i) {
             static_cast<QWidget *>(wanted.at(i))->raise();
         }
