@@ -34,7 +34,8 @@ grep -n 'QT_VERSION' $portable | complain "version check outside orbqtcompat.h"
 # shellcheck disable=SC2086
 grep -HoE '^ +QElapsedTimer \w+;' $portable | sed 's/: *QElapsedTimer / /; s/;//' | while read -r file member; do
     case $member in *clock | timer) begin=start ;; *) begin=invalidate ;; esac
-    cat "$file" "${file%.h}.cpp" 2>/dev/null | grep -qE "^ +$member\.$begin\(\);" || echo "$file: $member"
+    source=${file%.h}
+    cat "$file" "${source%_p}.cpp" 2>/dev/null | grep -qE "^ +$member\.$begin\(\);" || echo "$file: $member"
 done | complain "a timer that is not initialised"
 
 # Arrows point one way.

@@ -1,23 +1,10 @@
-#include "protocolutils.h"
+#include "protocolutils_p.h"
 
 #include "orbtrace.h"
-#include "pacedwriter.h"
-#include "packagechain.h"
-#include "streamage.h"
 
-#include <QDebug>
 #include <QDynamicPropertyChangeEvent>
-#include <QElapsedTimer>
-#include <QIODevice>
-#include <QTimer>
-
-#include <cstring>
 
 namespace {
-
-// One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
-const int ReadSize = 4096;
-const int LongestPackage = PackageChain::LongestCandidate;
 
 // Boxes want their acknowledgement within 10 ms, and a device need not announce what arrives. A poll costs little more
 // than waking up for it, so a line that is silent for a minute is asked half as often.
@@ -57,126 +44,52 @@ public:
 
 } // namespace
 
-class ProtocolUtils::Private
+ProtocolUtils::Private::Private(ProtocolUtils *utils)
+    : parent(utils)
+    , poll(new QTimer(utils))
+    , reopen(new QTimer(utils))
+    , writer(new PacedWriter(utils))
+    , device(nullptr)
+    , isOpen(false)
+    , openMode(QIODevice::ReadWrite)
+    , tries(0)
+    , announces(false)
+    , answered(0)
+    , openedAt(0)
+    , polledAt(0)
+    , idlePolls(0)
+    , minimum(1)
+    , cursor(0)
+    , candidateSize(0)
+    , needed(0)
+    , behindPackage(false)
+    , lookedInto(0)
+    , streamBase(0)
+    , quietTime(0)
+    , emitting(false)
+    , debug(false)
 {
-public:
-    explicit Private(ProtocolUtils *utils)
-        : parent(utils)
-        , poll(new QTimer(utils))
-        , reopen(new QTimer(utils))
-        , writer(new PacedWriter(utils))
-        , device(nullptr)
-        , isOpen(false)
-        , openMode(QIODevice::ReadWrite)
-        , tries(0)
-        , announces(false)
-        , answered(0)
-        , openedAt(0)
-        , polledAt(0)
-        , idlePolls(0)
-        , minimum(1)
-        , cursor(0)
-        , candidateSize(0)
-        , needed(0)
-        , behindPackage(false)
-        , lookedInto(0)
-        , streamBase(0)
-        , quietTime(0)
-        , emitting(false)
-        , debug(false)
-    {
-        reopen->setSingleShot(true);
-        // Qt 4.8 leaves them as the memory was.
-        sinceOpened.invalidate();
-        sincePoll.invalidate();
-        clock.start();
+    reopen->setSingleShot(true);
+    // Qt 4.8 leaves them as the memory was.
+    sinceOpened.invalidate();
+    sincePoll.invalidate();
+    clock.start();
+}
+
+void ProtocolUtils::Private::tryAgainLater()
+{
+    reopen->start(ReopenPauses[tries]);
+    tries = qMin(tries + 1, LastReopenPause);
+}
+
+void ProtocolUtils::Private::rest()
+{
+    if (announces && answered == 0) {
+        poll->stop();
+    } else if (idlePolls < SilentPolls && ++idlePolls == SilentPolls) {
+        poll->setInterval(SilentPollInterval);
     }
-
-    void tryAgainLater()
-    {
-        reopen->start(ReopenPauses[tries]);
-        tries = qMin(tries + 1, LastReopenPause);
-    }
-
-    qint64 streamEnd() const { return streamBase + parent->recvBuffer.size(); }
-    bool isWaiting() const { return parent->recvBuffer.size() > cursor; }
-
-    // Nothing has come since the last poll, and nothing is unfinished.
-    void rest()
-    {
-        if (announces && answered == 0) {
-            poll->stop();
-        } else if (idlePolls < SilentPolls && ++idlePolls == SilentPolls) {
-            poll->setInterval(SilentPollInterval);
-        }
-    }
-
-    bool isShortCandidate(int start) const;
-    int lookInto(int start, int size);
-
-    void log(const char *direction, const QByteArray &package) const
-    {
-        qDebug("%s %s %lld %s", qPrintable(tag), direction, static_cast<long long>(clock.elapsed()),
-               package.toHex().constData());
-    }
-
-    // Moves what is not framed yet, and the byte before it, to the front of \a buffer, makes room for one read behind
-    // it, and returns its size. Nobody else holds the buffer from then on.
-    int compact(QByteArray *buffer)
-    {
-        const int held = int(buffer->size());
-        if (buffer->capacity() < held - cursor + 1 + ReadSize) {
-            buffer->reserve(LongestPackage + 1 + ReadSize);
-        }
-        char *const bytes = buffer->data();
-        const int passed = cursor - 1;
-        if (passed <= 0) {
-            return held;
-        }
-        if (held > cursor) {
-            memmove(bytes, bytes + passed, size_t(held - passed));
-        } else {
-            bytes[0] = bytes[passed];
-        }
-        streamBase += passed;
-        cursor = 1;
-        return held - passed;
-    }
-
-    ProtocolUtils *const parent;
-    QTimer *const poll;
-    QTimer *const reopen;
-    PacedWriter *const writer;
-
-    QIODevice *device;
-    bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
-    QIODevice::OpenMode openMode;
-    int tries;       // to open the device again
-    bool announces;  // the device has announced data, and does so whenever there is some
-    int answered;    // announcements whose data is being read: until then there need be no further one
-    qint64 openedAt; // streamEnd() when it was opened
-    qint64 polledAt; // streamEnd() at the last poll
-    int idlePolls;   // in a row
-    QElapsedTimer sinceOpened;
-
-    int minimum;        // bytes from which the size of a package can be read
-    int cursor;         // index in recvBuffer of the first byte that is not framed yet
-    int candidateSize;  // length of the unfinished package at the cursor, 0 while it is not known
-    int needed;         // bytes from the cursor on without which there is nothing to frame
-    bool behindPackage; // the byte before the cursor ends a package that was delivered
-    qint64 lookedInto;  // place in all that was read, up to where a candidate that lied reached
-    qint64 streamBase;  // place of recvBuffer[0] in all that was ever read
-    int quietTime;      // ms without data, as long as something is unfinished
-    QElapsedTimer sincePoll;
-    StreamAge age;
-
-    QByteArray emission; // carries each package to the slots, and is used again while nobody keeps it
-    bool emitting;
-
-    QString tag;
-    bool debug;
-    QElapsedTimer clock;
-};
+}
 
 ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
 {
@@ -201,7 +114,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     m_d->isOpen = device && device->isOpen();
     m_d->announces = false;
     m_d->writer->setDevice(nullptr);
-    recvBuffer.reserve(LongestPackage + 1 + ReadSize);
+    recvBuffer.reserve(Private::LongestPackage + 1 + Private::ReadSize);
     m_d->poll->stop();
     m_d->reopen->stop();
     if (!device) {
@@ -258,7 +171,7 @@ void ProtocolUtils::onReadDeviceDatas()
         // The device writes behind the bytes that are held, into reserved room; the size follows what came.
         const int held = p->compact(&recvBuffer);
         char *const room = const_cast<char *>(recvBuffer.constData()) + held;
-        const int count = int(p->device->read(room, qMin<qint64>(available, ReadSize)));
+        const int count = int(p->device->read(room, qMin<qint64>(available, Private::ReadSize)));
         if (count <= 0) {
             recvBuffer.resize(held);
             onDeviceLost();
@@ -269,132 +182,6 @@ void ProtocolUtils::onReadDeviceDatas()
             framePackages();
         }
     }
-}
-
-// A package that lost a byte ends with the next one's start byte for its checksum, once in 256 times. What follows
-// such an end is then no start, and the end is one.
-bool ProtocolUtils::Private::isShortCandidate(int start) const
-{
-    return parent->findPackageStartSig(start) == start &&
-           parent->getPackageSize(start) < PackageChain::LongCandidate;
-}
-
-// First of the good packages inside the candidate at \a start, when it is none; else -1. What lies in one that was
-// none is not looked into again, so that each byte is a bounded number of times.
-int ProtocolUtils::Private::lookInto(int start, int size)
-{
-    if (streamBase + start < lookedInto) {
-        return -1;
-    }
-    const int first = PackageChain::firstOfPackagesInside(parent, minimum, start + 1, start + size);
-    if (first >= 0) {
-        lookedInto = streamBase + start + size;
-    }
-    return first;
-}
-
-// Emits every good package between the cursor and the end of recvBuffer. A slot may run an event loop of its
-// own in which this runs again: the cursor moves past a package before it is emitted, and nothing about the
-// buffer is remembered across an emission.
-void ProtocolUtils::framePackages()
-{
-    Private *const p = m_d;
-    const int minimum = p->minimum;
-    int cursor = p->cursor;
-    int size = p->candidateSize;
-    p->candidateSize = 0;
-    p->needed = minimum;
-    for (;;) {
-        if (size == 0) {
-            if (recvBuffer.size() - cursor < minimum) {
-                break;
-            }
-            const int start = findPackageStartSig(cursor);
-            if (start != cursor) {
-                const bool endedInStart = p->behindPackage && p->isShortCandidate(cursor - 1);
-                p->behindPackage = false;
-                const int next = start < cursor ? int(recvBuffer.size()) : start;
-                cursor = endedInStart ? cursor - 1 : next;
-                continue;
-            }
-            size = getPackageSize(cursor);
-        }
-        const bool possible = size >= minimum && size <= LongestPackage;
-        if (possible && recvBuffer.size() - cursor < size) {
-            p->candidateSize = size;
-            p->needed = size;
-            break;
-        }
-        const bool fits = possible && isAvaliablePackage(cursor, cursor + size - 1, size);
-        const int inside = fits && size >= PackageChain::LongCandidate ? p->lookInto(cursor, size) : -1;
-        if (fits && inside < 0) {
-            p->cursor = cursor + size;
-            p->behindPackage = true;
-            emitPackage(recvBuffer.constData() + cursor, size);
-            cursor = p->cursor;
-        } else {
-            // A bad candidate costs its start byte only: a good package may lie inside it.
-            cursor = fits ? inside : cursor + 1;
-            p->behindPackage = false;
-        }
-        size = 0;
-    }
-    p->cursor = cursor;
-}
-
-inline void ProtocolUtils::emitPackage(const char *bytes, int size)
-{
-    Private *const p = m_d;
-    if (p->emitting || p->debug || OrbTrace::listener) {
-        emitPackageWatched(bytes, size);
-        return;
-    }
-    // One array carries every package while no receiver keeps it; it has room for the longest.
-    QByteArray &emission = p->emission;
-    if (!emission.isDetached()) {
-        emission = QByteArray();
-        emission.reserve(LongestPackage);
-    }
-    if (emission.size() != size) {
-        emission.resize(size);
-    }
-    memcpy(const_cast<char *>(emission.constData()), bytes, size_t(size));
-    p->emitting = true;
-    Q_EMIT recvProtocolData(emission);
-    p->emitting = false;
-}
-
-// Somebody watches, or a slot further up still reads the emission array: this package gets an array of its
-// own.
-void ProtocolUtils::emitPackageWatched(const char *bytes, int size)
-{
-    const QByteArray package(bytes, size);
-    if (OrbTrace::listener) {
-        OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", QVariantList() << package);
-    }
-    if (m_d->debug) {
-        m_d->log("recv", package);
-    }
-    Q_EMIT recvProtocolData(package);
-}
-
-// Whether a whole good package lies behind the first byte of the unfinished candidate at the cursor.
-bool ProtocolUtils::holdsPackageBehind()
-{
-    const int held = int(recvBuffer.size());
-    for (int from = m_d->cursor + 1; held - from >= m_d->minimum; ++from) {
-        const int start = findPackageStartSig(from);
-        if (start < from || held - start < m_d->minimum) {
-            return false;
-        }
-        const int size = getPackageSize(start);
-        if (size >= m_d->minimum && size <= qMin(held - start, LongestPackage) &&
-            isAvaliablePackage(start, start + size - 1, size)) {
-            return true;
-        }
-        from = start;
-    }
-    return false;
 }
 
 // The timer runs meanwhile: a slot further down may run an event loop, in which many a device announces nothing.

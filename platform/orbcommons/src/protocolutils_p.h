@@ -1,0 +1,81 @@
+#ifndef PROTOCOLUTILS_P_H
+#define PROTOCOLUTILS_P_H
+
+#include "pacedwriter.h"
+#include "packagechain.h"
+#include "protocolutils.h"
+#include "streamage.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QIODevice>
+#include <QTimer>
+
+/// A framer's device, and what it holds of the stream.
+class ProtocolUtils::Private
+{
+public:
+    enum {
+        // One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
+        ReadSize = 4096,
+        LongestPackage = PackageChain::LongestCandidate
+    };
+
+    explicit Private(ProtocolUtils *utils);
+
+    void tryAgainLater();
+    qint64 streamEnd() const { return streamBase + parent->recvBuffer.size(); }
+    bool isWaiting() const { return parent->recvBuffer.size() > cursor; }
+
+    // Nothing has come since the last poll, and nothing is unfinished.
+    void rest();
+
+    bool isShortCandidate(int start) const;
+    int lookInto(int start, int size);
+
+    void log(const char *direction, const QByteArray &package) const
+    {
+        qDebug("%s %s %lld %s", qPrintable(tag), direction, static_cast<long long>(clock.elapsed()),
+               package.toHex().constData());
+    }
+
+    // Moves what is not framed yet, and the byte before it, to the front of \a buffer, makes room for one read behind
+    // it, and returns its size. Nobody else holds the buffer from then on.
+    int compact(QByteArray *buffer);
+
+    ProtocolUtils *const parent;
+    QTimer *const poll;
+    QTimer *const reopen;
+    PacedWriter *const writer;
+
+    QIODevice *device;
+    bool isOpen; // as far as the framer knows; a read from a closed device says otherwise
+    QIODevice::OpenMode openMode;
+    int tries;       // to open the device again
+    bool announces;  // the device has announced data, and does so whenever there is some
+    int answered;    // announcements whose data is being read: until then there need be no further one
+    qint64 openedAt; // streamEnd() when it was opened
+    qint64 polledAt; // streamEnd() at the last poll
+    int idlePolls;   // in a row
+    QElapsedTimer sinceOpened;
+
+    int minimum;        // bytes from which the size of a package can be read
+    int cursor;         // index in recvBuffer of the first byte that is not framed yet
+    int candidateSize;  // length of the unfinished package at the cursor, 0 while it is not known
+    int needed;         // bytes from the cursor on without which there is nothing to frame
+    bool behindPackage; // the byte before the cursor ends a package that was delivered
+    qint64 lookedInto;  // place in all that was read, up to where a candidate that lied reached
+    qint64 streamBase;  // place of recvBuffer[0] in all that was ever read
+    int quietTime;      // ms without data, as long as something is unfinished
+    QElapsedTimer sincePoll;
+    StreamAge age;
+
+    QByteArray emission; // carries each package to the slots, and is used again while nobody keeps it
+    bool emitting;
+
+    QString tag;
+    bool debug;
+    QElapsedTimer clock;
+};
+
+#endif // PROTOCOLUTILS_P_H
