@@ -10,6 +10,8 @@
 class DriveFolder
 {
 public:
+    static constexpr int Disks = 2; ///< that a drive has
+
     static DriveFolder &instance();
 
     /// Folder for the unit's settings, empty at first.

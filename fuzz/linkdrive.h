@@ -10,6 +10,7 @@
 
 class CanBusAdapter;
 class CanBusPlugin;
+class KeyRedefAdapter;
 class QTranslator;
 
 /// The unit's link to its box as a state machine: the real plug-in against the stand-alone framework, a line in memory
@@ -51,6 +52,7 @@ private:
     void calmProcess();
     void goOn(int ms);
 
+    static KeyRedefAdapter *keySet(int number);
     quint8 next();
     QByteArray nextBytes(int most);
 
