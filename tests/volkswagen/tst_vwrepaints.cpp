@@ -26,29 +26,29 @@ void TestVwRepaints::packages_data()
     QTest::addColumn<QString>("widgets"); // nothing is painted when the package comes once more
     QTest::addColumn<int>("pixels");      // at most
 
-    const int Driving = 0;
-    const int Tyres = 1;
-    const int One = 40000; // about the share of one value
+    const int driving = 0;
+    const int tyres = 1;
+    const int one = 40000; // about the share of one value
     const QByteArray climate = "21 C0 43 08 08 00 00 00 00";
-    QTest::newRow("range") << Driving << QByteArray("50 10 01 08 02 00 00")
-                           << QByteArray("50 10 01 09 02 00 00") << "labelRange" << One;
-    QTest::newRow("distance") << Driving << QByteArray("50 20 01 ff ff 00 00")
-                              << QByteArray("50 20 01 ff fe 00 00") << "labelDistance" << One;
-    QTest::newRow("tyre states") << Tyres << QByteArray("65 00 01 00 02") << QByteArray("65 00 01 00 01")
-                                 << "labelTyreRightRear" << One;
-    QTest::newRow("tyre warning") << Tyres << QByteArray("68 02 02") << QByteArray("68 0A 02")
-                                  << "frameTyreRightRear" << One;
+    QTest::newRow("range") << driving << QByteArray("50 10 01 08 02 00 00")
+                           << QByteArray("50 10 01 09 02 00 00") << "labelRange" << one;
+    QTest::newRow("distance") << driving << QByteArray("50 20 01 ff ff 00 00")
+                              << QByteArray("50 20 01 ff fe 00 00") << "labelDistance" << one;
+    QTest::newRow("tyre states") << tyres << QByteArray("65 00 01 00 02") << QByteArray("65 00 01 00 01")
+                                 << "labelTyreRightRear" << one;
+    QTest::newRow("tyre warning") << tyres << QByteArray("68 02 02") << QByteArray("68 0A 02")
+                                  << "frameTyreRightRear" << one;
     QTest::newRow("a setting") << 771 << QByteArray("40 20 01 78 00") << QByteArray("40 20 00 78 00")
                                << "row 0" << 1024 * 80;
     QTest::newRow("start-stop") << 783 << QByteArray("60 80 00 00 00 00 00 00 00")
                                 << QByteArray("60 80 00 00 00 00 00 00 00") << "" << 0;
     QTest::newRow("left temperature")
-        << Driving << climate << QByteArray("21 C0 43 09 08 00 00 00 00") << "airConditionDlg" << One;
-    QTest::newRow("fan") << Driving << climate << QByteArray("21 C0 44 08 08 00 00 00 00")
-                         << "airConditionDlg" << One;
-    QTest::newRow("compressor") << Driving << climate << QByteArray("21 80 43 08 08 00 00 00 00")
-                                << "airConditionDlg" << One / 4;
-    QTest::newRow("climate off") << Driving << climate << QByteArray("21 00 40 08 08 00 00 00 00")
+        << driving << climate << QByteArray("21 C0 43 09 08 00 00 00 00") << "airConditionDlg" << one;
+    QTest::newRow("fan") << driving << climate << QByteArray("21 C0 44 08 08 00 00 00 00")
+                         << "airConditionDlg" << one;
+    QTest::newRow("compressor") << driving << climate << QByteArray("21 80 43 08 08 00 00 00 00")
+                                << "airConditionDlg" << one / 4;
+    QTest::newRow("climate off") << driving << climate << QByteArray("21 00 40 08 08 00 00 00 00")
                                  << "airConditionDlg" << 1024 * 190;
 }
 

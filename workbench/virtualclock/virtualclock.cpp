@@ -86,7 +86,7 @@ struct Clock
     std::atomic<bool> isOn;
     int64_t now;       // monotonic, ns
     int64_t dayOffset; // from monotonic time to the time of day, ns
-    int64_t lateness;  // of a jump, ns: see latenessOfEventLoop()
+    int64_t lateness;  // of the event loop, which alone calls ppoll, ns
     pthread_t thread;  // whose clock it is
     int holds;
     int idleDescriptor;
@@ -216,7 +216,7 @@ int wait(pollfd *entries, nfds_t count, int64_t timeout, const sigset_t *signals
         touch();
         return real().ppoll(entries, count, timeout == NoTimeout ? nullptr : &time, signals);
     }
-    jump(timeout + theClock.lateness);
+    jump(timeout);
     return 0;
 }
 
@@ -338,8 +338,11 @@ time_t time(time_t *result) noexcept
 
 int ppoll(pollfd *entries, nfds_t count, const timespec *timeout, const sigset_t *signals)
 {
-    return isMine() ? wait(entries, count, timeout ? nanoseconds(*timeout) : NoTimeout, signals)
-                    : real().ppoll(entries, count, timeout, signals);
+    if (!isMine()) {
+        return real().ppoll(entries, count, timeout, signals);
+    }
+    const int64_t time = timeout ? nanoseconds(*timeout) : NoTimeout;
+    return wait(entries, count, time > 0 ? time + theClock.lateness : time, signals);
 }
 
 int poll(pollfd *entries, nfds_t count, int timeout)

@@ -4,8 +4,10 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QStyle>
+#include <QTableView>
 
 // Resources of a static library are there only once someone asks for them, outside any namespace.
 static void loadResources()
@@ -43,4 +45,20 @@ void DeskStyle::dimHint(QLineEdit *field)
             styled->style()->polish(styled);
         }
     });
+}
+
+void DeskStyle::makeDense(QTableView *table, int rowHeight)
+{
+    table->setObjectName(QStringLiteral("lineTable"));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setMinimumSectionSize(rowHeight);
+    table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setMinimumSectionSize(16);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }

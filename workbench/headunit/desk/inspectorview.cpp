@@ -9,6 +9,7 @@
 #include "inspectiontext.h"
 #include "lineinspector.h"
 #include "panelcard.h"
+#include "ratestable.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -22,7 +23,6 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTableView>
-#include <QTableWidget>
 
 #include <algorithm>
 
@@ -33,32 +33,7 @@ const int RowHeight = 22;
 const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
 const int SideWidth = 410;
-const int RatesInterval = 900; // ms
-const int ChangesColumn = 3;   // of the table of commands
-const int CallsInSight = 6;    // of the chosen package, in a narrow view
-
-QPushButton *chip()
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QStringLiteral("chip"));
-    return button;
-}
-
-void makeDense(QTableView *table)
-{
-    table->setObjectName(QStringLiteral("lineTable"));
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setMinimumSectionSize(RowHeight);
-    table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setMinimumSectionSize(16);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-}
+const int CallsInSight = 6; // of the chosen package, in a narrow view
 
 bool isFromBox(const InspectionRow &row)
 {
@@ -74,9 +49,9 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     , m_table(new QTableView)
     , m_chosen(PanelCard::plainLabel("chosenPackage"))
     , m_search(new QLineEdit)
-    , m_pause(chip())
-    , m_copy(chip())
-    , m_bits(chip())
+    , m_pause(PanelCard::chip())
+    , m_copy(PanelCard::chip())
+    , m_bits(PanelCard::chip())
 {
     makeTable();
     m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
@@ -102,7 +77,7 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
 
 void InspectorView::makeTable()
 {
-    makeDense(m_table);
+    DeskStyle::makeDense(m_table, RowHeight);
     m_table->setModel(m_model);
     m_table->setItemDelegateForColumn(InspectionModel::BytesColumn, new BytesDelegate(m_model, this));
     m_table->setMinimumHeight(LeastTableHeight);
@@ -127,7 +102,7 @@ void InspectorView::layOut(bool isWide)
     column->setSpacing(Gap);
     column->addWidget(m_filterBar);
     if (!isWide) {
-        m_window = chip();
+        m_window = PanelCard::chip();
         connect(m_window, &QPushButton::clicked, this, &InspectorView::windowWanted);
         QHBoxLayout *buttons = PanelCard::pair(m_pause, m_copy);
         buttons->addWidget(m_window, 1);
@@ -174,22 +149,16 @@ QWidget *InspectorView::makeCalls()
     m_calls->setModel(m_callsModel);
     m_calls->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_calls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_rates = new QTableWidget(0, 5);
-    makeDense(m_rates);
-    m_rates->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_rates->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (int i = 1; i < m_rates->columnCount(); ++i) {
-        m_rates->setColumnWidth(i, i == ChangesColumn ? 92 : 54);
-    }
+    m_rates = new RatesTable;
     m_callsTitle = PanelCard::plainLabel("cardTitle");
     m_ratesTitle = PanelCard::plainLabel("cardTitle");
     connect(m_calls, &QListView::clicked, this,
             [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
     connect(m_calls, &QListView::activated, this,
             [this](const QModelIndex &call) { choosePackage(m_callsModel->numberOf(call.row())); });
-    connect(m_rates, &QTableWidget::cellDoubleClicked, this,
-            [this](int row) { m_filterBar->setWords(m_rates->item(row, 0)->data(Qt::UserRole).toString()); });
-    connect(m_model, &InspectionModel::looked, this, &InspectorView::showRates);
+    connect(m_rates, &RatesTable::filterWanted, m_filterBar, &FilterBar::setWords);
+    connect(m_model, &InspectionModel::looked, m_rates,
+            [this] { m_rates->showRates(m_model->inspection()); });
     QWidget *side = new QWidget;
     side->setFixedWidth(SideWidth);
     QVBoxLayout *column = new QVBoxLayout(side);
@@ -277,34 +246,6 @@ void InspectorView::showCallsOf(qint64 number)
     }
 }
 
-void InspectorView::showRates()
-{
-    if (m_ratesAge.isValid() && m_ratesAge.elapsed() < RatesInterval) {
-        return;
-    }
-    m_ratesAge.start();
-    const Inspection &inspection = m_model->inspection();
-    m_rates->setRowCount(int(inspection.rates().size()));
-    int row = 0;
-    for (auto i = inspection.rates().cbegin(); i != inspection.rates().cend(); ++i, ++row) {
-        const QString command = QStringLiteral("0x%1").arg(i.key().command, 2, 16, QLatin1Char('0'));
-        const bool isIn = i.key().isTowardsUnit;
-        const QString texts[] = {
-            (isIn ? QStringLiteral("‹ ") : QStringLiteral("› ")) + command + ' ' + i->name,
-            QString::number(i->count), QString::number(i->perSecond(inspection.now()), 'f', 1),
-            QString::number(i->changes), QString::number(i->bad)};
-        for (int column = 0; column < m_rates->columnCount(); ++column) {
-            if (!m_rates->item(row, column)) {
-                m_rates->setItem(row, column, new QTableWidgetItem);
-                m_rates->item(row, column)
-                    ->setTextAlignment(Qt::AlignVCenter | (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
-            }
-            m_rates->item(row, column)->setText(texts[column]);
-        }
-        m_rates->item(row, 0)->setData(Qt::UserRole, "cmd=" + command + (isIn ? " dir=in" : " dir=out"));
-    }
-}
-
 void InspectorView::search(bool isBackwards)
 {
     const int from = m_table->currentIndex().isValid() ? m_table->currentIndex().row() : -1;
@@ -353,11 +294,7 @@ void InspectorView::setTexts()
     if (m_rates) {
         m_callsTitle->setText(tr("Calls (a click goes to the package)"));
         m_ratesTitle->setText(tr("Commands (a double click filters)"));
-        m_rates->setHorizontalHeaderLabels(
-            {tr("Command"), tr("Count"), tr("per s"), tr("Changes"), tr("Bad")});
-        for (int i = 1; i < m_rates->columnCount(); ++i) {
-            m_rates->horizontalHeaderItem(i)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        }
+        m_rates->setHeadings({tr("Command"), tr("Count"), tr("per s"), tr("Changes"), tr("Bad")});
     }
     showChosen();
 }

@@ -1,7 +1,6 @@
 #ifndef INSPECTORVIEW_H
 #define INSPECTORVIEW_H
 
-#include <QElapsedTimer>
 #include <QWidget>
 
 class CallsModel;
@@ -13,7 +12,7 @@ class QLineEdit;
 class QListView;
 class QPushButton;
 class QTableView;
-class QTableWidget;
+class RatesTable;
 
 /// What passes over the line, package by package: a table that can be filtered and searched, and what the chosen
 /// package is about. A wide one has the calls beside it, each with the way to its package and back, and how often each
@@ -51,7 +50,6 @@ private:
     void showChosen();
     void openChosen();
     void showCallsOf(qint64 number);
-    void showRates();
     void search(bool isBackwards);
     void copyRows();
 
@@ -59,8 +57,8 @@ private:
     CallsModel *m_callsModel = nullptr;
     FilterBar *m_filterBar;
     QTableView *m_table;
-    QListView *m_calls = nullptr;    // of a wide one
-    QTableWidget *m_rates = nullptr; // of a wide one
+    QListView *m_calls = nullptr;  // of a wide one
+    RatesTable *m_rates = nullptr; // of a wide one
     QLabel *m_callsTitle = nullptr;
     QLabel *m_ratesTitle = nullptr;
     QLabel *m_chosen;
@@ -69,7 +67,6 @@ private:
     QPushButton *m_copy;
     QPushButton *m_bits;             // of a wide one
     QPushButton *m_window = nullptr; // of a narrow one
-    QElapsedTimer m_ratesAge;
     bool m_followsNewest = true;
 };
 

@@ -2,6 +2,7 @@
 
 #include "carwords.h"
 #include "deskcolours.h"
+#include "deskstyle.h"
 #include "keytext.h"
 #include "keywatch.h"
 #include "unitkey.h"
@@ -56,16 +57,9 @@ KeyTesterCard::KeyTesterCard(KeyWatch *watch, QWidget *parent)
     , m_chosen(plainLabel("chosenPackage"))
     , m_copy(chip())
 {
-    m_table->setObjectName(QStringLiteral("lineTable"));
+    DeskStyle::makeDense(m_table, RowHeight);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setShowGrid(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setMinimumSectionSize(RowHeight);
-    m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setSectionResizeMode(KeyColumn, QHeaderView::Stretch);
     for (const int column : {int(PressedColumn), int(DownColumn)}) {
         m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
