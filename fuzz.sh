@@ -39,7 +39,7 @@ done
 
 need_packages clang llvm
 build=${CANBUS_BUILD:-$root/build}-fuzz
-configure -DCANBUS_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ -DCANBUS_PRECOMPILE=OFF
+configure -DCANBUS_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++
 # shellcheck disable=SC2046,SC2086
 build_targets $(printf 'fuzz_%s ' $targets)
 

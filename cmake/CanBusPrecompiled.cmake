@@ -1,6 +1,6 @@
 # One precompiled header for each language standard, of Qt and the standard library: most of what compiling a source of
-# this tree takes is reading those. Off unless asked for: a build without it sees an include that is missing (the lint
-# is one), and compiler caches want none.
+# this tree takes is reading those. Off unless asked for: a build without it, as people have who change things, sees an
+# include that is missing, and compiler caches want none.
 
 option(CANBUS_PRECOMPILE "Precompile the headers that most sources read" OFF)
 
@@ -23,6 +23,7 @@ endfunction()
 
 if(CANBUS_PRECOMPILE)
   canbus_precompile(target ${CMAKE_CXX_STANDARD} CanBus::QtWidgets ${canbus_core_headers} ${canbus_widget_headers})
+  set_target_properties(canbus_precompiled_target PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   canbus_precompile(desk 17 CanBus::QtWidgets ${canbus_core_headers} ${canbus_widget_headers}
     <QJsonArray> <QJsonDocument> <QJsonObject>)
   canbus_precompile(core 17 CanBus::QtCore ${canbus_core_headers} <QJsonArray> <QJsonDocument> <QJsonObject>)

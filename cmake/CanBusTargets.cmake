@@ -10,9 +10,10 @@ function(canbus_target_options target)
   endif()
 endfunction()
 
-# Plug-in and framework, which run on a Qt 4 target as well.
+# Plug-in and framework, which run on a Qt 4 target as well. They show what they are asked to, and nothing else.
 function(canbus_target_defaults target)
   canbus_target_options(${target})
+  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   canbus_use_precompiled(${target} target)
 endfunction()
 
