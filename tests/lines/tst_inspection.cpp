@@ -159,6 +159,7 @@ void TestInspection::filters_data()
         {"ack=5", "ack takes < or > and milliseconds, or =none"},
         {"t=5", "t takes < or > and seconds"},
         {"cmd<5", "'cmd<5' is no word of a filter"},
+        {"cmd==5", "'cmd==5' is no word of a filter"},
         {"Climate", "'Climate' is no word of a filter"},
         {"!", "'' is no word of a filter"}};
     for (const auto &row : rows) {

@@ -190,7 +190,8 @@ bool InspectionFilter::parse(const QString &text, QString *error)
 
 InspectionFilter::Term InspectionFilter::term(const QString &word, QString *error)
 {
-    static const QRegularExpression pair("^([a-z]+)([=<>])(.*)$", QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression pair("^([a-z]+)([=<>])(?![=<>])(.*)$",
+                                         QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression data("^d([0-9]{1,3})(?:\\.([0-9]))?=(.*)$",
                                          QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch ofData = data.match(word);
