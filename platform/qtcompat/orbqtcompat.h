@@ -24,16 +24,6 @@
 
 namespace OrbQt {
 
-/// Splits \a text at \a separator and drops empty pieces.
-inline QStringList splitSkippingEmpty(const QString &text, QChar separator)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
-    return text.split(separator, Qt::SkipEmptyParts);
-#else
-    return text.split(separator, QString::SkipEmptyParts);
-#endif
-}
-
 /// Width of \a text in pixels.
 inline int textWidth(const QFontMetrics &metrics, const QString &text)
 {

@@ -28,11 +28,6 @@ QString systemLanguage()
 
 } // namespace
 
-DeskMemory::DeskMemory()
-    : m_settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("orb-canbus"),
-                 QStringLiteral("headunit"))
-{}
-
 QString DeskMemory::language() const
 {
     const QString chosen = m_settings.value(LanguageKey).toString();

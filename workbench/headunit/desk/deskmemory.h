@@ -1,7 +1,7 @@
 #ifndef DESKMEMORY_H
 #define DESKMEMORY_H
 
-#include <QSettings>
+#include "desksettings.h"
 
 class DeskWindow;
 
@@ -10,8 +10,6 @@ class DeskWindow;
 class DeskMemory
 {
 public:
-    DeskMemory();
-
     /// The language that was chosen last, else the system's as far as the desk speaks it, else English.
     QString language() const;
     /// CAN-bus type of the unit that ran last; 0 for none.
@@ -23,7 +21,7 @@ public:
     void store(const DeskWindow *desk, int type);
 
 private:
-    QSettings m_settings;
+    DeskSettings m_settings;
 };
 
 #endif // DESKMEMORY_H

@@ -34,7 +34,6 @@ public:
     UnitScreen *screen() const { return m_screen; }
     UnitView *view() const { return m_view; }
     UnitShell *shell() const { return m_shell; }
-    KeyStrip *keyStrip() const { return m_keyStrip; }
     SidePanel *sidePanel() const { return m_sidePanel; }
 
     /// The unit's language, \a language being one of UnitPage::languages(); the plug-in is told.

@@ -33,7 +33,6 @@ public:
     /// Null without a box.
     BoxPage *boxPage() const { return m_boxPage; }
 
-    int pageCount() const { return m_tabs.size(); }
     void showPage(int index);
 
 protected:
