@@ -29,7 +29,7 @@ less() { awk -v a="$1" -v b="$2" 'BEGIN { print a - b }'; }
 e=$(count emit 1 20000)
 echo "E, the signal alone: $e instructions"
 echo "A package of 8 data bytes through read step, hooks, signal and slot, without the device's own share, in E:"
-for limit in 4096:1.75 38:1.90 16:2.10; do
+for limit in 4096:1.59 38:1.77 16:2.02; do
     size=${limit%:*}
     all=$(count clean "$size" 20000)
     device=$(count device "$size" 20000)

@@ -11,8 +11,7 @@
 namespace {
 
 const int ReadSizes[] = {1, 5, 16, 38, 259, 4096, 8 * 1024 * 1024};
-const int LongestRead = 4096;
-const int LongestUnfinished = 259; // and the byte before it
+const int LargestBuffer = 4096 + 512 + 1; // a read, the longest package, and the byte before it
 
 QByteArrayList delivered(const QByteArray &stream, int readSize)
 {
@@ -24,7 +23,7 @@ QByteArrayList delivered(const QByteArray &stream, int readSize)
         receiver.onReadDeviceDatas();
         largest = qMax(largest, receiver.bufferSize());
     }
-    if (largest > qMin(readSize, LongestRead) + LongestUnfinished) {
+    if (largest > LargestBuffer) {
         receiver.packages.append("buffer grew to " + QByteArray::number(largest));
     }
     if (device.wouldHaveWaited()) {

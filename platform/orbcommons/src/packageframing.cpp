@@ -8,23 +8,17 @@
 
 int ProtocolUtils::Private::compact(QByteArray *buffer)
 {
-    const int held = int(buffer->size());
-    if (buffer->capacity() < held - cursor + 1 + ReadSize) {
-        buffer->reserve(LongestPackage + 1 + ReadSize);
-    }
-    char *const bytes = buffer->data();
     const int passed = cursor - 1;
-    if (passed <= 0) {
-        return held;
+    if (passed > 0) {
+        const int left = int(buffer->size()) - passed;
+        char *const bytes = buffer->data();
+        memmove(bytes, bytes + passed, size_t(left));
+        buffer->resize(left);
+        streamBase += passed;
+        cursor = 1;
     }
-    if (held > cursor) {
-        memmove(bytes, bytes + passed, size_t(held - passed));
-    } else {
-        bytes[0] = bytes[passed];
-    }
-    streamBase += passed;
-    cursor = 1;
-    return held - passed;
+    buffer->reserve(BufferSize);
+    return int(buffer->size());
 }
 
 // A package that lost a byte ends with the next one's start byte for its checksum, once in 256 times. What follows
@@ -81,18 +75,21 @@ void ProtocolUtils::framePackages()
             p->needed = size;
             break;
         }
-        const bool fits = possible && isAvaliablePackage(cursor, cursor + size - 1, size);
-        const int inside = fits && size >= PackageChain::LongCandidate ? p->lookInto(cursor, size) : -1;
-        if (fits && inside < 0) {
-            p->cursor = cursor + size;
-            p->behindPackage = true;
-            emitPackage(recvBuffer.constData() + cursor, size);
-            cursor = p->cursor;
-        } else {
-            // A bad candidate costs its start byte only: a good package may lie inside it.
-            cursor = fits ? inside : cursor + 1;
-            p->behindPackage = false;
+        int next = cursor + 1; // a bad candidate costs its start byte only: a good package may lie inside it
+        if (possible && isAvaliablePackage(cursor, cursor + size - 1, size)) {
+            const int inside = size >= PackageChain::LongCandidate ? p->lookInto(cursor, size) : -1;
+            if (inside < 0) {
+                p->cursor = cursor + size;
+                p->behindPackage = true;
+                emitPackage(recvBuffer.constData() + cursor, size);
+                cursor = p->cursor;
+                size = 0;
+                continue;
+            }
+            next = inside;
         }
+        cursor = next;
+        p->behindPackage = false;
         size = 0;
     }
     p->cursor = cursor;
@@ -101,7 +98,7 @@ void ProtocolUtils::framePackages()
 inline void ProtocolUtils::emitPackage(const char *bytes, int size)
 {
     Private *const p = m_d;
-    if (p->emitting || p->debug || OrbTrace::listener) {
+    if (p->special || OrbTrace::listener) {
         emitPackageWatched(bytes, size);
         return;
     }
@@ -115,9 +112,9 @@ inline void ProtocolUtils::emitPackage(const char *bytes, int size)
         emission.resize(size);
     }
     memcpy(const_cast<char *>(emission.constData()), bytes, size_t(size));
-    p->emitting = true;
+    p->special |= Private::Emitting;
     Q_EMIT recvProtocolData(emission);
-    p->emitting = false;
+    p->special &= ~Private::Emitting;
 }
 
 // Somebody watches, or a slot further up still reads the emission array: this package gets an array of its
@@ -128,7 +125,7 @@ void ProtocolUtils::emitPackageWatched(const char *bytes, int size)
     if (OrbTrace::listener) {
         OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", QVariantList() << package);
     }
-    if (m_d->debug) {
+    if (m_d->special & Private::Logging) {
         m_d->log("recv", package);
     }
     Q_EMIT recvProtocolData(package);

@@ -66,8 +66,7 @@ ProtocolUtils::Private::Private(ProtocolUtils *utils)
     , lookedInto(0)
     , streamBase(0)
     , quietTime(0)
-    , emitting(false)
-    , debug(false)
+    , special(0)
 {
     reopen->setSingleShot(true);
     // Qt 4.8 leaves them as the memory was.
@@ -114,7 +113,7 @@ void ProtocolUtils::attachIODevice(QIODevice *device)
     m_d->isOpen = device && device->isOpen();
     m_d->announces = false;
     m_d->writer->setDevice(nullptr);
-    recvBuffer.reserve(Private::LongestPackage + 1 + Private::ReadSize);
+    recvBuffer.reserve(Private::BufferSize);
     m_d->poll->stop();
     m_d->reopen->stop();
     if (!device) {
@@ -169,9 +168,9 @@ void ProtocolUtils::onReadDeviceDatas()
             return;
         }
         // The device writes behind the bytes that are held, into reserved room; the size follows what came.
-        const int held = p->compact(&recvBuffer);
-        char *const room = const_cast<char *>(recvBuffer.constData()) + held;
-        const int count = int(p->device->read(room, qMin<qint64>(available, Private::ReadSize)));
+        const int wanted = int(qMin<qint64>(available, Private::ReadSize));
+        const int held = p->makeRoom(&recvBuffer, wanted);
+        const int count = int(p->device->read(recvBuffer.data() + held, wanted));
         if (count <= 0) {
             recvBuffer.resize(held);
             onDeviceLost();
@@ -260,7 +259,7 @@ void ProtocolUtils::writeDatas_direct(const QByteArray &bytes)
 
 void ProtocolUtils::onPackageSent(const QByteArray &package)
 {
-    if (m_d->debug) {
+    if (m_d->special & Private::Logging) {
         m_d->log("send", package);
     }
 }
@@ -303,5 +302,5 @@ void ProtocolUtils::onReopenTimer()
 void ProtocolUtils::setDebugMode(const QString &tag, bool on)
 {
     m_d->tag = tag;
-    m_d->debug = on;
+    m_d->special = on ? m_d->special | Private::Logging : m_d->special & ~Private::Logging;
 }

@@ -18,7 +18,11 @@ public:
     enum {
         // One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
         ReadSize = 4096,
-        LongestPackage = PackageChain::LongestCandidate
+        LongestPackage = PackageChain::LongestCandidate,
+        BufferSize = LongestPackage + 1 + ReadSize,
+
+        Emitting = 1, // a slot further up still reads emission
+        Logging = 2   // the traffic log is on
     };
 
     explicit Private(ProtocolUtils *utils);
@@ -39,8 +43,15 @@ public:
                package.toHex().constData());
     }
 
-    // Moves what is not framed yet, and the byte before it, to the front of \a buffer, makes room for one read behind
-    // it, and returns its size. Nobody else holds the buffer from then on.
+    // Makes room for \a wanted bytes behind what \a buffer holds, and returns how much that is. What is framed stays
+    // in front of the cursor until then: reads of a serial line bring a few bytes, and to move the rest to the front
+    // costs as much as framing half a package.
+    int makeRoom(QByteArray *buffer, int wanted)
+    {
+        const int held = int(buffer->size());
+        return buffer->capacity() - held >= wanted ? held : compact(buffer);
+    }
+    // Moves what is not framed yet, and the byte before it, to the front of \a buffer, and returns its size.
     int compact(QByteArray *buffer);
 
     ProtocolUtils *const parent;
@@ -71,10 +82,9 @@ public:
     StreamAge age;
 
     QByteArray emission; // carries each package to the slots, and is used again while nobody keeps it
-    bool emitting;
+    int special;         // why a package is not emitted the plain way: Emitting, Logging
 
     QString tag;
-    bool debug;
     QElapsedTimer clock;
 };
 
