@@ -29,11 +29,25 @@ void TestProbe::mappings_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("steps of a half") << QStringList{"LO", "16.0°C", "16.5°C", "17.0°C", "HI"}
                                      << "0 = LO, 1..3 = 16.0°C..17.0°C, 4 = HI";
-    QTest::newRow("rounded") << QStringList{"0", "-1", "-3", "-5", "-6"} << "0..4 = 0..-6";
+    QTest::newRow("rounded") << QStringList{"0", "-1", "-3", "-5", "-6", "-8", "-9", "-11", "-12", "-14"}
+                             << "0..9 = 0..-14";
     QTest::newRow("a step in between")
         << QStringList{"0", "1", "2", "5", "6", "7"} << "0..2 = 0..2, 3..5 = 5..7";
     QTest::newRow("the rest") << QStringList{"x", "7", "x", "x", "x"} << "1 = 7, else x";
     QTest::newRow("one for all") << QStringList{"a", "a", "a", "a"} << "always a";
+    QTest::newRow("a number in the unit")
+        << QStringList{"0.0 L/100km", "25.6 L/100km", "51.2 L/100km"} << "0..2 = 0.0 L/100km..51.2 L/100km";
+    QTest::newRow("a short table") << QStringList{"0", "1", "2", "4", "6"} << "0..2 = 0..2, 3 = 4, 4 = 6";
+    QTest::newRow("hours and minutes")
+        << QStringList{"3:23", "7:39", "11:55", "16:11"} << "0..3 = 3:23..16:11";
+    QTest::newRow("bytes") << QStringList{"0800", "0900", "0a00", "0b00"} << "0..3 = 0800..0b00";
+    QTest::newRow("stairs") << QStringList{"0", "1", "1", "2", "3", "3", "4", "5", "5", "6"} << "0..9 = 0..6";
+    QTest::newRow("up to a limit") << QStringList{"0", "1", "2", "3", "4", "4"} << "0..4 = 0..4, 5 = 4";
+    QTest::newRow("two levels") << QStringList{"0", "0", "0", "0", "0", "1", "1", "1", "1", "1", "1"}
+                                << "0..4 = 0, else 1";
+    QTest::newRow("bytes with a step in between")
+        << QStringList{"0000", "0100", "0a00", "0b00"} << "0 = 0000, 1 = 0100, 2 = 0a00, 3 = 0b00";
+    QTest::newRow("no bytes") << QStringList{"1008", "1009", "1010", "1011"} << "0..3 = 1008..1011";
     QTest::newRow("a unit changes") << QStringList{"1 m", "2 m", "3 ft", "4 ft"}
                                     << "0 = 1 m, 1 = 2 m, 2 = 3 ft, 3 = 4 ft";
 }

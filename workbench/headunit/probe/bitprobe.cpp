@@ -1,6 +1,7 @@
 #include "bitprobe.h"
 
 #include "boxspeaker.h"
+#include "keytext.h"
 #include "probestart.h"
 
 #include "orbeventtypes.h"
@@ -32,6 +33,9 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
         for (int i = 0; i < call.args.size(); ++i) {
             (*values)[QString("%1 #%2").arg(call.name).arg(i + 1)] << call.args.at(i);
         }
+    } else if (call.name == "simulateKey" && !call.args.isEmpty()) {
+        (*values)[call.name]
+            << (QStringList(KeyText::key(call.args.first().toUInt())) + call.args.mid(1)).join(' ');
     } else {
         const bool isOwn = call.object == "AirConditionDlg" || call.object == "OrbApplication";
         (*values)[isOwn ? call.name : call.object + '.' + call.name]
