@@ -21,11 +21,10 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
         for (const QString &arg : call.args) {
             const QString key = arg.section('=', 0, 0);
             const QString value = arg.section('=', 1);
-            if (key == "type" && value != QString::number(OrbEventType::Notify)) {
+            const bool isNotice = key == "type" && value == QString::number(OrbEventType::Notify);
+            if ((key == "type" && !isNotice) || key == "param") {
                 about += ' ' + value;
-            } else if (key == "param") {
-                about += ' ' + value;
-            } else if (key != "source" && key != "id" && key != "type") {
+            } else if (key != "source" && key != "id" && !isNotice) {
                 (*values)[about + (key == "param2" ? QString() : ' ' + key)] << value;
             }
         }
