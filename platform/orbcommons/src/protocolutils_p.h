@@ -6,6 +6,7 @@
 #include "protocolutils.h"
 #include "streamage.h"
 
+#include <QBasicTimer>
 #include <QDebug>
 #include <QElapsedTimer>
 #include <QIODevice>
@@ -19,6 +20,24 @@ public:
         // One read takes at most this much, so recvBuffer never holds more than it and one unfinished package.
         ReadSize = 4096,
         LongestPackage = PackageChain::LongestCandidate
+    };
+
+    // Asks the line, over and over. The signal of a timer object would cost as much again as the question.
+    class PollTimer : public QObject
+    {
+    public:
+        explicit PollTimer(ProtocolUtils *utils) : QObject(utils), m_utils(utils) {}
+
+        void start(int ms) { m_timer.start(ms, this); }
+        void stop() { m_timer.stop(); }
+        bool isActive() const { return m_timer.isActive(); }
+
+    protected:
+        void timerEvent(QTimerEvent *) override { m_utils->onPollTimer(); }
+
+    private:
+        ProtocolUtils *const m_utils;
+        QBasicTimer m_timer;
     };
 
     explicit Private(ProtocolUtils *utils);
@@ -44,7 +63,7 @@ public:
     int compact(QByteArray *buffer);
 
     ProtocolUtils *const parent;
-    QTimer *const poll;
+    PollTimer *const poll;
     QTimer *const reopen;
     PacedWriter *const writer;
 
