@@ -4,8 +4,8 @@
 #
 #     ./test.sh [--sanitize | --qt6] [--car CAR | ctest arguments]
 #
-# --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder of its own;
-# --qt6 with Qt 6 in place of Qt 5, likewise.
+# --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder that ./fuzz.sh has as
+# well; --qt6 with Qt 6 in place of Qt 5, in one of its own.
 # --car foo runs what concerns that car: its sheet and its drives (the words are those of decoderbox --list).
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
@@ -15,9 +15,7 @@ need_packages tshark can-utils python3-can
 
 if [ "${1:-}" = --sanitize ]; then
     shift
-    build=${CANBUS_BUILD:-$root/build}-sanitize
-    # Debug information would make the build half as long again; a report names function and line with -g1.
-    configure -DCANBUS_TESTS=ON -DCANBUS_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1
+    configure_sanitized
     export ASAN_OPTIONS="detect_stack_use_after_return=1:strict_string_checks=1"
     export LSAN_OPTIONS="suppressions=$root/tools/leaks.supp:print_suppressions=0"
     export UBSAN_OPTIONS="print_stacktrace=1"

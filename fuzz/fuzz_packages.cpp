@@ -12,6 +12,7 @@
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     static OrbApplication *const application = new OrbApplication(*argc, *argv);
     Q_UNUSED(application)
     return 0;

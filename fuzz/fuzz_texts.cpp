@@ -1,11 +1,13 @@
-// libFuzzer: any text as a drive, an order, a script, settings, a command line or a filter. The first byte chooses which,
-// the second the box.
+// libFuzzer: any text as a drive, an order, a script, settings, a filter, or the words behind a program. The first byte
+// chooses which, the second the box.
 
 #include "hostiletext.h"
 
 #include "orbapplication.h"
 #include "orbhost.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
@@ -16,6 +18,10 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     Q_UNUSED(application)
     static QTemporaryDir folder;
     OrbHost::instance()->setSettingsDir(folder.filePath("settings"));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path())); // where filters are kept
+    if (!QDir(folder.path()).mkdir("words") || !QDir::setCurrent(folder.filePath("words"))) {
+        qFatal("no folder");
+    }
     return 0;
 }
 

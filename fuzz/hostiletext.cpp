@@ -5,6 +5,7 @@
 #include "decoderbox.h"
 #include "headunit.h"
 #include "headunitoptions.h"
+#include "hostilecommand.h"
 #include "inspectionfilter.h"
 #include "orbhost.h"
 #include "orbiniconfig.h"
@@ -162,6 +163,12 @@ void HostileText::read(Kind kind, int type, const QByteArray &text)
     case Filter:
         expect(InspectionFilter().parse(QString::fromUtf8(text), &error) || !error.isEmpty(),
                "a filter refused without a reason");
+        break;
+    case SubCommand:
+        HostileCommand::readHeadUnit(text);
+        break;
+    case BoxCommandLine:
+        HostileCommand::readDecoderBox(text);
         break;
     case Kinds:
         break;

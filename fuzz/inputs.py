@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Inputs of the fuzzing programs: seeds from the golden drives, and the saved ones, which stand in fuzz/saved/TARGET.txt, one
-a line in hexadecimal.
+"""Inputs of the fuzzing programs, one a line in hexadecimal: fuzz/saved/TARGET.txt has those that reach all that was reached,
+fuzz/findings/TARGET.txt those that broke something once and stay.
 
-    inputs.py seeds TARGET FOLDER     writes the seeds of a target as files
-    inputs.py unpack TARGET FOLDER    writes its saved inputs as files
+    inputs.py seeds TARGET FOLDER     writes seeds from the golden drives as files
+    inputs.py unpack TARGET FOLDER    writes the saved inputs and the findings as files
     inputs.py pack TARGET FOLDER      replaces the saved inputs by the files of a folder, the shortest first, as far as
                                       they have room
     inputs.py add TARGET FILE         adds one input, a finding that was put right
@@ -15,7 +15,7 @@ import pathlib
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ROOM = 48 * 1024  # bytes of a target's saved inputs
+ROOM = {"link": 96, "update": 16, "packages": 40, "texts": 44, "logs": 44}  # KiB of saved inputs
 CARS = ["jmce200n", "huida", "volkswagen", "xinhang", "mazda", "xinri", "honda", "nissan", "toyota", "gm", "haval", "gac",
         "venucia", "renault", "jeep"]  # in the order of their types, from 1
 XINHANG = CARS.index("xinhang")
@@ -25,6 +25,20 @@ WINDOW_SHARE = 8  # as in linkdrive.cpp
 # Numbers of the orders in linkdrive.cpp.
 (PACKAGE, NOISE, WAIT, LEAP, CLICK, ROW, APP, KEY, KEY_SET, MODE, DISK, SPOIL, LANGUAGE, TROUBLE, LEAVE, TOUCH, TAG, RESTART,
  OPEN) = range(1, 20)
+
+# Behind the programs' names; of the files that hostilecommand.cpp lays out.
+COMMANDS = [
+    b"inspect a.orblog --filter cmd=0x20 --json", b"inspect a.hex --can-bus-type 7 --pattern (?<hex>.*)",
+    b"keys a.orblog --key-command 0x20", b"convert a.orblog b.candump --can-bus-type 7", b"convert a.hex b.pcapng --frame raise",
+    b"convert a.orblog b.csv --json", b"convert a.hex b.hex --pattern (?<time>\\S+) (?<dir>RX|TX) (?<hex>.*)", b"diff honda 7 --json",
+    b"identify a.orblog --hello --seconds 1 --json", b"probe --can-bus-type 7 --frame 200201 --byte 0 --values --markdown",
+    b"probe --all . --drives . --can-bus-type 7", b"check a.scn --seconds 1 --json", b"check --list-ports",
+    b"record b.orblog --can-bus-type 7", b"replay a.orblog --speed max --loop --from 0.1 --to 2 --until call=x --wait-ack",
+]
+BOX_COMMANDS = [
+    b"--type 7 --link l --scenario a.scn --log b --seed 4 --unpaced", b"--type CanBus_Raise_Honda --script a.script", b"--list",
+    b"--box a.hex --type 1", b"--type 4 --script - --log -",
+]
 
 
 def rows(drive):
@@ -132,6 +146,10 @@ def text_seeds():
         yield b"\x04\x00" + line.replace(b" ", b"\0")
     for line in (b"cmd=0x28 changed call=setTemp*", b"type=3 | cmd!=1..5"):
         yield b"\x05\x00" + line
+    for line in COMMANDS:
+        yield b"\x06\x00" + line.replace(b" ", b"\0")
+    for line in BOX_COMMANDS:
+        yield b"\x07\x00" + line.replace(b" ", b"\0")
 
 
 SEEDS = {"link": link_seeds, "update": update_seeds, "packages": packages_seeds, "logs": log_seeds, "texts": text_seeds}
@@ -144,15 +162,16 @@ def write_files(inputs, folder):
         (folder / hashlib.sha1(data).hexdigest()).write_bytes(data)
 
 
-def saved(target):
-    """The saved inputs of a target."""
-    file = ROOT / "fuzz" / "saved" / (target + ".txt")
+def read(folder, target):
+    """The inputs of a target in a folder."""
+    file = ROOT / "fuzz" / folder / (target + ".txt")
     return [bytes.fromhex(line) for line in file.read_text().split()] if file.exists() else []
 
 
-def save(target, inputs):
-    """Writes the saved inputs of a target."""
-    file = ROOT / "fuzz" / "saved" / (target + ".txt")
+def write(folder, target, inputs):
+    """Writes the inputs of a target."""
+    file = ROOT / "fuzz" / folder / (target + ".txt")
+    file.parent.mkdir(exist_ok=True)
     file.write_text("".join(data.hex() + "\n" for data in inputs))
 
 
@@ -161,9 +180,9 @@ def pack(target, folder):
     kept, size = [], 0
     for data in sorted((file.read_bytes() for file in folder.iterdir()), key=lambda data: (len(data), data)):
         size += 2 * len(data) + 1
-        if data and size <= ROOM:
+        if data and size <= ROOM[target] * 1024:
             kept.append(data)
-    save(target, kept)
+    write("saved", target, kept)
 
 
 def main():
@@ -174,11 +193,11 @@ def main():
     if command == "seeds":
         write_files(SEEDS[target](), path)
     elif command == "unpack":
-        write_files(saved(target), path)
+        write_files(read("saved", target) + read("findings", target), path)
     elif command == "pack":
         pack(target, path)
     elif command == "add":
-        save(target, saved(target) + [path.read_bytes()])
+        write("findings", target, read("findings", target) + [path.read_bytes()])
     else:
         sys.exit(__doc__)
 

@@ -26,7 +26,7 @@ namespace {
 
 const int OrderPlaces = 32;
 const int MostOrders = 64;
-// The Volkswagen's windows take longer than all else, so one drive of this many may open them: its bytes' sum decides.
+// Windows take longer than all else, so one drive of this many may open them: its bytes' sum decides.
 const unsigned int WindowShare = 8;
 const int MostClosings = 100;      // rounds until every dialog has to be gone
 const int ReadySendings = 60;      // more than a box without an answer gets

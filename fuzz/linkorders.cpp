@@ -234,7 +234,7 @@ void LinkDrive::open()
 {
     const QList<QWidget *> windows = OrbHost::instance()->windows();
     const quint8 number = next();
-    if (!windows.isEmpty()) {
+    if (!windows.isEmpty() && m_mayOpen) {
         windows.at(number % int(windows.size()))->setVisible(true);
     }
 }

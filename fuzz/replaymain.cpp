@@ -1,5 +1,5 @@
 // main() of a fuzzing program that is built without libFuzzer: plays inputs that were saved, one a line in hexadecimal,
-// from the file that it is given. Then once more from the last to the first: where a program tells the story of an input,
+// from the files that it is given. Then once more from the last to the first: where a program tells the story of an input,
 // it must be the same whatever was played before it.
 
 #include <QByteArray>
@@ -28,12 +28,19 @@ int main(int argc, char **argv)
     if (LLVMFuzzerInitialize) {
         LLVMFuzzerInitialize(&argc, &argv);
     }
-    QFile file(QString::fromLocal8Bit(argc > 1 ? argv[1] : ""));
-    if (!file.open(QIODevice::ReadOnly)) {
-        std::fprintf(stderr, "cannot read the inputs\n");
+    QList<QByteArray> inputs;
+    for (int i = 1; i < argc; ++i) {
+        QFile file(QString::fromLocal8Bit(argv[i]));
+        if (!file.open(QIODevice::ReadOnly)) {
+            std::fprintf(stderr, "cannot read the inputs\n");
+            return 2;
+        }
+        inputs << file.readAll().trimmed().split('\n');
+    }
+    if (inputs.isEmpty()) {
+        std::fprintf(stderr, "no inputs\n");
         return 2;
     }
-    const QList<QByteArray> inputs = file.readAll().split('\n');
     QVector<unsigned int> stories;
     for (const QByteArray &input : inputs) {
         stories << play(QByteArray::fromHex(input));

@@ -41,12 +41,17 @@ void exchangeTexts(const QDialog *dialog, const QStringList &before, const QStri
 XinHangSettingsWindow::XinHangSettingsWindow(XinHangSettings &settings)
     : m_settings(settings), m_model(new TableViewModel(this)), m_askedItem(0)
 {
+    resetListTexts();
+}
+
+// Few open it, and a view takes as long as all else that the unit builds at start.
+void XinHangSettingsWindow::onLoadUiSkin()
+{
     TableListView *const view = new TableListView(this);
     view->setObjectName(QLatin1String("itemListView"));
     view->setModel(m_model);
     setCentralWidget(view);
     connect(view, SIGNAL(clicked(QModelIndex)), this, SLOT(onItemListViewClicked(QModelIndex)));
-    resetListTexts();
 }
 
 void XinHangSettingsWindow::resetListTexts()

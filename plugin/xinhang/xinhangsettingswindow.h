@@ -24,6 +24,7 @@ public:
     void resetListTexts();
 
 protected:
+    void onLoadUiSkin() override;
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

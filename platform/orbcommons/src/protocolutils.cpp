@@ -46,7 +46,7 @@ public:
 
 ProtocolUtils::Private::Private(ProtocolUtils *utils)
     : parent(utils)
-    , poll(new QTimer(utils))
+    , poll(new PollTimer(utils))
     , reopen(new QTimer(utils))
     , writer(new PacedWriter(utils))
     , device(nullptr)
@@ -86,14 +86,13 @@ void ProtocolUtils::Private::rest()
     if (announces && answered == 0) {
         poll->stop();
     } else if (idlePolls < SilentPolls && ++idlePolls == SilentPolls) {
-        poll->setInterval(SilentPollInterval);
+        poll->start(SilentPollInterval);
     }
 }
 
 ProtocolUtils::ProtocolUtils(QObject *parent) : QObject(parent), m_d(new Private(this))
 {
     new ValueTeller(this);
-    connect(m_d->poll, SIGNAL(timeout()), this, SLOT(onPollTimer()));
     connect(m_d->reopen, SIGNAL(timeout()), this, SLOT(onReopenTimer()));
     connect(m_d->writer, SIGNAL(sent(QByteArray)), this, SLOT(onPackageSent(QByteArray)));
     connect(m_d->writer, SIGNAL(failed()), this, SLOT(onDeviceLost()));
@@ -216,7 +215,7 @@ void ProtocolUtils::onPollTimer()
     }
 
     if (m_d->idlePolls >= SilentPolls) {
-        m_d->poll->setInterval(PollInterval);
+        m_d->poll->start(PollInterval);
     }
     m_d->idlePolls = 0;
     m_d->polledAt = streamEnd;

@@ -6,6 +6,7 @@
 #include "protocolutils.h"
 #include "streamage.h"
 
+#include <QBasicTimer>
 #include <QDebug>
 #include <QElapsedTimer>
 #include <QIODevice>
@@ -23,6 +24,24 @@ public:
 
         Emitting = 1, // a slot further up still reads emission
         Logging = 2   // the traffic log is on
+    };
+
+    // Asks the line, over and over. The signal of a timer object would cost as much again as the question.
+    class PollTimer : public QObject
+    {
+    public:
+        explicit PollTimer(ProtocolUtils *utils) : QObject(utils), m_utils(utils) {}
+
+        void start(int ms) { m_timer.start(ms, this); }
+        void stop() { m_timer.stop(); }
+        bool isActive() const { return m_timer.isActive(); }
+
+    protected:
+        void timerEvent(QTimerEvent *) override { m_utils->onPollTimer(); }
+
+    private:
+        ProtocolUtils *const m_utils;
+        QBasicTimer m_timer;
     };
 
     explicit Private(ProtocolUtils *utils);
@@ -55,7 +74,7 @@ public:
     int compact(QByteArray *buffer);
 
     ProtocolUtils *const parent;
-    QTimer *const poll;
+    PollTimer *const poll;
     QTimer *const reopen;
     PacedWriter *const writer;
 

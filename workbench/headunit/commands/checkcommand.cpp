@@ -2,6 +2,7 @@
 
 #include "boxcatalog.h"
 #include "command.h"
+#include "commandapplication.h"
 #include "commandline.h"
 #include "headunitprogram.h"
 #include "portcheck.h"
@@ -174,10 +175,7 @@ int checkCommand(const QStringList &words)
     if (port.empty()) {
         return line.refuse("PORT is missing");
     }
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int argumentCount = 1;
-    QCoreApplication application(argumentCount, arguments);
+    const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
     const QVector<CheckResult> results =
         check(QString::fromLocal8Bit(port.c_str()),
               plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(plugin), seconds);

@@ -4,6 +4,7 @@
 #include "boxspeaker.h"
 #include "carproperty.h"
 #include "command.h"
+#include "commandapplication.h"
 #include "commandline.h"
 #include "decoderbox.h"
 #include "linecomparison.h"
@@ -199,10 +200,7 @@ int diffCommand(const QStringList &words)
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int count = 1;
-    QCoreApplication application(count, arguments);
+    const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
     Side sides[2];
     QString error;
     for (const int i : {0, 1}) {

@@ -2,6 +2,7 @@
 
 #include "boxcatalog.h"
 #include "command.h"
+#include "commandapplication.h"
 #include "commandline.h"
 #include "headunitprogram.h"
 #include "linelogformats.h"
@@ -10,7 +11,6 @@
 #include "typefit.h"
 
 #include "orbapplication.h"
-#include "virtualclock.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -64,10 +64,11 @@ int percent(double part)
 int probe(const Options &options)
 {
     const FrameFormat *format = BoxCatalog::frameOf(options.probedType);
-    if (!format || !VirtualClock::start()) {
+    QString error;
+    const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
+    if (!format || !application) {
         return Command::FoundSomething;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     QVector<QByteArray> packages;
     for (std::string line; packages.size() < PackageCensus::MostPackages && std::getline(std::cin, line);) {
         const QByteArray package = QByteArray::fromHex(QByteArray::fromStdString(line));
@@ -76,12 +77,7 @@ int probe(const Options &options)
         }
         packages << package;
     }
-    char name[] = "headunit";
-    char *words[] = {name, nullptr};
-    int wordCount = 1;
-    OrbApplication application(wordCount, words);
     PackageProbe prober(options.probedType, *format);
-    QString error;
     if (!prober.start(QString::fromStdString(options.plugin), &error)) {
         std::fprintf(stderr, "%s\n", qPrintable(error));
         return Command::FoundSomething;
@@ -187,10 +183,7 @@ void printRows(const QVector<TypeFit> &fits)
 
 int identify(const Options &options, const CommandLine &line)
 {
-    char name[] = "headunit";
-    char *words[] = {name, nullptr};
-    int wordCount = 1;
-    QCoreApplication application(wordCount, words);
+    const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
     const bool isPort = !QFileInfo(QString::fromStdString(options.source)).isFile();
     Heard heard;
     QString error;

@@ -2,9 +2,9 @@
 
 #include "boxcatalog.h"
 #include "command.h"
+#include "commandapplication.h"
 #include "headunitprogram.h"
 #include "loginspection.h"
-#include "probestart.h"
 
 #include "orbapplication.h"
 
@@ -38,13 +38,10 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
         return Command::WrongUsage;
     }
     QString error;
-    if (!ProbeStart::prepare(&error)) {
+    const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
+    if (!application) {
         return m_line->complain(error);
     }
-    char program[] = "headunit";
-    char *words[] = {program, nullptr};
-    int count = 1;
-    OrbApplication application(count, words);
     QApplication::setQuitOnLastWindowClosed(false);
     LogInspection inspection(qMax(type, 0), log);
     prepare(&inspection);

@@ -3,6 +3,7 @@
 #include "bitprobe.h"
 #include "boxcatalog.h"
 #include "command.h"
+#include "commandapplication.h"
 #include "commandline.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
@@ -113,13 +114,10 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
     if (!readPackage(order, speaker.format(), &package, &error)) {
         return line.refuse(error);
     }
-    if (!ProbeStart::prepare(&error)) {
+    const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
+    if (!application) {
         return line.complain(error);
     }
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int count = 1;
-    OrbApplication application(count, arguments);
     ProbeUnit unit;
     const QString plugin =
         order.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(order.plugin);

@@ -3,6 +3,7 @@
 #include "bitsheet.h"
 #include "boxcatalog.h"
 #include "carproperty.h"
+#include "commandapplication.h"
 #include "decoderbox.h"
 #include "headunitprogram.h"
 #include "probestart.h"
@@ -49,13 +50,13 @@ bool writeSheet(const ProbeSheets::Order &order, int type, QString *error)
     DriveTraces drives;
     const BoxCatalog::Row &row = BoxCatalog::rows().at(type - 1);
     const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, error));
-    if (!box || !drives.read(order.drives, row.car, error) || !ProbeStart::prepare(error)) {
+    if (!box || !drives.read(order.drives, row.car, error)) {
         return false;
     }
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int count = 1;
-    OrbApplication application(count, arguments);
+    const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(error);
+    if (!application) {
+        return false;
+    }
     ProbeUnit unit;
     const QString plugin = order.plugin.isEmpty() ? HeadUnitProgram::ownPlugin() : order.plugin;
     if (!unit.start(plugin, type, ProbeStart::greeting(*box->speaker()), error)) {
