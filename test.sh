@@ -2,10 +2,11 @@
 # Builds everything and runs every test. Arguments go to ctest (./test.sh -R framing); then only what those tests need
 # is built.
 #
-#     ./test.sh [--sanitize | --qt6] [--car CAR | ctest arguments]
+#     ./test.sh [--sanitize | --qt6 | --armhf] [--car CAR | ctest arguments]
 #
 # --sanitize does it under the address, leak and undefined-behaviour sanitizers, in a build folder that ./fuzz.sh has as
-# well; --qt6 with Qt 6 in place of Qt 5, in one of its own.
+# well; --qt6 with Qt 6 in place of Qt 5, and --armhf for the processor of head units, under qemu-user, each in one of
+# its own.
 # --car foo runs what concerns that car: its sheet and its drives (the words are those of decoderbox --list).
 set -eu
 . "$(dirname "$0")/tools/setup.sh"
@@ -24,6 +25,15 @@ elif [ "${1:-}" = --qt6 ]; then
     need_packages qt6-base-dev qt6-l10n-tools libgl-dev
     build=${CANBUS_BUILD:-$root/build}-qt6
     configure -DCANBUS_TESTS=ON -DCANBUS_QT_VERSION=6
+elif [ "${1:-}" = --armhf ]; then
+    shift
+    need_packages g++-arm-linux-gnueabihf qemu-user mmdebstrap qtbase5-dev-tools
+    build=${CANBUS_BUILD:-$root/build}-armhf
+    step "Laying out Debian's armhf libraries (a minute the first time)"
+    "$root/tools/armhf/root.sh" "$build/root"
+    configure -DCANBUS_TESTS=ON -DCMAKE_TOOLCHAIN_FILE="$root/cmake/armhf.cmake" -DCANBUS_ARMHF_ROOT="$build/root"
+    # What no processor changes, and pictures, which qemu paints for half an hour.
+    set -- "$@" -E '^(source_rules|sdk_search|tables|sheet_|terms_|translations_|newcar|shown_commands|examples|sdk_build|tst_screens_)'
 else
     configure -DCANBUS_TESTS=ON
 fi
