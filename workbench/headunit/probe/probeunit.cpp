@@ -1,9 +1,9 @@
 #include "probeunit.h"
 
+#include "childprocess.h"
 #include "headunitoptions.h"
 #include "virtualline.h"
 
-#include "jsontext.h"
 #include "orbhost.h"
 
 #include <QDataStream>
@@ -33,49 +33,6 @@ void letPass(int ms)
     QEventLoop loop;
     QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-QByteArray readAll(int descriptor)
-{
-    QByteArray bytes;
-    char part[16384];
-    for (ssize_t count = 1; count > 0;) {
-        count = ::read(descriptor, part, sizeof part);
-        bytes.append(part, int(qMax(ssize_t(0), count)));
-    }
-    return bytes;
-}
-
-void writeAll(int descriptor, const QByteArray &bytes)
-{
-    for (int written = 0; written < bytes.size();) {
-        const ssize_t count =
-            ::write(descriptor, bytes.constData() + written, size_t(bytes.size() - written));
-        if (count <= 0) {
-            ::_exit(1);
-        }
-        written += int(count);
-    }
-}
-
-// Forks, and has the child run \a life and end; what it wrote to the descriptor that it is given. False when
-// the system gives no process.
-bool inChild(const std::function<void(int)> &life, QByteArray *told, int *status)
-{
-    int ends[2];
-    if (::pipe(ends) != 0) {
-        return false;
-    }
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::close(ends[0]);
-        life(ends[1]);
-        ::_exit(0);
-    }
-    ::close(ends[1]);
-    *told = readAll(ends[0]);
-    ::close(ends[0]);
-    return child > 0 && ::waitpid(child, status, 0) == child;
 }
 
 } // namespace
@@ -202,7 +159,7 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
 {
     QByteArray told;
     int status = 0;
-    const bool isRun = inChild(
+    const bool isRun = ChildProcess::run(
         [&](int result) {
             QElapsedTimer clock;
             clock.start();
@@ -329,7 +286,7 @@ void ProbeUnit::tell(const QByteArray &package, int result)
     for (const CallWatch::Call &call : std::as_const(calls)) {
         stream << call.object << call.name << call.args;
     }
-    writeAll(result, told);
+    ChildProcess::writeAll(result, told);
 }
 
 QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
@@ -337,7 +294,7 @@ QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
 {
     QByteArray told;
     int status = 0;
-    inChild(
+    ChildProcess::run(
         [&](int result) {
             ::alarm(LongestTrial);
             m_watch->forget();
@@ -345,7 +302,7 @@ QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
                 QByteArray bytes;
                 QDataStream stream(&bytes, QIODevice::WriteOnly);
                 report(&stream);
-                writeAll(result, bytes);
+                ChildProcess::writeAll(result, bytes);
                 ::_exit(0);
             });
             act();
@@ -383,5 +340,5 @@ ProbeUnit::Packages ProbeUnit::sent() const
 // What the unit said is of no interest here, and would fill the line.
 void ProbeUnit::drainLine()
 {
-    readAll(m_line.farEnd());
+    ChildProcess::readAll(m_line.farEnd());
 }
