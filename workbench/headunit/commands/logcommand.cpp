@@ -46,9 +46,13 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     int count = 1;
     OrbApplication application(count, words);
     QApplication::setQuitOnLastWindowClosed(false);
-    LogInspection inspection(qMax(type, 0), log);
-    prepare(&inspection);
     const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
+    const auto steps = m_readsScreens ? ProbeStart::screenSteps(plugin, type) : QVector<ScreenPath::Step>();
+    LogInspection inspection(qMax(type, 0), log);
+    if (m_readsScreens) {
+        inspection.readScreens(steps);
+    }
+    prepare(&inspection);
     if (!inspection.run(plugin, &error)) {
         return m_line->complain(error);
     }

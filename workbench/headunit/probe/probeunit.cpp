@@ -28,6 +28,12 @@ const int TurnMs = 1000;      // of trials in turn: what the first one brings ab
 const int MostWaits = 8;      // for a time in which the plug-in says nothing by itself
 const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
 
+// A unit's maker lists by number which settings its car has; a decoder leaves out those that it does not know.
+QStringList everySetting()
+{
+    return QString("1 2 3 4 128 129 130 131 132 133 134 135 136 137 138 144 145 146 147 148").split(' ');
+}
+
 void letPass(int ms)
 {
     QEventLoop loop;
@@ -64,6 +70,7 @@ bool ProbeUnit::start(const QString &plugin, int type, const Packages &greeting,
     host->setSettingsDir(m_settings.path());
     host->setTag(HeadUnitOptions::CanBusTypeTag, type);
     host->setProductValue("CANPortName", m_line.devicePath());
+    host->setFactorySetting("SettingItemTypes", everySetting());
     m_screen.reset(new UnitScreen(UnitScreen::standardSize()));
     m_screen->setUpdatesEnabled(false);
     m_screen->show();
