@@ -34,7 +34,7 @@ QString cell(const InspectionRow &row, int column)
                    ? row.isTowardsUnit ? QStringLiteral("‹") : QStringLiteral("›")
                    : QStringLiteral("·");
     case InspectionModel::SubjectColumn:
-        return InspectionText::subject(row);
+        return InspectionModel::subject(row);
     case InspectionModel::BytesColumn:
         return row.isPackage() ? QString::fromLatin1(row.data.toHex(' ')) : InspectionText::bytes(row);
     case InspectionModel::AnswerColumn:
@@ -74,6 +74,25 @@ InspectionModel::InspectionModel(LineInspector *inspector, QObject *parent)
 {
     m_timer.setInterval(LookInterval);
     connect(&m_timer, &QTimer::timeout, this, &InspectionModel::look);
+}
+
+QString InspectionModel::subject(const InspectionRow &row)
+{
+    switch (row.kind) {
+    case InspectionRow::BadPackage:
+        return tr("BAD %1").arg(QString("0x%1").arg(row.command, 2, 16, QLatin1Char('0')));
+    case InspectionRow::Noise:
+        return tr("NO PACKAGE");
+    case InspectionRow::State:
+        return tr("LINE");
+    case InspectionRow::Call:
+        return tr("CALL");
+    case InspectionRow::UnitKey:
+        return tr("KEY");
+    case InspectionRow::Package:
+        break;
+    }
+    return InspectionText::subject(row);
 }
 
 const Inspection &InspectionModel::inspection() const

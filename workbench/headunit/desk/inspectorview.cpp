@@ -198,7 +198,7 @@ void InspectorView::showChosen()
     const InspectionRow &row = m_model->inspection().row(number);
     QStringList lines;
     const QString answer = InspectionText::acknowledgement(row);
-    lines << InspectionText::subject(row) +
+    lines << InspectionModel::subject(row) +
                  (answer.isEmpty() ? QString() : QStringLiteral(" · ") + tr("answered in %1").arg(answer));
     if (!row.bytes.isEmpty()) {
         lines << QString::fromLatin1(row.bytes.toHex(' '));

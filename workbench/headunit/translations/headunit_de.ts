@@ -444,6 +444,26 @@
         <source>Caused</source>
         <translation>Bewirkt</translation>
     </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>FALSCH %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>KEIN PAKET</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LEITUNG</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>AUFRUF</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TASTE</translation>
+    </message>
 </context>
 <context>
     <name>InspectorView</name>

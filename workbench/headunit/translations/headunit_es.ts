@@ -444,6 +444,26 @@
         <source>Caused</source>
         <translation>Efecto</translation>
     </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>MALO %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>NO ES UN PAQUETE</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LÍNEA</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>LLAMADA</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TECLA</translation>
+    </message>
 </context>
 <context>
     <name>InspectorView</name>

@@ -444,6 +444,26 @@
         <source>Caused</source>
         <translation>Effet</translation>
     </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>MAUVAIS %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>PAS UN PAQUET</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LIGNE</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>APPEL</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TOUCHE</translation>
+    </message>
 </context>
 <context>
     <name>InspectorView</name>

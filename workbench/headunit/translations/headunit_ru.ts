@@ -444,6 +444,26 @@
         <source>Caused</source>
         <translation>Вызвано</translation>
     </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>ПЛОХОЙ %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>НЕ ПАКЕТ</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>ЛИНИЯ</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>ВЫЗОВ</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>КНОПКА</translation>
+    </message>
 </context>
 <context>
     <name>InspectorView</name>

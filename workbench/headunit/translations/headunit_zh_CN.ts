@@ -444,6 +444,26 @@
         <source>Caused</source>
         <translation>引起</translation>
     </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>错误 %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>非数据包</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>按键</translation>
+    </message>
 </context>
 <context>
     <name>InspectorView</name>
