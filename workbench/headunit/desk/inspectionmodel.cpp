@@ -8,7 +8,9 @@
 
 namespace {
 
-const int LookInterval = 300; // ms; a busy line has hundreds of packages a second
+const int LookInterval = 300; // ms
+const int BusyInterval = 600; // of a line that fills the table anew each time, which nobody can read
+const int BusyRows = 40;      // that came since the last look
 const int CallsInCell = 2;
 
 QString caused(const InspectionRow &row)
@@ -136,6 +138,7 @@ void InspectionModel::look()
     drop();
     const qint64 end = inspection().endNumber();
     if (!m_isPaused) {
+        m_timer.setInterval(end - m_next > BusyRows ? BusyInterval : LookInterval);
         take(qMin(m_ripe, end));
         m_ripe = end;
     }

@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Blendet Pakete aus, die wie das vorige ihres Befehls sind</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>

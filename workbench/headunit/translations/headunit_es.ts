@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Oculta los paquetes iguales al anterior de su comando</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>

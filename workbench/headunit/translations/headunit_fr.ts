@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Cache les paquets identiques au précédent de leur commande</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>

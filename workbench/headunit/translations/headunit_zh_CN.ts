@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>隐藏与同命令上一包相同的包</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
