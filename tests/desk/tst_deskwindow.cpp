@@ -7,6 +7,7 @@
 #include "deskmemory.h"
 #include "deskwindow.h"
 #include "exactfield.h"
+#include "frameformat.h"
 #include "headunit.h"
 #include "homepage.h"
 #include "linepage.h"
@@ -23,6 +24,7 @@
 #include "orbapplication.h"
 #include "orbhost.h"
 #include "orbmainwindow.h"
+#include "orbtrace.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -273,8 +275,33 @@ void TestDeskWindow::lineLogIsATable()
     QSignalSpy chosen(page, &LinePage::packageChosen);
     table->selectRow(2);
     QVERIFY(chosen.isEmpty());
-    Q_EMIT table->doubleClicked(table->model()->index(2, 0));
-    QCOMPARE(chosen.value(0), QVariantList({3, QByteArray::fromHex("2e240100da")}));
+    // Two taps on a row whose calls fill the lines below, with packages in between.
+    const QByteArray climate = FrameFormat::raise().frame({0x21, QByteArray::fromHex("c8530c0e2021010c")});
+    const auto hearDoors = [&] {
+        for (const QByteArray &state : QVector<QByteArray>(12, "2e2401805a2e240100da")) {
+            hear(state);
+        }
+    };
+    hearDoors();
+    hear(climate.toHex());
+    OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", {climate});
+    for (int volume = 0; volume < 8; ++volume) {
+        OrbTrace::listener->called("AirConditionDlg", "setAirVolume", {volume});
+    }
+    QTRY_COMPARE(table->model()->rowCount(), 28);
+    QScrollBar *bar = table->verticalScrollBar();
+    QTRY_VERIFY(bar->value() > 0 && bar->value() == bar->maximum());
+    m_desk->resize(1400, 900);
+    QTRY_VERIFY(table->visibleRegion().boundingRect().height() == table->height());
+    QTRY_COMPARE(bar->value(), bar->maximum());
+    const QPoint place = table->visualRect(table->model()->index(27, 3)).center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTRY_COMPARE(table->currentIndex().row(), 27);
+    hearDoors();
+    QTRY_COMPARE(table->model()->rowCount(), 52);
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(chosen.value(0), QVariantList({3, climate}));
+    table->selectRow(2);
     buttonOf<QPushButton>(page, "Copy")->click();
     QVERIFY(QGuiApplication::clipboard()->text().contains("< 0x24 doors           [00]\n"));
     QTemporaryDir folder;

@@ -225,6 +225,9 @@ void TestLineCommands::tells_data()
     QTest::newRow("rows of a filter")
         << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "call=setTemp* changed", "--json"} << 0
         << "inspect-toyota-json.txt";
+    QTest::newRow("what only a screen shows")
+        << QStringList{"inspect", LOGS "/volkswagen.orblog", "--filter", "screen=*range* cmd=0x50"} << 0
+        << "inspect-screens.txt";
     QTest::newRow("no row") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "cmd=0x99"} << 1
                             << "";
     QTest::newRow("bad packages") << QStringList{"inspect", path("honda.orblog")} << 1 << "";

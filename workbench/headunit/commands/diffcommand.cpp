@@ -1,18 +1,15 @@
 #include "diffcommand.h"
 
 #include "boxcatalog.h"
-#include "boxspeaker.h"
-#include "carproperty.h"
+#include "callcomparison.h"
 #include "command.h"
 #include "commandapplication.h"
 #include "commandline.h"
-#include "decoderbox.h"
-#include "linecomparison.h"
-#include "linelogformats.h"
+#include "diffside.h"
+#include "headunitprogram.h"
 #include "linepackages.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,138 +18,6 @@
 #include <memory>
 
 namespace {
-
-const int MostSteps = 256; // of a number that is swept from end to end
-
-struct Side
-{
-    QString name; ///< as it was given
-    int type = 0; ///< 0 for a log that does not say
-    QVector<LineRecord> records;
-    LineTraffic traffic;
-};
-
-// ------------------------------------------------------------------------------------------- the two sides
-
-bool readLog(Side *side, QString *error)
-{
-    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(side->name, {}, error);
-    if (!reader) {
-        return false;
-    }
-    for (LineRecord record; reader->next(&record);) {
-        side->records << record;
-    }
-    side->type = BoxCatalog::typeFromText(reader->header().type.section(' ', 0, 0));
-    side->traffic.hasTimes = reader->hasTimes();
-    *error = reader->error();
-    return error->isEmpty();
-}
-
-void takeRecords(Side *side, const FrameFormat &format)
-{
-    LinePackages packages(format);
-    const auto take = [&] {
-        for (LinePackages::Item item; packages.next(&item);) {
-            if (item.piece == LinePiece::Package) {
-                side->traffic.add(item.record.kind == LineRecord::ToBox ? LineTraffic::ToBox
-                                                                        : LineTraffic::ToUnit,
-                                  format.package(item.record.bytes), item.record.microseconds);
-            }
-        }
-    };
-    for (const LineRecord &record : std::as_const(side->records)) {
-        packages.feed(record);
-        take();
-    }
-    packages.finish();
-    take();
-}
-
-// Values from one end of the property's range to the other.
-QVector<QVariant> valuesOf(const CarProperty &property)
-{
-    QVector<QVariant> values;
-    if (property.kind == CarProperty::Switch) {
-        values = {true, false};
-    } else if (property.kind == CarProperty::Choice) {
-        for (const QString &choice : property.choices) {
-            values << choice;
-        }
-    } else if (property.kind == CarProperty::Integer || property.kind == CarProperty::Real ||
-               property.kind == CarProperty::Temperature) {
-        const double range = property.maximum - property.minimum;
-        const double step = qMax(property.step, range / MostSteps);
-        for (double value = property.minimum; step > 0 && value <= property.maximum; value += step) {
-            values << (property.kind == CarProperty::Integer ? QVariant(qRound(value)) : QVariant(value));
-        }
-        if (property.kind == CarProperty::Temperature) {
-            values << "LO"
-                   << "HI";
-        }
-    }
-    return values << property.initial;
-}
-
-// All that the virtual box can say about its car, and what it understands.
-void takeBox(Side *side)
-{
-    QString error;
-    const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(side->type, nullptr, &error));
-    BoxSpeaker *speaker = box->speaker();
-    side->traffic.isWhole = true;
-    side->traffic.hasTimes = false;
-    const auto add = [side](const BoxPackage &package) {
-        side->traffic.add(LineTraffic::ToUnit, package, 0);
-    };
-    for (int i = 0; i < speaker->reports().size(); ++i) {
-        add(speaker->reportPackage(i));
-    }
-    for (const QString &name : speaker->properties()) {
-        for (const QVariant &value : valuesOf(*CarProperty::find(name))) {
-            box->car()->setValue(name, value);
-            for (int i = 0; i < speaker->reports().size(); ++i) {
-                if (speaker->reports().at(i).isAbout(name)) {
-                    add(speaker->reportPackage(i));
-                }
-            }
-        }
-    }
-    for (const BoxKey &key : speaker->keys()) {
-        for (const auto state : {BoxSpeaker::Pressed, BoxSpeaker::Held, BoxSpeaker::Released}) {
-            for (const BoxPackage &package : speaker->keyPackages(key, state)) {
-                add(package);
-            }
-        }
-        if (key.source == BoxKey::Knob) {
-            for (int clicks = 0; clicks < 256; ++clicks) {
-                add(speaker->knobPackage(key, clicks));
-            }
-        }
-    }
-    for (const quint8 command : speaker->commands()) {
-        side->traffic.packages[LineTraffic::ToBox].insert(command, {});
-    }
-}
-
-bool read(Side *side, QString *error)
-{
-    if (QFileInfo(side->name).isFile()) {
-        return readLog(side, error);
-    }
-    side->type = BoxCatalog::typeFromText(side->name);
-    if (side->type == 0) {
-        *error = QString("%1 is neither a log nor a CAN-bus type").arg(side->name);
-    } else if (!BoxCatalog::frameOf(side->type)) {
-        *error = QString("the frame of %1 is not known, so there is no virtual box of it")
-                     .arg(BoxCatalog::className(side->type));
-    } else {
-        takeBox(side);
-    }
-    return error->isEmpty();
-}
-
-// ------------------------------------------------------------------------------------------- the answer
 
 void answer(const QVector<LineComparison::Difference> &differences, bool asJson)
 {
@@ -172,14 +37,68 @@ void answer(const QVector<LineComparison::Difference> &differences, bool asJson)
     }
 }
 
-QString complaint(const Side &a, const Side &b)
+QString typeName(const DiffSide &side)
 {
-    return QString("%1 is of type %2 (%3) and %4 of type %5 (%6): only boxes of one type can be compared")
-        .arg(a.name)
-        .arg(a.type)
-        .arg(BoxCatalog::className(a.type), b.name)
-        .arg(b.type)
-        .arg(BoxCatalog::className(b.type));
+    return QString("type %1 (%2)").arg(side.type).arg(BoxCatalog::className(side.type));
+}
+
+// "honda", or "honda,toyota": the decoders that were asked for, in place of what the sides say.
+bool readTypes(const std::vector<std::string> &names, DiffSide sides[2], QString *error)
+{
+    if (names.size() > 2) {
+        *error = "--can-bus-type takes one type for both sides, or one for each";
+    }
+    for (size_t i = 0; error->isEmpty() && !names.empty() && i < 2; ++i) {
+        const QString name = QString::fromStdString(names[qMin(i, names.size() - 1)]);
+        sides[i].type = BoxCatalog::typeFromText(name);
+        if (sides[i].type == 0) {
+            *error = QString("there is no CAN-bus type '%1'").arg(name);
+        }
+    }
+    return error->isEmpty();
+}
+
+bool areComparable(const DiffSide sides[2], bool areTypesMeant, QString *error)
+{
+    const FrameFormat *const formats[] = {BoxCatalog::frameOf(sides[0].type),
+                                          BoxCatalog::frameOf(sides[1].type)};
+    if (sides[0].type == 0 || sides[1].type == 0 || sides[0].type == sides[1].type) {
+        return true;
+    }
+    if (!areTypesMeant) {
+        *error = QString("%1 is of %2 and %3 of %4: only boxes of one type can be compared, or with "
+                         "--can-bus-type TYPE,TYPE what two decoders make of them")
+                     .arg(sides[0].name, typeName(sides[0]), sides[1].name, typeName(sides[1]));
+    } else if (!formats[0] || formats[0] != formats[1]) {
+        *error =
+            QString("the boxes of %1 and of %2 frame their packages in different ways, so that they have "
+                    "none in common")
+                .arg(typeName(sides[0]), typeName(sides[1]));
+    }
+    return error->isEmpty();
+}
+
+// Reads both sides and what was asked of them, and finds the plug-in; with an application object that is gone behind
+// it, since decoders are tried in children with one of their own.
+bool readSides(const std::string names[2], const std::vector<std::string> &types, DiffSide sides[2],
+               QString *plugin, QString *error)
+{
+    const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
+    for (const int i : {0, 1}) {
+        sides[i].name = QString::fromStdString(names[i]);
+        if (!sides[i].read(error)) {
+            return false;
+        }
+    }
+    if (!readTypes(types, sides, error) || !areComparable(sides, !types.empty(), error)) {
+        return false;
+    }
+    const FrameFormat *known = BoxCatalog::frameOf(qMax(sides[0].type, sides[1].type));
+    const FrameFormat &format = known ? *known : LinePackages::formatOf(sides[0].records);
+    sides[0].takeRecords(format);
+    sides[1].takeRecords(format);
+    *plugin = HeadUnitProgram::ownPlugin();
+    return true;
 }
 
 } // namespace
@@ -187,37 +106,39 @@ QString complaint(const Side &a, const Side &b)
 int diffCommand(const QStringList &words)
 {
     CommandLine line("diff",
-                     "How two boxes of one type differ: commands, lengths, bits, rhythm. Says nothing, and "
-                     "ends with 0, when they do not.");
+                     "How two boxes differ: commands, lengths, bits, rhythm, and of two types the calls that "
+                     "the same packages cause. Says nothing, and ends with 0, when they do not.");
     std::string names[2];
+    std::vector<std::string> types;
     bool asJson = false;
     line.app.add_option("A", names[0], "a log, or a CAN-bus type whose virtual box is meant: honda, 7")
         ->required()
         ->type_name("LOG|TYPE");
     line.app.add_option("B", names[1], "the same")->required()->type_name("LOG|TYPE");
+    line.app
+        .add_option("--can-bus-type", types,
+                    "the decoder of both sides, or that of each, in place of what they say")
+        ->type_name("TYPE[,TYPE]")
+        ->delimiter(',')
+        ->allow_extra_args(false);
     line.app.add_flag("--json", asJson, "answers in JSON");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
-    const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
-    Side sides[2];
+    DiffSide sides[2];
+    QString plugin;
     QString error;
-    for (const int i : {0, 1}) {
-        sides[i].name = QString::fromStdString(names[i]);
-        if (!read(&sides[i], &error)) {
-            return line.refuse(error);
-        }
+    if (!readSides(names, types, sides, &plugin, &error)) {
+        return line.refuse(error);
     }
-    if (sides[0].type != 0 && sides[1].type != 0 && sides[0].type != sides[1].type) {
-        return line.refuse(complaint(sides[0], sides[1]));
+    auto differences = LineComparison::differences(sides[0].traffic, sides[1].traffic);
+    const int decoders[] = {sides[0].type, sides[1].type};
+    const bool areTwo = decoders[0] != 0 && decoders[1] != 0 && decoders[0] != decoders[1];
+    if (areTwo &&
+        !CallComparison::add(sides[0].traffic, sides[1].traffic, decoders, plugin, &differences, &error)) {
+        return line.complain(error);
     }
-    const FrameFormat *known = BoxCatalog::frameOf(qMax(sides[0].type, sides[1].type));
-    const FrameFormat &format = known ? *known : LinePackages::formatOf(sides[0].records);
-    for (Side &side : sides) {
-        takeRecords(&side, format);
-    }
-    const auto differences = LineComparison::differences(sides[0].traffic, sides[1].traffic);
     answer(differences, asJson);
     return differences.isEmpty() ? Command::Fine : Command::FoundSomething;
 }

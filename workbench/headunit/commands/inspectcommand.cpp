@@ -60,6 +60,7 @@ int inspectCommand(const QStringList &words)
         "acknowledged, and below it the calls that the plug-in makes of it. Ends with 1 when there are "
         "bad packages, or no row is left to show.");
     LogCommand log(&line);
+    log.readScreens();
     std::string text;
     bool asJson = false;
     line.app

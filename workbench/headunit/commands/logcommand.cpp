@@ -5,6 +5,7 @@
 #include "commandapplication.h"
 #include "headunitprogram.h"
 #include "loginspection.h"
+#include "probestart.h"
 
 #include "orbapplication.h"
 
@@ -43,9 +44,13 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
         return m_line->complain(error);
     }
     QApplication::setQuitOnLastWindowClosed(false);
-    LogInspection inspection(qMax(type, 0), log);
-    prepare(&inspection);
     const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
+    const auto steps = m_readsScreens ? ProbeStart::screenSteps(plugin, type) : QVector<ScreenPath::Step>();
+    LogInspection inspection(qMax(type, 0), log);
+    if (m_readsScreens) {
+        inspection.readScreens(steps);
+    }
+    prepare(&inspection);
     if (!inspection.run(plugin, &error)) {
         return m_line->complain(error);
     }

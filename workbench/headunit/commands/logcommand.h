@@ -16,6 +16,8 @@ public:
     /// Adds LOG and the options that say how it is run to \a line, which must outlive it.
     explicit LogCommand(CommandLine *line);
 
+    /// From run() on, the unit's screens are open, and rows say what packages change on them.
+    void readScreens() { m_readsScreens = true; }
     /// Runs the plug-in on the log: \a prepare is called before, \a answer, which gives the exit code, when it is over.
     int run(const std::function<void(LogInspection *)> &prepare,
             const std::function<int(LogInspection *)> &answer) const;
@@ -26,6 +28,7 @@ private:
     std::string m_pattern;
     std::string m_type;
     std::string m_plugin;
+    bool m_readsScreens = false;
 };
 
 #endif // LOGCOMMAND_H

@@ -9,11 +9,10 @@
 namespace {
 const int Margin = 4;
 const QColor ChangedGround(0x1B, 0x4A, 0x70);
-const QColor ChosenGround(0x26, 0x36, 0x46);
 } // namespace
 
 BytesDelegate::BytesDelegate(const InspectionModel *model, QObject *parent)
-    : QStyledItemDelegate(parent), m_model(model)
+    : PlainCellDelegate(parent), m_model(model)
 {}
 
 void BytesDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -22,14 +21,12 @@ void BytesDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const qint64 number = m_model->numberOf(index.row());
     const Inspection &inspection = m_model->inspection();
     if (number < inspection.firstNumber() || inspection.row(number).kind != InspectionRow::Package) {
-        QStyledItemDelegate::paint(painter, option, index);
+        PlainCellDelegate::paint(painter, option, index);
         return;
     }
     const InspectionRow &row = inspection.row(number);
     painter->save();
-    if (option.state & QStyle::State_Selected) {
-        painter->fillRect(option.rect, ChosenGround);
-    }
+    paintGround(painter, option);
     painter->setClipRect(option.rect);
     painter->setFont(option.font);
     const int width = option.fontMetrics.horizontalAdvance(QStringLiteral("00"));

@@ -1,13 +1,13 @@
 #ifndef BYTESDELEGATE_H
 #define BYTESDELEGATE_H
 
-#include <QStyledItemDelegate>
+#include "plaincelldelegate.h"
 
 class InspectionModel;
 
 /// Paints a package's data bytes: what is understood is dim, what has changed since the package of the command before
 /// has a blue ground, and what has changed without anybody knowing why an amber one.
-class BytesDelegate : public QStyledItemDelegate
+class BytesDelegate : public PlainCellDelegate
 {
     Q_OBJECT
 

@@ -37,6 +37,7 @@ const AppTagId KeySetTag = 0x1000c;
 const uint LanguageNotification = 20486;
 const int UsbDisk = 0;
 const int ClimatePatience = 6000; // milliseconds
+const int ScreensPerSecond = 10;  // that are read for what a package changes there: a busy line stays cheap
 
 // "Toyota" of "CanBus_Raise_Toyota"; empty for a type that does not exist.
 QString carOf(int type)
@@ -63,6 +64,7 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     new ClimateWatch(ClimatePatience, this);
     m_inspector = new LineInspector(type, this);
     m_inspector->follow(unit);
+    m_inspector->readScreens(ScreensPerSecond);
     m_sidePanel = new SidePanel(box, m_inspector, new KeyWatch(m_inspector, this));
     m_car = carOf(type);
     m_lineStrip = new LineStrip(m_car);

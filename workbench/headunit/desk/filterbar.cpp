@@ -90,11 +90,15 @@ void FilterBar::choose(int index)
 
 void FilterBar::keep()
 {
-    bool isMeant = false;
     const QString words = m_words->currentText().trimmed();
-    const QString name =
-        QInputDialog::getText(this, tr("Keep the filter"), tr("Name:"), QLineEdit::Normal, words, &isMeant)
-            .trimmed();
+    QInputDialog question(this);
+    question.setWindowTitle(tr("Keep the filter"));
+    question.setLabelText(tr("Name:"));
+    question.setTextValue(words);
+    question.setOkButtonText(tr("Keep"));
+    question.setCancelButtonText(tr("Cancel"));
+    const bool isMeant = question.exec() == QDialog::Accepted;
+    const QString name = question.textValue().trimmed();
     if (isMeant && !name.isEmpty()) {
         KeptFilters::keep(name, words);
         listKept();

@@ -8,7 +8,9 @@
 
 namespace {
 
-const int LookInterval = 300; // ms; a busy line has hundreds of packages a second
+const int LookInterval = 300; // ms
+const int BusyInterval = 600; // of a line that fills the table anew each time, which nobody can read
+const int BusyRows = 40;      // that came since the last look
 const int CallsInCell = 2;
 
 QString caused(const InspectionRow &row)
@@ -34,7 +36,7 @@ QString cell(const InspectionRow &row, int column)
                    ? row.isTowardsUnit ? QStringLiteral("‹") : QStringLiteral("›")
                    : QStringLiteral("·");
     case InspectionModel::SubjectColumn:
-        return InspectionText::subject(row);
+        return InspectionModel::subject(row);
     case InspectionModel::BytesColumn:
         return row.isPackage() ? QString::fromLatin1(row.data.toHex(' ')) : InspectionText::bytes(row);
     case InspectionModel::AnswerColumn:
@@ -74,6 +76,25 @@ InspectionModel::InspectionModel(LineInspector *inspector, QObject *parent)
 {
     m_timer.setInterval(LookInterval);
     connect(&m_timer, &QTimer::timeout, this, &InspectionModel::look);
+}
+
+QString InspectionModel::subject(const InspectionRow &row)
+{
+    switch (row.kind) {
+    case InspectionRow::BadPackage:
+        return tr("BAD %1").arg(QString("0x%1").arg(row.command, 2, 16, QLatin1Char('0')));
+    case InspectionRow::Noise:
+        return tr("NO PACKAGE");
+    case InspectionRow::State:
+        return tr("LINE");
+    case InspectionRow::Call:
+        return tr("CALL");
+    case InspectionRow::UnitKey:
+        return tr("KEY");
+    case InspectionRow::Package:
+        break;
+    }
+    return InspectionText::subject(row);
 }
 
 const Inspection &InspectionModel::inspection() const
@@ -117,6 +138,7 @@ void InspectionModel::look()
     drop();
     const qint64 end = inspection().endNumber();
     if (!m_isPaused) {
+        m_timer.setInterval(end - m_next > BusyRows ? BusyInterval : LookInterval);
         take(qMin(m_ripe, end));
         m_ripe = end;
     }

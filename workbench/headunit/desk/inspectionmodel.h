@@ -31,6 +31,9 @@ public:
     /// \a inspector is not owned and must outlive the model.
     explicit InspectionModel(LineInspector *inspector, QObject *parent = nullptr);
 
+    /// What \a row is about, in the user's language; commands keep the virtual box's words.
+    static QString subject(const InspectionRow &row);
+
     const Inspection &inspection() const;
 
     void setFilter(const InspectionFilter &filter);

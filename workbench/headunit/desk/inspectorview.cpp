@@ -4,11 +4,13 @@
 #include "callsmodel.h"
 #include "deskstyle.h"
 #include "filterbar.h"
+#include "fingerscroll.h"
 #include "inspection.h"
 #include "inspectionmodel.h"
 #include "inspectiontext.h"
 #include "lineinspector.h"
 #include "panelcard.h"
+#include "plaincelldelegate.h"
 #include "ratestable.h"
 
 #include <QClipboard>
@@ -20,6 +22,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTableView>
@@ -32,6 +35,7 @@ const int Gap = 8;
 const int RowHeight = 22;
 const int LeastTableHeight = 220;
 const int ChosenHeight = 60;
+const int ChosenHeightWithCalls = 92;
 const int SideWidth = 410;
 const int CallsInSight = 6; // of the chosen package, in a narrow view
 
@@ -54,7 +58,6 @@ InspectorView::InspectorView(LineInspector *inspector, Width width, QWidget *par
     , m_bits(PanelCard::chip())
 {
     makeTable();
-    m_chosen->setMinimumHeight(ChosenHeight); // a table that moves under the finger would choose another row
     m_chosen->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_search->setClearButtonEnabled(true);
     DeskStyle::dimHint(m_search);
@@ -79,6 +82,7 @@ void InspectorView::makeTable()
 {
     DeskStyle::makeDense(m_table, RowHeight);
     m_table->setModel(m_model);
+    m_table->setItemDelegate(new PlainCellDelegate(this));
     m_table->setItemDelegateForColumn(InspectionModel::BytesColumn, new BytesDelegate(m_model, this));
     m_table->setMinimumHeight(LeastTableHeight);
     // It shows the newest, unless somebody has scrolled away from there.
@@ -90,9 +94,25 @@ void InspectorView::makeTable()
             bar->setValue(bar->maximum());
         }
     });
+    // Who has put a finger on a row wants to tap it once more.
+    connect(m_table, &QTableView::pressed, this, [this] { m_followsNewest = false; });
     QShortcut *copy = new QShortcut(QKeySequence::Copy, m_table);
     copy->setContext(Qt::WidgetShortcut);
     connect(copy, &QShortcut::activated, this, &InspectorView::copyRows);
+}
+
+// Of one height whatever was chosen: a table that moves under the finger would choose another row.
+QWidget *InspectorView::makeChosen(bool isWide)
+{
+    QScrollArea *area = new QScrollArea;
+    area->setObjectName(QStringLiteral("chosenArea"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFixedHeight(isWide ? ChosenHeight : ChosenHeightWithCalls);
+    area->setWidget(m_chosen);
+    FingerScroll::enable(area);
+    return area;
 }
 
 void InspectorView::layOut(bool isWide)
@@ -111,7 +131,7 @@ void InspectorView::layOut(bool isWide)
             wide->hide();
         }
         column->addWidget(m_table, 1);
-        column->addWidget(m_chosen);
+        column->addWidget(makeChosen(isWide));
         column->addLayout(buttons);
         m_table->setColumnWidth(InspectionModel::TimeColumn, 70);
         m_table->setColumnWidth(InspectionModel::DirectionColumn, 18);
@@ -128,7 +148,7 @@ void InspectorView::layOut(bool isWide)
     halves->setSpacing(Gap);
     QVBoxLayout *left = new QVBoxLayout;
     left->addWidget(m_table, 1);
-    left->addWidget(m_chosen);
+    left->addWidget(makeChosen(isWide));
     halves->addLayout(left, 1);
     halves->addWidget(makeCalls());
     column->addLayout(halves, 1);
@@ -146,6 +166,7 @@ QWidget *InspectorView::makeCalls()
     m_calls = new QListView;
     m_calls->setObjectName(QStringLiteral("callList"));
     m_calls->setUniformItemSizes(true);
+    m_calls->setItemDelegate(new PlainCellDelegate(this));
     m_calls->setModel(m_callsModel);
     m_calls->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_calls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -198,7 +219,7 @@ void InspectorView::showChosen()
     const InspectionRow &row = m_model->inspection().row(number);
     QStringList lines;
     const QString answer = InspectionText::acknowledgement(row);
-    lines << InspectionText::subject(row) +
+    lines << InspectionModel::subject(row) +
                  (answer.isEmpty() ? QString() : QStringLiteral(" · ") + tr("answered in %1").arg(answer));
     if (!row.bytes.isEmpty()) {
         lines << QString::fromLatin1(row.bytes.toHex(' '));

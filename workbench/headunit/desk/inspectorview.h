@@ -45,6 +45,7 @@ protected:
 private:
     void makeTable();
     QWidget *makeCalls();
+    QWidget *makeChosen(bool isWide);
     void layOut(bool isWide);
     void setTexts();
     void showChosen();

@@ -43,7 +43,7 @@ QString names(const QVector<quint32> &keys)
     for (const quint32 key : keys) {
         names << UnitKey::of(int(key)).text();
     }
-    return names.join(QStringLiteral(", "));
+    return names.isEmpty() ? KeyTesterCard::tr("nothing") : names.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -116,10 +116,9 @@ void KeyTesterCard::showStroke(int row, const KeyStroke &stroke)
     }
     const QVector<quint32> keys =
         stroke.group == KeyStroke::Unit && !stroke.redefined.isEmpty() ? stroke.redefined : stroke.becomes;
-    const QString texts[ColumnCount] = {code(stroke) + ' ' +
-                                            (stroke.name.isEmpty() ? QString() : CarWords::text(stroke.name)),
-                                        seconds(stroke.pressed < 0 ? stroke.released : stroke.pressed), down,
-                                        keys.isEmpty() ? tr("nothing") : names(keys)};
+    const QString texts[ColumnCount] = {
+        code(stroke) + ' ' + (stroke.name.isEmpty() ? QString() : CarWords::text(stroke.name)),
+        seconds(stroke.pressed < 0 ? stroke.released : stroke.pressed), down, names(keys)};
     const QColor colour = stroke.isStuck && stroke.isDown()      ? DeskColours::Error
                           : keys.isEmpty() || stroke.pressed < 0 ? DeskColours::Warning
                           : stroke.isDown()                      ? DeskColours::Accent
@@ -149,10 +148,10 @@ void KeyTesterCard::showChosen()
         lines << tr("Pressed at %1 s, held %2 times").arg(seconds(stroke.pressed)).arg(stroke.holds);
     }
     lines << (stroke.isDown() ? tr("Still down") : tr("Came up at %1 s").arg(seconds(stroke.released)));
-    lines << tr("Becomes: %1").arg(KeyText::becomes(stroke.becomes));
+    lines << tr("Becomes: %1").arg(names(stroke.becomes));
     if (stroke.group == KeyStroke::Unit) {
         lines << tr("After redefinition: %1")
-                     .arg(stroke.redefined.isEmpty() ? tr("the same") : KeyText::becomes(stroke.redefined));
+                     .arg(stroke.redefined.isEmpty() ? tr("the same") : names(stroke.redefined));
     }
     m_chosen->setText(lines.join('\n'));
 }

@@ -10,6 +10,7 @@
 namespace {
 
 const int PictureInterval = 100; // ms
+const QColor Surroundings(0x0A, 0x0D, 0x11);
 
 /// The unit's key that a key of the keyboard is; 0 for none.
 int unitKeyOf(int key)
@@ -46,6 +47,9 @@ UnitView::UnitView(UnitScreen *screen, QWidget *parent)
     scene()->addWidget(screen);
     screen->setAttribute(Qt::WA_QuitOnClose, false); // closing the desk ends the program
     scene()->setSceneRect(QRectF(QPointF(0, 0), m_unitSize));
+    // What lies below need not be painted ten times a second.
+    setBackgroundBrush(Surroundings);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setViewportUpdateMode(NoViewportUpdate); // but when change() says so
     m_rest.setSingleShot(true);
     m_rest.setInterval(PictureInterval);

@@ -11,6 +11,7 @@ const size_t MostWaiting = 64;         // packages that wait to be answered, or 
 const int MostCalls = 1000;            // of one package
 const int DroppedAtOnce = MostWaiting; // rows: to drop each one by itself costs whoever shows them
 const QString Opened = QStringLiteral(".setVisible true");
+const QString Shown = QStringLiteral("screen ");
 
 } // namespace
 
@@ -20,6 +21,8 @@ QStringList InspectionRow::screens() const
     for (const QString &call : calls) {
         if (call.endsWith(Opened)) {
             screens << call.left(call.size() - Opened.size());
+        } else if (call.startsWith(Shown)) {
+            screens << call.mid(Shown.size());
         }
     }
     return screens;
@@ -318,6 +321,11 @@ void Inspection::called(const QString &call)
     row.isExplained = true;
     row.calls << call;
     append(row);
+}
+
+const InspectionRow *Inspection::current() const
+{
+    return m_isCurrentEarly ? &m_early.back() : m_current >= m_firstNumber ? &row(m_current) : nullptr;
 }
 
 void Inspection::done()

@@ -77,6 +77,9 @@ public:
     void unitKey(quint32 code, int phase);
     /// The plug-in has made \a call.
     void called(const QString &call);
+    /// The row to which calls belong at the moment, of a package that was taken before this framer was sure of it with
+    /// nothing but its bytes and calls; null for none.
+    const InspectionRow *current() const;
     /// What is called from now on belongs to nothing, and is a row of its own.
     void done();
 

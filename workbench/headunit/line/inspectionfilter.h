@@ -15,7 +15,7 @@
 ///     changed           another one than the package of its command before
 ///     explained         nothing is left to be found out about it
 ///     call=setTemp*     it caused such a call; * and ? stand for anything, with or without the object's name
-///     screen=Air*       it opened such a window or dialog
+///     screen=Air*       it opened such a window or dialog, or changed it
 ///     hex=2e28          its bytes hold these
 ///     d2=0x1f  d0.6=1   value of data byte 2, of bit 6 of data byte 0
 ///     ack>20 ack<20     milliseconds until it was acknowledged; ack=none for never

@@ -43,7 +43,10 @@ struct InspectionRow
         const int knownBits = i < known.size() ? known.at(i) : 0;
         return i < changed.size() && !isCaused ? quint8(changed.at(i) & ~knownBits) : quint8(0);
     }
-    /// The windows and dialogs among the calls that were opened: "AirConditionDlg".
+    /// Other than the package before, or the first; so is one of which nothing is known yet.
+    bool isNew() const { return isFirst || changed.isEmpty() || hasChanged(); }
+    /// The windows and dialogs among the calls that were opened, and what others show now: "AirConditionDlg",
+    /// "Tyres.pressure 2.3".
     QStringList screens() const;
 };
 

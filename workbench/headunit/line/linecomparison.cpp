@@ -159,7 +159,9 @@ void compareCommand(const LineTraffic &a, const LineTraffic &b, int direction, q
         }
         return false;
     };
-    if ((!a.isWhole && isMore(one, other)) || (!b.isWhole && isMore(other, one))) {
+    const bool isFirstMore = a.isWhole && !b.isWhole;
+    const bool isSecondMore = b.isWhole && !a.isWhole;
+    if ((!isFirstMore && isMore(one, other)) || (!isSecondMore && isMore(other, one))) {
         *result << Difference{"length", head.direction, command,
                               QString("%1 data bytes in the first, %2 in the second")
                                   .arg(one.join(" or "), other.join(" or "))};
@@ -167,7 +169,7 @@ void compareCommand(const LineTraffic &a, const LineTraffic &b, int direction, q
     if (first.size() == second.size() && !a.isWhole && !b.isWhole) {
         comparePairs(first, second, head, result);
     } else {
-        compareBits(first, second, a.isWhole, b.isWhole, head, result);
+        compareBits(first, second, isFirstMore, isSecondMore, head, result);
     }
     const double before = a.hasTimes ? rhythm(first) : 0;
     const double after = b.hasTimes ? rhythm(second) : 0;
@@ -207,9 +209,9 @@ QVector<LineComparison::Difference> LineComparison::differences(const LineTraffi
             const bool isInSecond = second.packages[direction].contains(command);
             if (isInFirst && isInSecond) {
                 compareCommand(first, second, direction, command, &result);
-            } else if (isInFirst && !isInSecond && !first.isWhole) {
+            } else if (isInFirst && !isInSecond && (!first.isWhole || second.isWhole)) {
                 result << Difference{"missing", Directions[direction], command, "only the first has it"};
-            } else if (isInSecond && !isInFirst && !second.isWhole) {
+            } else if (isInSecond && !isInFirst && (!second.isWhole || first.isWhole)) {
                 result << Difference{"extra", Directions[direction], command, "only the second has it"};
             }
         }

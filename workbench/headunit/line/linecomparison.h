@@ -27,12 +27,13 @@ struct LineTraffic
     void add(Direction direction, const BoxPackage &package, qint64 microseconds);
 };
 
-/// How two boxes of one type differ, a line each.
+/// How two boxes differ, a line each.
 namespace LineComparison {
 
 struct Difference
 {
-    QString kind;      ///< "missing" in the second, "extra" in it, "length", "bits", "rhythm", "calls"
+    QString
+        kind; ///< "missing" in the second, "extra" in it, "length", "bits", "rhythm", "calls" (see CallComparison)
     QString direction; ///< "box>unit" or "unit>box"
     int command;
     QString text; ///< "d[2].5 is 0 in the first, 1 in the second"
@@ -42,7 +43,7 @@ struct Difference
 
 /// Commands that only one has, other lengths of data, other bits, and a rhythm that is clearly another. Of as many
 /// packages of a command on both sides each is compared with its own; else which bits are ever set and ever clear.
-/// Against a whole box only what the log has and the box has not is a difference.
+/// Of a log and a whole box only what the log has and the box has not is a difference.
 QVector<Difference> differences(const LineTraffic &first, const LineTraffic &second);
 
 } // namespace LineComparison

@@ -3,7 +3,29 @@
 #include "callwatch.h"
 #include "headunit.h"
 #include "jsontext.h"
+#include "screenreader.h"
 #include "serialtap.h"
+
+#include "orbhost.h"
+
+#include <QWidget>
+
+namespace {
+
+const qint64 Second = 1000000; // microseconds
+
+// Whether a finger could read something that a package changes.
+bool isAnythingOpen()
+{
+    for (const QWidget *window : OrbHost::instance()->windows()) {
+        if (window->isVisible()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 LineInspector::LineInspector(int type, QObject *parent)
     : QObject(parent), m_inspection(type), m_next(OrbTrace::setListener(this))
@@ -24,10 +46,17 @@ void LineInspector::follow(HeadUnit *unit)
     }
     connect(unit->lineRecorder(), &LineRecorder::recorded, this, &LineInspector::feed);
     connect(unit, &HeadUnit::keyUsed, this, [this](uint code, int phase) {
+        lookAfter();
         m_inspection.setNow(now());
         m_inspection.unitKey(code, phase);
         begin();
     });
+}
+
+void LineInspector::readScreens(int perSecond)
+{
+    m_screens.reset(new ScreenReader);
+    m_screensPerSecond = perSecond;
 }
 
 void LineInspector::feed(const LineRecord &record)
@@ -51,9 +80,14 @@ void LineInspector::called(const QString &object, const QString &call, const QVa
     if (m_next) {
         m_next->called(object, call, args);
     }
+    if (m_isDeaf) {
+        return;
+    }
     m_inspection.setNow(now());
     if (object == QLatin1String("ProtocolUtils") && call == QLatin1String("recvProtocolData")) {
+        lookAfter(); // what the package before has changed so far is its own
         m_inspection.taken(args.value(0).toByteArray());
+        lookBefore();
         begin();
     } else if (object != QLatin1String("ProtocolUtils") && object != QLatin1String("desk")) {
         m_inspection.called(CallWatch::Call::of(object, call, args).text());
@@ -67,6 +101,9 @@ void LineInspector::eventCalled(const QString &call, const OrbEvent &event)
     if (m_next) {
         m_next->eventCalled(call, event);
     }
+    if (m_isDeaf) {
+        return;
+    }
     m_inspection.setNow(now());
     m_inspection.called(CallWatch::Call::of(call, event).text());
 }
@@ -76,8 +113,35 @@ void LineInspector::valueTold(const QString &name, const QVariant &value)
     if (m_next) {
         m_next->valueTold(name, value);
     }
+    if (m_isDeaf) {
+        return;
+    }
     m_inspection.setNow(now());
     m_inspection.called(QString("car.%1 %2").arg(name, QString::fromUtf8(JsonText::fromVariant(value))));
+}
+
+void LineInspector::lookBefore()
+{
+    const InspectionRow *row = m_inspection.current();
+    const bool isLate = m_screensPerSecond == 0 || now() - m_looked >= Second / m_screensPerSecond;
+    if (m_screens && row && isLate && (m_screensPerSecond == 0 || row->isNew()) && isAnythingOpen()) {
+        m_looked = now();
+        m_isLooking = true;
+        m_screens->remember();
+    }
+}
+
+// A package that causes calls is told by those: that they change a screen is no news.
+void LineInspector::lookAfter()
+{
+    const InspectionRow *row = m_inspection.current();
+    if (m_isLooking && row && row->calls.isEmpty()) {
+        const ScreenReader::Texts changes = m_screens->changes();
+        for (auto at = changes.cbegin(); at != changes.cend(); ++at) {
+            m_inspection.called(QString("screen %1 %2").arg(at.key(), at.value()));
+        }
+    }
+    m_isLooking = false;
 }
 
 // Events that the plug-in posts meanwhile stand between these two, and no timer comes in between.
@@ -96,6 +160,7 @@ void LineInspector::end()
 {
     --m_turns;
     if (m_turns == 0) { // else a later package is under way
+        lookAfter();
         m_inspection.done();
         Q_EMIT settled();
     }

@@ -7,7 +7,10 @@
 
 #include <QObject>
 
+#include <memory>
+
 class HeadUnit;
+class ScreenReader;
 
 /// Inspects the line of a unit that runs: brings together what the line's recorder and the call trace tell.
 ///
@@ -26,6 +29,12 @@ public:
 
     /// Hears the line and the keys of \a unit, also what its recorder has kept; it is not owned.
     void follow(HeadUnit *unit);
+    /// From now on a package that causes no call is asked what it changed on the plug-in's screens, each text as a call
+    /// "screen WINDOW.WIDGET TEXT". At most \a perSecond packages a second are, those that differ from the one before; 0
+    /// for all.
+    void readScreens(int perSecond);
+    /// While \a isDeaf is set, calls belong to nothing and make no row.
+    void setDeaf(bool isDeaf) { m_isDeaf = isDeaf; }
     /// Takes the next record of a line that is not a unit's own.
     void feed(const LineRecord &record);
 
@@ -47,12 +56,19 @@ private:
     void begin();
     void endSoon();
     void end();
+    void lookBefore();
+    void lookAfter();
     qint64 now() const;
 
     Inspection m_inspection;
     OrbTraceListener *m_next;
     qint64 m_origin = -1; // of the line's time on the tap's clock; -1 before anything was heard
-    int m_turns = 0;      // under way, of packages and keys that end() has not come for yet
+    std::unique_ptr<ScreenReader> m_screens; // null: nobody reads them
+    bool m_isDeaf = false;
+    int m_screensPerSecond = 0;
+    qint64 m_looked = 0;      // microseconds of the last package whose screens were read
+    bool m_isLooking = false; // at what the package under way changes
+    int m_turns = 0;          // under way, of packages and keys that end() has not come for yet
 };
 
 #endif // LINEINSPECTOR_H

@@ -6,6 +6,7 @@
 #include "orbhost.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QTimer>
 
 #include <limits>
@@ -13,6 +14,7 @@
 namespace {
 
 const qint64 RowTime = 2000000; // microseconds after which nothing more comes to a row
+const int StartMs = 1000;       // until the plug-in has announced what it has
 const int LastPackagesMs = 500; // what the end of the log has brought about is still on its way
 
 } // namespace
@@ -59,9 +61,15 @@ bool LogInspection::run(const QString &plugin, QString *error)
     host->setTag(HeadUnitOptions::CanBusTypeTag, m_type);
     host->setProductValue("CANPortName", m_replayer.portPath());
     m_unit.reset(new HeadUnit);
-    connect(m_unit->lineRecorder(), &LineRecorder::lineOpened, &m_replayer, &LineReplayer::start);
+    connect(m_unit->lineRecorder(), &LineRecorder::lineOpened, this, [this] { m_isOpen = true; });
     if (!m_unit->loadPlugin(plugin, error)) {
         return false;
+    }
+    openScreens();
+    // The line may be open by now, or open later.
+    connect(m_unit->lineRecorder(), &LineRecorder::lineOpened, &m_replayer, &LineReplayer::start);
+    if (m_isOpen) {
+        m_replayer.start();
     }
     QCoreApplication::exec();
     for (LineRecord record; m_log->next(&record);) { // what the unit said last
@@ -70,6 +78,26 @@ bool LogInspection::run(const QString &plugin, QString *error)
     m_inspector.inspection()->pass(m_inspector.inspection()->now() + RowTime);
     passOn(std::numeric_limits<qint64>::max());
     return true;
+}
+
+void LogInspection::readScreens(const QVector<ScreenPath::Step> &steps)
+{
+    m_steps = steps;
+    m_inspector.readScreens(0);
+}
+
+// What is called meanwhile is the tour's, not the log's; what a start calls comes before.
+void LogInspection::openScreens()
+{
+    if (m_steps.isEmpty()) {
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(StartMs, &loop, &QEventLoop::quit);
+    loop.exec();
+    m_inspector.setDeaf(true);
+    ScreenPath().follow(m_steps, m_unit.get());
+    m_inspector.setDeaf(false);
 }
 
 // The log is read once more beside the replayer, which leaves out what went to the box.

@@ -4,6 +4,7 @@
 #include "headunit.h"
 #include "lineinspector.h"
 #include "linereplayer.h"
+#include "screenpath.h"
 #include "unitscreen.h"
 
 #include <QTemporaryDir>
@@ -20,6 +21,9 @@ public:
     LogInspection(int type, const ReplayOptions &log, QObject *parent = nullptr);
     ~LogInspection() override;
 
+    /// Before run(): has the unit's screens opened by \a steps, and asks each package that causes no call what it
+    /// changes on them.
+    void readScreens(const QVector<ScreenPath::Step> &steps);
     /// Runs the plug-in \a plugin on all of the log. False, with one sentence in \a error, when that cannot be done.
     bool run(const QString &plugin, QString *error);
 
@@ -33,6 +37,7 @@ Q_SIGNALS:
 
 private:
     bool open(QString *error);
+    void openScreens();
     void follow(const LineRecord &played);
     void passOn(qint64 until);
 
@@ -44,7 +49,9 @@ private:
     LineReplayer m_replayer;
     UnitScreen m_screen;
     std::unique_ptr<HeadUnit> m_unit;
-    qint64 m_next = 0; // number of the row that is passed on next
+    QVector<ScreenPath::Step> m_steps;
+    bool m_isOpen = false; // the unit's line
+    qint64 m_next = 0;     // number of the row that is passed on next
 };
 
 #endif // LOGINSPECTION_H

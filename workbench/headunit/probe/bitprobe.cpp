@@ -42,13 +42,29 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
     }
 }
 
-BitProbe::Effects effectsOf(const ProbeUnit::Trial &trial)
+QString readable(const QString &value)
+{
+    return value.isEmpty() ? QString("empty") : value;
+}
+
+QString textOf(const QVector<BitProbe::Effect> &effects)
+{
+    QStringList lines;
+    for (const BitProbe::Effect &effect : effects) {
+        lines << effect.call + ' ' + effect.text;
+    }
+    return lines.join('\n');
+}
+
+} // namespace
+
+BitProbe::Effects BitProbe::effectsOf(const ProbeUnit::Trial &trial)
 {
     QMap<QString, QStringList> values;
     for (const CallWatch::Call &call : trial.calls) {
         take(call, &values);
     }
-    BitProbe::Effects effects;
+    Effects effects;
     for (auto at = values.begin(); at != values.end(); ++at) {
         effects.insert(at.key(), at.value().join(", "));
     }
@@ -66,22 +82,6 @@ BitProbe::Effects effectsOf(const ProbeUnit::Trial &trial)
     }
     return effects;
 }
-
-QString readable(const QString &value)
-{
-    return value.isEmpty() ? QString("empty") : value;
-}
-
-QString textOf(const QVector<BitProbe::Effect> &effects)
-{
-    QStringList lines;
-    for (const BitProbe::Effect &effect : effects) {
-        lines << effect.call + ' ' + effect.text;
-    }
-    return lines.join('\n');
-}
-
-} // namespace
 
 BitProbe::BitProbe(ProbeUnit *unit, const BoxSpeaker &speaker, const BoxPackage &package)
     : m_unit(unit), m_speaker(speaker), m_format(speaker.format()), m_package(package)

@@ -66,6 +66,8 @@ public:
     /// Whether neither the package nor any of its bits causes anything.
     bool isIdle() const { return m_moved.isEmpty() && base().isEmpty(); }
 
+    /// What \a trial has shown.
+    static Effects effectsOf(const ProbeUnit::Trial &trial);
     /// "0 = LO, 1..0x1d = 18.0..32.0, 0x1f = HI, else empty": \a values by number from 0 on.
     static QString mapping(const QStringList &values);
 

@@ -1,6 +1,9 @@
 #include "probestart.h"
 
+#include "boxcatalog.h"
 #include "boxspeaker.h"
+#include "childprocess.h"
+#include "decoderbox.h"
 #include "virtualclock.h"
 
 namespace {
@@ -41,4 +44,27 @@ int ProbeStart::reportsOf(const BoxSpeaker &speaker, quint8 command)
         count += report.command == command ? 1 : 0;
     }
     return count;
+}
+
+QVector<ScreenPath::Step> ProbeStart::screenSteps(const QString &plugin, int type)
+{
+    QByteArray told;
+    int status = 0;
+    ChildProcess::run(
+        [&](int result) {
+            QString error;
+            const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
+            QByteArray bytes;
+            QDataStream stream(&bytes, QIODevice::WriteOnly);
+            ProbeUnit unit;
+            if (box && unit.start(plugin, type, greeting(*box->speaker()), &error)) {
+                stream << unit.screens().steps();
+            }
+            ChildProcess::writeAll(result, bytes);
+        },
+        &told, &status);
+    QVector<ScreenPath::Step> steps;
+    QDataStream stream(told);
+    stream >> steps;
+    return steps;
 }

@@ -1,9 +1,9 @@
 #include "probeunit.h"
 
+#include "childprocess.h"
 #include "headunitoptions.h"
 #include "virtualline.h"
 
-#include "jsontext.h"
 #include "orbhost.h"
 
 #include <QDataStream>
@@ -28,54 +28,17 @@ const int TurnMs = 1000;      // of trials in turn: what the first one brings ab
 const int MostWaits = 8;      // for a time in which the plug-in says nothing by itself
 const uint LongestTrial = 10; // s of real time, for a plug-in that never comes back
 
+// A unit's maker lists by number which settings its car has; a decoder leaves out those that it does not know.
+QStringList everySetting()
+{
+    return QString("1 2 3 4 128 129 130 131 132 133 134 135 136 137 138 144 145 146 147 148").split(' ');
+}
+
 void letPass(int ms)
 {
     QEventLoop loop;
     QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-QByteArray readAll(int descriptor)
-{
-    QByteArray bytes;
-    char part[16384];
-    for (ssize_t count = 1; count > 0;) {
-        count = ::read(descriptor, part, sizeof part);
-        bytes.append(part, int(qMax(ssize_t(0), count)));
-    }
-    return bytes;
-}
-
-void writeAll(int descriptor, const QByteArray &bytes)
-{
-    for (int written = 0; written < bytes.size();) {
-        const ssize_t count =
-            ::write(descriptor, bytes.constData() + written, size_t(bytes.size() - written));
-        if (count <= 0) {
-            ::_exit(1);
-        }
-        written += int(count);
-    }
-}
-
-// Forks, and has the child run \a life and end; what it wrote to the descriptor that it is given. False when
-// the system gives no process.
-bool inChild(const std::function<void(int)> &life, QByteArray *told, int *status)
-{
-    int ends[2];
-    if (::pipe(ends) != 0) {
-        return false;
-    }
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::close(ends[0]);
-        life(ends[1]);
-        ::_exit(0);
-    }
-    ::close(ends[1]);
-    *told = readAll(ends[0]);
-    ::close(ends[0]);
-    return child > 0 && ::waitpid(child, status, 0) == child;
 }
 
 } // namespace
@@ -107,6 +70,7 @@ bool ProbeUnit::start(const QString &plugin, int type, const Packages &greeting,
     host->setSettingsDir(m_settings.path());
     host->setTag(HeadUnitOptions::CanBusTypeTag, type);
     host->setProductValue("CANPortName", m_line.devicePath());
+    host->setFactorySetting("SettingItemTypes", everySetting());
     m_screen.reset(new UnitScreen(UnitScreen::standardSize()));
     m_screen->setUpdatesEnabled(false);
     m_screen->show();
@@ -202,7 +166,7 @@ int ProbeUnit::runChild(const QVector<Packages> &trials, int from, QVector<Trial
 {
     QByteArray told;
     int status = 0;
-    const bool isRun = inChild(
+    const bool isRun = ChildProcess::run(
         [&](int result) {
             QElapsedTimer clock;
             clock.start();
@@ -329,7 +293,7 @@ void ProbeUnit::tell(const QByteArray &package, int result)
     for (const CallWatch::Call &call : std::as_const(calls)) {
         stream << call.object << call.name << call.args;
     }
-    writeAll(result, told);
+    ChildProcess::writeAll(result, told);
 }
 
 QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
@@ -337,7 +301,7 @@ QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
 {
     QByteArray told;
     int status = 0;
-    inChild(
+    ChildProcess::run(
         [&](int result) {
             ::alarm(LongestTrial);
             m_watch->forget();
@@ -345,7 +309,7 @@ QByteArray ProbeUnit::observe(const std::function<void()> &act, int ms,
                 QByteArray bytes;
                 QDataStream stream(&bytes, QIODevice::WriteOnly);
                 report(&stream);
-                writeAll(result, bytes);
+                ChildProcess::writeAll(result, bytes);
                 ::_exit(0);
             });
             act();
@@ -383,5 +347,5 @@ ProbeUnit::Packages ProbeUnit::sent() const
 // What the unit said is of no interest here, and would fill the line.
 void ProbeUnit::drainLine()
 {
-    readAll(m_line.farEnd());
+    ChildProcess::readAll(m_line.farEnd());
 }

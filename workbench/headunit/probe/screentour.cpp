@@ -14,18 +14,6 @@ namespace {
 
 const int StepMs = 20; // between two taps: what the first one opens is there
 
-// The windows in which a driver can tap now.
-QVector<QWidget *> openScreens()
-{
-    QVector<QWidget *> screens;
-    for (QWidget *window : OrbHost::instance()->windows()) {
-        if (!window->isHidden() && !qobject_cast<QDialog *>(window)) {
-            screens << window;
-        }
-    }
-    return screens;
-}
-
 } // namespace
 
 ScreenTour::ScreenTour(ProbeUnit *unit) : m_unit(unit) {}
@@ -49,7 +37,7 @@ ScreenTour::Effect ScreenTour::effectOf(const std::function<void()> &act, const 
     };
     const auto report = [this](QDataStream *stream) {
         QStringList opened;
-        for (const QWidget *window : openScreens()) {
+        for (const QWidget *window : ScreenPath::openWindows()) {
             opened << ScreenReader::nameOf(window);
         }
         for (const Screen &screen : m_screens) {
@@ -73,40 +61,39 @@ ScreenTour::Effect ScreenTour::effectOf(const std::function<void()> &act, const 
 
 void ScreenTour::open(HeadUnit *head)
 {
-    for (const unsigned int app : OrbHost::instance()->titledApps()) {
-        const Packages asked = effectOf([head, app] { head->showApp(app); }, {}).sent;
-        head->showApp(app);
-        add(QString(), asked);
+    for (const ScreenPath::Step &step : ScreenPath::launcher()) {
+        const Packages asked = effectOf([&] { m_path.take(step, head); }, {}).sent;
+        m_path.take(step, head);
+        add(step, QString(), asked);
     }
-    for (int place = 0; place < m_places.size(); ++place) {
-        openFrom(place);
+    for (int place = 0; place < m_path.screens().size(); ++place) {
+        openFrom(place, head);
     }
 }
 
-// Takes the screens that have come.
-void ScreenTour::add(const QString &openedBy, const Packages &asked)
+// Takes the screens that have come by \a step.
+void ScreenTour::add(const ScreenPath::Step &step, const QString &openedBy, const Packages &asked)
 {
     m_unit->settle(StepMs);
-    for (QWidget *window : openScreens()) {
-        bool isKnown = false;
-        for (const Place &place : std::as_const(m_places)) {
-            isKnown = isKnown || place.window == window;
-        }
-        if (!isKnown) {
-            m_screens << Screen{ScreenReader::nameOf(window), openedBy, asked, {}};
-            m_places << Place{window, ScreenTap::targets(window)};
-        }
+    const int count = m_path.addNew();
+    for (int i = m_path.screens().size() - count; i < m_path.screens().size(); ++i) {
+        m_screens << Screen{ScreenReader::nameOf(m_path.screens().at(i).window), openedBy, asked, {}};
+    }
+    if (count > 0) {
+        m_steps << step;
     }
 }
 
-void ScreenTour::openFrom(int place)
+void ScreenTour::openFrom(int place, HeadUnit *head)
 {
-    const QVector<ScreenTap::Target> targets = m_places.at(place).targets;
-    for (const ScreenTap::Target &target : targets) {
-        const Effect effect = effectOf([target] { target.tap(); }, {});
+    const QVector<ScreenTap::Target> targets = m_path.screens().at(place).targets;
+    for (int i = 0; i < targets.size(); ++i) {
+        const ScreenTap::Target &target = targets.at(i);
+        const ScreenPath::Step step = {0, {}, place, i};
+        const Effect effect = effectOf([&] { m_path.take(step, head); }, {});
         if (!effect.opened.isEmpty() && !effect.isDialog) {
-            target.tap();
-            add(m_screens.at(place).name + ": " + target.name, effect.sent);
+            m_path.take(step, head);
+            add(step, m_screens.at(place).name + ": " + target.name, effect.sent);
         } else if (effect.hasTurned && target.row < 0 && !effect.isDialog) {
             m_turns << target;
         }
@@ -115,8 +102,8 @@ void ScreenTour::openFrom(int place)
 
 void ScreenTour::tapAll()
 {
-    for (int place = 0; place < m_places.size(); ++place) {
-        for (const ScreenTap::Target &target : std::as_const(m_places[place].targets)) {
+    for (int place = 0; place < m_path.screens().size(); ++place) {
+        for (const ScreenTap::Target &target : m_path.screens().at(place).targets) {
             const QVector<Answer> answers = answersOf(target);
             if (!answers.isEmpty()) {
                 m_screens[place].controls << Control{target.name, answers};

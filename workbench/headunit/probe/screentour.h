@@ -1,7 +1,7 @@
 #ifndef SCREENTOUR_H
 #define SCREENTOUR_H
 
-#include "screentap.h"
+#include "screenpath.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -48,6 +48,8 @@ public:
 
     /// In the order in which they were found, without the controls before tapAll().
     const QVector<Screen> &screens() const { return m_screens; }
+    /// What opens them all again, one after the other.
+    const QVector<ScreenPath::Step> &steps() const { return m_steps; }
     /// The buttons that turn a screen to something else that it can show.
     const QVector<ScreenTap::Target> &turns() const { return m_turns; }
 
@@ -60,20 +62,15 @@ private:
         bool isDialog;
         Packages sent;
     };
-    struct Place
-    {
-        QPointer<QWidget> window;
-        QVector<ScreenTap::Target> targets;
-    };
-
     Effect effectOf(const std::function<void()> &act, const QVector<int> &steps) const;
-    void add(const QString &openedBy, const Packages &asked);
-    void openFrom(int place);
+    void add(const ScreenPath::Step &step, const QString &openedBy, const Packages &asked);
+    void openFrom(int place, HeadUnit *head);
     QVector<Answer> answersOf(const ScreenTap::Target &target) const;
 
     ProbeUnit *m_unit;
     QVector<Screen> m_screens;
-    QVector<Place> m_places; // of each screen
+    ScreenPath m_path; // its screens are those of m_screens
+    QVector<ScreenPath::Step> m_steps;
     QVector<ScreenTap::Target> m_turns;
 };
 

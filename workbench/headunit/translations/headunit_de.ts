@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Blendet Pakete aus, die wie das vorige ihres Befehls sind</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
@@ -443,6 +447,26 @@
     <message>
         <source>Caused</source>
         <translation>Bewirkt</translation>
+    </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>FALSCH %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>KEIN PAKET</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LEITUNG</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>AUFRUF</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TASTE</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Oculta los paquetes iguales al anterior de su comando</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
@@ -443,6 +447,26 @@
     <message>
         <source>Caused</source>
         <translation>Efecto</translation>
+    </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>MALO %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>NO ES UN PAQUETE</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LÍNEA</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>LLAMADA</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TECLA</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Cache les paquets identiques au précédent de leur commande</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
@@ -443,6 +447,26 @@
     <message>
         <source>Caused</source>
         <translation>Effet</translation>
+    </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>MAUVAIS %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>PAS UN PAQUET</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>LIGNE</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>APPEL</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>TOUCHE</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>Скрывает пакеты, равные предыдущему той же команды</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
@@ -443,6 +447,26 @@
     <message>
         <source>Caused</source>
         <translation>Вызвано</translation>
+    </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>ПЛОХОЙ %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>НЕ ПАКЕТ</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>ЛИНИЯ</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>ВЫЗОВ</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>КНОПКА</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,10 @@
         <source>Hides packages that are as the one of their command before</source>
         <translation>隐藏与同命令上一包相同的包</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>InspectionFilter</name>
@@ -443,6 +447,26 @@
     <message>
         <source>Caused</source>
         <translation>引起</translation>
+    </message>
+    <message>
+        <source>BAD %1</source>
+        <translation>错误 %1</translation>
+    </message>
+    <message>
+        <source>NO PACKAGE</source>
+        <translation>非数据包</translation>
+    </message>
+    <message>
+        <source>LINE</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>CALL</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>按键</translation>
     </message>
 </context>
 <context>
