@@ -6,7 +6,6 @@
 #include "orbapplication.h"
 #include "orbhost.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -19,9 +18,6 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     static QTemporaryDir folder;
     OrbHost::instance()->setSettingsDir(folder.filePath("settings"));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path())); // where filters are kept
-    if (!QDir(folder.path()).mkdir("words") || !QDir::setCurrent(folder.filePath("words"))) {
-        qFatal("no folder");
-    }
     return 0;
 }
 

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
@@ -31,7 +32,7 @@ const NamedFile NamedFiles[] = {
      "# orblog 1\n# type 7 CanBus_Raise_Honda\n# line 38400 8N1\n"
      "(0.100000) < 2e20020101db\n(0.101000) > ff\n(0.200000) ! 2e2e\n(0.300000) < 2e20020100dc\n"},
     {"a.hex", "0.1 RX 2E 20 02 01 01 DB\n0.2 TX FF\n"},
-    {"a.scn", "0 radar 1\n100 key 1\n"},
+    {"a.scn", "1.0 doors.front_left on\n2.0 climate.left 20.5\n"},
     {"a.script", "help\nquit\n"},
 };
 
@@ -41,7 +42,7 @@ struct Begun
 
 void layOut()
 {
-    QDir folder;
+    const QDir folder;
     for (const QFileInfo &entry :
          folder.entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System)) {
         if (entry.isDir() && !entry.isSymLink()) {
@@ -66,6 +67,25 @@ QStringList split(QByteArray text)
     }
     return words;
 }
+
+// While it lives, the process is in a folder of its own, which holds what the words may name and nothing else.
+class OwnFolder
+{
+public:
+    OwnFolder() : m_before(QDir::currentPath())
+    {
+        static const QTemporaryDir folder;
+        if (!QDir::setCurrent(folder.path())) {
+            qFatal("no folder");
+        }
+        layOut();
+    }
+    ~OwnFolder() { QDir::setCurrent(m_before); }
+    Q_DISABLE_COPY(OwnFolder)
+
+private:
+    const QString m_before;
+};
 
 // While it lives, what the program prints goes nowhere; a sanitizer's report does not come this way.
 class Quiet
@@ -142,7 +162,7 @@ void HostileCommand::readHeadUnit(const QByteArray &text)
     if (!command) {
         return;
     }
-    layOut();
+    const OwnFolder folder;
     int exitCode = Command::Fine;
     {
         const Quiet quiet;
@@ -159,7 +179,7 @@ void HostileCommand::readHeadUnit(const QByteArray &text)
 
 void HostileCommand::readDecoderBox(const QByteArray &text)
 {
-    layOut();
+    const OwnFolder folder;
     const Quiet quiet;
     BoxProgram program;
     int exitCode = 0;

@@ -10,7 +10,7 @@ enum Kind { Drive, BoxOrder, Script, Settings, CommandLine, Filter, SubCommand, 
 
 /// Reads \a text as \a kind, for the box of \a type where that counts, and does what it says where that stays inside the
 /// process. Ends the program when a refusal has no reason, or settings that were written read as something else. Needs
-/// an OrbApplication, and a settings folder and a working folder of the test's own.
+/// an OrbApplication, and a settings folder of the test's own.
 void read(Kind kind, int type, const QByteArray &text);
 
 } // namespace HostileText
