@@ -5,7 +5,8 @@
 #     tools/golden.sh --update [NAME...]  writes the traces anew; look at the difference before you commit it
 #     tools/golden.sh --list              each drive, the box that plays it, the rows of its trace
 #
-# CANBUS_BUILD names the build folder (default: build) with headunit and decoderbox in it, CANBUS_EMULATOR what runs them. docs/golden-drives.md says more.
+# CANBUS_BUILD names the build folder (default: build) with headunit and decoderbox in it, CANBUS_EMULATOR what runs them
+# if that is not this machine. docs/golden-drives.md says more.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${CANBUS_BUILD:-$root/build}
