@@ -3,13 +3,17 @@
 #include "adapterfactory.h"
 #include "boxcatalog.h"
 #include "canbusadapter.h"
+#include "linelogformats.h"
 #include "orbapplication.h"
 #include "orbhost.h"
+#include "orbtrace.h"
 #include "screenbench.h"
+#include "serialtap.h"
 #include "sidepanel.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -23,6 +27,7 @@ const char *const Link = "ttyBox";
 const QSize Room(1366 - 8, 768 - 44); // what a small laptop leaves a window
 const int StartTime = 1500;           // ms: the line is open and the box has said how the car is
 const int SayTime = 600;
+const int DecodeTime = 2;       // ms: until the unit reads what is there
 const int Silence = 2000000000; // ms
 
 } // namespace
@@ -80,6 +85,25 @@ void DeskBench::drive(const QStringList &changes)
     }
 }
 
+void DeskBench::hear(const QString &log, int ms)
+{
+    QString error;
+    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(log, {}, &error);
+    QVERIFY2(reader, qPrintable(error));
+    const qint64 start = SerialTap::now();
+    for (LineRecord record; reader->next(&record) && record.microseconds < ms * qint64(1000);) {
+        passTime(int(qMax<qint64>(0, start + record.microseconds - SerialTap::now()) / 1000));
+        for (SerialTapObserver *observer : SerialTap::observers()) {
+            observer->received(record.bytes, SerialTap::now());
+        }
+        passTime(DecodeTime);
+        OrbTrace::listener->called("ProtocolUtils", "recvProtocolData", {record.bytes});
+        QVERIFY(
+            QMetaObject::invokeMethod(m_adapter.get(), "onRecvMcuProtocol", Q_ARG(QByteArray, record.bytes)));
+    }
+    passTime(SayTime);
+}
+
 QWidget *DeskBench::page(int index) const
 {
     m_window->sidePanel()->showPage(index);
@@ -87,6 +111,10 @@ QWidget *DeskBench::page(int index) const
     // The system gives a terminal another number each time.
     for (QLabel *label : m_window->sidePanel()->findChildren<QLabel *>()) {
         label->setText(label->text().replace(QRegularExpression("/dev/pts/[0-9]+"), "/dev/pts/0"));
+    }
+    // Nor does a line between two real ends keep its times.
+    for (QPlainTextEdit *log : m_window->sidePanel()->findChildren<QPlainTextEdit *>()) {
+        log->clear();
     }
     const QStackedWidget *const pages = m_window->sidePanel()->findChild<QStackedWidget *>();
     return qobject_cast<QScrollArea *>(pages->currentWidget())->widget();

@@ -10,6 +10,7 @@
 #include "linepage.h"
 #include "linereplayer.h"
 #include "sidepanel.h"
+#include "terminalpair.h"
 #include "virtualclock.h"
 
 #include <QPushButton>
@@ -19,9 +20,6 @@ namespace {
 
 enum Type { Volkswagen = 3, XinHang = 4, Toyota = 9, Gm = 10, Jeep = 15 };
 const QSize Laptop(1366, 768);
-
-const QStringList Warmer = {"climate.ac on",       "climate.fan 4",        "climate.left 23.5",
-                            "doors.front_left on", "doors.front_left off", "steering.angle -120"};
 
 void drawDesk(const Scene::Shot &shot)
 {
@@ -57,25 +55,63 @@ void drawKeyTester(const Scene::Shot &shot)
     shot(page);
 }
 
-void drawBoxInTrouble(const Scene::Shot &shot)
+// Without a box at the other end: the line's times are those that a log has.
+struct QuietLine
 {
-    DeskBench desk(Toyota);
-    desk.window()->sidePanel()->boxPage()->play("no/such.scn");
-    desk.box()->unplug();
-    passTime(6000);
+    QuietLine()
+    {
+        QString error;
+        QVERIFY2(far.open(&error), qPrintable(error));
+    }
+
+    TerminalPair far;
+};
+
+const char *const Log = LOG_FOLDER "/toyota.orblog";
+
+// Of a car that is well: the virtual box, the line and the unit.
+void drawHealthyPages(const Scene::Shot &shot)
+{
+    {
+        DeskBench desk(Toyota, DeskBench::SilentBox);
+        desk.box()->holdTongue(0);
+        desk.drive({"doors.front_left on"});
+        shot(desk.page(2));
+    }
+    QuietLine line;
+    DeskBench desk(Toyota, DeskBench::NoBox, UnitScreen::standardSize(), line.far.devicePath());
+    desk.hear(Log, 4000);
+    shot(desk.page(1));
     shot(desk.page(2));
-    shot(desk.page(3));
+}
+
+void drawTrouble(const Scene::Shot &shot)
+{
+    {
+        DeskBench desk(Toyota, DeskBench::SilentBox);
+        desk.window()->sidePanel()->boxPage()->play("no/such.scn");
+        desk.box()->unplug();
+        passTime(6000);
+        shot(desk.page(2));
+    }
+    std::unique_ptr<QuietLine> line(new QuietLine);
+    DeskBench desk(Toyota, DeskBench::NoBox, UnitScreen::standardSize(), line->far.devicePath());
+    desk.hear(Log, 4000);
+    line.reset();
+    passTime(6000);
+    shot(desk.page(1));
 }
 
 // All packages with one chosen, only what changed, and a filter that cannot be read.
 void drawInspector(const Scene::Shot &shot)
 {
-    DeskBench desk(Toyota);
+    QuietLine line;
+    DeskBench desk(Toyota, DeskBench::NoBox, UnitScreen::standardSize(), line.far.devicePath());
     desk.window()->sidePanel()->linePage()->openInspector();
     InspectorView *const inspector = desk.window()->findChild<InspectorView *>("inspectorWindow");
     inspector->resize(Laptop);
-    desk.drive(Warmer);
-    inspector->choosePackage(12);
+    desk.hear(Log, 6000);
+    inspector->choosePackage(23);
     shot(inspector);
     for (const char *words : {"dir=in changed", "cmd=0x28 and"}) {
         inspector->filterBar()->setWords(words);
@@ -135,14 +171,14 @@ QList<Scene> deskScenes()
         panel("panel-gm", "Of a car with knobs.", Gm, 2),
         panel("panel-jeep", "Of a car that has keys alone.", Jeep, 2),
         {"panel-keys", "The key tester: one key came up, one never did.", drawKeyTester},
-        {"panel-trouble", "A scenario that is not there, and a line that was pulled out.", drawBoxInTrouble,
-         false},
-        {"panel-replay", "A log that is replayed, and paused.", drawReplay, false},
+        {"panel-box-line-unit", "The pages of box, line and unit.", drawHealthyPages},
+        {"panel-trouble", "A scenario that is not there, and a line that was pulled out.", drawTrouble},
+        {"panel-replay", "A log that is replayed, and paused.", drawReplay},
         {"inspector",
          "The inspector (F8): what passes over the line, and what came of it; only what changed; a filter "
          "that cannot "
          "be read.",
-         drawInspector, false},
+         drawInspector},
         {"bits", "What each bit of a package does, and a package that cannot be tried.", drawBits},
         {"picker", "Which car? Asked where nobody has said it.", drawPicker},
     };

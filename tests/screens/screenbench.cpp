@@ -13,6 +13,7 @@
 #include <QEventLoop>
 #include <QLabel>
 #include <QPainter>
+#include <QScrollBar>
 #include <QThread>
 #include <QTimer>
 #include <QTranslator>
@@ -81,12 +82,20 @@ struct ScreenBench::Private
 Scene sceneOf(const QString &name, const QString &caption,
               const std::function<std::unique_ptr<QWidget>()> &make)
 {
-    return {name, caption,
-            [make](const Scene::Shot &shot) {
+    return {name, caption, [make](const Scene::Shot &shot) {
                 const std::unique_ptr<QWidget> shown = make();
                 shot(shown.get());
-            },
-            true};
+            }};
+}
+
+void shootList(QWidget *window, const Scene::Shot &shot)
+{
+    shot(window);
+    QScrollBar *const bar = window->findChild<TableListView *>()->verticalScrollBar();
+    while (bar->value() < bar->maximum()) {
+        bar->setValue(bar->value() + bar->pageStep());
+        shot(window);
+    }
 }
 
 void passTime(int ms)

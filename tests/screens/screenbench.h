@@ -21,14 +21,14 @@ struct Scene
     /// Builds it in the unit's language and calls \a shot while it is to be seen. Several shots are cut out and stand
     /// side by side.
     std::function<void(const Shot &shot)> draw;
-    /// False where it shows the line's times to the millisecond, which a busy machine moves: only its texts are
-    /// looked at, and the manual's picture is as it was last written.
-    bool isCompared = true;
 };
 
 /// A scene of one widget that \a make builds and shows.
 Scene sceneOf(const QString &name, const QString &caption,
               const std::function<std::unique_ptr<QWidget>()> &make);
+
+/// Has the whole of a list in \a window in the picture: page by page, when it is longer than one.
+void shootList(QWidget *window, const Scene::Shot &shot);
 
 /// Lets \a ms of virtual time pass in an event loop. QTest::qWait() would sleep in between, past what is on the line.
 void passTime(int ms);

@@ -8,6 +8,7 @@
 
 namespace {
 
+const int Toyota = 9;
 const int Mazda = 5; // a car without a climate that lies over the page
 
 /// The unit's own page, on a screen as large as the bench's: of a car that says nothing, of one that is parked, of one
@@ -29,6 +30,15 @@ void drawHome(const Scene::Shot &shot)
     shot(desk.window()->screen());
 }
 
+// A car whose cameras have a page; its box has said so.
+void drawCameras(const Scene::Shot &shot)
+{
+    DeskBench desk(Toyota, DeskBench::TalkingBox, OrbHost::instance()->screen()->size());
+    passTime(8000); // the climate goes away
+    desk.drive({"camera.view360 on"});
+    shot(desk.window()->screen());
+}
+
 } // namespace
 
 QList<Scene> unitScenes()
@@ -37,5 +47,6 @@ QList<Scene> unitScenes()
              "The unit's own page: nothing is known yet; all is shut; doors are open and something is close "
              "behind, "
              "after a key was pressed; the line was lost.",
-             drawHome}};
+             drawHome},
+            {"cameras", "The page of a car's cameras, while they show the surroundings.", drawCameras}};
 }

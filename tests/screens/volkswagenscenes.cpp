@@ -49,7 +49,7 @@ Scene settings(const QString &name, const QString &caption, unsigned int page, c
                 VWFunctionSetting window(page, &car.adapter);
                 window.show();
                 VwBench::feed(car.adapter, packages);
-                shot(&window);
+                shootList(&window, shot);
             }};
 }
 

@@ -40,7 +40,7 @@ void drawList(bool isFirst, const Scene::Shot &shot)
     }
     list.resetListTexts();
     list.show();
-    shot(&list);
+    shootList(&list, shot);
 }
 
 void drawDialogs(const Scene::Shot &shot)

@@ -27,7 +27,8 @@ void PlainCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     paintGround(painter, option);
     const QRect place = option.rect.adjusted(Margin, 0, -Margin, 0);
     QString text = index.data().toString();
-    const int most = place.width() / qMax(1, option.fontMetrics.horizontalAdvance(QLatin1Char('0')));
+    const int most =
+        int(place.width() / qMax(1.0, QFontMetricsF(option.font).horizontalAdvance(QLatin1Char('0'))));
     if (std::any_of(text.cbegin(), text.cend(), [](QChar letter) { return letter.unicode() > LastNarrow; })) {
         text = option.fontMetrics.elidedText(text, Qt::ElideRight, place.width());
     } else if (text.size() > most) {
