@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Inputs of the fuzzing programs, one a line in hexadecimal: fuzz/saved/TARGET.txt has those that reach all that was reached,
-fuzz/findings/TARGET.txt those that broke something once and stay.
+"""Inputs of the fuzzing programs, one a line in hexadecimal: fuzz/saved/TARGET.txt has those that reach all that was
+reached, fuzz/findings/TARGET.txt those that broke something once and stay.
 
     inputs.py seeds TARGET FOLDER     writes seeds from the golden drives as files
     inputs.py unpack TARGET FOLDER    writes the saved inputs and the findings as files
@@ -29,15 +29,17 @@ WINDOW_SHARE = 8  # as in linkdrive.cpp
 # Behind the programs' names; of the files that hostilecommand.cpp lays out.
 COMMANDS = [
     b"inspect a.orblog --filter cmd=0x20 --json", b"inspect a.hex --can-bus-type 7 --pattern (?<hex>.*)",
-    b"keys a.orblog --key-command 0x20", b"convert a.orblog b.candump --can-bus-type 7", b"convert a.hex b.pcapng --frame raise",
-    b"convert a.orblog b.csv --json", b"convert a.hex b.hex --pattern (?<time>\\S+) (?<dir>RX|TX) (?<hex>.*)", b"diff honda 7 --json",
-    b"identify a.orblog --hello --seconds 1 --json", b"probe --can-bus-type 7 --frame 200201 --byte 0 --values --markdown",
-    b"probe --all . --drives . --can-bus-type 7", b"check a.scn --seconds 1 --json", b"check --list-ports",
-    b"record b.orblog --can-bus-type 7", b"replay a.orblog --speed max --loop --from 0.1 --to 2 --until call=x --wait-ack",
+    b"keys a.orblog --key-command 0x20", b"convert a.orblog b.candump --can-bus-type 7",
+    b"convert a.hex b.pcapng --frame raise", b"convert a.orblog b.csv --json",
+    b"convert a.hex b.hex --pattern (?<time>\\S+) (?<dir>RX|TX) (?<hex>.*)", b"diff honda 7 --json",
+    b"identify a.orblog --hello --seconds 1 --json", b"check a.scn --seconds 1 --json", b"check --list-ports",
+    b"probe --can-bus-type 7 --frame 200201 --byte 0 --values --markdown",
+    b"probe --all . --drives . --can-bus-type 7", b"record b.orblog --can-bus-type 7",
+    b"replay a.orblog --speed max --loop --from 0.1 --to 2 --until call=x --wait-ack",
 ]
 BOX_COMMANDS = [
-    b"--type 7 --link l --scenario a.scn --log b --seed 4 --unpaced", b"--type CanBus_Raise_Honda --script a.script", b"--list",
-    b"--box a.hex --type 1", b"--type 4 --script - --log -",
+    b"--type 7 --link l --scenario a.scn --log b --seed 4 --unpaced", b"--type CanBus_Raise_Honda --script a.script",
+    b"--list", b"--box a.hex --type 1", b"--type 4 --script - --log -",
 ]
 
 

@@ -273,7 +273,7 @@ private:
     int m_tailAt = 0;
 };
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef IS_SANITIZED
 const qint64 MostGrowth = 512 << 20; // bytes; the sanitizer holds back what is freed
 #else
 const qint64 MostGrowth = 8 << 20; // bytes
