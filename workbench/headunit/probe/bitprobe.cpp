@@ -20,9 +20,7 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
         for (const QString &arg : call.args) {
             const QString key = arg.section('=', 0, 0);
             const QString value = arg.section('=', 1);
-            if (key == "type" && value != QString::number(OrbEventType::Notify)) {
-                about += ' ' + value;
-            } else if (key == "param") {
+            if (key == "param" || (key == "type" && value != QString::number(OrbEventType::Notify))) {
                 about += ' ' + value;
             } else if (key != "source" && key != "id" && key != "type") {
                 (*values)[about + (key == "param2" ? QString() : ' ' + key)] << value;
