@@ -61,8 +61,10 @@ QString StatusBar::clockText() const
 
 void StatusBar::setApplication(const QString &name)
 {
-    m_application = name;
-    update();
+    if (name != m_application) { // what is painted up here has all below painted with it
+        m_application = name;
+        update();
+    }
 }
 
 void StatusBar::setMode(const QString &name)
@@ -88,7 +90,8 @@ void StatusBar::setVolume(int volume, int loudest, bool isMuted)
 
 void StatusBar::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() == m_clockTimer.timerId()) {
+    if (event->timerId() == m_clockTimer.timerId() && clockText() != m_shownClock) {
+        m_shownClock = clockText();
         update();
     }
 }

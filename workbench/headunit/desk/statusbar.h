@@ -35,6 +35,7 @@ private:
     int paintCall(QPainter *painter, int right) const;
 
     QBasicTimer m_clockTimer;
+    QString m_shownClock;
     bool m_isTwelveHour = false;
     QString m_application;
     QString m_mode;

@@ -123,23 +123,32 @@ void LineInspector::valueTold(const QString &name, const QVariant &value)
 void LineInspector::lookBefore()
 {
     const InspectionRow *row = m_inspection.current();
-    const bool isLate = m_screensPerSecond == 0 || now() - m_looked >= Second / m_screensPerSecond;
-    if (m_screens && row && isLate && (m_screensPerSecond == 0 || row->isNew()) && isAnythingOpen()) {
+    if (m_screens && row && isWorthALook(*row) && isAnythingOpen()) {
         m_looked = now();
         m_isLooking = true;
         m_screens->remember();
     }
 }
 
-// A package that causes calls is told by those: that they change a screen is no news.
+bool LineInspector::isWorthALook(const InspectionRow &row) const
+{
+    return m_screensPerSecond == 0 || (row.isNew() && !m_callers.contains(row.command) &&
+                                       now() - m_looked >= Second / m_screensPerSecond);
+}
+
+// A package that causes calls is told by those: that they change a screen is no news. Nor will the next of its command
+// be asked, most likely.
 void LineInspector::lookAfter()
 {
     const InspectionRow *row = m_inspection.current();
-    if (m_isLooking && row && row->calls.isEmpty()) {
-        const ScreenReader::Texts changes = m_screens->changes();
+    if (row && row->kind == InspectionRow::Package && row->calls.isEmpty()) {
+        m_callers.remove(row->command);
+        const ScreenReader::Texts changes = m_isLooking ? m_screens->changes() : ScreenReader::Texts();
         for (auto at = changes.cbegin(); at != changes.cend(); ++at) {
             m_inspection.called(QString("screen %1 %2").arg(at.key(), at.value()));
         }
+    } else if (row && row->kind == InspectionRow::Package) {
+        m_callers.insert(row->command);
     }
     m_isLooking = false;
 }

@@ -6,6 +6,7 @@
 #include "orbtrace.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <memory>
 
@@ -57,6 +58,7 @@ private:
     void endSoon();
     void end();
     void lookBefore();
+    bool isWorthALook(const InspectionRow &row) const;
     void lookAfter();
     qint64 now() const;
 
@@ -66,6 +68,7 @@ private:
     std::unique_ptr<ScreenReader> m_screens; // null: nobody reads them
     bool m_isDeaf = false;
     int m_screensPerSecond = 0;
+    QSet<quint8> m_callers;   // commands whose last package caused calls
     qint64 m_looked = 0;      // microseconds of the last package whose screens were read
     bool m_isLooking = false; // at what the package under way changes
     int m_turns = 0;          // under way, of packages and keys that end() has not come for yet

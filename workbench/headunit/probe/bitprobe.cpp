@@ -21,10 +21,9 @@ void take(const CallWatch::Call &call, QMap<QString, QStringList> *values)
         for (const QString &arg : call.args) {
             const QString key = arg.section('=', 0, 0);
             const QString value = arg.section('=', 1);
-            const bool isNotice = key == "type" && value == QString::number(OrbEventType::Notify);
-            if ((key == "type" && !isNotice) || key == "param") {
+            if (key == "param" || (key == "type" && value != QString::number(OrbEventType::Notify))) {
                 about += ' ' + value;
-            } else if (key != "source" && key != "id" && !isNotice) {
+            } else if (key != "source" && key != "id" && key != "type") {
                 (*values)[about + (key == "param2" ? QString() : ' ' + key)] << value;
             }
         }
