@@ -63,8 +63,9 @@ void WindowStack::add(QWidget *window, Kind kind, unsigned int appId)
 void WindowStack::setKind(QWidget *window, Kind kind)
 {
     const int index = indexInOrder(window);
-    if (index >= 0) {
+    if (index >= 0 && m_order.at(index).kind != kind) {
         m_order[index].kind = kind;
+        m_visible.clear();
     }
 }
 
@@ -76,6 +77,7 @@ void WindowStack::remove(QWidget *window)
     }
     m_order.removeAt(index);
     m_all.removeAll(window);
+    m_visible.clear();
     restack();
     Q_EMIT changed();
 }
@@ -110,7 +112,7 @@ void WindowStack::shown(QWidget *window)
     }
     m_order.append(m_order.takeAt(index));
     restack();
-    Q_EMIT changed();
+    tellChanges();
 }
 
 void WindowStack::hidden(QWidget *window)
@@ -119,7 +121,22 @@ void WindowStack::hidden(QWidget *window)
         return;
     }
     restack();
-    Q_EMIT changed();
+    tellChanges();
+}
+
+// A car repeats its climate, and each time the display is shown that is there already.
+void WindowStack::tellChanges()
+{
+    QList<QWidget *> visible;
+    for (int i = 0; i < m_order.size(); ++i) {
+        if (!m_order.at(i).window->isHidden()) {
+            visible.append(m_order.at(i).window);
+        }
+    }
+    if (visible != m_visible) {
+        m_visible = visible;
+        Q_EMIT changed();
+    }
 }
 
 void WindowStack::areaChanged()

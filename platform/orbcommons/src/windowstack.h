@@ -63,6 +63,7 @@ public Q_SLOTS:
     void goHome();
 
 Q_SIGNALS:
+    /// Others are visible than before, in another order, or one is gone.
     void changed();
 
 private:
@@ -78,9 +79,11 @@ private:
     void setGeometryOf(const Entry &entry);
     void setParentQuietly(QWidget *window, QWidget *parent);
     void restack();
+    void tellChanges();
 
     QList<QWidget *> m_all;
-    QList<Entry> m_order; ///< bottom to top within each kind
+    QList<Entry> m_order;       ///< bottom to top within each kind
+    QList<QWidget *> m_visible; ///< as last told; only compared, since they may be gone
     QWidget *m_area;
     QPointer<QWidget> m_scrim;
     const QWidget *m_quiet; ///< whose setVisible is the stack's own doing

@@ -34,7 +34,7 @@ int unitKeyOf(int key)
 } // namespace
 
 UnitView::UnitView(UnitScreen *screen, QWidget *parent)
-    : QGraphicsView(new QGraphicsScene, parent), m_unitSize(screen->size())
+    : QGraphicsView(new QGraphicsScene, parent), m_screen(screen), m_unitSize(screen->size())
 {
     scene()->setParent(this);
     setObjectName(QStringLiteral("unitView"));
@@ -50,29 +50,31 @@ UnitView::UnitView(UnitScreen *screen, QWidget *parent)
     // What lies below need not be painted ten times a second.
     setBackgroundBrush(Surroundings);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    setViewportUpdateMode(NoViewportUpdate); // but when change() says so
     m_rest.setSingleShot(true);
     m_rest.setInterval(PictureInterval);
-    connect(scene(), &QGraphicsScene::changed, this, &UnitView::change);
     connect(&m_rest, &QTimer::timeout, this, &UnitView::showChanges);
+    screen->installEventFilter(this);
 }
 
-void UnitView::change(const QList<QRectF> &places)
+// The screen gathers what is to be painted until this event arrives. (The scene would tell as well that something has
+// changed, but not where: it names the whole screen.)
+bool UnitView::eventFilter(QObject *screen, QEvent *event)
 {
-    for (const QRectF &place : places) {
-        m_changed += mapFromScene(place).boundingRect().adjusted(-1, -1, 1, 1);
+    if (event->type() != QEvent::UpdateRequest) {
+        return QGraphicsView::eventFilter(screen, event);
     }
-    if (!m_rest.isActive() || QGuiApplication::mouseButtons() != Qt::NoButton) {
-        showChanges();
+    m_isLate = m_rest.isActive() && QGuiApplication::mouseButtons() == Qt::NoButton;
+    if (!m_isLate) {
+        m_rest.start();
     }
+    return m_isLate;
 }
 
 void UnitView::showChanges()
 {
-    if (!m_changed.isEmpty()) {
-        viewport()->update(m_changed);
-        m_changed = QRegion();
-        m_rest.start();
+    if (m_isLate) {
+        QEvent request(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(m_screen, &request);
     }
 }
 

@@ -2,7 +2,6 @@
 #define UNITVIEW_H
 
 #include <QGraphicsView>
-#include <QRegion>
 #include <QTimer>
 
 class UnitScreen;
@@ -35,17 +34,18 @@ Q_SIGNALS:
     void keyUsed(int code, int phase);
 
 protected:
+    bool eventFilter(QObject *screen, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    void change(const QList<QRectF> &places);
     void showChanges();
 
+    UnitScreen *m_screen;
     QSize m_unitSize;
-    QRegion m_changed; ///< of the viewport, since the last picture
-    QTimer m_rest;     ///< until the next picture may be painted
+    QTimer m_rest;         ///< until the next picture may be painted
+    bool m_isLate = false; ///< something waits for it
 };
 
 #endif // UNITVIEW_H
