@@ -51,6 +51,9 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     : QWidget(parent), m_unit(unit)
 {
     DeskStyle::load();
+    // The desk's own texts are there from here on, before anything is built that shows them. The driver reads
+    // English from the English file; headless a trace shows the source texts.
+    OrbHost::instance()->setLanguage(OrbHost::instance()->language());
     setObjectName(QStringLiteral("deskWindow"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(DeskStyle::sheet());
@@ -88,8 +91,6 @@ DeskWindow::DeskWindow(HeadUnit *unit, DecoderBox *box, const QSize &screenSize,
     connect(m_fold, &QToolButton::clicked, this, [this] { foldPanel(!isPanelFolded()); });
     addShortcuts();
     UnitPage *unitPage = m_sidePanel->unitPage();
-    // The driver reads English from the English file; headless a trace shows the source texts.
-    OrbHost::instance()->setLanguage(OrbHost::instance()->language());
     unitPage->setLanguage(OrbHost::instance()->language());
     connect(unitPage, &UnitPage::languageChosen, this, &DeskWindow::chooseLanguage);
     connect(unitPage, &UnitPage::diskChanged, this, [this](bool isIn, const QString &path) {
