@@ -85,6 +85,11 @@ void DeskBench::drive(const QStringList &changes)
     }
 }
 
+void DeskBench::removePort()
+{
+    QVERIFY(QFile::remove(Link));
+}
+
 void DeskBench::hear(const QString &log, int ms)
 {
     QString error;

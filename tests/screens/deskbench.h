@@ -24,6 +24,9 @@ public:
 
     /// Carries out what a scenario would: "climate.left 23". Then lets the box say it.
     void drive(const QStringList &changes);
+    /// Takes the port's name away, as the system does with a device that is pulled out: the number that a terminal had
+    /// is soon another program's.
+    void removePort();
     /// Has the desk hear the first \a ms of a log, and the decoder take its packages, as if they passed over the line: at
     /// the log's times to the millisecond, which a line between two ends of a busy machine does not keep.
     void hear(const QString &log, int ms);

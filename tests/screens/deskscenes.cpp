@@ -97,6 +97,7 @@ void drawTrouble(const Scene::Shot &shot)
     std::unique_ptr<QuietLine> line(new QuietLine);
     DeskBench desk(Toyota, DeskBench::NoBox, UnitScreen::standardSize(), line->far.devicePath());
     desk.hear(Log, 4000);
+    desk.removePort();
     line.reset();
     passTime(6000);
     shot(desk.page(1));
