@@ -24,7 +24,7 @@ void keepFonts()
 {
     static QList<QFont> fonts;
     for (int pixels = 8; pixels <= 80; ++pixels) {
-        for (const int weight : {QFont::Normal, QFont::Bold}) {
+        for (const QFont::Weight weight : {QFont::Normal, QFont::Bold}) {
             QFont font;
             font.setPixelSize(pixels);
             font.setWeight(weight);

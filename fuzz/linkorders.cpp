@@ -52,7 +52,10 @@ QTranslator *translator(quint8 number)
     QTranslator *&texts = read[number % int(std::size(Languages))];
     if (!texts) {
         texts = new QTranslator;
-        texts->load(QString(TRANSLATIONS "/canbus_%1.qm").arg(Languages[number % std::size(Languages)]));
+        const QString language = Languages[number % std::size(Languages)];
+        if (!texts->load(QString(TRANSLATIONS "/canbus_%1.qm").arg(language))) {
+            qFatal("no translation for '%s'", qPrintable(language));
+        }
     }
     return texts;
 }
