@@ -20,6 +20,7 @@ public:
     }
 
     int bufferSize() const { return recvBuffer.size(); }
+    QByteArray buffer() const { return recvBuffer; }
 
     QByteArrayList packages;
     std::function<void(const QByteArray &)> onPackage;

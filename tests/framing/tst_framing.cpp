@@ -326,7 +326,11 @@ void TestFraming::keptPackagesStayAsTheyWere()
     MemoryDevice device(Streams::clean(50), 16);
     receiver.attachIODevice(&device);
     QByteArrayList kept;
-    receiver.onPackage = [&](const QByteArray &package) { kept.append(package); };
+    QByteArray buffer; // a plug-in may keep that as well
+    receiver.onPackage = [&](const QByteArray &package) {
+        kept.append(package);
+        buffer = receiver.buffer();
+    };
     while (device.arm()) {
         receiver.onReadDeviceDatas();
     }

@@ -64,11 +64,13 @@ public:
 
     // Makes room for \a wanted bytes behind what \a buffer holds, and returns how much that is. What is framed stays
     // in front of the cursor until then: reads of a serial line bring a few bytes, and to move the rest to the front
-    // costs as much as framing half a package.
+    // costs as much as framing half a package. Nobody else holds the buffer from then on: an array that is parted from
+    // another's copy has room for its own bytes only.
     int makeRoom(QByteArray *buffer, int wanted)
     {
         const int held = int(buffer->size());
-        return buffer->capacity() - held >= wanted ? held : compact(buffer);
+        const bool hasRoom = buffer->isDetached() && buffer->capacity() - held >= wanted;
+        return hasRoom ? held : compact(buffer);
     }
     // Moves what is not framed yet, and the byte before it, to the front of \a buffer, and returns its size.
     int compact(QByteArray *buffer);
