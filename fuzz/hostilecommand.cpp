@@ -3,6 +3,7 @@
 #include "boxprogram.h"
 #include "command.h"
 #include "commandapplication.h"
+#include "commandline.h"
 #include "headunitoptions.h"
 #include "headunitprogram.h"
 #include "quitonsignals.h"
@@ -123,7 +124,7 @@ std::unique_ptr<OrbApplication> CommandApplication::makeUnit(QString *)
     throw Begun();
 }
 
-QString HeadUnitProgram::ownPlugin()
+QString HeadUnitProgram::pluginPath(const QString &)
 {
     return "no-plugin";
 }
@@ -133,9 +134,9 @@ int runUnit(const QStringList &arguments, const UnitCommand *command)
     HeadUnitOptions options;
     QString error;
     if (options.parse(arguments, &error, command)) {
-        return Command::Fine;
+        return CommandLine::Fine;
     }
-    return error.isEmpty() ? -1 : int(Command::WrongUsage);
+    return error.isEmpty() ? -1 : int(CommandLine::WrongUsage);
 }
 
 // The signals are libFuzzer's.
@@ -163,7 +164,7 @@ void HostileCommand::readHeadUnit(const QByteArray &text)
         return;
     }
     const OwnFolder folder;
-    int exitCode = Command::Fine;
+    int exitCode = CommandLine::Fine;
     {
         const Quiet quiet;
         try {
@@ -171,7 +172,7 @@ void HostileCommand::readHeadUnit(const QByteArray &text)
         } catch (const Begun &) {
         }
     }
-    if (exitCode < Command::Fine || exitCode > Command::WrongUsage) {
+    if (exitCode < CommandLine::Fine || exitCode > CommandLine::WrongUsage) {
         std::fprintf(stderr, "an exit code that means nothing: %d\n", exitCode);
         std::abort();
     }

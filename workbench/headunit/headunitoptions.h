@@ -12,10 +12,7 @@
 #include <functional>
 #include <optional>
 
-namespace CLI {
-class App;
-}
-
+class CommandLine;
 struct HeadUnitOptions;
 
 /// A sub-command that runs the unit: it takes the unit's options and some of its own.
@@ -23,7 +20,7 @@ struct UnitCommand
 {
     const char *name;
     const char *description;
-    std::function<void(CLI::App *)> addOptions;
+    std::function<void(CommandLine *)> addOptions;
     /// Sets what the command's own options mean for the unit, once all are read. False, with the reason in
     /// \a error, when they are wrong.
     std::function<bool(HeadUnitOptions *options, QString *error)> apply;

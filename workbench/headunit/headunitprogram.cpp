@@ -131,16 +131,18 @@ bool HeadUnitProgram::begin(QString *error)
     }
     watchLine();
     openScreen();
-    const QString plugin = m_options.plugin.isEmpty() ? ownPlugin() : m_options.plugin;
-    if (!m_unit->loadPlugin(plugin, error)) {
+    if (!m_unit->loadPlugin(pluginPath(m_options.plugin), error)) {
         return false;
     }
     startScript();
     return true;
 }
 
-QString HeadUnitProgram::ownPlugin()
+QString HeadUnitProgram::pluginPath(const QString &asked)
 {
+    if (!asked.isEmpty()) {
+        return asked;
+    }
     const QDir folder(QCoreApplication::applicationDirPath());
     const QString installed = folder.filePath(HEADUNIT_INSTALLED_PLUGIN);
     const QString built = folder.filePath(HEADUNIT_BUILT_PLUGIN);

@@ -35,8 +35,9 @@ public:
     /// the program's work. False, with one sentence in \a error, when the unit cannot run.
     bool begin(QString *error);
 
-    /// The plug-in that lies where this program's own build or installation puts it.
-    static QString ownPlugin();
+    /// The plug-in at \a asked; when that is empty, the one that lies where this program's own build or installation
+    /// puts it.
+    static QString pluginPath(const QString &asked = QString());
 
 private:
     bool openTrace(QString *error);

@@ -3,6 +3,7 @@
 #include "carpicker.h"
 #include "checkcommand.h"
 #include "command.h"
+#include "commandline.h"
 #include "deskmemory.h"
 #include "deskstyle.h"
 #include "headunitoptions.h"
@@ -40,7 +41,7 @@ void sayThatDisplayFails(QtMsgType type, const QMessageLogContext &, const QStri
         }
         complain(
             QString("the display '%1' cannot be opened; use --headless").arg(QString::fromLocal8Bit(name)));
-        ::_exit(Command::FoundSomething);
+        ::_exit(CommandLine::FoundSomething);
     }
 }
 
@@ -65,10 +66,10 @@ bool readOptions(const QStringList &arguments, const UnitCommand *command, HeadU
         const QString name = command ? QString("headunit ") + command->name : QString("headunit");
         const QString usage = QString("Usage: %1 [OPTIONS]\n%1 --help tells what there is.\n").arg(name);
         std::fputs(qPrintable(usage), stderr);
-        *exitCode = Command::WrongUsage;
+        *exitCode = CommandLine::WrongUsage;
         return false;
     }
-    *exitCode = Command::Fine;
+    *exitCode = CommandLine::Fine;
     if (options->wantsHelp) {
         std::fputs(qPrintable(options->usage), stdout);
     } else if (!options->version.isEmpty()) {
@@ -121,11 +122,11 @@ int runUnit(const QStringList &arguments, const UnitCommand *command)
         qputenv("QT_NO_GLIB", "1"); // whose event loop takes longer to wake up, and which nothing here needs
     } else if (!hasDisplay()) {
         complain("no display; use --headless");
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     if (options.virtualStart.isValid() && !VirtualClock::start(options.virtualStart.toSecsSinceEpoch())) {
         complain("the virtual clock does not reach the libraries of this program");
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     QByteArray name = arguments.first().toLocal8Bit();
     char *words[] = {name.data(), nullptr};
@@ -134,13 +135,13 @@ int runUnit(const QStringList &arguments, const UnitCommand *command)
     OrbApplication application(wordCount, words);
     qInstallMessageHandler(usual);
     if (!askForCar(&options)) {
-        return Command::Fine;
+        return CommandLine::Fine;
     }
     HeadUnitProgram program(options);
     QString error;
     if (!program.begin(&error)) {
         complain(error);
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     return QCoreApplication::exec();
 }

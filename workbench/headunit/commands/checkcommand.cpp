@@ -1,7 +1,6 @@
 #include "checkcommand.h"
 
 #include "boxcatalog.h"
-#include "command.h"
 #include "commandapplication.h"
 #include "commandline.h"
 #include "headunitprogram.h"
@@ -147,24 +146,22 @@ int listPorts(bool asJson)
     } else if (devices.isEmpty()) {
         std::puts("no serial device is there");
     }
-    return Command::Fine;
+    return CommandLine::Fine;
 }
 
 int checkCommand(const QStringList &words)
 {
     CommandLine line("check", "Looks at a serial line and the box behind it, and says what to do.");
-    std::string port;
-    std::string plugin;
+    QString port;
+    QString plugin;
     int seconds = 3;
     bool asJson = false;
     bool listsPorts = false;
-    line.app.add_option("PORT", port, "path of the serial device");
-    line.app.add_option("--seconds", seconds, "listens for as long at each baud rate")
-        ->type_name("N")
-        ->check(CLI::Range(1, 3600));
-    line.app.add_option("--plugin", plugin, "the plug-in's shared library")->type_name("PATH");
-    line.app.add_flag("--json", asJson, "answers in JSON");
-    line.app.add_flag("--list-ports", listsPorts, "lists the machine's serial devices");
+    line.add("PORT", &port, "path of the serial device");
+    line.add("--seconds", &seconds, "listens for as long at each baud rate").valueName("N").range(1, 3600);
+    line.add("--plugin", &plugin, "the plug-in's shared library").valueName("PATH");
+    line.addFlag("--json", &asJson, "answers in JSON");
+    line.addFlag("--list-ports", &listsPorts, "lists the machine's serial devices");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
@@ -172,18 +169,16 @@ int checkCommand(const QStringList &words)
     if (listsPorts) {
         return listPorts(asJson);
     }
-    if (port.empty()) {
+    if (port.isEmpty()) {
         return line.refuse("PORT is missing");
     }
     const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
-    const QVector<CheckResult> results =
-        check(QString::fromLocal8Bit(port.c_str()),
-              plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(plugin), seconds);
+    const QVector<CheckResult> results = check(port, HeadUnitProgram::pluginPath(plugin), seconds);
     print(results, asJson);
     for (const CheckResult &result : results) {
         if (result.status != CheckResult::Ok) {
-            return Command::FoundSomething;
+            return CommandLine::FoundSomething;
         }
     }
-    return Command::Fine;
+    return CommandLine::Fine;
 }

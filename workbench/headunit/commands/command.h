@@ -6,15 +6,9 @@
 
 /// A sub-command of the program: `headunit NAME ...`. The first word of the command line names it, so that
 /// `headunit` without one takes its options as ever. Each has a file pair of its own in this folder, a row in
-/// all(), and keeps to these exit codes.
+/// all(), and keeps to the exit codes of CommandLine.
 struct Command
 {
-    enum ExitCode {
-        Fine = 0,
-        FoundSomething = 1, ///< what was looked for is not in order, or the command could not do its work
-        WrongUsage = 2
-    };
-
     const char *name;
     const char *summary; ///< one line for the program's help
     /// Carries it out: \a words are what stands behind NAME. There is no application object yet. Answers the

@@ -1,7 +1,6 @@
 #include "convertcommand.h"
 
 #include "boxcatalog.h"
-#include "command.h"
 #include "commandline.h"
 #include "logconversion.h"
 
@@ -20,50 +19,41 @@ const char Description[] = "Turns one log of a serial line into another. What IN
                            ".csv for a table of named values. Losses are counted and named; the program ends "
                            "with 1 when there are any.";
 
-// As text, as the library reads them.
-struct Texts
+struct Order
 {
-    std::string in;
-    std::string out;
-    std::string pattern;
-    std::string type;
-    std::string frame;
+    LogConversion::Options conversion;
+    QString type;
+    QString frame;
     bool asJson = false;
 };
 
-void addOptions(CLI::App *app, Texts *texts)
+void addOptions(CommandLine *line, Order *order)
 {
-    app->add_option("IN", texts->in, "the log")->required();
-    app->add_option("OUT", texts->out, "what it becomes")->required();
-    app->add_option(
-           "--pattern", texts->pattern,
-           "regular expression of a line of IN, with the named groups hex, and if it has them time and dir: "
-           "'(?<time>\\S+) (?<dir>RX|TX) (?<hex>.*)'")
-        ->type_name("REGEXP");
-    app->add_option("--can-bus-type", texts->type,
-                    "the decoder box, when IN does not say it: number or class name")
-        ->type_name("N|CLASS");
-    app->add_option("--frame", texts->frame,
-                    "how packages look, when neither type nor log tell: raise or xinhang")
-        ->type_name("NAME");
-    app->add_flag("--json", texts->asJson, "says in JSON what came of it");
+    line->add("IN", &order->conversion.in, "the log").required();
+    line->add("OUT", &order->conversion.out, "what it becomes").required();
+    line->add(
+            "--pattern", &order->conversion.pattern,
+            "regular expression of a line of IN, with the named groups hex, and if it has them time and dir: "
+            "'(?<time>\\S+) (?<dir>RX|TX) (?<hex>.*)'")
+        .valueName("REGEXP");
+    line->add("--can-bus-type", &order->type,
+              "the decoder box, when IN does not say it: number or class name")
+        .valueName("N|CLASS");
+    line->add("--frame", &order->frame, "how packages look, when neither type nor log tell: raise or xinhang")
+        .valueName("NAME");
+    line->addFlag("--json", &order->asJson, "says in JSON what came of it");
 }
 
 // False, with the reason in \a error, when a name is none.
-bool read(const Texts &texts, LogConversion::Options *options, QString *error)
+bool readNames(Order *order, QString *error)
 {
-    options->in = QString::fromStdString(texts.in);
-    options->out = QString::fromStdString(texts.out);
-    options->pattern = QString::fromStdString(texts.pattern);
-    const QString type = QString::fromStdString(texts.type);
-    const QString frame = QString::fromStdString(texts.frame);
-    options->type = BoxCatalog::typeFromText(type);
-    options->frame = FrameFormat::find(frame);
-    if (!type.isEmpty() && options->type == 0) {
-        *error =
-            QString("--can-bus-type takes a number or a class name of decoderbox --list, not '%1'").arg(type);
-    } else if (!frame.isEmpty() && !options->frame) {
-        *error = QString("--frame takes raise or xinhang, not '%1'").arg(frame);
+    order->conversion.type = BoxCatalog::typeFromText(order->type);
+    order->conversion.frame = FrameFormat::find(order->frame);
+    if (!order->type.isEmpty() && order->conversion.type == 0) {
+        *error = QString("--can-bus-type takes a number or a class name of decoderbox --list, not '%1'")
+                     .arg(order->type);
+    } else if (!order->frame.isEmpty() && !order->conversion.frame) {
+        *error = QString("--frame takes raise or xinhang, not '%1'").arg(order->frame);
     }
     return error->isEmpty();
 }
@@ -73,21 +63,20 @@ bool read(const Texts &texts, LogConversion::Options *options, QString *error)
 int convertCommand(const QStringList &words)
 {
     CommandLine line("convert", Description);
-    Texts texts;
-    addOptions(&line.app, &texts);
+    Order order;
+    addOptions(&line, &order);
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
-    LogConversion::Options options;
     QString error;
-    if (!read(texts, &options, &error)) {
+    if (!readNames(&order, &error)) {
         line.complain(error);
-        return Command::WrongUsage;
+        return CommandLine::WrongUsage;
     }
     LogConversion conversion;
-    const LogConversion::Result result = conversion.run(options);
-    if (texts.asJson) {
+    const LogConversion::Result result = conversion.run(order.conversion);
+    if (order.asJson) {
         std::puts(QJsonDocument(conversion.json()).toJson(QJsonDocument::Compact).constData());
     } else {
         for (const QString &text : conversion.texts()) {
@@ -97,7 +86,7 @@ int convertCommand(const QStringList &words)
     if (!conversion.error().isEmpty()) {
         line.complain(conversion.error());
     }
-    return result == LogConversion::WrongUsage ? Command::WrongUsage
-           : result == LogConversion::Fine     ? Command::Fine
-                                               : Command::FoundSomething;
+    return result == LogConversion::WrongUsage ? CommandLine::WrongUsage
+           : result == LogConversion::Fine     ? CommandLine::Fine
+                                               : CommandLine::FoundSomething;
 }

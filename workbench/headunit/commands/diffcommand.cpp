@@ -2,7 +2,6 @@
 
 #include "boxcatalog.h"
 #include "callcomparison.h"
-#include "command.h"
 #include "commandapplication.h"
 #include "commandline.h"
 #include "diffside.h"
@@ -43,13 +42,13 @@ QString typeName(const DiffSide &side)
 }
 
 // "honda", or "honda,toyota": the decoders that were asked for, in place of what the sides say.
-bool readTypes(const std::vector<std::string> &names, DiffSide sides[2], QString *error)
+bool readTypes(const QStringList &names, DiffSide sides[2], QString *error)
 {
     if (names.size() > 2) {
         *error = "--can-bus-type takes one type for both sides, or one for each";
     }
-    for (size_t i = 0; error->isEmpty() && !names.empty() && i < 2; ++i) {
-        const QString name = QString::fromStdString(names[qMin(i, names.size() - 1)]);
+    for (int i = 0; error->isEmpty() && !names.isEmpty() && i < 2; ++i) {
+        const QString name = names.at(qMin(i, int(names.size()) - 1));
         sides[i].type = BoxCatalog::typeFromText(name);
         if (sides[i].type == 0) {
             *error = QString("there is no CAN-bus type '%1'").arg(name);
@@ -80,24 +79,24 @@ bool areComparable(const DiffSide sides[2], bool areTypesMeant, QString *error)
 
 // Reads both sides and what was asked of them, and finds the plug-in; with an application object that is gone behind
 // it, since decoders are tried in children with one of their own.
-bool readSides(const std::string names[2], const std::vector<std::string> &types, DiffSide sides[2],
-               QString *plugin, QString *error)
+bool readSides(const QString names[2], const QStringList &types, DiffSide sides[2], QString *plugin,
+               QString *error)
 {
     const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
     for (const int i : {0, 1}) {
-        sides[i].name = QString::fromStdString(names[i]);
+        sides[i].name = names[i];
         if (!sides[i].read(error)) {
             return false;
         }
     }
-    if (!readTypes(types, sides, error) || !areComparable(sides, !types.empty(), error)) {
+    if (!readTypes(types, sides, error) || !areComparable(sides, !types.isEmpty(), error)) {
         return false;
     }
     const FrameFormat *known = BoxCatalog::frameOf(qMax(sides[0].type, sides[1].type));
     const FrameFormat &format = known ? *known : LinePackages::formatOf(sides[0].records);
     sides[0].takeRecords(format);
     sides[1].takeRecords(format);
-    *plugin = HeadUnitProgram::ownPlugin();
+    *plugin = HeadUnitProgram::pluginPath();
     return true;
 }
 
@@ -108,20 +107,18 @@ int diffCommand(const QStringList &words)
     CommandLine line("diff",
                      "How two boxes differ: commands, lengths, bits, rhythm, and of two types the calls that "
                      "the same packages cause. Says nothing, and ends with 0, when they do not.");
-    std::string names[2];
-    std::vector<std::string> types;
+    QString names[2];
+    QStringList types;
     bool asJson = false;
-    line.app.add_option("A", names[0], "a log, or a CAN-bus type whose virtual box is meant: honda, 7")
-        ->required()
-        ->type_name("LOG|TYPE");
-    line.app.add_option("B", names[1], "the same")->required()->type_name("LOG|TYPE");
-    line.app
-        .add_option("--can-bus-type", types,
-                    "the decoder of both sides, or that of each, in place of what they say")
-        ->type_name("TYPE[,TYPE]")
-        ->delimiter(',')
-        ->allow_extra_args(false);
-    line.app.add_flag("--json", asJson, "answers in JSON");
+    line.add("A", &names[0], "a log, or a CAN-bus type whose virtual box is meant: honda, 7")
+        .required()
+        .valueName("LOG|TYPE");
+    line.add("B", &names[1], "the same").required().valueName("LOG|TYPE");
+    line.addList("--can-bus-type", &types,
+                 "the decoder of both sides, or that of each, in place of what they say")
+        .valueName("TYPE[,TYPE]")
+        .separator(',');
+    line.addFlag("--json", &asJson, "answers in JSON");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
@@ -140,5 +137,5 @@ int diffCommand(const QStringList &words)
         return line.complain(error);
     }
     answer(differences, asJson);
-    return differences.isEmpty() ? Command::Fine : Command::FoundSomething;
+    return differences.isEmpty() ? CommandLine::Fine : CommandLine::FoundSomething;
 }

@@ -1,7 +1,6 @@
 #include "identifycommand.h"
 
 #include "boxcatalog.h"
-#include "command.h"
 #include "commandapplication.h"
 #include "commandline.h"
 #include "headunitprogram.h"
@@ -26,9 +25,9 @@ const int BaudRates[] = {19200, 38400, 115200};
 
 struct Options
 {
-    std::string source;
-    std::string plugin;
-    std::string pattern;
+    QString source;
+    QString plugin;
+    QString pattern;
     int probedType = 0;
     int seconds = 5;
     bool greets = false;
@@ -67,25 +66,25 @@ int probe(const Options &options)
     QString error;
     const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
     if (!format || !application) {
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     QVector<QByteArray> packages;
     for (std::string line; packages.size() < PackageCensus::MostPackages && std::getline(std::cin, line);) {
         const QByteArray package = QByteArray::fromHex(QByteArray::fromStdString(line));
         if (!format->isFrame(package)) {
-            return Command::WrongUsage;
+            return CommandLine::WrongUsage;
         }
         packages << package;
     }
     PackageProbe prober(options.probedType, *format);
-    if (!prober.start(QString::fromStdString(options.plugin), &error)) {
+    if (!prober.start(options.plugin, &error)) {
         std::fprintf(stderr, "%s\n", qPrintable(error));
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     for (const bool isExplained : prober.explained(packages)) {
         std::puts(isExplained ? "1" : "0");
     }
-    return Command::Fine;
+    return CommandLine::Fine;
 }
 
 // ------------------------------------------------------------------------------------------- the source
@@ -93,9 +92,8 @@ int probe(const Options &options)
 bool readLog(const Options &options, Heard *heard, QString *error)
 {
     LineLogFormats::ReadOptions readOptions;
-    readOptions.pattern = QString::fromStdString(options.pattern);
-    const std::unique_ptr<LineLogReader> reader =
-        LineLogFormats::reader(QString::fromStdString(options.source), readOptions, error);
+    readOptions.pattern = options.pattern;
+    const std::unique_ptr<LineLogReader> reader = LineLogFormats::reader(options.source, readOptions, error);
     if (!reader) {
         return false;
     }
@@ -112,7 +110,7 @@ bool readLog(const Options &options, Heard *heard, QString *error)
 // The rate at which most of what was heard is packages.
 bool listen(const Options &options, Heard *heard, QString *error)
 {
-    PortListener listener(QString::fromStdString(options.source));
+    PortListener listener(options.source);
     for (const bool greets : {false, true}) {
         for (const int baud : BaudRates) {
             if ((greets && !options.greets) || heard->framed() > 0) {
@@ -184,7 +182,7 @@ void printRows(const QVector<TypeFit> &fits)
 int identify(const Options &options, const CommandLine &line)
 {
     const std::unique_ptr<QCoreApplication> application = CommandApplication::make();
-    const bool isPort = !QFileInfo(QString::fromStdString(options.source)).isFile();
+    const bool isPort = !QFileInfo(options.source).isFile();
     Heard heard;
     QString error;
     if (!(isPort ? listen(options, &heard, &error) : readLog(options, &heard, &error))) {
@@ -193,15 +191,14 @@ int identify(const Options &options, const CommandLine &line)
     heard.raise.finish();
     heard.xinHang.finish();
     QVector<TypeFit> fits;
-    const QString plugin =
-        options.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(options.plugin);
+    const QString plugin = HeadUnitProgram::pluginPath(options.plugin);
     if (!TypeFits(plugin).find(heard.raise, heard.xinHang, &fits, &error)) {
         return line.complain(error);
     }
     const bool isSure = TypeFits::isSure(fits);
     if (options.asJson) {
         std::puts(toJson(fits, heard).constData());
-        return isSure ? Command::Fine : Command::FoundSomething;
+        return isSure ? CommandLine::Fine : CommandLine::FoundSomething;
     }
     printRows(fits);
     if (heard.baud != 0) {
@@ -219,7 +216,7 @@ int identify(const Options &options, const CommandLine &line)
         std::puts(isPort && !options.greets ? "No package was heard; --hello greets the box."
                                             : "No package was heard.");
     }
-    return isSure ? Command::Fine : Command::FoundSomething;
+    return isSure ? CommandLine::Fine : CommandLine::FoundSomething;
 }
 
 } // namespace
@@ -230,27 +227,23 @@ int identifyCommand(const QStringList &words)
                      "Says which CAN-bus type fits what a box has said. A port is listened to at 19200, "
                      "38400 and 115200 baud, without a word.");
     Options options;
-    CLI::Option *const source =
-        line.app.add_option("SOURCE", options.source, "a log, or the path of a serial port")
-            ->type_name("LOG|PORT");
-    line.app.add_flag("--hello", options.greets, "a box that says nothing is greeted as a unit does");
-    line.app.add_option("--seconds", options.seconds, "listens for as long at each rate")
-        ->type_name("N")
-        ->check(CLI::Range(1, 3600));
-    line.app.add_option("--pattern", options.pattern, "how to read a line of the log, as for replay")
-        ->type_name("REGEX");
-    line.app.add_option("--plugin", options.plugin, "the plug-in's shared library")->type_name("PATH");
-    line.app.add_flag("--json", options.asJson, "answers in JSON");
+    line.add("SOURCE", &options.source, "a log, or the path of a serial port").valueName("LOG|PORT");
+    line.addFlag("--hello", &options.greets, "a box that says nothing is greeted as a unit does");
+    line.add("--seconds", &options.seconds, "listens for as long at each rate").valueName("N").range(1, 3600);
+    line.add("--pattern", &options.pattern, "how to read a line of the log, as for replay")
+        .valueName("REGEX");
+    line.add("--plugin", &options.plugin, "the plug-in's shared library").valueName("PATH");
+    line.addFlag("--json", &options.asJson, "answers in JSON");
     // For this command's own child processes.
-    CLI::Option *const probed = line.app.add_option("--probe", options.probedType)->group("");
+    line.add("--probe", &options.probedType, "").hidden();
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
-    if (probed->count() > 0) {
+    if (line.isGiven("--probe")) {
         return probe(options);
     }
-    if (source->count() == 0) {
+    if (!line.isGiven("SOURCE")) {
         return line.refuse("LOG or PORT is missing");
     }
     return identify(options, line);

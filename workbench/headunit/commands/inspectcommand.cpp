@@ -1,6 +1,5 @@
 #include "inspectcommand.h"
 
-#include "command.h"
 #include "inspectionfilter.h"
 #include "inspectiontext.h"
 #include "keptfilters.h"
@@ -61,26 +60,24 @@ int inspectCommand(const QStringList &words)
         "bad packages, or no row is left to show.");
     LogCommand log(&line);
     log.readScreens();
-    std::string text;
+    QString text;
     bool asJson = false;
-    line.app
-        .add_option(
-            "--filter", text,
-            "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
-            "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
-            "! in front of a word turns it round; or the name of a filter that was kept in the window")
-        ->type_name("WORDS|NAME");
-    line.app.add_flag("--json", asJson, "answers in JSON");
+    line.add("--filter", &text,
+             "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
+             "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
+             "! in front of a word turns it round; or the name of a filter that was kept in the window")
+        .valueName("WORDS|NAME");
+    line.addFlag("--json", &asJson, "answers in JSON");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
     InspectionFilter filter;
     QString error;
-    const QString wanted = QString::fromStdString(text);
+    const QString wanted = text;
     if (!filter.parse(KeptFilters::all().value(wanted, wanted).toString(), &error)) {
         line.complain("--filter: " + error);
-        return Command::WrongUsage;
+        return CommandLine::WrongUsage;
     }
     Counts counts;
     const auto prepare = [&](LogInspection *inspection) {
@@ -90,7 +87,7 @@ int inspectCommand(const QStringList &words)
     };
     const auto answer = [&](LogInspection *inspection) {
         sumUp(*inspection->inspector()->inspection(), asJson, counts);
-        return counts.bad > 0 || counts.shown == 0 ? Command::FoundSomething : Command::Fine;
+        return counts.bad > 0 || counts.shown == 0 ? CommandLine::FoundSomething : CommandLine::Fine;
     };
     return log.run(prepare, answer);
 }

@@ -1,6 +1,6 @@
 #include "keyscommand.h"
 
-#include "command.h"
+#include "commandline.h"
 #include "keytext.h"
 #include "logcommand.h"
 #include "loginspection.h"
@@ -12,11 +12,11 @@
 
 namespace {
 
-bool addCommands(const std::vector<std::string> &texts, KeyReader *reader)
+bool addCommands(const QStringList &texts, KeyReader *reader)
 {
-    for (const std::string &text : texts) {
+    for (const QString &text : texts) {
         quint32 command = 0;
-        if (!NumberText::read(QString::fromStdString(text), &command) || command > 0xFF) {
+        if (!NumberText::read(text, &command) || command > 0xFF) {
             return false;
         }
         reader->addCommand(quint8(command));
@@ -32,14 +32,14 @@ int tell(KeyTester *tester, qint64 end)
     }
     if (tester->strokes().empty()) {
         std::puts("No key was pressed.");
-        return Command::FoundSomething;
+        return CommandLine::FoundSomething;
     }
     std::printf("\n%s", qPrintable(KeyText::tables(tester->strokes())));
     const bool isFine =
         std::all_of(tester->strokes().begin(), tester->strokes().end(), [](const KeyStroke &stroke) {
             return !stroke.isStuck && stroke.pressed >= 0 && !stroke.becomes.isEmpty();
         });
-    return isFine ? Command::Fine : Command::FoundSomething;
+    return isFine ? CommandLine::Fine : CommandLine::FoundSomething;
 }
 
 } // namespace
@@ -53,14 +53,11 @@ int keysCommand(const QStringList &words)
         "For a log of somebody who presses each key once. Ends with 1 when a key became nothing, was down "
         "for more than 10 s or came up without a press, or when there was no key.");
     LogCommand log(&line);
-    std::vector<std::string> commands;
-    line.app
-        .add_option("--key-command", commands,
-                    "this command reports keys as well: the code in data byte 0, its state in byte 1; may be "
-                    "repeated")
-        ->type_name("0xNN")
-        ->take_all()
-        ->allow_extra_args(false);
+    QStringList commands;
+    line.addList("--key-command", &commands,
+                 "this command reports keys as well: the code in data byte 0, its state in byte 1; may be "
+                 "repeated")
+        .valueName("0xNN");
     int exitCode = 0;
     if (!line.read(words, &exitCode)) {
         return exitCode;

@@ -1,8 +1,8 @@
 #include "logcommand.h"
 
 #include "boxcatalog.h"
-#include "command.h"
 #include "commandapplication.h"
+#include "commandline.h"
 #include "headunitprogram.h"
 #include "loginspection.h"
 #include "probestart.h"
@@ -11,32 +11,28 @@
 
 LogCommand::LogCommand(CommandLine *line) : m_line(line)
 {
-    line->app.add_option("LOG", m_log, "a log of a serial line, in any format that convert reads")
-        ->required();
-    line->app
-        .add_option("--can-bus-type", m_type,
-                    "the decoder, when the log does not say it: number or class name")
-        ->type_name("N|CLASS");
-    line->app.add_option("--pattern", m_pattern, "how to read a line of the log, as for replay")
-        ->type_name("REGEX");
-    line->app.add_option("--plugin", m_plugin, "another build of the plug-in")->type_name("PATH");
+    line->add("LOG", &m_log, "a log of a serial line, in any format that convert reads").required();
+    line->add("--can-bus-type", &m_type, "the decoder, when the log does not say it: number or class name")
+        .valueName("N|CLASS");
+    line->add("--pattern", &m_pattern, "how to read a line of the log, as for replay").valueName("REGEX");
+    line->add("--plugin", &m_plugin, "another build of the plug-in").valueName("PATH");
 }
 
 int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
                     const std::function<int(LogInspection *)> &answer) const
 {
     ReplayOptions log;
-    log.log = QString::fromStdString(m_log);
-    log.pattern = QString::fromStdString(m_pattern);
-    const QString name = QString::fromStdString(m_type);
+    log.log = m_log;
+    log.pattern = m_pattern;
+    const QString name = m_type;
     const int type = name.isEmpty() ? ReplayLog::typeOf(log) : BoxCatalog::typeFromText(name);
     if (!name.isEmpty() && type == 0) {
         m_line->complain(QString("there is no CAN-bus type '%1'").arg(name));
-        return Command::WrongUsage;
+        return CommandLine::WrongUsage;
     }
     if (type == 0) {
         m_line->complain("the log does not say which type it came from: --can-bus-type is needed");
-        return Command::WrongUsage;
+        return CommandLine::WrongUsage;
     }
     QString error;
     const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
@@ -44,7 +40,7 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
         return m_line->complain(error);
     }
     QApplication::setQuitOnLastWindowClosed(false);
-    const QString plugin = m_plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(m_plugin);
+    const QString plugin = HeadUnitProgram::pluginPath(m_plugin);
     const auto steps = m_readsScreens ? ProbeStart::screenSteps(plugin, type) : QVector<ScreenPath::Step>();
     LogInspection inspection(qMax(type, 0), log);
     if (m_readsScreens) {
@@ -59,5 +55,5 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     for (const QString &problem : problems) {
         m_line->complain("in the log: " + problem);
     }
-    return problems.isEmpty() ? exitCode : Command::FoundSomething;
+    return problems.isEmpty() ? exitCode : CommandLine::FoundSomething;
 }

@@ -4,7 +4,6 @@
 #include "commandline.h"
 
 #include <functional>
-#include <string>
 
 class LogInspection;
 
@@ -24,10 +23,10 @@ public:
 
 private:
     CommandLine *m_line;
-    std::string m_log;
-    std::string m_pattern;
-    std::string m_type;
-    std::string m_plugin;
+    QString m_log;
+    QString m_pattern;
+    QString m_type;
+    QString m_plugin;
     bool m_readsScreens = false;
 };
 

@@ -2,7 +2,6 @@
 
 #include "bitprobe.h"
 #include "boxcatalog.h"
-#include "command.h"
 #include "commandapplication.h"
 #include "commandline.h"
 #include "decoderbox.h"
@@ -20,43 +19,42 @@ namespace {
 
 struct Order
 {
-    std::string type;
-    std::string frame;
-    std::string folder;
-    std::string drives = "scenarios";
-    std::string plugin;
+    QString type;
+    QString frame;
+    QString folder;
+    QString drives = "scenarios";
+    QString plugin;
     int byte = -1;
     bool walksValues = false;
     bool asMarkdown = false;
     bool asJson = false;
 };
 
-void addOptions(CLI::App *app, Order *order)
+void addOptions(CommandLine *line, Order *order)
 {
-    app->add_option("--can-bus-type", order->type, "the decoder: number, class or short name")
-        ->type_name("N|CLASS");
-    CLI::Option *const frame =
-        app->add_option("--frame", order->frame, "the package: a whole frame, or its command and data")
-            ->type_name("HEX");
-    CLI::Option *const all =
-        app->add_option(
-               "--all", order->folder,
-               "writes the sheet of each type (or of the one) to DIR, with each package both ways, and "
-               "the matrix of what the cars can do")
-            ->type_name("DIR")
-            ->excludes(frame);
-    app->add_option("--drives", order->drives, "where the golden drives lie that prove something")
-        ->type_name("DIR")
-        ->needs(all);
-    app->add_option("--byte", order->byte, "this data byte only, counted from 0")
-        ->type_name("N")
-        ->check(CLI::NonNegativeNumber)
-        ->needs(frame);
-    app->add_flag("--values", order->walksValues, "walks all values of each byte")->needs(frame);
-    app->add_option("--plugin", order->plugin, "another build of the plug-in")->type_name("PATH");
-    CLI::Option *const markdown =
-        app->add_flag("--markdown", order->asMarkdown, "answers as a table")->needs(frame);
-    app->add_flag("--json", order->asJson, "answers in JSON")->excludes(markdown)->needs(frame);
+    line->add("--can-bus-type", &order->type, "the decoder: number, class or short name")
+        .valueName("N|CLASS");
+    const CommandLine::Option frame =
+        line->add("--frame", &order->frame, "the package: a whole frame, or its command and data")
+            .valueName("HEX");
+    const CommandLine::Option all =
+        line->add("--all", &order->folder,
+                  "writes the sheet of each type (or of the one) to DIR, with each package both ways, and "
+                  "the matrix of what the cars can do")
+            .valueName("DIR")
+            .excludes(frame);
+    line->add("--drives", &order->drives, "where the golden drives lie that prove something")
+        .valueName("DIR")
+        .needs(all);
+    line->add("--byte", &order->byte, "this data byte only, counted from 0")
+        .valueName("N")
+        .range(0, 254)
+        .needs(frame);
+    line->addFlag("--values", &order->walksValues, "walks all values of each byte").needs(frame);
+    line->add("--plugin", &order->plugin, "another build of the plug-in").valueName("PATH");
+    const CommandLine::Option markdown =
+        line->addFlag("--markdown", &order->asMarkdown, "answers as a table").needs(frame);
+    line->addFlag("--json", &order->asJson, "answers in JSON").excludes(markdown).needs(frame);
 }
 
 bool isForeign(const QByteArray &bytes, const FrameFormat &format)
@@ -69,7 +67,7 @@ bool isForeign(const QByteArray &bytes, const FrameFormat &format)
 // A whole frame, or what would stand in one.
 bool readPackage(const Order &order, const FrameFormat &format, BoxPackage *package, QString *error)
 {
-    const QByteArray digits = QByteArray::fromStdString(order.frame).replace(' ', "").toLower();
+    const QByteArray digits = order.frame.toLatin1().replace(' ', "").toLower();
     const QByteArray bytes = QByteArray::fromHex(digits);
     if (bytes.isEmpty() || bytes.toHex() != digits) {
         *error = "--frame takes two hexadecimal digits for each byte";
@@ -119,8 +117,7 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
         return line.complain(error);
     }
     ProbeUnit unit;
-    const QString plugin =
-        order.plugin.empty() ? HeadUnitProgram::ownPlugin() : QString::fromStdString(order.plugin);
+    const QString plugin = HeadUnitProgram::pluginPath(order.plugin);
     if (!unit.start(plugin, type, ProbeStart::greeting(speaker, package.command), &error)) {
         return line.complain(error);
     }
@@ -138,16 +135,14 @@ int probe(const CommandLine &line, const Order &order, int type, const BoxSpeake
                .arg(BoxCatalog::className(type))
                .arg(package.command, 2, 16, QLatin1Char('0'))
                .arg(QString::fromLatin1(package.data.toHex(' '))));
-    return Command::Fine;
+    return CommandLine::Fine;
 }
 
 int writeSheets(const CommandLine &line, const Order &order, int type)
 {
     QString error;
-    const ProbeSheets::Order sheets = {QString::fromStdString(order.plugin),
-                                       QString::fromStdString(order.folder),
-                                       QString::fromStdString(order.drives), type};
-    return ProbeSheets::write(sheets, &error) ? int(Command::Fine) : line.complain(error);
+    const ProbeSheets::Order sheets = {order.plugin, order.folder, order.drives, type};
+    return ProbeSheets::write(sheets, &error) ? int(CommandLine::Fine) : line.complain(error);
 }
 
 } // namespace
@@ -159,18 +154,18 @@ int probeCommand(const QStringList &words)
     Order order;
     int exitCode = 0;
     QString error;
-    addOptions(&line.app, &order);
+    addOptions(&line, &order);
     if (!line.read(words, &exitCode)) {
         return exitCode;
     }
-    const int type = BoxCatalog::typeFromText(QString::fromStdString(order.type));
-    if (type == 0 && !order.type.empty()) {
-        return line.refuse(QString("there is no CAN-bus type '%1'").arg(QString::fromStdString(order.type)));
+    const int type = BoxCatalog::typeFromText(order.type);
+    if (type == 0 && !order.type.isEmpty()) {
+        return line.refuse(QString("there is no CAN-bus type '%1'").arg(order.type));
     }
-    if (!order.folder.empty()) {
+    if (!order.folder.isEmpty()) {
         return writeSheets(line, order, type);
     }
-    if (order.frame.empty() || type == 0) {
+    if (order.frame.isEmpty() || type == 0) {
         return line.refuse("--can-bus-type and --frame say what is to be probed, or --all for everything");
     }
     const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));

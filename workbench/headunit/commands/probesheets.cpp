@@ -58,7 +58,7 @@ bool writeSheet(const ProbeSheets::Order &order, int type, QString *error)
         return false;
     }
     ProbeUnit unit;
-    const QString plugin = order.plugin.isEmpty() ? HeadUnitProgram::ownPlugin() : order.plugin;
+    const QString plugin = HeadUnitProgram::pluginPath(order.plugin);
     if (!unit.start(plugin, type, ProbeStart::greeting(*box->speaker()), error)) {
         return false;
     }

@@ -1,10 +1,9 @@
 #include "replaycommand.h"
 
+#include "commandline.h"
 #include "headunitoptions.h"
 #include "numbertext.h"
 #include "unitrun.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -12,70 +11,61 @@ const double SlowestSpeed = 0.1;
 const double FastestSpeed = 100;
 const double LatestSecond = 1e9;
 
-// What the command line holds.
+// What the options hold that are not as they are.
 struct Texts
 {
-    std::string log;
-    std::string pattern;
-    std::string speed = "1";
+    QString speed = "1";
     double from = 0;
     double to = -1;
-    std::string until;
+    QString until;
 };
 
-void addOptions(CLI::App *app, Texts *texts, ReplayOptions *options)
+void addOptions(CommandLine *line, Texts *texts, ReplayOptions *options)
 {
-    app->add_option("LOG", texts->log, "a log of a serial line, in any format that convert reads")
-        ->required();
-    app->add_option("--speed", texts->speed, "0.1 to 100 times as fast, or max: as fast as the unit reads")
-        ->type_name("N|max");
-    app->add_flag("--loop", options->loops, "over and over");
-    app->add_option("--from", texts->from, "begins at this second of the log")
-        ->type_name("S")
-        ->check(CLI::Range(0.0, LatestSecond));
-    app->add_option("--to", texts->to, "ends at this second of the log")
-        ->type_name("S")
-        ->check(CLI::Range(0.0, LatestSecond));
-    app->add_option("--until", texts->until, "ends with a package of this command, or a call of the plug-in")
-        ->type_name("0xNN|call=NAME");
-    app->add_flag("--wait-ack", options->waitsForAnswer,
+    line->add("LOG", &options->log, "a log of a serial line, in any format that convert reads").required();
+    line->add("--speed", &texts->speed, "0.1 to 100 times as fast, or max: as fast as the unit reads")
+        .valueName("N|max");
+    line->addFlag("--loop", &options->loops, "over and over");
+    line->add("--from", &texts->from, "begins at this second of the log")
+        .valueName("S")
+        .range(0.0, LatestSecond);
+    line->add("--to", &texts->to, "ends at this second of the log").valueName("S").range(0.0, LatestSecond);
+    line->add("--until", &texts->until, "ends with a package of this command, or a call of the plug-in")
+        .valueName("0xNN|call=NAME");
+    line->addFlag("--wait-ack", &options->waitsForAnswer,
                   "each package waits for the unit's answer to the one before, as a box does");
-    app->add_option("--pattern", texts->pattern,
-                    "how to read a line: a regular expression with the groups time, dir and hex")
-        ->type_name("REGEX");
-    app->add_flag("--json", options->asJson, "tells the counts as JSON");
+    line->add("--pattern", &options->pattern,
+              "how to read a line: a regular expression with the groups time, dir and hex")
+        .valueName("REGEX");
+    line->addFlag("--json", &options->asJson, "tells the counts as JSON");
 }
 
 bool readSpeed(const Texts &texts, ReplayOptions *options, QString *error)
 {
     options->isFast = texts.speed == "max";
     bool isNumber = options->isFast;
-    options->speed = options->isFast ? 1 : QString::fromStdString(texts.speed).toDouble(&isNumber);
+    options->speed = options->isFast ? 1 : texts.speed.toDouble(&isNumber);
     if (!isNumber || !(options->speed >= SlowestSpeed && options->speed <= FastestSpeed)) {
-        *error =
-            QString("--speed: takes 0.1 to 100 or max, not '%1'").arg(QString::fromStdString(texts.speed));
+        *error = QString("--speed: takes 0.1 to 100 or max, not '%1'").arg(texts.speed);
     }
     return error->isEmpty();
 }
 
 bool readUntil(const Texts &texts, ReplayOptions *options, QString *error)
 {
-    const QString until = QString::fromStdString(texts.until);
     quint32 command = 0;
-    if (until.startsWith("call=") && until.size() > 5) {
-        options->untilCall = until.mid(5);
-    } else if (NumberText::read(until, &command) && command <= 0xFF) {
+    if (texts.until.startsWith("call=") && texts.until.size() > 5) {
+        options->untilCall = texts.until.mid(5);
+    } else if (NumberText::read(texts.until, &command) && command <= 0xFF) {
         options->untilCommand = int(command);
-    } else if (!until.isEmpty()) {
-        *error = QString("--until: takes a command like 0x28 or call=NAME, not '%1'").arg(until);
+    } else if (!texts.until.isEmpty()) {
+        *error = QString("--until: takes a command like 0x28 or call=NAME, not '%1'").arg(texts.until);
     }
     return error->isEmpty();
 }
 
 bool apply(const Texts &texts, ReplayOptions replay, HeadUnitOptions *options, QString *error)
 {
-    replay.log = QString::fromStdString(texts.log);
-    replay.pattern = QString::fromStdString(texts.pattern);
     replay.from = qint64(texts.from * 1e6);
     replay.to = texts.to < 0 ? -1 : qint64(texts.to * 1e6);
     if (!readSpeed(texts, &replay, error) || !readUntil(texts, &replay, error)) {
@@ -105,7 +95,7 @@ int replayCommand(const QStringList &words)
     command.description =
         "Runs the unit on the bytes of a log in place of a box, and counts what it makes of them. "
         "The type is the log's, unless it is named.";
-    command.addOptions = [&](CLI::App *app) { addOptions(app, &texts, &replay); };
+    command.addOptions = [&](CommandLine *line) { addOptions(line, &texts, &replay); };
     command.apply = [&](HeadUnitOptions *options, QString *error) {
         return apply(texts, replay, options, error);
     };
