@@ -23,8 +23,8 @@ double processorMilliseconds()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-// What of the process lies in memory, libraries that are shared with nobody included; kB.
-int residentKilobytes()
+// This process's share of the memory it uses: what it has to itself, and its part of what others use as well; kB.
+int proportionalKilobytes()
 {
     QFile file("/proc/self/smaps_rollup");
     if (file.open(QIODevice::ReadOnly)) {
@@ -40,7 +40,7 @@ int residentKilobytes()
 void report(const char *what, double since, int before)
 {
     std::printf("| %s | %.2f ms | %d kB |\n", what, processorMilliseconds() - since,
-                residentKilobytes() - before);
+                proportionalKilobytes() - before);
 }
 
 } // namespace
@@ -51,7 +51,7 @@ int main(int argc, char **argv)
     OrbHost::instance()->setTag(0x10008, Volkswagen);
     QLibrary library(PLUGIN);
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
-    int memory = residentKilobytes();
+    int memory = proportionalKilobytes();
     double start = processorMilliseconds();
     typedef OrbPlugin *(*Create)();
     const Create create = reinterpret_cast<Create>(library.resolve("create"));
@@ -60,7 +60,7 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "%s\n", qPrintable(library.errorString()));
         return 1;
     }
-    memory = residentKilobytes();
+    memory = proportionalKilobytes();
     start = processorMilliseconds();
     create();
     report("make plug-in and adapter", start, memory);

@@ -4,6 +4,7 @@
 #include "orbevent.h"
 #include "orbeventtypes.h"
 #include "orbhost.h"
+#include "orbmainwindow.h"
 
 HeadUnit::HeadUnit(QObject *parent) : QObject(parent) {}
 
@@ -59,6 +60,18 @@ void HeadUnit::notify(uint param, uint param2)
 void HeadUnit::changeState(uint state, uint mask)
 {
     postNumbers(OrbEventType::AppState, state, mask);
+}
+
+QVector<OrbMainWindow *> HeadUnit::launcherWindows()
+{
+    QVector<OrbMainWindow *> windows;
+    for (QWidget *window : OrbHost::instance()->windows()) {
+        OrbMainWindow *main = qobject_cast<OrbMainWindow *>(window);
+        if (main && main->appId() == 0 && !main->windowTitle().isEmpty()) {
+            windows << main;
+        }
+    }
+    return windows;
 }
 
 bool HeadUnit::key(uint code, KeyPhase phase)

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 class OrbEvent;
+class OrbMainWindow;
 
 /// The head unit without its looks: the plug-in that it has loaded, and what a head unit tells a plug-in. The
 /// desk and the script are two hands on the same one. Values that the plug-in asks for (tags, product values,
@@ -37,6 +38,8 @@ public:
 
     /// Asks the plug-in to show the screen of application \a appId.
     void showApp(uint appId);
+    /// The plug-in's windows that belong to no application, so that nothing but the unit's launcher opens them.
+    static QVector<OrbMainWindow *> launcherWindows();
     /// A notification to the plug-in: 20486 says that the language changed.
     void notify(uint param, uint param2 = 0);
     /// Tells the plug-in the unit's \a state bits; \a mask says which of them changed.

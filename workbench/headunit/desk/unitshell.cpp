@@ -265,13 +265,9 @@ void UnitShell::showEntries()
     for (const uint appId : OrbHost::instance()->titledApps()) {
         entries << appEntry(appId);
     }
-    // Windows that belong to no application can be opened by nothing else.
-    for (QWidget *window : OrbHost::instance()->windows()) {
-        const OrbMainWindow *main = qobject_cast<OrbMainWindow *>(window);
-        if (main && main->appId() == 0 && !main->windowTitle().isEmpty()) {
-            entries << Launcher::Entry{Launcher::Entry::Window, 0, main->windowTitle(),
-                                       QStringLiteral(":/desk/launcher/settings.png"), QString()};
-        }
+    for (const OrbMainWindow *window : HeadUnit::launcherWindows()) {
+        entries << Launcher::Entry{Launcher::Entry::Window, 0, window->windowTitle(),
+                                   QStringLiteral(":/desk/launcher/settings.png"), QString()};
     }
     m_homePage->launcher()->setEntries(entries);
 }

@@ -21,11 +21,8 @@ QVector<ScreenPath::Step> ScreenPath::launcher()
     for (const unsigned int app : OrbHost::instance()->titledApps()) {
         steps << Step{app, {}, -1, -1};
     }
-    for (const QWidget *window : OrbHost::instance()->windows()) {
-        const OrbMainWindow *main = qobject_cast<const OrbMainWindow *>(window);
-        if (main && main->appId() == 0 && !main->windowTitle().isEmpty()) {
-            steps << Step{0, main->windowTitle(), -1, -1};
-        }
+    for (const OrbMainWindow *window : HeadUnit::launcherWindows()) {
+        steps << Step{0, window->windowTitle(), -1, -1};
     }
     return steps;
 }
@@ -46,8 +43,8 @@ void ScreenPath::take(const Step &step, HeadUnit *unit) const
     if (step.app != 0) {
         unit->showApp(step.app);
     } else if (step.place < 0) {
-        for (QWidget *window : OrbHost::instance()->windows()) {
-            if (qobject_cast<OrbMainWindow *>(window) && window->windowTitle() == step.window) {
+        for (OrbMainWindow *window : HeadUnit::launcherWindows()) {
+            if (window->windowTitle() == step.window) {
                 window->setVisible(true);
             }
         }

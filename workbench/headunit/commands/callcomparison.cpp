@@ -4,6 +4,7 @@
 #include "boxcatalog.h"
 #include "boxspeaker.h"
 #include "childprocess.h"
+#include "commandapplication.h"
 #include "decoderbox.h"
 #include "probestart.h"
 
@@ -40,13 +41,10 @@ QString tryAll(int type, const QString &plugin, quint8 command, const QVector<QB
                AllEffects *effects)
 {
     QString error;
-    if (!ProbeStart::prepare(&error)) {
+    const std::unique_ptr<OrbApplication> application = CommandApplication::makeUnit(&error);
+    if (!application) {
         return error;
     }
-    char name[] = "headunit";
-    char *arguments[] = {name, nullptr};
-    int count = 1;
-    OrbApplication application(count, arguments);
     const std::unique_ptr<DecoderBox> box(BoxCatalog::createBox(type, nullptr, &error));
     ProbeUnit unit;
     if (!box || !unit.start(plugin, type, ProbeStart::greeting(*box->speaker(), command), &error)) {
