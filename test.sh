@@ -22,9 +22,10 @@ if [ "${1:-}" = --sanitize ]; then
     export UBSAN_OPTIONS="print_stacktrace=1"
 elif [ "${1:-}" = --qt6 ]; then
     shift
-    need_packages qt6-base-dev qt6-l10n-tools libgl-dev
+    need_packages clang qt6-base-dev qt6-l10n-tools libgl-dev
     build=${CANBUS_BUILD:-$root/build}-qt6
-    configure -DCANBUS_TESTS=ON -DCANBUS_QT_VERSION=6
+    # clang takes two thirds of the time that g++ takes for it.
+    configure -DCANBUS_TESTS=ON -DCANBUS_QT_VERSION=6 -DCMAKE_CXX_COMPILER=clang++
 elif [ "${1:-}" = --armhf ]; then
     shift
     need_packages g++-arm-linux-gnueabihf qemu-user mmdebstrap qtbase5-dev-tools

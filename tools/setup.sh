@@ -47,7 +47,9 @@ configure() {
         libcli11-dev pkg-config fontconfig fonts-dejavu-core fonts-wqy-microhei
     step "Configuring in ${build#"$root"/}"
     log=$(mktemp)
-    if ! cmake -S "$root" -B "$build" -G Ninja -DCANBUS_PRECOMPILE=ON "$@" >"$log" 2>&1; then
+    # There are more than a hundred programs, and gold links them in a quarter of the time.
+    if ! cmake -S "$root" -B "$build" -G Ninja -DCANBUS_PRECOMPILE=ON -DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold "$@" \
+        >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
         fail "configuring failed"
