@@ -29,7 +29,7 @@ double percentile(const std::vector<double> &sorted, double share)
 
 void startToFirstPackage(benchmark::State &state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         UnitProcess unit(unitPath);
         unsigned char byte = 0;
         if (unit.waitForByte(&byte, 5) < 0 || byte != StartByte) {
@@ -45,7 +45,7 @@ void acknowledgement(benchmark::State &state)
     UnitProcess unit(unitPath);
     unit.drain(0.5);
     std::vector<double> times;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         std::this_thread::sleep_for(std::chrono::milliseconds(7));
         // In turns: the same package four times at once is a box that was not heard, and gets a ready.
         unit.send(times.size() % 2 ? KeyRelease : KeyPress);
@@ -74,7 +74,7 @@ void idle(benchmark::State &state)
     unit.drain(1);
     unit.send(KeyRelease);
     unit.drain(61); // silent for a minute, a line is asked less often
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const double before = unit.processorTime();
         std::this_thread::sleep_for(std::chrono::seconds(idleSeconds));
         const double used = unit.processorTime() - before;

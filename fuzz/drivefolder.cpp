@@ -14,7 +14,7 @@ namespace {
 const char *const FileNames[] = {"can_xinhang.bin", "can_xinhang_2.bin", "can_xinhang_4.bin"};
 
 const int FirmwareSizes[] = {300, 0, 1, 128, 129, 4096};
-const qint64 TooLarge = 65 * 1024 * 1024;
+const qint64 TooLarge = qint64(65) * 1024 * 1024;
 const qint64 FileTime = 1767225600; // s since 1970
 
 } // namespace

@@ -69,7 +69,7 @@ const char *const ConsumerTexts[] = {
 const char *const Waiting = QT_TR_NOOP("Waiting for the car");
 const char *const MinutesAgo = QT_TR_NOOP("Last report %1 min ago");
 const char *const HoursAgo = QT_TR_NOOP("Last report %1 h ago");
-const qint64 Minute = 60 * 1000; // ms
+const qint64 Minute = 60000; // ms
 const qint64 Hour = 60 * Minute;
 
 template <int Count>

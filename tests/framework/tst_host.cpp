@@ -9,7 +9,6 @@
 #include "tracerecorder.h"
 #include "transcript.h"
 
-using TestSupport::contentOf;
 using TestSupport::writeFile;
 
 /// What the framework keeps: titles, icons, GPIO lines, language; and what it passes on. Mostly as it stands

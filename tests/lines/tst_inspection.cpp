@@ -111,7 +111,7 @@ void TestInspection::ringKeepsTheNewest()
     LineRecord record;
     record.bytes = QByteArray::fromHex("2e2401805a");
     for (int i = 0; i <= Inspection::MostRows; ++i) {
-        record.microseconds = i * 5000;
+        record.microseconds = qint64(i) * 5000;
         inspection.feed(record);
     }
     QVERIFY(inspection.endNumber() - inspection.firstNumber() <= Inspection::MostRows);

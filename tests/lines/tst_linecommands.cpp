@@ -223,15 +223,15 @@ void TestLineCommands::tells_data()
     QTest::addColumn<QString>("text"); // file of all that is told; empty for nothing
     QTest::newRow("rows") << QStringList{"inspect", LOGS "/toyota.orblog"} << 0 << "inspect-toyota.txt";
     QTest::newRow("rows of a filter")
-        << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "call=setTemp* changed", "--json"} << 0
+        << QStringList{"inspect", (LOGS "/toyota.orblog"), "--filter", "call=setTemp* changed", "--json"} << 0
         << "inspect-toyota-json.txt";
     QTest::newRow("what only a screen shows")
         << QStringList{"inspect", LOGS "/volkswagen.orblog", "--filter", "screen=*range* cmd=0x50"} << 0
         << "inspect-screens.txt";
-    QTest::newRow("no row") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "cmd=0x99"} << 1
+    QTest::newRow("no row") << QStringList{"inspect", (LOGS "/toyota.orblog"), "--filter", "cmd=0x99"} << 1
                             << "";
     QTest::newRow("bad packages") << QStringList{"inspect", path("honda.orblog")} << 1 << "";
-    QTest::newRow("no filter") << QStringList{"inspect", LOGS "/toyota.orblog", "--filter", "good"} << 2
+    QTest::newRow("no filter") << QStringList{"inspect", (LOGS "/toyota.orblog"), "--filter", "good"} << 2
                                << "";
     QTest::newRow("no type") << QStringList{"inspect", LOGS "/toyota.orblog", "--can-bus-type", "x"} << 2
                              << "";
@@ -305,7 +305,7 @@ void TestLineCommands::checksABox()
     Run run({"check", path("box"), "--seconds", "1", "--json"});
     QVERIFY(run.exitCode() >= 0);
     QStringList found;
-    for (const QJsonValue &row : run.json().array()) {
+    for (const auto &row : run.json().array()) {
         found << row.toObject().value("check").toString() + ' ' + row.toObject().value("status").toString();
     }
     // The few packages after a start fit several types.

@@ -30,12 +30,12 @@ const char *const Untranslatable =
 /// What shows bytes, words of a filter and values with their units, on the desk.
 const char *const DataWidgets =
     "exactValue|QLineEdit|qt_scrollarea_viewport|chosenPackage|problem|BitGridPicture|bitGridNote";
-const char *const Shortened = "AppTile"; // shortens titles of other people's applications itself
-const qint64 Day = 24 * 60 * 60 * 1000;  // ms
-const int Gap = 8;                       // between the parts of a picture
-const int SheetWidth = 1960;             // of a picture of several parts, at most
-const int PartHeight = 1200;             // what is higher goes on beside
-const int CrowdedDialog = 6;             // choices
+const char *const Shortened = "AppTile";        // shortens titles of other people's applications itself
+const qint64 Day = qint64(24) * 60 * 60 * 1000; // ms
+const int Gap = 8;                              // between the parts of a picture
+const int SheetWidth = 1960;                    // of a picture of several parts, at most
+const int PartHeight = 1200;                    // what is higher goes on beside
+const int CrowdedDialog = 6;                    // choices
 
 /// Is asked last, for what no language's file has.
 class MissingTexts : public QTranslator

@@ -48,8 +48,8 @@ QVector<int> placesThatChange(const Report &report, double most)
 {
     const QByteArray last = report(std::floor(most));
     QVector<int> places;
-    for (double steps = std::floor(most / 2); steps >= 1; steps = std::floor(steps / 2)) {
-        const QByteArray other = report(steps);
+    for (qint64 steps = qint64(most / 2); steps >= 1; steps /= 2) {
+        const QByteArray other = report(double(steps));
         for (int i = 0; i < qMin(last.size(), other.size()); ++i) {
             if (other.at(i) != last.at(i) && !places.contains(i)) {
                 places << i;

@@ -40,7 +40,7 @@ bool takeTimeOfDay(Cursor *cursor, qint64 *microseconds)
     int thousandths = 0;
     Cursor behind = *cursor;
     if (behind.take(':') && takeNumber(&behind, 3, 3, &thousandths)) {
-        *microseconds += thousandths * 1000;
+        *microseconds += qint64(thousandths) * 1000;
         *cursor = behind;
     }
     behind = *cursor;
@@ -102,7 +102,7 @@ qint64 takeZone(Cursor *cursor)
         return 0;
     }
     *cursor = behind;
-    return sign * (hours * 3600 + minutes * 60);
+    return qint64(sign) * (hours * 3600 + minutes * 60);
 }
 
 bool takeDateAndTime(Cursor *cursor, TimeStamp *stamp)
@@ -191,7 +191,7 @@ bool takeOffset(Cursor *cursor, bool wholeNumbers, TimeStamp *stamp)
         if (unit == 0) {
             unit = count >= 16 ? 1 : count == 10 ? Second : 1000;
         }
-        if (digits > 5000 * 366 * (Day / unit)) {
+        if (digits > qint64(5000) * 366 * (Day / unit)) {
             return false;
         }
         stamp->microseconds = digits * unit;

@@ -19,7 +19,7 @@ const QSize FirstSize(980, 620);
 QVector<BitGrid::Run> runsOf(const QByteArray &json)
 {
     QVector<BitGrid::Run> runs;
-    for (const QJsonValue &value : QJsonDocument::fromJson(json).array()) {
+    for (const auto &value : QJsonDocument::fromJson(json).array()) {
         const QJsonObject row = value.toObject();
         const int high = row.value(QStringLiteral("high")).toInt();
         const int low = row.value(QStringLiteral("low")).toInt();
@@ -29,7 +29,7 @@ QVector<BitGrid::Run> runsOf(const QByteArray &json)
                             {},
                             row.value(QStringLiteral("partner")).toString(),
                             row.value(QStringLiteral("dependsOnState")).toBool()};
-        for (const QJsonValue &effect : row.value(QStringLiteral("effects")).toArray()) {
+        for (const auto &effect : row.value(QStringLiteral("effects")).toArray()) {
             run.effects << effect.toObject().value(QStringLiteral("call")).toString() +
                                (high > low ? QStringLiteral(": ") : QStringLiteral(" ")) +
                                effect.toObject().value(QStringLiteral("text")).toString();

@@ -178,7 +178,7 @@ QColor CarView::messageColour() const
 
 void CarView::paintHeading(QPainter *painter) const
 {
-    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2 + 6);
+    const QRectF line(Margin, 0, width() - 2 * Margin, HeadingHeight / 2.0 + 6);
     QFont font = painter->font();
     font.setPixelSize(20);
     font.setBold(true);

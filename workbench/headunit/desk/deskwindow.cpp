@@ -121,7 +121,7 @@ void DeskWindow::addShortcuts()
     const auto add = [this](const QKeySequence &keys, auto act) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
     };
-    add(Qt::CTRL | Qt::Key_Q, [this] { close(); });
+    add(QStringLiteral("Ctrl+Q"), [this] { close(); });
     add(Qt::Key_F12, [this] { saveLine(); });
     add(Qt::Key_F8, [this] { m_sidePanel->linePage()->openInspector(); });
     add(Qt::Key_F9, [this] { foldPanel(!isPanelFolded()); });

@@ -119,7 +119,7 @@ QWidget *createNumber(const CarProperty &property, SimulatedCar *car)
     const bool isWhole = property.kind == CarProperty::Integer;
     const QString name = property.name;
     return createScale(
-        property, car, int((property.maximum - least) / step + 0.5) + 1,
+        property, car, qRound((property.maximum - least) / step) + 1,
         [=](int place) {
             return isWhole ? QVariant(qRound(least + place * step)) : QVariant(least + place * step);
         },
@@ -129,7 +129,7 @@ QWidget *createNumber(const CarProperty &property, SimulatedCar *car)
 /// The scale of degrees has LO before its beginning and HI behind its end.
 QWidget *createTemperature(const CarProperty &property, SimulatedCar *car)
 {
-    const int degrees = int((property.maximum - property.minimum) / property.step + 0.5) + 1;
+    const int degrees = qRound((property.maximum - property.minimum) / property.step) + 1;
     const double least = property.minimum;
     const double step = property.step;
     const QString name = property.name;

@@ -89,9 +89,8 @@ void LineInspector::called(const QString &object, const QString &call, const QVa
         m_inspection.taken(args.value(0).toByteArray());
         lookBefore();
         begin();
-    } else if (object != QLatin1String("ProtocolUtils") && object != QLatin1String("desk")) {
-        m_inspection.called(CallWatch::Call::of(object, call, args).text());
-    } else if (call == QLatin1String("writeDatas") && m_turns > 0) { // else its package tells as much
+    } else if ((object != QLatin1String("ProtocolUtils") && object != QLatin1String("desk")) ||
+               (call == QLatin1String("writeDatas") && m_turns > 0)) { // else its package tells as much
         m_inspection.called(CallWatch::Call::of(object, call, args).text());
     }
 }
