@@ -159,8 +159,10 @@ void TestScript::endOfInput()
 void TestScript::closedStreams()
 {
     QProcess shell;
-    shell.start("sh", {"-c", "exec \"$0\" --headless --plugin \"$1\" --trace - --script - <&- >&-", HEADUNIT,
-                       PROBE_PLUGIN});
+    // The shell is this machine's, also where an emulator runs what it starts.
+    shell.start("sh",
+                {"-c", "exec $CANBUS_EMULATOR \"$0\" --headless --plugin \"$1\" --trace - --script - <&- >&-",
+                 HEADUNIT, PROBE_PLUGIN});
     QVERIFY(shell.waitForFinished(5000) || (shell.kill(), shell.waitForFinished(), false));
     QCOMPARE(shell.exitCode(), 0);
 }
