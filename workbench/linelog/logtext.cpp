@@ -3,7 +3,6 @@
 namespace {
 
 const qint64 MicrosecondsPerSecond = 1000000;
-const qint64 LatestSecond = 100000000000; // past the year 5000, also when counted from 1970
 
 bool isBlank(char character)
 {
@@ -57,7 +56,7 @@ bool LogText::takeSeconds(Cursor *cursor, qint64 *microseconds)
     qint64 whole = 0;
     for (; isDigit(cursor->peek()); ++cursor->at) {
         whole = whole * 10 + hexDigit(cursor->peek());
-        if (whole > LatestSecond) {
+        if (whole > 2 * LatestSecond) {
             return false;
         }
     }

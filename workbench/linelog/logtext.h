@@ -29,8 +29,12 @@ bool isDigit(char character);
 /// Value of a hexadecimal digit of either case, -1 for another character.
 int hexDigit(char character);
 
+/// No stamp in a log is later, counted in seconds from its start or from 1970: past the year 5000.
+const qint64 LatestSecond = 100000000000;
+
 /// Takes "SECONDS" or "SECONDS.FRACTION" with a point or a comma; digits past the microseconds are dropped. False, with
-/// the cursor anywhere, when there is none or it is later than the year 5000.
+/// the cursor anywhere, when there is none or it is later than twice the latest: records without a stamp, or with a time
+/// of day only, come after the latest stamp.
 bool takeSeconds(Cursor *cursor, qint64 *microseconds);
 
 /// Reads all of \a text, pairs of digits with blanks between pairs at will. False, with \a bytes as far as whole, when

@@ -1,5 +1,6 @@
 #include "pcapngreader.h"
 
+#include "logtext.h"
 #include "orblog.h"
 #include "pcapng.h"
 
@@ -11,8 +12,7 @@ const quint32 LongestBlock = 1024 * 1024; // that is read; a longer one is passe
 const int LongestPacket = 64 * 1024;
 const int MostInterfaces = 1024;
 const int BlockOverhead = 12;
-const qint64 MostSeconds = 100000000000; // past the year 5000
-const qint64 EarliestDate = 100000000;   // seconds; earlier times count from the log's start
+const qint64 EarliestDate = 100000000; // seconds; earlier times count from the log's start
 
 qint64 ticksPerSecond(quint8 resolution)
 {
@@ -221,8 +221,8 @@ TimeStamp PcapngReader::stamp(const Interface &interface, quint64 ticks)
 {
     TimeStamp stamp;
     const quint64 perSecond = quint64(interface.perSecond);
-    if (perSecond == 0 || ticks / perSecond > quint64(MostSeconds) ||
-        qAbs(interface.offset / 2) > MostSeconds / 2) {
+    if (perSecond == 0 || ticks / perSecond > quint64(LogText::LatestSecond) ||
+        qAbs(interface.offset / 2) > LogText::LatestSecond / 2) {
         return stamp;
     }
     const qint64 seconds = qint64(ticks / perSecond) + interface.offset;

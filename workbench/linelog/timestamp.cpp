@@ -191,7 +191,7 @@ bool takeOffset(Cursor *cursor, bool wholeNumbers, TimeStamp *stamp)
         if (unit == 0) {
             unit = count >= 16 ? 1 : count == 10 ? Second : 1000;
         }
-        if (digits > qint64(5000) * 366 * (Day / unit)) {
+        if (digits > LogText::LatestSecond * (Second / unit)) {
             return false;
         }
         stamp->microseconds = digits * unit;
@@ -199,7 +199,7 @@ bool takeOffset(Cursor *cursor, bool wholeNumbers, TimeStamp *stamp)
     if (stamp->microseconds >= EarliestDate) {
         stamp->kind = TimeStamp::Date;
     }
-    return true;
+    return stamp->microseconds <= LogText::LatestSecond * Second;
 }
 
 } // namespace
