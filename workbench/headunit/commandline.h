@@ -94,9 +94,6 @@ public:
     int complain(const QString &problem) const;
 
 private:
-    template <typename Value>
-    Option addValue(const char *name, Value *value, const char *help);
-
     std::unique_ptr<CLI::App> m_app;
 };
 

@@ -60,9 +60,9 @@ int inspectCommand(const QStringList &words)
         "bad packages, or no row is left to show.");
     LogCommand log(&line);
     log.readScreens();
-    QString text;
+    QString wanted;
     bool asJson = false;
-    line.add("--filter", &text,
+    line.add("--filter", &wanted,
              "only rows that all words fit: cmd=0x28, cmd=climate, dir=in, bad, changed, explained, "
              "call=setTemp*, screen=Air*, hex=2e28, d2=0x1f, d0.6=1, ack>20 (ms), ack=none, t<9.5 (s); "
              "! in front of a word turns it round; or the name of a filter that was kept in the window")
@@ -74,7 +74,6 @@ int inspectCommand(const QStringList &words)
     }
     InspectionFilter filter;
     QString error;
-    const QString wanted = text;
     if (!filter.parse(KeptFilters::all().value(wanted, wanted).toString(), &error)) {
         line.complain("--filter: " + error);
         return CommandLine::WrongUsage;

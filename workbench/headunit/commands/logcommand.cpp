@@ -24,10 +24,9 @@ int LogCommand::run(const std::function<void(LogInspection *)> &prepare,
     ReplayOptions log;
     log.log = m_log;
     log.pattern = m_pattern;
-    const QString name = m_type;
-    const int type = name.isEmpty() ? ReplayLog::typeOf(log) : BoxCatalog::typeFromText(name);
-    if (!name.isEmpty() && type == 0) {
-        m_line->complain(QString("there is no CAN-bus type '%1'").arg(name));
+    const int type = m_type.isEmpty() ? ReplayLog::typeOf(log) : BoxCatalog::typeFromText(m_type);
+    if (!m_type.isEmpty() && type == 0) {
+        m_line->complain(QString("there is no CAN-bus type '%1'").arg(m_type));
         return CommandLine::WrongUsage;
     }
     if (type == 0) {
